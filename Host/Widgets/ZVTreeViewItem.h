@@ -1,0 +1,108 @@
+#pragma once
+
+#include "Host/HostExport.h"
+#include "Host/Identifiers/IDCombiner.h"
+
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+#include <QtCore/QVector>
+
+#include <memory>
+#include <string>
+
+namespace Zorvane {
+
+class ZVTreeViewModel;
+class ZVTreeViewItemChildren;
+
+/**
+ * One row of a `ZVTreeViewModel`, with values per column and role, flags and child rows.
+ *
+ * A row owns its children. A row in a model announces its own changes to the model's views, each
+ * as narrowly as it is; a detached row announces nothing. While a `ZVTreeViewModelBatch` is open
+ * the changes take place at once and are announced together when it closes.
+ *
+ * `Qt::EditRole` and `Qt::DisplayRole` are one value, as in Qt's own item classes. The text of
+ * column 0 and one `IDCombiner` of column 0 are stored typed, everything else in one list.
+ *
+ * Misuse (an index out of range, a row that has a parent already, a row put below itself) is
+ * answered by doing nothing and telling so in the return value.
+ *
+ * Not supported: copying rows, use from several threads.
+ */
+class ZORVANE_HOST_EXPORT ZVTreeViewItem
+{
+public:
+    /** Appends the row to `parent`, which takes ownership; without a parent the caller owns it. */
+    explicit ZVTreeViewItem(ZVTreeViewItem* parent = nullptr);
+    ZVTreeViewItem(const ZVTreeViewItem&) = delete;
+    ZVTreeViewItem& operator=(const ZVTreeViewItem&) = delete;
+    /** Takes the row out of its parent, then deletes it and its subtree, announced once. */
+    virtual ~ZVTreeViewItem();
+
+    /** The value stored, else an invalid one. */
+    virtual QVariant data(int column, int role) const;
+    /**
+     * Stores the value, an invalid one meaning none; announced with its role when it differs from
+     * the one before. False for a negative column.
+     */
+    virtual bool setData(int column, int role, const QVariant& value);
+
+    /** Selectable, enabled and not draggable at first. */
+    Qt::ItemFlags flags() const { return Qt::ItemFlags(m_flags); }
+    void setFlags(Qt::ItemFlags flags);
+
+    /** The typed text of column 0; empty when none is stored. */
+    const QString& text() const { return m_text; }
+    /** Like `setData(0, Qt::DisplayRole, ...)`, told in UTF-8; allocates only when it differs. */
+    void setText(const std::string& text);
+    /** The typed id of column 0 when it is stored under this role, else null. */
+    const IDCombiner* id(int role) const { return role == m_idRole ? &m_id : nullptr; }
+    /** Like `setData(0, role, QVariant::fromValue(id))`. */
+    void setId(int role, const IDCombiner& id);
+
+    ZVTreeViewItem* parent() const;
+    /** The model whose tree this row is in, else null. */
+    ZVTreeViewModel* model() const;
+    /** The position in the parent, found without looking at the siblings; -1 without a parent. */
+    int row() const;
+    int childCount() const;
+    /** Null when the index is out of range. */
+    ZVTreeViewItem* child(int index) const;
+
+    /** Takes ownership on success; on failure the caller keeps it and nothing has changed. */
+    bool insertChild(int index, ZVTreeViewItem* child);
+    /** One announcement for all; on failure (any of them unfit) none is appended. */
+    bool appendChildren(const QVector<ZVTreeViewItem*>& children);
+    /** Takes the child out and hands it over; null when the index is out of range. */
+    ZVTreeViewItem* takeChild(int index);
+    /**
+     * Takes the child out and deletes it: at once, or, inside a batch, once its going is
+     * announced, so that views never meet a deleted row. False when the index is out of range.
+     */
+    bool deleteChild(int index);
+
+private:
+    friend class ZVTreeViewItemChildren;
+    friend class ZVTreeViewModel;
+    friend class ZVTreeViewModelPrivate;
+
+    struct ExtraValue
+    {
+        int column;
+        int role;
+        QVariant value;
+    };
+
+    IDCombiner m_id;
+    ZVTreeViewItem* m_parent = nullptr;
+    std::unique_ptr<ZVTreeViewItemChildren> m_children;
+    std::unique_ptr<std::vector<ExtraValue>> m_extra;
+    QString m_text;
+    int m_row = -1;
+    int m_idRole = NoRole;
+    quint16 m_flags;
+    quint16 m_state = 0;
+};
+
+} // namespace Zorvane

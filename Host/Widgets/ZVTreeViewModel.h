@@ -1,0 +1,77 @@
+#pragma once
+
+#include "Host/HostExport.h"
+#include "Host/Widgets/ZVTreeViewItem.h"
+
+#include <QtCore/QAbstractItemModel>
+#include <QtCore/QStringList>
+
+#include <memory>
+
+namespace Zorvane {
+
+class ZVTreeViewModelPrivate;
+
+/**
+ * The model of a tree view, made of `ZVTreeViewItem` rows below an invisible root row.
+ *
+ * The model owns its rows. Any number of views and proxy models may show it at once. Rows announce
+ * their changes themselves, so callers change rows and never call the model's notifications.
+ * Dragging is off unless a row's flags turn it on.
+ *
+ * Not supported: columns that differ from row to row, dropping, use from several threads.
+ */
+class ZORVANE_HOST_EXPORT ZVTreeViewModel : public QAbstractItemModel
+{
+    Q_OBJECT
+
+public:
+    explicit ZVTreeViewModel(QObject* parent = nullptr);
+    ~ZVTreeViewModel() override;
+
+    /** The invisible row whose children are the top-level rows. Owned by the model. */
+    ZVTreeViewItem* rootItem() const;
+    /** The row an index of this model shows; the root row for an invalid index. */
+    ZVTreeViewItem* itemFromIndex(const QModelIndex& index) const;
+    /** Where views find the row; invalid for the root, a foreign row or one not announced yet. */
+    QModelIndex indexFromItem(const ZVTreeViewItem* item, int column = 0) const;
+
+    /** At least one column, which is also the initial state. */
+    void setColumnCount(int count);
+    /** Titles of the columns; makes as many columns as there are titles. */
+    void setHorizontalHeaderLabels(const QStringList& labels);
+
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    QModelIndex parent(const QModelIndex& index) const override;
+    QModelIndex sibling(int row, int column, const QModelIndex& index) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    bool hasChildren(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
+    bool setHeaderData(int section, Qt::Orientation orientation, const QVariant& value,
+                       int role = Qt::EditRole) override;
+
+    /** Inside a batch: this row is still shown, and will be gone once the batch is announced. */
+    bool isLeaving(const QModelIndex& index) const;
+
+Q_SIGNALS:
+    /** A view or proxy has edited a value through `setData`; the row has it already. */
+    void edited(const QModelIndex& index, const QVariant& value, int role);
+    /** A batch is about to be announced: views still see the rows as they were. */
+    void aboutToPublish();
+    /** A batch has been announced. */
+    void published();
+
+private:
+    friend class ZVTreeViewItem;
+    friend class ZVTreeViewModelBatch;
+    friend class ZVTreeViewModelPrivate;
+
+    const std::unique_ptr<ZVTreeViewModelPrivate> d;
+};
+
+} // namespace Zorvane

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Host/HostExport.h"
+#include "Host/Widgets/ZVTreeViewModel.h"
+
+#include <QtCore/QPointer>
+
+namespace Zorvane {
+
+/**
+ * Gathers the changes of a model's rows for as long as it lives and announces the difference when
+ * the outermost one closes. Inside, rows change at once while the model goes on answering views
+ * from the state announced last; a view's place (expansion, selection, current row) survives
+ * for every row that is still there at the end, wherever it went meanwhile.
+ *
+ * What is announced is the minimum: changed values first, as ranges in the old structure, then a
+ * few exact removed and inserted ranges or, where there would be many, one change of layout.
+ * A slot that throws while this is announced from the destructor is reported as a warning.
+ *
+ * Deleting a row that views still know, other than by `ZVTreeViewItem::deleteChild`, announces
+ * what has been gathered so far at that moment.
+ */
+class ZORVANE_HOST_EXPORT ZVTreeViewModelBatch
+{
+public:
+    explicit ZVTreeViewModelBatch(ZVTreeViewModel* model);
+    ZVTreeViewModelBatch(const ZVTreeViewModelBatch&) = delete;
+    ZVTreeViewModelBatch& operator=(const ZVTreeViewModelBatch&) = delete;
+    ~ZVTreeViewModelBatch();
+
+    /** Closes the batch before its scope ends; a second call does nothing. */
+    void close();
+
+private:
+    QPointer<ZVTreeViewModel> m_model;
+};
+
+} // namespace Zorvane

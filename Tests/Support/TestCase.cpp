@@ -1,0 +1,75 @@
+#include "Tests/Support/TestCase.h"
+
+#include <QtCore/QSettings>
+#include <QtCore/QStandardPaths>
+#include <QtCore/QTemporaryDir>
+
+namespace Zorvane::Testing {
+
+namespace {
+
+QtMessageHandler s_testLog = nullptr;
+
+QStringList& expectedPatterns()
+{
+    static QStringList patterns;
+    return patterns;
+}
+
+bool takeExpected(const QString& message)
+{
+    QStringList& patterns = expectedPatterns();
+    for (int i = 0; i < patterns.size(); ++i) {
+        if (QRegularExpression(patterns.at(i)).match(message).hasMatch()) {
+            patterns.removeAt(i);
+            return true;
+        }
+    }
+    return false;
+}
+
+void failOnWarning(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (type == QtDebugMsg || type == QtInfoMsg || type == QtFatalMsg) {
+        s_testLog(type, context, message);
+    } else if (!takeExpected(message)) {
+        s_testLog(type, context, message);
+        QTest::qFail(qPrintable(QStringLiteral("unexpected warning: ") + message), context.file,
+                     context.line);
+    }
+}
+
+} // namespace
+
+void TestCase::expectWarning(const QString& pattern)
+{
+    expectedPatterns().append(pattern);
+}
+
+void TestCase::initTestCase()
+{
+    // QtTest installs its own handler when it starts a class; ours stands in front of it.
+    s_testLog = qInstallMessageHandler(failOnWarning);
+}
+
+void TestCase::cleanup()
+{
+    const QStringList missed = expectedPatterns();
+    expectedPatterns().clear();
+    if (!missed.isEmpty())
+        QTest::qFail(qPrintable(QStringLiteral("expected warnings that never came: ")
+                                + missed.join(QStringLiteral(", "))),
+                     __FILE__, __LINE__);
+}
+
+void prepareApplication()
+{
+    static const QTemporaryDir settings;
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setOrganizationName(QStringLiteral("Zorvane"));
+    QCoreApplication::setApplicationName(QStringLiteral("Tests"));
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
+}
+
+} // namespace Zorvane::Testing

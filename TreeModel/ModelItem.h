@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Host/Identifiers/IDCombiner.h"
+#include "UiToolsExport.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Zorvane::GenericTreeViewModelHandling {
+
+/**
+ * One node of a view-independent tree: an identity, a text and children in display order.
+ *
+ * Items are held by shared pointer, and one item may stand in several trees at once; nothing here
+ * copies an item deeply. Whoever has handed a tree on must not change it any more.
+ * Not supported: cycles (nothing looks for them), changing id or name.
+ */
+class ZORVANE_UITOOLS_EXPORT ModelItem
+{
+public:
+    ModelItem(const GUIdentifier& id, const std::string& name);
+    ModelItem(const IDCombiner& id, const std::string& name);
+    ModelItem(const Identifier& id, const std::string& name);
+
+    /** Appends the children in their order; nothing is deduplicated. */
+    void addChildren(const std::vector<std::shared_ptr<ModelItem>>& children);
+    void addChildren(std::vector<std::shared_ptr<ModelItem>>&& children);
+    /** Replaces all children; giving an item its own list changes nothing. */
+    void setChildren(const std::vector<std::shared_ptr<ModelItem>>& children);
+
+    const std::vector<std::shared_ptr<ModelItem>>& getChildren() const { return m_children; }
+    bool hasChildren() const { return !m_children.empty(); }
+    const IDCombiner& getId() const { return m_id; }
+    /** The display text, in UTF-8. */
+    const std::string& getName() const { return m_name; }
+
+private:
+    IDCombiner m_id;
+    std::string m_name;
+    std::vector<std::shared_ptr<ModelItem>> m_children;
+};
+
+} // namespace Zorvane::GenericTreeViewModelHandling

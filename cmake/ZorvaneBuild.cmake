@@ -1,0 +1,71 @@
+# What every target of this project shares: language level, warnings, sanitizers, folders.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+
+find_program(ZORVANE_CCACHE ccache)
+if(ZORVANE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${ZORVANE_CCACHE})
+endif()
+
+add_library(zorvane_settings INTERFACE)
+target_compile_definitions(zorvane_settings INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER
+    QT_DEPRECATED_WARNINGS)
+if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    target_compile_options(zorvane_settings INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+        $<$<BOOL:${ZORVANE_WARNINGS_ARE_ERRORS}>:-Werror>)
+elseif(MSVC)
+    target_compile_options(zorvane_settings INTERFACE /W4 /utf-8 /permissive-
+        $<$<BOOL:${ZORVANE_WARNINGS_ARE_ERRORS}>:/WX>)
+endif()
+if(ZORVANE_SANITIZERS)
+    add_compile_options(-fsanitize=${ZORVANE_SANITIZERS} -fno-omit-frame-pointer
+        -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${ZORVANE_SANITIZERS})
+endif()
+
+# zorvane_add_subsystem(NAME SOURCES ... [USES target...] [PRIVATELY target...])
+# One folder of the library: an object target that names what it may include.
+function(zorvane_add_subsystem name)
+    cmake_parse_arguments(arg "" "" "SOURCES;USES;PRIVATELY" ${ARGN})
+    set(target ZorvaneUiTools_${name})
+    add_library(${target} OBJECT ${arg_SOURCES})
+    target_include_directories(${target} PUBLIC
+        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+    target_compile_definitions(${target} PRIVATE ZORVANE_UITOOLS_BUILD)
+    target_link_libraries(${target} PUBLIC Zorvane::Host ${arg_USES}
+        PRIVATE $<BUILD_INTERFACE:zorvane_settings> ${arg_PRIVATELY})
+    set_property(GLOBAL APPEND PROPERTY ZORVANE_SUBSYSTEMS ${target})
+endfunction()
+
+# The one shared library made of all subsystem folders.
+function(zorvane_link_subsystems library)
+    get_property(subsystems GLOBAL PROPERTY ZORVANE_SUBSYSTEMS)
+    set(objects)
+    foreach(subsystem IN LISTS subsystems)
+        list(APPEND objects $<TARGET_OBJECTS:${subsystem}>)
+    endforeach()
+    add_library(${library} SHARED ${objects})
+    add_library(Zorvane::UiTools ALIAS ${library})
+    set_target_properties(${library} PROPERTIES
+        VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} LINKER_LANGUAGE CXX)
+    target_include_directories(${library} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+    target_link_libraries(${library} PUBLIC Zorvane::Host)
+    foreach(subsystem IN LISTS subsystems)
+        get_target_property(private_libraries ${subsystem} LINK_LIBRARIES)
+        list(FILTER private_libraries EXCLUDE REGEX "zorvane_settings|ZorvaneUiTools_")
+        target_link_libraries(${library} PRIVATE ${private_libraries})
+    endforeach()
+endfunction()
