@@ -1,0 +1,140 @@
+#include "Workbench/Design/Design.h"
+
+#include <QtCore/QFileInfo>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+using KindWord = std::pair<FileKind, const char*>;
+
+// clang-format off
+constexpr std::array<KindWord, 5> kindWords{{
+    {FileKind::Mesh,     "mesh"},
+    {FileKind::Material, "material"},
+    {FileKind::Result,   "result"},
+    {FileKind::Design,   "design"},
+    {FileKind::Document, "document"},
+}};
+// clang-format on
+
+/** Calls `visit(object)` for the design and each object until it returns true. */
+template <typename AnyDesign, typename Visit>
+bool visitObjects(AnyDesign& design, Visit visit)
+{
+    const auto visitAll = [&visit](auto& objects) {
+        return std::any_of(objects.begin(), objects.end(), visit);
+    };
+    if (visit(design) || (design.blank && visit(*design.blank)) || visitAll(design.parts))
+        return true;
+    for (auto& operation : design.operations) {
+        if (visit(operation) || visitAll(operation.tools))
+            return true;
+    }
+    return visitAll(design.materials) || visitAll(design.files);
+}
+
+GUIdentifier geometryOf(const Part& part)
+{
+    return part.geometry;
+}
+GUIdentifier geometryOf(const Tool& tool)
+{
+    return tool.geometry;
+}
+GUIdentifier geometryOf(const Blank& blank)
+{
+    return blank.geometry;
+}
+GUIdentifier geometryOf(const FileReference& file)
+{
+    return file.kind == FileKind::Mesh ? file.id : GUIdentifier();
+}
+template <typename Other>
+GUIdentifier geometryOf(const Other&)
+{
+    return {};
+}
+
+} // namespace
+
+QString Design::folder() const
+{
+    return QFileInfo(file).absolutePath();
+}
+
+const FileReference* Design::findFile(const GUIdentifier& fileId) const
+{
+    const auto found = std::find_if(files.begin(), files.end(), [&fileId](const auto& reference) {
+        return reference.id == fileId;
+    });
+    return found == files.end() ? nullptr : &*found;
+}
+
+const FileReference* Design::findGeometry(const GUIdentifier& objectId) const
+{
+    GUIdentifier geometry;
+    visitObjects(*this, [&](const auto& object) {
+        if (object.id != objectId)
+            return false;
+        geometry = geometryOf(object);
+        return true;
+    });
+    return geometry.isNull() ? nullptr : findFile(geometry);
+}
+
+QString* Design::findName(const GUIdentifier& objectId)
+{
+    QString* found = nullptr;
+    visitObjects(*this, [&](auto& object) {
+        if (object.id == objectId)
+            found = &object.name;
+        return found != nullptr;
+    });
+    return found;
+}
+
+const QString* Design::findName(const GUIdentifier& objectId) const
+{
+    const QString* found = nullptr;
+    visitObjects(*this, [&](const auto& object) {
+        if (object.id == objectId)
+            found = &object.name;
+        return found != nullptr;
+    });
+    return found;
+}
+
+std::vector<GUIdentifier> Design::allIds() const
+{
+    std::vector<GUIdentifier> ids;
+    visitObjects(*this, [&ids](const auto& object) {
+        ids.push_back(object.id);
+        return false;
+    });
+    return ids;
+}
+
+QString fileKindWord(FileKind kind)
+{
+    for (const auto& [known, word] : kindWords) {
+        if (known == kind)
+            return QString::fromLatin1(word);
+    }
+    return {};
+}
+
+FileKind fileKindFromWord(const QString& word)
+{
+    for (const auto& [kind, known] : kindWords) {
+        if (word == QLatin1String(known))
+            return kind;
+    }
+    return FileKind::Other;
+}
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "Workbench/Design/Design.h"
+#include "Workbench/Design/DesignReader.h"
+#include "Workbench/Design/Problem.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QStringList>
+
+#include <optional>
+#include <set>
+#include <vector>
+
+namespace Zorvane::Workbench {
+
+class FileWatch;
+
+/**
+ * Everything that the Workbench has open: designs, the designs they refer to, and mesh files opened
+ * by themselves. Watches all of it and follows what other programs change: a design that is not
+ * modified is read again, a modified one is kept and reported as a conflict. What cannot be read
+ * leaves the last good state and a problem.
+ *
+ * Lives in one thread with an event loop. References and pointers into designs are valid until the
+ * next `changed`.
+ *
+ * Not supported: adding and removing objects; undo.
+ */
+class DesignSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    /** What to do on saving with a design file that another program changed meanwhile. */
+    enum class OnConflict
+    {
+        Refuse,
+        Overwrite
+    };
+
+    explicit DesignSession(QObject* parent = nullptr);
+    ~DesignSession() override;
+
+    /**
+     * Opens design files, mesh files (STL, OBJ, PLY), and folders: all design files in a folder,
+     * else its mesh files. What is open stays open; what is open already isn't opened twice. A path
+     * that cannot be opened gives a problem and doesn't keep the others from opening.
+     */
+    void open(const QStringList& paths);
+    /** Forgets everything, unsaved changes too. */
+    void close();
+
+    /** Those opened, each followed by the designs that it refers to; each design once. */
+    const std::vector<Design>& designs() const { return m_designs; }
+    /** Mesh files opened by themselves, in the order opened, those of a folder by name. */
+    const std::vector<Part>& looseParts() const { return m_looseParts; }
+    /** All that is wrong at present. */
+    Problems problems() const;
+
+    /** The design with this object, or with this id itself; null if none. */
+    const Design* findDesign(const GUIdentifier& objectId) const;
+    /** Of any design, object of a design or loose part; empty if none has the id. */
+    QString name(const GUIdentifier& objectId) const;
+    /**
+     * The mesh file to show for a part, tool, blank or file; empty if it has none. The file may be
+     * missing, which `geometryState` tells.
+     */
+    QString geometryFile(const GUIdentifier& objectId) const;
+    FileState geometryState(const GUIdentifier& objectId) const;
+    /** Every mesh file that exists, each once, in the order of designs and parts. */
+    QStringList meshFiles() const;
+
+    /** Loose parts are named by their files and cannot be renamed. */
+    bool canRename(const GUIdentifier& objectId) const;
+    /**
+     * Gives the object a name, trimmed. Returns why not, translated, when the name is empty, longer
+     * than 255 characters or holds control characters, or the object cannot be renamed; nothing has
+     * changed then. Empty when done. The same name again changes nothing.
+     */
+    QString rename(const GUIdentifier& objectId, const QString& name);
+
+    bool isModified() const { return !m_modifiedIds.empty(); }
+    /** Whether the object itself was changed since it was read or saved. */
+    bool isModified(const GUIdentifier& objectId) const;
+    /** Whether the design was modified here and its file by another program. */
+    bool hasConflict(const GUIdentifier& designId) const;
+
+    /**
+     * Writes every modified design. What could not be written, or must not because of a conflict,
+     * stays modified and is told in the result, which is empty when all went well.
+     */
+    Problems save(OnConflict onConflict = OnConflict::Refuse);
+    /** Reads the design's file again and drops the unsaved changes of that design. */
+    void revert(const GUIdentifier& designId);
+
+Q_SIGNALS:
+    /** Something of designs, parts, states of files, problems or modification is different. */
+    void changed();
+    /** The content of a file that is referred to or opened may be different. */
+    void fileChanged(const QString& path);
+    /** Another program changed the file of a design with unsaved changes; ours are kept. */
+    void conflictFound(const Zorvane::GUIdentifier& designId);
+
+private:
+    std::vector<Design> m_designs;
+    std::vector<Part> m_looseParts;
+    std::set<GUIdentifier> m_modifiedIds;
+};
+
+} // namespace Zorvane::Workbench

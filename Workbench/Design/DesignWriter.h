@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Workbench/Design/Design.h"
+#include "Workbench/Design/Problem.h"
+
+#include <QtCore/QByteArray>
+
+#include <optional>
+
+namespace Zorvane::Workbench {
+
+/**
+ * Writes design files. What was read and not understood is written back; a field is rewritten only
+ * when its value changed. Keys come out in alphabetical order.
+ */
+class DesignWriter
+{
+public:
+    /** The text of the design's file, in UTF-8, ending with a line end. */
+    static QByteArray toJson(const Design& design);
+    /**
+     * Writes to `design.file` in one step: on failure, told by the problem, the file is as before.
+     */
+    static std::optional<Problem> write(const Design& design);
+};
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Workbench/Design/Problem.h"
+#include "Workbench/Meshes/TriangleMesh.h"
+
+#include <QtCore/QString>
+
+#include <optional>
+
+namespace Zorvane::Workbench {
+
+enum class StlFormat
+{
+    Ascii,
+    Binary
+};
+
+/**
+ * Writes the mesh as an STL file in one step: on failure, told by the problem, the file is as
+ * before. A mesh without triangles is refused. May be used in any thread.
+ */
+std::optional<Problem> writeStl(const TriangleMesh& mesh, const QString& path, StlFormat format);
+
+} // namespace Zorvane::Workbench
