@@ -1,49 +1,86 @@
 #include "TreeModel/ModelItem.h"
 
+#include <atomic>
 #include <iterator>
+#include <utility>
 
 namespace Zorvane::GenericTreeViewModelHandling {
+
+namespace {
+
+using Items = std::vector<std::shared_ptr<ModelItem>>;
+
+bool isLastOwner(const std::shared_ptr<ModelItem>& item)
+{
+    if (item.use_count() != 1)
+        return false;
+    // What former owners on other threads did to the item comes before what we do to it.
+    std::atomic_thread_fence(std::memory_order_acquire);
+    return true;
+}
+
+} // namespace
 
 ModelItem::ModelItem(const GUIdentifier& id, const std::string& name)
     : m_id(id)
     , m_name(name)
-{
-}
+{}
 
 ModelItem::ModelItem(const IDCombiner& id, const std::string& name)
     : m_id(id)
     , m_name(name)
-{
-}
+{}
 
 ModelItem::ModelItem(const Identifier& id, const std::string& name)
     : m_id(id)
     , m_name(name)
-{
-}
+{}
 
-void ModelItem::addChildren(const std::vector<std::shared_ptr<ModelItem>>& children)
+// Left to the pointers, a deep tree would be deleted by as deep a recursion. Here an item that dies
+// with children becomes "current", and the first place of its list holds the way back to the one
+// before, until the others are gone. Nothing is allocated, so nothing can fail.
+ModelItem::~ModelItem()
 {
-    // By index: the argument may be this item's own list, which grows meanwhile.
-    const std::size_t count = children.size();
-    m_children.reserve(m_children.size() + count);
-    for (std::size_t i = 0; i < count; ++i)
-        m_children.push_back(children[i]);
-}
-
-void ModelItem::addChildren(std::vector<std::shared_ptr<ModelItem>>&& children)
-{
-    if (m_children.empty()) {
-        m_children = std::move(children);
-        return;
+    std::shared_ptr<ModelItem> current;
+    while (true) {
+        Items& children = current ? current->m_children : m_children;
+        if (children.size() == (current ? 1U : 0U)) {
+            if (!current)
+                return;
+            std::shared_ptr<ModelItem> previous = std::move(children.front());
+            children.clear();
+            current = std::move(previous);
+            continue;
+        }
+        std::shared_ptr<ModelItem> child = std::move(children.back());
+        children.pop_back();
+        while (isLastOwner(child) && child->hasChildren()) {
+            std::shared_ptr<ModelItem> first = std::move(child->m_children.front());
+            child->m_children.front() = std::move(current);
+            current = std::move(child);
+            child = std::move(first);
+        }
     }
+}
+
+void ModelItem::addChildren(const Items& children)
+{
+    // A copy first: the argument may be this item's own list, which grows meanwhile.
+    addChildren(Items(children));
+}
+
+void ModelItem::addChildren(Items&& children)
+{
     m_children.insert(m_children.end(), std::make_move_iterator(children.begin()),
                       std::make_move_iterator(children.end()));
+    children.clear();
 }
 
-void ModelItem::setChildren(const std::vector<std::shared_ptr<ModelItem>>& children)
+void ModelItem::setChildren(const Items& children)
 {
-    m_children = children;
+    // A copy first: the argument may be the list of a child that goes away here.
+    Items copy(children);
+    m_children.swap(copy);
 }
 
 } // namespace Zorvane::GenericTreeViewModelHandling

@@ -13,8 +13,10 @@ namespace Zorvane::GenericTreeViewModelHandling {
  * One node of a view-independent tree: an identity, a text and children in display order.
  *
  * Items are held by shared pointer, and one item may stand in several trees at once; nothing here
- * copies an item deeply. Whoever has handed a tree on must not change it any more.
- * Not supported: cycles (nothing looks for them), changing id or name.
+ * copies an item deeply. Whoever has handed a tree on
+ * must not change it any more. Trees may be of any depth, also when they go away.
+ *
+ * Not supported: cycles (nothing looks for them), null children, changing id or name.
  */
 class ZORVANE_UITOOLS_EXPORT ModelItem
 {
@@ -22,9 +24,14 @@ public:
     ModelItem(const GUIdentifier& id, const std::string& name);
     ModelItem(const IDCombiner& id, const std::string& name);
     ModelItem(const Identifier& id, const std::string& name);
+    /** Another item with the same children, the way to vary one that was handed on. */
+    ModelItem(const ModelItem& other) = default;
+    ModelItem& operator=(const ModelItem&) = delete;
+    ~ModelItem();
 
     /** Appends the children in their order; nothing is deduplicated. */
     void addChildren(const std::vector<std::shared_ptr<ModelItem>>& children);
+    /** The same, leaving `children` empty. */
     void addChildren(std::vector<std::shared_ptr<ModelItem>>&& children);
     /** Replaces all children; giving an item its own list changes nothing. */
     void setChildren(const std::vector<std::shared_ptr<ModelItem>>& children);
