@@ -1,0 +1,315 @@
+#include "Workbench/MeshView/MeshView.h"
+
+#include "Workbench/MeshView/MeshViewOverlay.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
+#include <QtGui/QWheelEvent>
+
+#include <cmath>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+constexpr double s_degreesPerPixel = 0.4;
+constexpr double s_degreesPerKey = 7.5;
+constexpr double s_pixelsPerKey = 24;
+constexpr double s_zoomPerStep = 1.2;
+constexpr int s_restMilliseconds = 160;
+/** A slower picture than this while moving makes the next one coarser. */
+constexpr qint64 s_slowMilliseconds = 40;
+
+bool isDark(const QPalette& palette)
+{
+    return palette.color(QPalette::Window).lightness() < 128;
+}
+
+MeshColours coloursFor(const QPalette& palette)
+{
+    // clang-format off
+    if (isDark(palette))
+        return {QColor(0xa9, 0xb8, 0xc9), QColor(0xb8, 0x9a, 0x6a), QColor(0x0e, 0x12, 0x17),
+                QColor(0x3a, 0x41, 0x4b), QColor(0x1b, 0x1f, 0x25)};
+    return {QColor(0x9f, 0xb2, 0xc6), QColor(0xc4, 0xa2, 0x6c), QColor(0x2b, 0x36, 0x42),
+            QColor(0xf6, 0xf8, 0xfb), QColor(0xcf, 0xd8, 0xe2)};
+    // clang-format on
+}
+
+} // namespace
+
+MeshView::MeshView(QWidget* parent)
+    : QWidget(parent)
+    , m_message(tr("Select a part to see its mesh."))
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setAccessibleName(tr("Mesh view"));
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(s_restMilliseconds);
+    connect(&m_rest, &QTimer::timeout, this, [this] { redraw(false); });
+    describe();
+}
+
+void MeshView::setMesh(std::shared_ptr<const TriangleMesh> mesh, const QString& title)
+{
+    m_title = title;
+    if (mesh != m_drawable.mesh) {
+        m_drawable = prepareForDrawing(std::move(mesh));
+        m_fastPictureTime = 0;
+        m_message = hasMesh() ? QString() : tr("This mesh has no triangles.");
+        fit();
+    }
+    describe();
+    update();
+}
+
+void MeshView::showMessage(const QString& message)
+{
+    m_drawable = {};
+    m_title.clear();
+    m_message = message;
+    describe();
+    redraw(false);
+}
+
+void MeshView::describe()
+{
+    const QString keys = tr("Arrow keys turn, Shift and arrow keys move, plus and minus zoom, "
+                            "Home fits.");
+    if (!hasMesh()) {
+        setAccessibleDescription(m_message);
+        return;
+    }
+    setAccessibleDescription(
+        tr("%1, %2, %n triangles. %3", nullptr, int(m_drawable.mesh->triangles.size()))
+            .arg(m_title, sizeText(m_drawable.box.size(), locale()), keys));
+}
+
+void MeshView::setDirection(ViewDirection direction)
+{
+    m_camera.setDirection(direction);
+    fit();
+}
+
+void MeshView::turn(double rightDegrees, double downDegrees)
+{
+    m_camera.orbit(rightDegrees, downDegrees);
+    m_fitted = false;
+    redraw(true);
+}
+
+QSize MeshView::sizeHint() const
+{
+    return {640, 480};
+}
+
+QSize MeshView::minimumSizeHint() const
+{
+    return {220, 180};
+}
+
+void MeshView::fit()
+{
+    m_camera.fit(m_drawable.box, size());
+    m_fitted = true;
+    redraw(false);
+}
+
+void MeshView::zoomIn()
+{
+    zoom(rect().center(), s_zoomPerStep);
+}
+
+void MeshView::zoomOut()
+{
+    zoom(rect().center(), 1 / s_zoomPerStep);
+}
+
+void MeshView::zoom(const QPointF& cursor, double factor)
+{
+    m_camera.zoomAt(cursor, factor, size());
+    m_fitted = false;
+    redraw(true);
+}
+
+void MeshView::redraw(bool moving)
+{
+    m_moving = moving;
+    m_picture = {};
+    if (moving)
+        m_rest.start();
+    update();
+    Q_EMIT cameraChanged();
+}
+
+void MeshView::renderIfNeeded()
+{
+    const double ratio = devicePixelRatioF();
+    const QSize pixels = (QSizeF(size()) * ratio).toSize();
+    if (!m_picture.isNull())
+        return;
+    QElapsedTimer timer;
+    timer.start();
+    const ViewTransform view = m_camera.transform(QSizeF(size()));
+    const MeshColours colours = coloursFor(palette());
+    if (m_moving && m_fastPictureTime > s_slowMilliseconds) {
+        const QImage coarse =
+            renderMesh(m_rasterizer, m_drawable, view.scaled(ratio / 2), pixels / 2, colours, 1);
+        m_picture = coarse.scaled(pixels);
+    } else {
+        m_picture = renderMesh(m_rasterizer, m_drawable, view.scaled(ratio), pixels, colours,
+                               m_moving ? 1 : 2);
+        if (m_moving)
+            m_fastPictureTime = timer.elapsed();
+    }
+    m_picture.setDevicePixelRatio(ratio);
+}
+
+void MeshView::paintEvent(QPaintEvent*)
+{
+    renderIfNeeded();
+    QPainter painter(this);
+    painter.drawImage(0, 0, m_picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintOverlay(painter);
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
+}
+
+void MeshView::paintOverlay(QPainter& painter) const
+{
+    const QColor ink = isDark(palette()) ? QColor(0xd6, 0xdd, 0xe6) : QColor(0x2b, 0x36, 0x42);
+    painter.setPen(ink);
+    if (!hasMesh()) {
+        painter.drawText(rect().adjusted(24, 24, -24, -24), Qt::AlignCenter | Qt::TextWordWrap,
+                         m_message);
+        return;
+    }
+    const QRect text = rect().adjusted(14, 10, -14, -10);
+    QFont bold = painter.font();
+    bold.setBold(true);
+    painter.setFont(bold);
+    const QFontMetrics metrics(bold);
+    painter.drawText(text, Qt::AlignLeft | Qt::AlignTop,
+                     metrics.elidedText(m_title, Qt::ElideMiddle, text.width()));
+    painter.setFont(font());
+    painter.drawText(text.adjusted(0, metrics.lineSpacing() + 2, 0, 0),
+                     Qt::AlignLeft | Qt::AlignTop, sizeText(m_drawable.box.size(), locale()));
+    drawAxes(painter, rect(), m_camera.transform(QSizeF(size())));
+    drawScaleBar(painter, rect(), m_camera.pixelsPerMm(), ink);
+}
+
+void MeshView::resizeEvent(QResizeEvent*)
+{
+    if (m_fitted)
+        m_camera.fit(m_drawable.box, size());
+    redraw(false);
+}
+
+void MeshView::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
+        redraw(false);
+}
+
+void MeshView::focusInEvent(QFocusEvent*)
+{
+    update();
+}
+
+void MeshView::focusOutEvent(QFocusEvent*)
+{
+    update();
+}
+
+void MeshView::mousePressEvent(QMouseEvent* event)
+{
+    const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
+    if (event->button() == Qt::MiddleButton || (event->button() == Qt::LeftButton && shift))
+        m_drag = Drag::Move;
+    else if (event->button() == Qt::LeftButton)
+        m_drag = Drag::Turn;
+    else
+        event->ignore();
+    m_dragged = event->pos();
+}
+
+void MeshView::mouseMoveEvent(QMouseEvent* event)
+{
+    const QPoint way = event->pos() - m_dragged;
+    m_dragged = event->pos();
+    if (m_drag == Drag::None || way.isNull())
+        return;
+    if (m_drag == Drag::Turn)
+        m_camera.orbit(way.x() * s_degreesPerPixel, way.y() * s_degreesPerPixel);
+    else
+        m_camera.pan(way);
+    m_fitted = false;
+    redraw(true);
+}
+
+void MeshView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->buttons() == Qt::NoButton)
+        m_drag = Drag::None;
+}
+
+void MeshView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton)
+        fit();
+}
+
+void MeshView::wheelEvent(QWheelEvent* event)
+{
+    const double steps = event->angleDelta().y() / 120.0;
+    if (steps == 0) {
+        event->ignore();
+        return;
+    }
+    zoom(event->position(), std::pow(s_zoomPerStep, steps));
+    event->accept();
+}
+
+void MeshView::moveOrTurn(int right, int down, bool move)
+{
+    if (move) {
+        m_camera.pan(QPointF(right, down) * s_pixelsPerKey);
+        m_fitted = false;
+        redraw(true);
+    } else {
+        turn(right * s_degreesPerKey, down * s_degreesPerKey);
+    }
+}
+
+void MeshView::keyPressEvent(QKeyEvent* event)
+{
+    const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return moveOrTurn(-1, 0, shift);
+    case Qt::Key_Right:
+        return moveOrTurn(1, 0, shift);
+    case Qt::Key_Up:
+        return moveOrTurn(0, -1, shift);
+    case Qt::Key_Down:
+        return moveOrTurn(0, 1, shift);
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        return zoomIn();
+    case Qt::Key_Minus:
+        return zoomOut();
+    case Qt::Key_Home:
+        return fit();
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+} // namespace Zorvane::Workbench

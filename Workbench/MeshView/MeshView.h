@@ -1,0 +1,94 @@
+#pragma once
+
+#include "Workbench/MeshView/DrawableMesh.h"
+#include "Workbench/MeshView/OrbitCamera.h"
+#include "Workbench/MeshView/Rasterizer.h"
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QWidget>
+
+#include <memory>
+
+namespace Zorvane::Workbench {
+
+/**
+ * Shows one mesh, shaded, from any side.
+ *
+ * Mouse: drag with the left button turns, with the middle button or Shift moves, the wheel zooms
+ * to the pointer, a double click fits. Keys: arrows turn, Shift and arrows move, + and - zoom,
+ * Home fits. Draws without a graphics card. While it is being turned it draws as fast as it can,
+ * and once it rests it smooths the outlines.
+ * Not supported: several meshes at once, picking, touch gestures.
+ */
+class MeshView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MeshView(QWidget* parent = nullptr);
+
+    /** Shows the mesh, fitted when it is another one than before. `title` names it on screen. */
+    void setMesh(std::shared_ptr<const TriangleMesh> mesh, const QString& title);
+    /** Shows a text in place of a mesh. */
+    void showMessage(const QString& message);
+
+    bool hasMesh() const { return !m_drawable.isEmpty(); }
+    const OrbitCamera& camera() const { return m_camera; }
+    void setDirection(ViewDirection direction);
+    /** Turns by degrees; for keys, menus and demonstrations. */
+    void turn(double rightDegrees, double downDegrees);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+public Q_SLOTS:
+    void fit();
+    void zoomIn();
+    void zoomOut();
+
+Q_SIGNALS:
+    void cameraChanged();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    enum class Drag
+    {
+        None,
+        Turn,
+        Move
+    };
+
+    void zoom(const QPointF& cursor, double factor);
+    void moveOrTurn(int right, int down, bool move);
+    void redraw(bool moving);
+    void renderIfNeeded();
+    void paintOverlay(QPainter& painter) const;
+    void describe();
+
+    DrawableMesh m_drawable;
+    QString m_title;
+    QString m_message;
+    OrbitCamera m_camera;
+    Rasterizer m_rasterizer;
+    QImage m_picture;
+    QTimer m_rest;
+    QPoint m_dragged;
+    Drag m_drag = Drag::None;
+    bool m_moving = false;
+    bool m_fitted = true;
+    qint64 m_fastPictureTime = 0;
+};
+
+} // namespace Zorvane::Workbench
