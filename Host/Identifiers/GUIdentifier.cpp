@@ -9,13 +9,11 @@ namespace Zorvane {
 
 GUIdentifier::GUIdentifier(const QUuid& uuid)
     : m_uuid(uuid)
-{
-}
+{}
 
 GUIdentifier::GUIdentifier(const std::string& uuid)
     : m_uuid(QString::fromStdString(uuid))
-{
-}
+{}
 
 GUIdentifier GUIdentifier::create()
 {

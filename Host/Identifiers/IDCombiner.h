@@ -24,12 +24,10 @@ public:
     IDCombiner() = default;
     IDCombiner(const Identifier& identifier)
         : m_part(identifier)
-    {
-    }
+    {}
     IDCombiner(const GUIdentifier& identifier)
         : m_part(identifier)
-    {
-    }
+    {}
 
     bool hasIdentifier() const { return std::holds_alternative<Identifier>(m_part); }
     bool hasCombinedPart() const { return std::holds_alternative<GUIdentifier>(m_part); }

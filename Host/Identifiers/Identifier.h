@@ -20,8 +20,7 @@ public:
     constexpr explicit Identifier(std::uint64_t value, std::uint16_t subValue = 0)
         : m_value(value)
         , m_subValue(subValue)
-    {
-    }
+    {}
 
     /** The identifier that names nothing: both values zero. */
     static const Identifier& getInvalidId();

@@ -57,8 +57,8 @@ void TestCase::cleanup()
     const QStringList missed = expectedPatterns();
     expectedPatterns().clear();
     if (!missed.isEmpty())
-        QTest::qFail(qPrintable(QStringLiteral("expected warnings that never came: ")
-                                + missed.join(QStringLiteral(", "))),
+        QTest::qFail(qPrintable(QStringLiteral("expected warnings that never came: ") +
+                                missed.join(QStringLiteral(", "))),
                      __FILE__, __LINE__);
 }
 

@@ -39,8 +39,8 @@ int runTest(int argc, char** argv)
 
 } // namespace Zorvane::Testing
 
-#define ZORVANE_TEST_MAIN(Test)                                                                    \
-    int main(int argc, char** argv)                                                                \
-    {                                                                                              \
-        return Zorvane::Testing::runTest<Test>(argc, argv);                                        \
+#define ZORVANE_TEST_MAIN(Test)                             \
+    int main(int argc, char** argv)                         \
+    {                                                       \
+        return Zorvane::Testing::runTest<Test>(argc, argv); \
     }

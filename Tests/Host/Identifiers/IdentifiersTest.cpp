@@ -98,11 +98,15 @@ void IdentifiersTest::hashOfIdentifier_data()
     // Worked out outside this program, byte by byte, with arbitrary-precision integers.
     QTest::newRow("zero") << quint64(0x0) << quint16(0x0) << quint64(0xa8c7f832281a39c5);
     QTest::newRow("one") << quint64(0x1) << quint16(0x0) << quint64(0x89cd31291d2aefa4);
-    QTest::newRow("all bytes differ") << quint64(0x123456789abcdef) << quint16(0x0) << quint64(0x37eb3f3347761c55);
-    QTest::newRow("largest") << quint64(0xffffffffffffffff) << quint16(0x0) << quint64(0x8cf51a8bfca3883d);
+    QTest::newRow("all bytes differ")
+        << quint64(0x123456789abcdef) << quint16(0x0) << quint64(0x37eb3f3347761c55);
+    QTest::newRow("largest") << quint64(0xffffffffffffffff) << quint16(0x0)
+                             << quint64(0x8cf51a8bfca3883d);
     QTest::newRow("sub-value one") << quint64(0x1) << quint16(0x1) << quint64(0xd2af71c52b77aff8);
-    QTest::newRow("sub-value largest") << quint64(0x123456789abcdef) << quint16(0xffff) << quint64(0xb6642dc08b6e9fe1);
-    QTest::newRow("zero with sub-value") << quint64(0x0) << quint16(0x7) << quint64(0xb5091ee0abdd9041);
+    QTest::newRow("sub-value largest")
+        << quint64(0x123456789abcdef) << quint16(0xffff) << quint64(0xb6642dc08b6e9fe1);
+    QTest::newRow("zero with sub-value")
+        << quint64(0x0) << quint16(0x7) << quint64(0xb5091ee0abdd9041);
 }
 
 void IdentifiersTest::hashOfIdentifier()

@@ -1,0 +1,204 @@
+"""Tests of the programs in Tools: each check must find what it is there to find."""
+
+import json
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+TOOLS = pathlib.Path(__file__).resolve().parents[2] / "Tools"
+
+
+def run_tool(name, *arguments):
+    return subprocess.run([sys.executable, TOOLS / name, *map(str, arguments)], text=True,
+                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
+
+
+class ToolTest(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.root = pathlib.Path(folder.name)
+
+    def write(self, name, text=""):
+        path = self.root / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text, encoding="utf-8")
+        return path
+
+    def check(self, tool):
+        return run_tool(tool, "--root", self.root)
+
+
+class LayersTest(ToolTest):
+    FILES = ("UiToolsExport.h", "Host/HostExport.h", "Host/Identifiers/IDCombiner.h",
+             "Host/Widgets/ZVTreeViewItem.h", "Host/Widgets/ZVMessageBox.h", "Files/PathProvider.h",
+             "Files/Portable/Engine.h", "Files/Windows/Shell.h", "FileDialogs/FileDialog.h",
+             "Dialogs/ZVSaveDialog.h", "Actions/ZVMainActions.h", "TreeModel/ModelItem.h",
+             "Utilities/PostEventTask.h", "Workbench/Design/Design.h", "Tests/Support/TestCase.h")
+
+    def setUp(self):
+        super().setUp()
+        for name in self.FILES:
+            self.write(name)
+
+    def check_all(self, cases):
+        """Checks with each case in a file of its own; the findings that are expected of it."""
+        expected = []
+        for number, (source, line) in enumerate(cases):
+            name = source.replace("A.", f"A{number}.")
+            self.write(name, f"// Some file\n{line}\n")
+            expected.append(f"{name}:2: {line.strip()}: ")
+        return self.check("check-layers"), expected
+
+    ALLOWED = (
+        ("Workbench/A.cpp", '#include "Dialogs/ZVSaveDialog.h"'),
+        ("Workbench/A.cpp", '#include "TreeModel/ModelItem.h"'),
+        ("Workbench/A.cpp", "#include <assimp/scene.h>"),
+        ("Dialogs/A.cpp", '#include "FileDialogs/FileDialog.h"'),
+        ("Dialogs/A.cpp", '#include "Files/PathProvider.h"'),
+        ("FileDialogs/A.cpp", '#include "Files/PathProvider.h"'),
+        ("Files/A.h", '#include "UiToolsExport.h"'),
+        ("Files/Windows/A.cpp", '#include "Files/Windows/Shell.h"'),
+        ("Files/Windows/A.cpp", "#include <windows.h>"),
+        ("Files/Portable/A.cpp", "#include <sys/stat.h>"),
+        ("Files/Portable/A.cpp", "#ifdef __linux__"),
+        ("Tests/Files/Portable/A.cpp", '#include "Files/Portable/Engine.h"'),
+        ("Benchmarks/A.cpp", '#include "Files/Portable/Engine.h"'),
+        ("Benchmarks/A.cpp", "#include <benchmark/benchmark.h>"),
+        ("Actions/A.cpp", '#include "Host/Widgets/ZVMessageBox.h"'),
+        ("TreeModel/A.cpp", '#include "Host/Widgets/ZVTreeViewItem.h"'),
+        ("TreeModel/A.cpp", '#include "Host/Identifiers/IDCombiner.h"'),
+        ("Host/Widgets/A.cpp", '#include "Host/Identifiers/IDCombiner.h"'),
+        ("Host/Signals/A.h", "#include <boost/signals2.hpp>"),
+        ("Host/A.cpp", '#include "moc_A.cpp"'),
+        ("Tests/A.cpp", '#include "ATest.moc"'),
+        ("Tests/A.cpp", "#include <QtTest/QtTest>"),
+        ("Utilities/A.cpp", "#include <unordered_map>"),
+        ("Utilities/A.cpp", "#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)"),
+    )
+
+    def test_accepts_what_follows_the_arrows(self):
+        result, _ = self.check_all(self.ALLOWED)
+        self.assertEqual((result.returncode, result.stdout), (0, "Layers: in order\n"))
+
+    FORBIDDEN = (
+        ("Host/A.cpp", '#include "Files/PathProvider.h"'),
+        ("Host/A.h", '#include "UiToolsExport.h"'),
+        ("Files/A.cpp", '#include "FileDialogs/FileDialog.h"'),
+        ("FileDialogs/A.cpp", '#include "Dialogs/ZVSaveDialog.h"'),
+        ("Dialogs/A.cpp", '#include "Actions/ZVMainActions.h"'),
+        ("Dialogs/A.cpp", '#include "Workbench/Design/Design.h"'),
+        ("Actions/A.cpp", '#include "Files/PathProvider.h"'),
+        ("Utilities/A.cpp", '#include "TreeModel/ModelItem.h"'),
+        ("TreeModel/A.cpp", '#include "Utilities/PostEventTask.h"'),
+        ("TreeModel/A.cpp", '#include "Host/Widgets/ZVMessageBox.h"'),
+        ("TreeModel/A.cpp", '  #  include "Host/Widgets/ZVMessageBox.h"'),
+        ("Workbench/A.cpp", '#include "Tests/Support/TestCase.h"'),
+        ("Benchmarks/A.cpp", '#include "Tests/Support/TestCase.h"'),
+        ("Files/A.cpp", '#include "Files/Portable/Engine.h"'),
+        ("Files/A.cpp", '#include "Files/Windows/Shell.h"'),
+        ("Files/Portable/A.cpp", '#include "Files/Windows/Shell.h"'),
+        ("Tests/Files/A.cpp", '#include "Files/Portable/Engine.h"'),
+        ("Benchmarks/A.cpp", '#include "Files/Windows/Shell.h"'),
+        ("Files/A.cpp", "#include <windows.h>"),
+        ("Files/A.cpp", "#include <unistd.h>"),
+        ("Files/A.cpp", "#ifdef Q_OS_WIN"),
+        ("Files/A.cpp", "#if defined(_WIN32)"),
+        ("Files/A.cpp", '#include "PathProvider.h"'),
+        ("Files/A.cpp", "#include <QString>"),
+        ("Files/A.cpp", "#include <QtCore/private/qobject_p.h>"),
+        ("Files/A.cpp", "#include <QtTest/QtTest>"),
+        ("TreeModel/A.cpp", "#include <QtSvg/QSvgRenderer>"),
+        ("Files/A.cpp", "#include <assimp/scene.h>"),
+        ("Workbench/A.cpp", "#include <rapidcheck.h>"),
+    )
+
+    def test_finds_what_goes_against_them(self):
+        result, expected = self.check_all(self.FORBIDDEN)
+        self.assertEqual(result.returncode, 1)
+        for finding in expected:
+            with self.subTest(finding):
+                self.assertIn("\n" + finding, "\n" + result.stdout)
+        self.assertIn(f"Layers: {len(expected)} to mend\n", result.stdout)
+
+    def test_an_empty_folder_is_not_in_order(self):
+        self.root = self.root / "nothing"
+        self.root.mkdir()
+        self.assertEqual(self.check("check-layers").returncode, 1)
+
+
+class TextTest(ToolTest):
+    UNWANTED = ("see /ro" "ot/x", "copied to '/tm" "p/pictures'", "C:\\Us" "ers\\someone",
+                "// TO" "DO later", "FIX" "ME: wrong", "<" * 7 + " ours", ">" * 7 + " theirs")
+
+    def test_finds_what_must_not_stay(self):
+        for text in self.UNWANTED:
+            with self.subTest(text=text):
+                self.write("Files/A.cpp", f"int a;\n{text}\n")
+                result = self.check("check-text")
+                self.assertEqual(result.returncode, 1)
+                self.assertIn("Files/A.cpp:2: ", result.stdout)
+
+    def test_accepts_what_only_looks_like_it(self):
+        self.write("Files/A.cpp", "path/work/a $ROOT/root/b \"${x}/tmp/c\" <<<<<<< s_todo\n")
+        self.write("picture.png").write_bytes(b"\0/ro" b"ot/x")
+        self.assertEqual(self.check("check-text").returncode, 0)
+
+    def test_finds_files_too_long_to_read(self):
+        self.write("Files/A.cpp", "\n" * 700)
+        self.assertEqual(self.check("check-text").returncode, 0)
+        self.write("Files/A.cpp", "\n" * 701)
+        result = self.check("check-text")
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("Files/A.cpp: 701 lines", result.stdout)
+
+
+class BenchTableTest(ToolTest):
+    ROW = {"name": "a/b", "value": 1.5, "peer": 3.0, "ratio": 0.5, "unit": "ms"}
+
+    def list_of(self, *programs):
+        names = []
+        for i, text in enumerate(programs):
+            path = self.write(f"program{i}", f"#!{sys.executable}\n{text}\n")
+            path.chmod(0o755)
+            names.append(str(path))
+        return self.write("list.txt", "\n".join(names) + "\n")
+
+    def run_table(self, *programs, options=()):
+        json_file = self.root / "bench.json"
+        result = run_tool("bench-table", self.list_of(*programs), "--json", json_file, *options)
+        return result, json.loads(json_file.read_text())
+
+    def printing(self, **changes):
+        return f"print({json.dumps({**self.ROW, **changes})!r})"
+
+    def test_gathers_the_rows_of_all_programs(self):
+        result, rows = self.run_table(self.printing(), self.printing(name="c/d", extra=1))
+        self.assertEqual(result.returncode, 0, result.stdout)
+        self.assertEqual(rows, [self.ROW, {**self.ROW, "name": "c/d"}])
+        self.assertRegex(result.stdout, r"a/b +1\.5 +3 +ms +0\.500\n")
+
+    def test_hands_filter_and_options_on(self):
+        echo = "import json, sys; " + self.printing().replace(
+            "print(", "row = json.loads(") + "; row['name'] = ' '.join(sys.argv[1:]); " \
+            "print(json.dumps(row))"
+        _, rows = self.run_table(echo, options=("tree/", "--benchmark_repetitions=2"))
+        self.assertEqual(rows[0]["name"], "tree/ --benchmark_repetitions=2")
+
+    def test_tells_of_a_program_that_fails_and_keeps_the_other_rows(self):
+        result, rows = self.run_table("raise SystemExit(3)", self.printing())
+        self.assertEqual(result.returncode, 1)
+        self.assertEqual(rows, [self.ROW])
+        self.assertIn("ended with status 3", result.stdout)
+
+    def test_tells_when_no_row_was_measured(self):
+        result, rows = self.run_table("pass")
+        self.assertEqual(result.returncode, 1)
+        self.assertEqual(rows, [])
+        self.assertIn("No row has such a name.", result.stdout)
+
+
+if __name__ == "__main__":
+    unittest.main()
