@@ -1,0 +1,68 @@
+#pragma once
+
+#include "Host/HostExport.h"
+
+#include <QtWidgets/QMessageBox>
+
+namespace Zorvane {
+
+class MessageBoxTitleBar;
+
+/**
+ * The suite's message box. Everything of `QMessageBox` holds, with three differences:
+ * - The window flags are taken as they are given. A box without a system frame
+ *   (`Qt::FramelessWindowHint`) draws a title bar of its own, which moves the box.
+ * - The close button of the title can be taken away. Then Escape and the window system's close
+ *   request do nothing either, as long as one button can be pressed. While the close button is
+ *   there, closing always works; without an escape button `exec` returns 0 (no button).
+ * - A maximum width is kept: the text wraps. Set it before the box is shown.
+ */
+class ZORVANE_HOST_EXPORT ZVMessageBox : public QMessageBox
+{
+    Q_OBJECT
+
+public:
+    static constexpr Qt::WindowFlags s_framedFlags =
+        Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+
+    ZVMessageBox(Icon icon, const QString& title, const QString& text, StandardButtons buttons = Ok,
+                 QWidget* parent = nullptr, Qt::WindowFlags flags = s_framedFlags);
+
+    bool isTitleCloseButtonVisible() const;
+    void setTitleCloseButtonVisible(bool visible);
+
+    /** In pixels. Buttons and single words that need more get it. */
+    void setMaximumWidth(int width);
+
+    /** Show a box of the kind and return the button pressed, as `QMessageBox`'s do. */
+    static StandardButton critical(QWidget* parent, const QString& title, const QString& text,
+                                   StandardButtons buttons = Ok,
+                                   StandardButton defaultButton = NoButton);
+    static StandardButton information(QWidget* parent, const QString& title, const QString& text,
+                                      StandardButtons buttons = Ok,
+                                      StandardButton defaultButton = NoButton);
+    static StandardButton question(QWidget* parent, const QString& title, const QString& text,
+                                   StandardButtons buttons = StandardButtons(Yes | No),
+                                   StandardButton defaultButton = NoButton);
+    static StandardButton warning(QWidget* parent, const QString& title, const QString& text,
+                                  StandardButtons buttons = Ok,
+                                  StandardButton defaultButton = NoButton);
+
+protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    bool mayBeClosed() const;
+    void fitToMaximumWidth();
+
+    // Only in boxes without a system frame; owned as a child widget.
+    MessageBoxTitleBar* m_titleBar = nullptr;
+    int m_maximumWidth = QWIDGETSIZE_MAX;
+};
+
+} // namespace Zorvane
