@@ -1,0 +1,82 @@
+#include "Files/FileCopyService.h"
+
+#include "Files/PathText.h"
+#include "Host/Translation/Translator.h"
+#include "Host/Widgets/ZVMessageBox.h"
+
+namespace Zorvane {
+
+namespace {
+
+constexpr Qt::WindowFlags s_questionFlags = Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                            Qt::WindowCloseButtonHint | Qt::FramelessWindowHint;
+
+bool userWantsCopy(QWidget* parent, const QString& title, const QString& text)
+{
+    ZVMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, parent,
+                     s_questionFlags);
+    box.setButtonText(QMessageBox::Yes, Translator::translate("FileCopyUtility", "Copy"));
+    box.setButtonText(QMessageBox::No, Translator::translate("FileCopyUtility", "Don't Copy"));
+    box.setDefaultButton(QMessageBox::Yes);
+    return box.exec() == QMessageBox::Yes;
+}
+
+bool hasAlreadyInTarget(int code)
+{
+    constexpr int bits = FileCopyUtility::AlreadyInTarget | FileCopyUtility::NoTargetFolder;
+    return (code & bits) == bits;
+}
+
+} // namespace
+
+QList<FileCopyUtility::FileCopyInfo>
+FileCopyService::copyFilesToDirectory(QWidget* parent, const QString& title, const QString& text,
+                                      const QStringList& sourceFiles, const QString& targetFolder,
+                                      int& result)
+{
+    if (hasAlreadyInTarget(FileCopyUtility::check(sourceFiles, targetFolder)))
+        return {};
+    const QPointer<QWidget> owner(parent);
+    if (!userWantsCopy(parent, title, text))
+        return {};
+    return FileCopyUtility(owner, sourceFiles, targetFolder).copyFiles(result);
+}
+
+bool FileCopyService::copyFilesToDirectory(QWidget* parent, const QString& title,
+                                           const QString& text, const QStringList& sourceFiles,
+                                           const QString& targetFolder, QStringList& copiedFiles)
+{
+    int code = 0;
+    const auto records = copyFilesToDirectory(parent, title, text, sourceFiles, targetFolder, code);
+    copiedFiles.clear();
+    for (const FileCopyUtility::FileCopyInfo& record : records) {
+        if (record.status != FileCopyUtility::NotCopied)
+            copiedFiles.append(record.target);
+    }
+    return code == 0;
+}
+
+bool FileCopyService::copyFilesToDirectory(QWidget* parent, const QString& title,
+                                           const QString& text,
+                                           const std::list<FileName>& sourceFiles,
+                                           const FileName& targetFolder,
+                                           std::list<FileName>& copiedFiles)
+{
+    QStringList copied;
+    const bool success = copyFilesToDirectory(parent, title, text, toStringList(sourceFiles),
+                                              pathFromBytes(targetFolder.toNativeString()), copied);
+    copiedFiles.clear();
+    for (const QString& file : qAsConst(copied))
+        copiedFiles.emplace_back(pathToBytes(file));
+    return success;
+}
+
+QStringList FileCopyService::toStringList(const std::list<FileName>& files)
+{
+    QStringList texts;
+    for (const FileName& file : files)
+        texts.append(pathFromBytes(file.toNativeString()));
+    return texts;
+}
+
+} // namespace Zorvane

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QtCore/QString>
+
+namespace Zorvane {
+
+/** What the file system says about a path; links are followed. */
+struct PathFacts
+{
+    bool exists = false;
+    bool isFolder = false;
+    QString canonicalPath;   /**< Absolute, without links; empty where nothing exists. */
+    QString canonicalFolder; /**< The folder of the canonical path. */
+};
+
+/** Asks the platform. Never fails: what cannot be looked at does not exist. */
+PathFacts probePath(const QString& path);
+
+} // namespace Zorvane

@@ -1,0 +1,15 @@
+#include "Files/Portable/LocalPath.h"
+
+#include "Files/PathText.h"
+
+#include <QtCore/QFile>
+
+namespace Zorvane {
+
+std::string localPathBytes(const QString& path)
+{
+    const QByteArray encoded = QFile::encodeName(path);
+    return QFile::decodeName(encoded) == path ? encoded.toStdString() : pathToBytes(path);
+}
+
+} // namespace Zorvane
