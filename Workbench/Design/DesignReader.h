@@ -16,6 +16,8 @@ struct DesignReading
 {
     /** Empty when the file is no design that this program can read; `problems` then tells why. */
     std::optional<Design> design;
+    /** Of the file; null if it could not be read at all. */
+    QByteArray content;
     /** Also what was left out of a design that could be read. */
     Problems problems;
 };

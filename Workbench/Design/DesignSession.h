@@ -1,19 +1,17 @@
 #pragma once
 
 #include "Workbench/Design/Design.h"
-#include "Workbench/Design/DesignReader.h"
+#include "Workbench/Design/DesignStore.h"
+#include "Workbench/Design/FileWatch.h"
+#include "Workbench/Design/LooseParts.h"
 #include "Workbench/Design/Problem.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
 
-#include <optional>
-#include <set>
 #include <vector>
 
 namespace Zorvane::Workbench {
-
-class FileWatch;
 
 /**
  * Everything that the Workbench has open: designs, the designs they refer to, and mesh files opened
@@ -39,7 +37,6 @@ public:
     };
 
     explicit DesignSession(QObject* parent = nullptr);
-    ~DesignSession() override;
 
     /**
      * Opens design files, mesh files (STL, OBJ, PLY), and folders: all design files in a folder,
@@ -51,9 +48,9 @@ public:
     void close();
 
     /** Those opened, each followed by the designs that it refers to; each design once. */
-    const std::vector<Design>& designs() const { return m_designs; }
+    const std::vector<Design>& designs() const { return m_store.designs(); }
     /** Mesh files opened by themselves, in the order opened, those of a folder by name. */
-    const std::vector<Part>& looseParts() const { return m_looseParts; }
+    const std::vector<Part>& looseParts() const { return m_looseParts.parts(); }
     /** All that is wrong at present. */
     Problems problems() const;
 
@@ -79,7 +76,7 @@ public:
      */
     QString rename(const GUIdentifier& objectId, const QString& name);
 
-    bool isModified() const { return !m_modifiedIds.empty(); }
+    bool isModified() const { return m_store.isModified(); }
     /** Whether the object itself was changed since it was read or saved. */
     bool isModified(const GUIdentifier& objectId) const;
     /** Whether the design was modified here and its file by another program. */
@@ -102,9 +99,18 @@ Q_SIGNALS:
     void conflictFound(const Zorvane::GUIdentifier& designId);
 
 private:
-    std::vector<Design> m_designs;
-    std::vector<Part> m_looseParts;
-    std::set<GUIdentifier> m_modifiedIds;
+    void openOne(const QString& path);
+    void openFolder(const QString& folder);
+    void openFile(const QString& file);
+    void watch();
+    void follow(const QStringList& files);
+    const Part* findLoosePart(const GUIdentifier& id) const;
+
+    DesignStore m_store;
+    LooseParts m_looseParts;
+    /** Paths that could not be opened. */
+    Problems m_openProblems;
+    FileWatch m_watch;
 };
 
 } // namespace Zorvane::Workbench

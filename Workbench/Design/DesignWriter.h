@@ -4,6 +4,7 @@
 #include "Workbench/Design/Problem.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QCoreApplication>
 
 #include <optional>
 
@@ -15,6 +16,8 @@ namespace Zorvane::Workbench {
  */
 class DesignWriter
 {
+    Q_DECLARE_TR_FUNCTIONS(Zorvane::Workbench::DesignWriter)
+
 public:
     /** The text of the design's file, in UTF-8, ending with a line end. */
     static QByteArray toJson(const Design& design);

@@ -4,11 +4,16 @@
 #include "Workbench/Meshes/MeshFacts.h"
 #include "Workbench/Meshes/TriangleMesh.h"
 
+#include <QtCore/QDateTime>
+#include <QtCore/QHash>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+#include <QtCore/QThreadPool>
 
 #include <cstddef>
+#include <deque>
+#include <map>
 #include <memory>
 #include <optional>
 
@@ -41,6 +46,8 @@ public:
     void request(const QStringList& paths);
     /** As `request`, before all others that wait: for what the user looks at. */
     void requestFirst(const QString& path);
+    /** As `request`, and reads the file even if it looks unchanged: for when it was touched. */
+    void requestAnew(const QString& path);
     /** Drops all that waits; no answers come for it or for what is being read. */
     void cancel();
 
@@ -53,10 +60,10 @@ public:
 
     bool isBusy() const;
     /** Answers since the loader was last idle, and files asked for since then. */
-    int done() const;
-    int total() const;
+    int done() const { return m_done; }
+    int total() const { return m_total; }
     void setCacheLimit(std::size_t bytes);
-    std::size_t cachedBytes() const;
+    std::size_t cachedBytes() const { return m_cachedBytes; }
 
 Q_SIGNALS:
     void loaded(const QString& path, const Zorvane::Workbench::SharedMesh& mesh,
@@ -68,8 +75,65 @@ Q_SIGNALS:
     void finished();
 
 private:
-    class State;
-    std::unique_ptr<State> m_state;
+    /** Tells one content of a file from another, as far as that shows from outside. */
+    struct Stamp
+    {
+        qint64 size = -1;
+        QDateTime time;
+    };
+    /** What is known of a file. */
+    struct Entry
+    {
+        Stamp stamp;
+        std::optional<MeshFacts> facts;
+        std::optional<Problem> problem;
+        SharedMesh mesh;
+        quint64 lastUse = 0;
+    };
+    /** A file being read. */
+    struct Job
+    {
+        QString path;
+        Stamp stamp;
+        int round = 0;
+        /** Asked for again since, or even though it looks unchanged. */
+        bool askedAgain = false;
+        bool askedAnew = false;
+    };
+    struct Answer
+    {
+        SharedMesh mesh;
+        MeshFacts facts;
+        Problem problem;
+    };
+
+    static Stamp stampOf(const QString& path);
+    static bool isSame(const Stamp& left, const Stamp& right);
+    static Answer read(const QString& path);
+    static std::size_t bytesOf(const TriangleMesh& mesh);
+
+    void accept(const QString& path, bool first);
+    Job* findCurrentJob(const QString& path);
+    void startWaiting();
+    void start(const QString& path);
+    void finishJob(int number, const Answer& answer);
+    void keep(const Job& job, const Answer& answer);
+    void tell(const QString& path, const Answer& answer);
+    void forgetOldest();
+
+    QThreadPool m_pool;
+    std::deque<QString> m_waiting;
+    /** By number, those of earlier rounds too, whose answers nobody wants any more. */
+    std::map<int, Job> m_jobs;
+    int m_nextJob = 0;
+    /** Counts the cancels. */
+    int m_round = 0;
+    QHash<QString, Entry> m_entries;
+    quint64 m_uses = 0;
+    std::size_t m_cachedBytes = 0;
+    std::size_t m_cacheLimit = defaultCacheLimit;
+    int m_done = 0;
+    int m_total = 0;
 };
 
 } // namespace Zorvane::Workbench

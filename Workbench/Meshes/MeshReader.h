@@ -5,6 +5,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <optional>
 
@@ -30,8 +31,8 @@ class MeshReader
     Q_DECLARE_TR_FUNCTIONS(Zorvane::Workbench::MeshReader)
 
 public:
-    /** In bytes; some ten million triangles of a binary STL file. */
-    static constexpr qint64 largestFile = 512LL * 1024 * 1024;
+    /** In bytes; five million triangles of a binary STL file. */
+    static constexpr qint64 largestFile = 256LL * 1024 * 1024;
 
     static MeshReading read(const QString& path);
 

@@ -1,0 +1,251 @@
+#include "Workbench/Design/DesignSession.h"
+
+#include "Workbench/Meshes/MeshReader.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+
+#include <algorithm>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+constexpr int longestName = 255;
+
+bool isDesignFile(const QString& path)
+{
+    return QFileInfo(path).suffix().compare(QStringLiteral("dsg"), Qt::CaseInsensitive) == 0;
+}
+
+/** Empty if an object may be called so. */
+QString nameObstacle(const QString& name)
+{
+    if (name.isEmpty())
+        return DesignSession::tr("A name must not be empty.");
+    if (name.size() > longestName)
+        return DesignSession::tr("A name must not be longer than %1 characters.").arg(longestName);
+    const auto isControl = [](QChar c) { return c.category() == QChar::Other_Control; };
+    if (std::any_of(name.begin(), name.end(), isControl))
+        return DesignSession::tr("A name must be one line without control characters.");
+    return {};
+}
+
+} // namespace
+
+DesignSession::DesignSession(QObject* parent)
+    : QObject(parent)
+{
+    connect(&m_watch, &FileWatch::changed, this, &DesignSession::follow);
+}
+
+void DesignSession::open(const QStringList& paths)
+{
+    for (const QString& path : paths)
+        openOne(path);
+    m_looseParts.refresh();
+    watch();
+    Q_EMIT changed();
+}
+
+void DesignSession::openOne(const QString& path)
+{
+    const QFileInfo info(path);
+    const QString real = info.canonicalFilePath();
+    const QString shown = QDir::cleanPath(info.absoluteFilePath());
+    m_openProblems.erase(std::remove_if(m_openProblems.begin(), m_openProblems.end(),
+                                        [&shown](const Problem& p) { return p.file == shown; }),
+                         m_openProblems.end());
+    if (path.isEmpty() || real.isEmpty())
+        m_openProblems.push_back({shown, {}, tr("doesn't exist")});
+    else if (info.isDir())
+        openFolder(real);
+    else
+        openFile(real);
+}
+
+void DesignSession::openFolder(const QString& folder)
+{
+    const QDir dir(folder);
+    const QStringList designFiles =
+        dir.entryList({QStringLiteral("*.dsg")}, QDir::Files, QDir::Name | QDir::IgnoreCase);
+    for (const QString& name : designFiles)
+        m_store.add(QFileInfo(dir.filePath(name)).canonicalFilePath());
+    if (!designFiles.isEmpty())
+        return;
+    if (!dir.isReadable())
+        m_openProblems.push_back({folder, {}, tr("is a folder that may not be read")});
+    else if (LooseParts::meshFilesIn(folder).isEmpty())
+        m_openProblems.push_back({folder, {}, tr("holds neither a design file nor mesh files")});
+    else
+        m_looseParts.add(folder, true);
+}
+
+void DesignSession::openFile(const QString& file)
+{
+    if (isDesignFile(file))
+        m_store.add(file);
+    else if (MeshReader::isMeshFile(file))
+        m_looseParts.add(file, false);
+    else
+        m_openProblems.push_back(
+            {file, {}, tr("is neither a design file (dsg) nor a mesh file (stl, obj, ply)")});
+}
+
+void DesignSession::close()
+{
+    m_store.clear();
+    m_looseParts.clear();
+    m_openProblems.clear();
+    watch();
+    Q_EMIT changed();
+}
+
+Problems DesignSession::problems() const
+{
+    Problems all = m_openProblems;
+    const Problems ofDesigns = m_store.problems();
+    all.insert(all.end(), ofDesigns.begin(), ofDesigns.end());
+    return all;
+}
+
+const Design* DesignSession::findDesign(const GUIdentifier& objectId) const
+{
+    return m_store.find(objectId);
+}
+
+const Part* DesignSession::findLoosePart(const GUIdentifier& id) const
+{
+    const std::vector<Part>& parts = looseParts();
+    const auto found =
+        std::find_if(parts.begin(), parts.end(), [&id](const Part& part) { return part.id == id; });
+    return found == parts.end() ? nullptr : &*found;
+}
+
+QString DesignSession::name(const GUIdentifier& objectId) const
+{
+    if (const Design* design = findDesign(objectId))
+        return *design->findName(objectId);
+    const Part* part = findLoosePart(objectId);
+    return part == nullptr ? QString() : part->name;
+}
+
+QString DesignSession::geometryFile(const GUIdentifier& objectId) const
+{
+    if (const Design* design = findDesign(objectId)) {
+        const FileReference* reference = design->findGeometry(objectId);
+        return reference == nullptr ? QString() : reference->file;
+    }
+    const Part* part = findLoosePart(objectId);
+    return part == nullptr ? QString() : part->file;
+}
+
+FileState DesignSession::geometryState(const GUIdentifier& objectId) const
+{
+    if (const Design* design = findDesign(objectId)) {
+        const FileReference* reference = design->findGeometry(objectId);
+        return reference == nullptr ? FileState::Missing : reference->state;
+    }
+    const Part* part = findLoosePart(objectId);
+    return part == nullptr ? FileState::Missing : part->state;
+}
+
+QStringList DesignSession::meshFiles() const
+{
+    QStringList files;
+    for (const Design& design : designs()) {
+        for (const FileReference& file : design.files) {
+            if (file.kind == FileKind::Mesh && file.state == FileState::Exists)
+                files.append(file.file);
+        }
+    }
+    for (const Part& part : looseParts()) {
+        if (part.state == FileState::Exists)
+            files.append(part.file);
+    }
+    files.removeDuplicates();
+    return files;
+}
+
+bool DesignSession::canRename(const GUIdentifier& objectId) const
+{
+    return findDesign(objectId) != nullptr;
+}
+
+QString DesignSession::rename(const GUIdentifier& objectId, const QString& name)
+{
+    if (findLoosePart(objectId) != nullptr)
+        return tr("A mesh file that was opened by itself is named by its file.");
+    if (!canRename(objectId))
+        return tr("The object to be renamed is no longer there.");
+    const QString trimmed = name.trimmed();
+    const QString obstacle = nameObstacle(trimmed);
+    if (obstacle.isEmpty() && m_store.rename(objectId, trimmed))
+        Q_EMIT changed();
+    return obstacle;
+}
+
+bool DesignSession::isModified(const GUIdentifier& objectId) const
+{
+    return m_store.isModified(objectId);
+}
+
+bool DesignSession::hasConflict(const GUIdentifier& designId) const
+{
+    return m_store.hasConflict(designId);
+}
+
+Problems DesignSession::save(OnConflict onConflict)
+{
+    const Problems failures = m_store.save(onConflict == OnConflict::Overwrite);
+    watch();
+    Q_EMIT changed();
+    return failures;
+}
+
+void DesignSession::revert(const GUIdentifier& designId)
+{
+    m_store.revert(designId);
+    watch();
+    Q_EMIT changed();
+}
+
+void DesignSession::watch()
+{
+    QStringList files = m_store.designFiles();
+    for (const Design& design : designs()) {
+        for (const FileReference& reference : design.files) {
+            // What leads outside isn't looked at, not even to see whether it changes.
+            if (reference.state != FileState::Outside)
+                files.append(reference.file);
+        }
+    }
+    for (const Part& part : looseParts())
+        files.append(part.file);
+    m_watch.watch(files, m_looseParts.folders());
+}
+
+void DesignSession::follow(const QStringList& files)
+{
+    bool different = false;
+    std::vector<GUIdentifier> conflicts;
+    for (const QString& file : m_store.designFiles()) {
+        if (!files.contains(file))
+            continue;
+        const DesignStore::Outcome outcome = m_store.follow(file);
+        different |= outcome != DesignStore::Outcome::Nothing;
+        if (outcome == DesignStore::Outcome::Conflict)
+            conflicts.push_back(m_store.idOf(file));
+    }
+    different |= m_store.refreshStates();
+    different |= m_looseParts.refresh();
+    watch();
+    if (different)
+        Q_EMIT changed();
+    for (const QString& file : files)
+        Q_EMIT fileChanged(file);
+    for (const GUIdentifier& design : conflicts)
+        Q_EMIT conflictFound(design);
+}
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,328 @@
+#include "Workbench/Design/DesignStore.h"
+
+#include "Workbench/Design/DesignWriter.h"
+#include "Workbench/Design/FileReferences.h"
+
+#include <QtCore/QFileInfo>
+
+#include <algorithm>
+#include <utility>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+QString leafName(const QString& file)
+{
+    return QFileInfo(file).fileName();
+}
+
+bool contains(const std::vector<Design>& designs, const QString& file)
+{
+    return std::any_of(designs.begin(), designs.end(),
+                       [&file](const Design& design) { return design.file == file; });
+}
+
+void append(Problems& problems, const Problems& more)
+{
+    problems.insert(problems.end(), more.begin(), more.end());
+}
+
+} // namespace
+
+void DesignStore::add(const QString& file)
+{
+    if (!m_opened.contains(file))
+        m_opened.append(file);
+    arrange();
+}
+
+void DesignStore::clear()
+{
+    *this = DesignStore();
+}
+
+Problems DesignStore::problems() const
+{
+    Problems all;
+    for (const auto& [file, record] : m_records) {
+        append(all, record.file);
+        append(all, record.pieces);
+    }
+    append(all, m_references);
+    return all;
+}
+
+const Design* DesignStore::find(const GUIdentifier& objectId) const
+{
+    const auto found =
+        std::find_if(m_designs.begin(), m_designs.end(), [&objectId](const Design& design) {
+            return design.findName(objectId) != nullptr;
+        });
+    return found == m_designs.end() ? nullptr : &*found;
+}
+
+GUIdentifier DesignStore::idOf(const QString& file) const
+{
+    const auto found = std::find_if(m_designs.begin(), m_designs.end(),
+                                    [&file](const Design& design) { return design.file == file; });
+    return found == m_designs.end() ? GUIdentifier() : found->id;
+}
+
+QStringList DesignStore::designFiles() const
+{
+    QStringList files;
+    for (const auto& [file, record] : m_records)
+        files.append(file);
+    return files;
+}
+
+/** Puts the designs into order, reads those newly referred to, drops those that nobody wants. */
+void DesignStore::arrange()
+{
+    Pool pool;
+    for (Design& design : m_designs) {
+        const QString file = design.file;
+        pool.emplace(file, std::move(design));
+    }
+    m_designs.clear();
+    m_references.clear();
+    m_referred.clear();
+    for (const QString& file : std::as_const(m_opened)) {
+        QStringList path;
+        place(file, path, pool);
+    }
+    for (auto& [file, design] : pool) {
+        // No longer referred to, but with changes that only we have.
+        if (!contains(m_designs, file) && !m_records[file].savedNames.empty()) {
+            m_opened.append(file);
+            m_designs.push_back(std::move(design));
+        }
+    }
+    for (auto record = m_records.begin(); record != m_records.end();) {
+        const bool wanted = m_opened.contains(record->first) || m_referred.contains(record->first);
+        record = wanted ? std::next(record) : m_records.erase(record);
+    }
+}
+
+void DesignStore::place(const QString& file, QStringList& path, Pool& pool)
+{
+    if (contains(m_designs, file))
+        return;
+    readNew(file, pool);
+    const auto found = pool.find(file);
+    if (found == pool.end())
+        return;
+    const std::size_t index = m_designs.size();
+    m_designs.push_back(std::move(found->second));
+    pool.erase(found);
+    path.append(file);
+    for (std::size_t i = 0; i < m_designs[index].files.size(); ++i)
+        followReference(index, i, path, pool);
+    path.removeLast();
+}
+
+void DesignStore::followReference(std::size_t index, std::size_t reference, QStringList& path,
+                                  Pool& pool)
+{
+    // By index: placing a design moves the others.
+    FileReference& source = m_designs[index].files[reference];
+    source.design = {};
+    if (source.kind != FileKind::Design || source.state != FileState::Exists)
+        return;
+    const QString target = QFileInfo(source.file).canonicalFilePath();
+    m_referred.insert(target);
+    const QString where = tr("reference \"%1\"").arg(source.name);
+    if (path.contains(target)) {
+        QStringList circle = path.mid(path.indexOf(target)) + QStringList(target);
+        std::transform(circle.begin(), circle.end(), circle.begin(), leafName);
+        m_references.push_back(
+            {m_designs[index].file, where,
+             tr("closes a circle of designs: %1").arg(circle.join(QStringLiteral(" \u2192 ")))});
+        return;
+    }
+    if (path.size() >= deepestReference) {
+        m_references.push_back(
+            {m_designs[index].file, where,
+             tr("more than %1 designs refer to one another in a row").arg(deepestReference)});
+        return;
+    }
+    place(target, path, pool);
+    if (const Design* design = findByFile(target))
+        m_designs[index].files[reference].design = design->id;
+}
+
+void DesignStore::readNew(const QString& file, Pool& pool)
+{
+    if (pool.count(file) != 0)
+        return;
+    DesignReading reading = DesignReader(takenIds(file, pool)).read(file);
+    Record& record = m_records[file];
+    record = Record();
+    (reading.design ? record.pieces : record.file) = std::move(reading.problems);
+    record.content = reading.content;
+    if (reading.design)
+        pool.emplace(file, std::move(*reading.design));
+}
+
+DesignReader::TakenIds DesignStore::takenIds(const QString& exceptFile, const Pool& pool) const
+{
+    DesignReader::TakenIds taken;
+    const auto take = [&](const Design& design) {
+        if (design.file == exceptFile)
+            return;
+        for (const GUIdentifier& id : design.allIds())
+            taken.emplace(id, leafName(design.file));
+    };
+    std::for_each(m_designs.begin(), m_designs.end(), take);
+    for (const auto& [file, design] : pool)
+        take(design);
+    return taken;
+}
+
+DesignStore::Outcome DesignStore::follow(const QString& file)
+{
+    const auto found = m_records.find(file);
+    if (found == m_records.end())
+        return Outcome::Nothing;
+    Record& record = found->second;
+    Design* design = findByFile(file);
+    DesignReading reading = DesignReader(takenIds(file, {})).read(file);
+    if (design != nullptr && reading.content == record.content) {
+        const bool different = !record.file.empty() || record.conflict;
+        record.file.clear();
+        record.conflict = false;
+        return different ? Outcome::Changed : Outcome::Nothing;
+    }
+    if (design != nullptr && reading.design && !record.savedNames.empty()) {
+        record.file = {{file,
+                        {},
+                        tr("was changed by another program; it is shown as it was, "
+                           "with your unsaved changes")}};
+        return std::exchange(record.conflict, true) ? Outcome::Nothing : Outcome::Conflict;
+    }
+    if (design == nullptr || accept(record, *design, std::move(reading)))
+        arrange();
+    return Outcome::Changed;
+}
+
+/** Takes over what was read; false, with only the problems taken over, if that is no design. */
+bool DesignStore::accept(Record& record, Design& design, DesignReading reading)
+{
+    if (!reading.design) {
+        record.file = std::move(reading.problems);
+        record.file.push_back({design.file, {}, tr("is shown as it was read last")});
+        return false;
+    }
+    record = Record();
+    record.content = reading.content;
+    record.pieces = std::move(reading.problems);
+    design = std::move(*reading.design);
+    return true;
+}
+
+bool DesignStore::refreshStates()
+{
+    bool different = false;
+    for (Design& design : m_designs)
+        different |= refreshReferences(design);
+    if (different)
+        arrange();
+    return different;
+}
+
+bool DesignStore::rename(const GUIdentifier& objectId, const QString& name)
+{
+    for (Design& design : m_designs) {
+        QString* const present = design.findName(objectId);
+        if (present == nullptr)
+            continue;
+        if (*present == name)
+            return false;
+        std::map<GUIdentifier, QString>& saved = m_records[design.file].savedNames;
+        const auto first = saved.emplace(objectId, *present).first;
+        if (first->second == name)
+            saved.erase(first);
+        *present = name;
+        return true;
+    }
+    return false;
+}
+
+bool DesignStore::isModified() const
+{
+    return std::any_of(m_records.begin(), m_records.end(),
+                       [](const auto& entry) { return !entry.second.savedNames.empty(); });
+}
+
+bool DesignStore::isModified(const GUIdentifier& objectId) const
+{
+    const Record* record = recordOf(objectId);
+    return record != nullptr && record->savedNames.count(objectId) != 0;
+}
+
+bool DesignStore::hasConflict(const GUIdentifier& designId) const
+{
+    const Record* record = recordOf(designId);
+    return record != nullptr && record->conflict;
+}
+
+Problems DesignStore::save(bool overwriteConflicts)
+{
+    Problems failures;
+    for (Design& design : m_designs) {
+        Record& record = m_records[design.file];
+        if (record.savedNames.empty())
+            continue;
+        if (const auto failure = saveOne(design, record, overwriteConflicts))
+            failures.push_back(*failure);
+    }
+    return failures;
+}
+
+std::optional<Problem> DesignStore::saveOne(Design& design, Record& record, bool overwriteConflict)
+{
+    // The watch may not have told yet what another program wrote a moment ago.
+    const DesignReading present = DesignReader().read(design.file);
+    const bool differs = QFileInfo::exists(design.file) && present.content != record.content;
+    if (differs && !overwriteConflict) {
+        record.conflict = true;
+        return Problem{
+            design.file, {}, tr("was changed by another program and is not overwritten")};
+    }
+    if (const auto failure = DesignWriter::write(design))
+        return failure;
+    const QByteArray written = DesignWriter::toJson(design);
+    const Problems pieces =
+        DesignReader(takenIds(design.file, {})).parse(written, design.file).problems;
+    record = Record();
+    record.content = written;
+    record.pieces = pieces;
+    return std::nullopt;
+}
+
+void DesignStore::revert(const GUIdentifier& designId)
+{
+    const Design* found = find(designId);
+    if (found == nullptr)
+        return;
+    const QString file = found->file;
+    DesignReading reading = DesignReader(takenIds(file, {})).read(file);
+    if (accept(m_records[file], *findByFile(file), std::move(reading)))
+        arrange();
+}
+
+Design* DesignStore::findByFile(const QString& file)
+{
+    const auto found = std::find_if(m_designs.begin(), m_designs.end(),
+                                    [&file](const Design& design) { return design.file == file; });
+    return found == m_designs.end() ? nullptr : &*found;
+}
+
+const DesignStore::Record* DesignStore::recordOf(const GUIdentifier& objectId) const
+{
+    const Design* design = find(objectId);
+    return design == nullptr ? nullptr : &m_records.at(design->file);
+}
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "Workbench/Design/Design.h"
+#include "Workbench/Design/DesignReader.h"
+#include "Workbench/Design/Problem.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QSet>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace Zorvane::Workbench {
+
+/**
+ * The open designs and how each stands to its file: what was read, what is wrong with it, what was
+ * changed here. A design whose file cannot be read any more stays as it was read last.
+ */
+class DesignStore
+{
+    Q_DECLARE_TR_FUNCTIONS(Zorvane::Workbench::DesignStore)
+
+public:
+    /** What another program's change of a file led to. */
+    enum class Outcome
+    {
+        Nothing,
+        Changed,
+        Conflict
+    };
+
+    /** Designs may refer to designs as deep as this, against chains without end. */
+    static constexpr int deepestReference = 100;
+
+    /** Opens the design file at an absolute path, and those that it refers to. */
+    void add(const QString& file);
+    void clear();
+
+    const std::vector<Design>& designs() const { return m_designs; }
+    Problems problems() const;
+    const Design* find(const GUIdentifier& objectId) const;
+    /** Of the design read from the file; null if none is. */
+    GUIdentifier idOf(const QString& file) const;
+    /** Every file that a design is or wants to be read from. */
+    QStringList designFiles() const;
+
+    /** Reads the design's file again if it holds something new and nothing unsaved would go. */
+    Outcome follow(const QString& file);
+    /** Looks for all files referred to; true if anything is different. */
+    bool refreshStates();
+
+    /** The object must belong to a design. True if that changes the name. */
+    bool rename(const GUIdentifier& objectId, const QString& name);
+    bool isModified() const;
+    bool isModified(const GUIdentifier& objectId) const;
+    bool hasConflict(const GUIdentifier& designId) const;
+    Problems save(bool overwriteConflicts);
+    /** Drops what was changed here, if the file can be read; else tells why not by a problem. */
+    void revert(const GUIdentifier& designId);
+
+private:
+    /** How a design stands to its file. */
+    struct Record
+    {
+        /** What the design was read from or saved as. */
+        QByteArray content;
+        /** Found when the design was read. */
+        Problems pieces;
+        /** Why the file at present is not what is shown. */
+        Problems file;
+        bool conflict = false;
+        /** Names as in the file, of the objects that have another one now. */
+        std::map<GUIdentifier, QString> savedNames;
+    };
+    using Pool = std::map<QString, Design>;
+
+    void arrange();
+    void place(const QString& file, QStringList& path, Pool& pool);
+    void followReference(std::size_t index, std::size_t reference, QStringList& path, Pool& pool);
+    void readNew(const QString& file, Pool& pool);
+    DesignReader::TakenIds takenIds(const QString& exceptFile, const Pool& pool) const;
+    bool accept(Record& record, Design& design, DesignReading reading);
+    std::optional<Problem> saveOne(Design& design, Record& record, bool overwriteConflict);
+    Design* findByFile(const QString& file);
+    const Record* recordOf(const GUIdentifier& objectId) const;
+
+    QStringList m_opened;
+    std::vector<Design> m_designs;
+    std::map<QString, Record> m_records;
+    /** What is wrong with the way designs refer to one another. */
+    Problems m_references;
+    QSet<QString> m_referred;
+};
+
+} // namespace Zorvane::Workbench
