@@ -2,7 +2,9 @@
 
 #include <boost/signals2/signal.hpp>
 
+#include <cstddef>
 #include <memory>
+#include <utility>
 
 namespace Zorvane::Signals {
 
@@ -22,17 +24,32 @@ using Connection = boost::signals2::connection;
 /** A subscription that ends with the object that holds it. */
 using ScopedConnection = boost::signals2::scoped_connection;
 
-/**
- * What is called when a signal fires. `track(object)` ties the subscription to the life of an
- * object held by shared pointer: once that is gone, the slot is never called again.
- */
+/** What is called when a signal fires: made from anything that can be called like it. */
 template <typename Signature>
-using Slot = typename boost::signals2::signal<Signature>::slot_type;
+class Slot : public boost::signals2::signal<Signature>::slot_type
+{
+public:
+    using boost::signals2::signal<Signature>::slot_type::slot_type;
+
+    /**
+     * Ties the subscription to the life of the object: while the slot runs, the object is kept;
+     * once it is gone, the slot is never called again.
+     */
+    template <typename Object>
+    Slot& track(const std::shared_ptr<Object>& object)
+    {
+        this->track_foreign(object);
+        return *this;
+    }
+};
 
 /**
  * Tells any number of slots, synchronously and on the caller's thread, in the order of connection.
- * A slot may connect or disconnect slots, itself included, while the signal fires.
- * Not supported: copying a signal.
+ * A slot may connect or disconnect slots, itself included, while the signal fires: one that is
+ * disconnected is not called any more, one that is connected is called from the next time on.
+ * An exception of a slot reaches whoever fired; the slots after it are not called that time.
+ *
+ * Not supported: copying a signal, values returned by slots.
  */
 template <typename Signature>
 class Signal

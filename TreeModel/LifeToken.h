@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+namespace Zorvane::GenericTreeViewModelHandling {
+
+/**
+ * A member of a class that gives callbacks away: guarded by it, a callback does nothing once the
+ * object is gone. A copy of the object has its own life, so tokens are not copied with it.
+ */
+class LifeToken
+{
+public:
+    LifeToken() = default;
+    LifeToken(const LifeToken&)
+        : LifeToken()
+    {}
+    LifeToken& operator=(const LifeToken&) { return *this; }
+
+    std::function<void()> guarded(std::function<void()> callback) const
+    {
+        return [alive = std::weak_ptr<void>(m_token), callback = std::move(callback)] {
+            if (!alive.expired())
+                callback();
+        };
+    }
+
+private:
+    std::shared_ptr<void> m_token = std::make_shared<char>();
+};
+
+} // namespace Zorvane::GenericTreeViewModelHandling
