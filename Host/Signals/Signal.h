@@ -46,7 +46,8 @@ public:
 /**
  * Tells any number of slots, synchronously and on the caller's thread, in the order of connection.
  * A slot may connect or disconnect slots, itself included, while the signal fires: one that is
- * disconnected is not called any more, one that is connected is called from the next time on.
+ * disconnected is not called any more, one that is connected is called from the next time on. A
+ * slot may also let go of the signal, which disconnects the rest.
  * An exception of a slot reaches whoever fired; the slots after it are not called that time.
  *
  * Not supported: copying a signal, values returned by slots.
@@ -55,25 +56,35 @@ template <typename Signature>
 class Signal
 {
 public:
+    Signal() = default;
+    Signal(const Signal&) = delete;
+    Signal& operator=(const Signal&) = delete;
+    /** Ends all subscriptions. */
+    ~Signal() { m_signal->disconnect_all_slots(); }
+
     Connection connect(const Slot<Signature>& slot,
                        ConnectPosition position = ConnectPosition::AtBack)
     {
         const auto place = position == ConnectPosition::AtFront ? boost::signals2::at_front
                                                                 : boost::signals2::at_back;
-        return m_signal.connect(slot, place);
+        return m_signal->connect(slot, place);
     }
 
     template <typename... Arguments>
     void operator()(Arguments&&... arguments) const
     {
-        m_signal(std::forward<Arguments>(arguments)...);
+        // Kept until all slots have been called, should one of them let go of this signal.
+        const auto signal = m_signal;
+        (*signal)(std::forward<Arguments>(arguments)...);
     }
 
-    bool empty() const { return m_signal.empty(); }
-    std::size_t slotCount() const { return m_signal.num_slots(); }
+    bool empty() const { return m_signal->empty(); }
+    std::size_t slotCount() const { return m_signal->num_slots(); }
 
 private:
-    boost::signals2::signal<Signature> m_signal;
+    using Implementation = boost::signals2::signal<Signature>;
+
+    const std::shared_ptr<Implementation> m_signal = std::make_shared<Implementation>();
 };
 
 } // namespace Zorvane::Signals
