@@ -13,6 +13,11 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 
+# Headers are included by folder, and such folder names are too plain for a common include folder.
+# The host's lie apart, since another host may take their place.
+set(ZorvaneHost_INSTALL_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR}/zorvane-host)
+set(ZorvaneUiTools_INSTALL_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR}/zorvane-uitools)
+
 find_program(ZORVANE_CCACHE ccache)
 if(ZORVANE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${ZORVANE_CCACHE})
@@ -48,6 +53,7 @@ function(zorvane_add_subsystem name)
     target_link_libraries(${target} PUBLIC Zorvane::Host ${arg_USES}
         PRIVATE $<BUILD_INTERFACE:zorvane_settings> ${arg_PRIVATELY})
     set_property(GLOBAL APPEND PROPERTY ZORVANE_SUBSYSTEMS ${target})
+    set_property(GLOBAL APPEND PROPERTY ZORVANE_SUBSYSTEM_FOLDERS ${CMAKE_CURRENT_SOURCE_DIR})
 endfunction()
 
 # The one shared library made of all subsystem folders.
@@ -60,8 +66,10 @@ function(zorvane_link_subsystems library)
     add_library(${library} SHARED ${objects})
     add_library(Zorvane::UiTools ALIAS ${library})
     set_target_properties(${library} PROPERTIES
-        VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} LINKER_LANGUAGE CXX)
-    target_include_directories(${library} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+        VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} EXPORT_NAME UiTools
+        LINKER_LANGUAGE CXX AUTOMOC OFF INSTALL_RPATH "$ORIGIN")
+    target_include_directories(${library} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+        $<INSTALL_INTERFACE:${${library}_INSTALL_INCLUDEDIR}>)
     target_link_libraries(${library} PUBLIC Zorvane::Host)
     foreach(subsystem IN LISTS subsystems)
         get_target_property(private_libraries ${subsystem} LINK_LIBRARIES)
@@ -69,3 +77,11 @@ function(zorvane_link_subsystems library)
         target_link_libraries(${library} PRIVATE ${private_libraries})
     endforeach()
 endfunction()
+
+# A host that comes as a package brings headers of the same names as those of Host/, which every
+# target would find in the source folder first. A folder's own include path stands before that.
+macro(zorvane_prefer_headers_of host)
+    get_target_property(host_headers ${host} INTERFACE_INCLUDE_DIRECTORIES)
+    set_target_properties(${host} PROPERTIES INTERFACE_INCLUDE_DIRECTORIES "")
+    include_directories(BEFORE ${host_headers})
+endmacro()

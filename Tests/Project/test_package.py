@@ -1,0 +1,59 @@
+"""Installs the library and builds on what was installed, as other projects do.
+
+Takes the build folder to install from, and a folder for what comes of it.
+"""
+
+import pathlib
+import shutil
+import subprocess
+import sys
+import unittest
+
+SOURCES = pathlib.Path(__file__).resolve().parents[2]
+BUILD, WORK = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
+PREFIX = WORK / "prefix"
+
+
+def run(*command):
+    result = subprocess.run(list(map(str, command)), text=True, stdout=subprocess.PIPE,
+                            stderr=subprocess.STDOUT, check=False)
+    if result.returncode != 0:
+        raise AssertionError(f"{command[:3]} ended with {result.returncode}:\n{result.stdout}")
+    return result.stdout
+
+
+def configure(source, name, *options):
+    run("cmake", "-S", source, "-B", WORK / name, "-G", "Ninja",
+        f"-DCMAKE_PREFIX_PATH={PREFIX}", *options)
+    return WORK / name
+
+
+class PackageTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        shutil.rmtree(WORK, ignore_errors=True)
+        run("cmake", "--install", BUILD, "--prefix", PREFIX)
+
+    def test_another_project_builds_on_the_package(self):
+        build = configure(SOURCES / "Tests/Project/Consumer", "consumer")
+        run("cmake", "--build", build)
+        self.assertEqual(run(build / "consumer"), "Part 7 1\n")
+
+    def test_no_path_of_the_sources_is_installed(self):
+        for path in PREFIX.rglob("*.cmake"):
+            with self.subTest(path=path):
+                self.assertNotIn(str(SOURCES), path.read_text().replace(str(PREFIX), ""))
+
+    def test_the_library_builds_on_a_host_from_a_package(self):
+        build = configure(SOURCES, "library", "-DZORVANE_HOST_FROM_PACKAGE=ON",
+                          "-DZORVANE_BUILD_TESTS=OFF", "-DZORVANE_BUILD_WORKBENCH=OFF")
+        item = "TreeModel/CMakeFiles/ZorvaneUiTools_TreeModel.dir/ModelItem.cpp.o"
+        run("cmake", "--build", build, "--target", item)
+        headers = run("ninja", "-C", build, "-t", "deps", item).split()
+        of_host = {header for header in headers if "/Host/" in header}
+        self.assertIn(f"{PREFIX}/include/zorvane-host/Host/Identifiers/IDCombiner.h", of_host)
+        self.assertEqual([name for name in of_host if name.startswith(f"{SOURCES}/Host/")], [])
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
