@@ -38,7 +38,6 @@ void IdentifierQMetaClassTest::holdsTheIdentifier()
 {
     const IdentifierQMetaClass wrapper(Identifier(12, 3));
     QVERIFY(wrapper.getIdentifier() == Identifier(12, 3));
-    QCOMPARE(&wrapper.getIdentifier(), &wrapper.getIdentifier());
 }
 
 void IdentifierQMetaClassTest::copiesAreEqual()
@@ -115,7 +114,13 @@ void IdentifierQMetaClassTest::variantsCompareOnceRegistered()
     const QVariant two = QVariant::fromValue(IdentifierQMetaClass(Identifier(2)));
     QVERIFY(one == QVariant::fromValue(IdentifierQMetaClass(Identifier(1))));
     QVERIFY(one != two);
-    QVERIFY(one < two);
+    const auto less = [](const QVariant& a, const QVariant& b) {
+        int order = 0;
+        QMetaType::compare(a.constData(), b.constData(), a.userType(), &order);
+        return order < 0;
+    };
+    QVERIFY(less(one, two));
+    QVERIFY(!less(two, one));
 }
 
 ZORVANE_TEST_MAIN(IdentifierQMetaClassTest)
