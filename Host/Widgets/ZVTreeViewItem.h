@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace Zorvane {
 
@@ -57,14 +58,20 @@ public:
     /** Like `setData(0, Qt::DisplayRole, ...)`, told in UTF-8; allocates only when it differs. */
     void setText(const std::string& text);
     /** The typed id of column 0 when it is stored under this role, else null. */
-    const IDCombiner* id(int role) const { return role == m_idRole ? &m_id : nullptr; }
+    const IDCombiner* id(int role) const
+    {
+        return role == m_idRole && role != NoRole ? &m_id : nullptr;
+    }
     /** Like `setData(0, role, QVariant::fromValue(id))`. */
     void setId(int role, const IDCombiner& id);
 
     ZVTreeViewItem* parent() const;
     /** The model whose tree this row is in, else null. */
     ZVTreeViewModel* model() const;
-    /** The position in the parent, found without looking at the siblings; -1 without a parent. */
+    /**
+     * The position in the parent, found without looking at the siblings (inside a batch, below a
+     * row whose children have changed in it, they are looked at); -1 without a parent.
+     */
     int row() const;
     int childCount() const;
     /** Null when the index is out of range. */
@@ -94,14 +101,42 @@ private:
         QVariant value;
     };
 
+    /** What a batch has to remember of a row; none of it is set outside of one. */
+    enum State : quint16
+    {
+        IsRoot = 1,    // the invisible row of a model
+        Fresh = 2,     // inserted, with its subtree, and not announced yet
+        Taken = 4,     // taken out, but views still see it under `m_parent`
+        Relocated = 8, // now under `m_parent`, but views still see it elsewhere
+        Leaving = 16   // about to be announced gone
+    };
+    static constexpr int NoRole = -1;
+
+    bool hasState(int states) const { return (m_state & states) != 0; }
+    void addState(State state) { m_state = static_cast<quint16>(m_state | state); }
+    void dropState(State state) { m_state = static_cast<quint16>(m_state & ~state); }
+
+    ZVTreeViewItemChildren& children();
+    bool storeText(const QVariant& value);
+    bool storeId(int role, const QVariant& value);
+    bool storeExtra(int column, int role, const QVariant& value);
+    const QVariant* findExtra(int column, int role) const;
+    void announceChange(int column, const QVector<int>& roles);
+    bool canAdopt(const ZVTreeViewItem* child) const;
+    void adopt(ZVTreeViewItem* child, bool asShownRow);
+    void orphan(ZVTreeViewItem* child, bool wasShownRow);
+    void deleteSubtree();
+
     IDCombiner m_id;
+    /** The parent; of a `Taken` row the one it had. */
     ZVTreeViewItem* m_parent = nullptr;
     std::unique_ptr<ZVTreeViewItemChildren> m_children;
     std::unique_ptr<std::vector<ExtraValue>> m_extra;
     QString m_text;
+    /** The number in the parent's shown list; a claim that the list checks. */
     int m_row = -1;
     int m_idRole = NoRole;
-    quint16 m_flags;
+    quint16 m_flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     quint16 m_state = 0;
 };
 

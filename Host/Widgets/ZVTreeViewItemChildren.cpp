@@ -1,0 +1,247 @@
+#include "Host/Widgets/ZVTreeViewItemChildren.h"
+
+#include <algorithm>
+
+namespace Zorvane {
+
+namespace {
+
+constexpr std::size_t BitsPerWord = 64;
+
+int bitCount(std::uint64_t word)
+{
+    return static_cast<int>(qPopulationCount(quint64(word)));
+}
+
+std::size_t lowestBit(std::uint64_t word)
+{
+    return qCountTrailingZeroBits(quint64(word));
+}
+
+std::size_t nthBit(std::uint64_t word, std::size_t n)
+{
+    while (n-- > 0)
+        word &= word - 1;
+    return lowestBit(word);
+}
+
+std::size_t position(int index)
+{
+    return static_cast<std::size_t>(index);
+}
+
+ZVTreeViewItemChildren::Rows::const_iterator iteratorAt(const ZVTreeViewItemChildren::Rows& rows,
+                                                        std::size_t index)
+{
+    return rows.begin() + static_cast<std::ptrdiff_t>(index);
+}
+
+} // namespace
+
+ZVTreeViewItemChildren::Waiting::Waiting(std::size_t count)
+    : m_words((count + BitsPerWord - 1) / BitsPerWord, ~std::uint64_t(0))
+    , m_blockCounts((m_words.size() + WordsPerBlock - 1) / WordsPerBlock,
+                    std::uint32_t(WordsPerBlock * BitsPerWord))
+    , m_count(count)
+{
+    if (count % BitsPerWord != 0)
+        m_words.back() >>= BitsPerWord - count % BitsPerWord;
+    if (count % (WordsPerBlock * BitsPerWord) != 0)
+        m_blockCounts.back() = std::uint32_t(count % (WordsPerBlock * BitsPerWord));
+}
+
+bool ZVTreeViewItemChildren::Waiting::contains(std::size_t slot) const
+{
+    return (m_words[slot / BitsPerWord] >> (slot % BitsPerWord)) & 1U;
+}
+
+void ZVTreeViewItemChildren::Waiting::remove(std::size_t slot)
+{
+    const std::size_t block = slot / BitsPerWord / WordsPerBlock;
+    m_words[slot / BitsPerWord] &= ~(std::uint64_t(1) << (slot % BitsPerWord));
+    --m_blockCounts[block];
+    --m_count;
+    if (block < m_cursorBlock)
+        --m_waitingBeforeCursor;
+}
+
+std::size_t ZVTreeViewItemChildren::Waiting::first()
+{
+    while (m_words[m_firstWord] == 0)
+        ++m_firstWord;
+    return m_firstWord * BitsPerWord + lowestBit(m_words[m_firstWord]);
+}
+
+std::size_t ZVTreeViewItemChildren::Waiting::nth(std::size_t n) const
+{
+    // From the block asked for last: callers mostly ask for neighbours, or for the far end.
+    while (n < m_waitingBeforeCursor)
+        m_waitingBeforeCursor -= m_blockCounts[--m_cursorBlock];
+    while (n >= m_waitingBeforeCursor + m_blockCounts[m_cursorBlock])
+        m_waitingBeforeCursor += m_blockCounts[m_cursorBlock++];
+    std::size_t left = n - m_waitingBeforeCursor;
+    std::size_t word = m_cursorBlock * WordsPerBlock;
+    while (left >= position(bitCount(m_words[word])))
+        left -= position(bitCount(m_words[word++]));
+    return word * BitsPerWord + nthBit(m_words[word], left);
+}
+
+int ZVTreeViewItemChildren::count() const
+{
+    const std::size_t size =
+        m_stage ? m_stage->placed.size() + m_stage->waiting.count() : m_rows.size();
+    return static_cast<int>(size);
+}
+
+ZVTreeViewItem* ZVTreeViewItemChildren::at(int index) const
+{
+    if (!m_stage)
+        return m_rows[position(index)];
+    const std::size_t placed = m_stage->placed.size();
+    if (position(index) < placed)
+        return m_stage->placed[position(index)];
+    return m_stage->shown[m_stage->waiting.nth(position(index) - placed)];
+}
+
+int ZVTreeViewItemChildren::rowIn(const Rows& rows, const ZVTreeViewItem* child,
+                                  std::size_t& numbered)
+{
+    const auto claimed = static_cast<std::size_t>(child->m_row);
+    if (claimed < rows.size() && rows[claimed] == child)
+        return child->m_row;
+    for (; numbered < rows.size(); ++numbered)
+        rows[numbered]->m_row = static_cast<int>(numbered);
+    const auto renumbered = static_cast<std::size_t>(child->m_row);
+    if (renumbered < rows.size() && rows[renumbered] == child)
+        return child->m_row;
+    // Moved below a new row inside a batch: the number it carries is the one it has there.
+    return static_cast<int>(std::find(rows.begin(), rows.end(), child) - rows.begin());
+}
+
+int ZVTreeViewItemChildren::rowOf(const ZVTreeViewItem* child) const
+{
+    if (!m_stage)
+        return rowIn(m_rows, child, m_numbered);
+    // The row's number is the shown one, so its present position has to be looked for.
+    const Rows& placed = m_stage->placed;
+    const auto found = std::find(placed.begin(), placed.end(), child);
+    if (found != placed.end())
+        return static_cast<int>(found - placed.begin());
+    int row = static_cast<int>(placed.size());
+    for (std::size_t slot = 0; m_stage->shown[slot] != child; ++slot)
+        row += m_stage->waiting.contains(slot) ? 1 : 0;
+    return row;
+}
+
+int ZVTreeViewItemChildren::shownRowOf(const ZVTreeViewItem* child) const
+{
+    return rowIn(shown(), child, m_numbered);
+}
+
+void ZVTreeViewItemChildren::insert(int index, ZVTreeViewItem* child)
+{
+    if (!m_stage) {
+        m_rows.insert(iteratorAt(m_rows, position(index)), child);
+        child->m_row = index;
+        m_numbered = std::min(m_numbered, position(index));
+        if (position(index) + 1 == m_rows.size() && m_numbered == position(index))
+            ++m_numbered;
+        return;
+    }
+    Rows& placed = m_stage->placed;
+    m_stage->dirty = true;
+    if (position(index) > placed.size())
+        placeWaiting(position(index) - placed.size());
+    placed.insert(iteratorAt(placed, position(index)), child);
+}
+
+void ZVTreeViewItemChildren::append(const QVector<ZVTreeViewItem*>& children)
+{
+    if (m_stage) {
+        m_stage->dirty = true;
+        placeWaiting(m_stage->waiting.count());
+        m_stage->placed.insert(m_stage->placed.end(), children.begin(), children.end());
+        return;
+    }
+    m_rows.reserve(m_rows.size() + position(children.size()));
+    for (ZVTreeViewItem* child : children) {
+        child->m_row = static_cast<int>(m_rows.size());
+        if (m_numbered == m_rows.size())
+            ++m_numbered;
+        m_rows.push_back(child);
+    }
+}
+
+ZVTreeViewItem* ZVTreeViewItemChildren::take(int index)
+{
+    Rows& rows = m_stage ? m_stage->placed : m_rows;
+    if (m_stage) {
+        m_stage->dirty = true;
+        if (position(index) >= rows.size()) {
+            const std::size_t slot = m_stage->waiting.nth(position(index) - rows.size());
+            m_stage->waiting.remove(slot);
+            return m_stage->shown[slot];
+        }
+    } else {
+        m_numbered = std::min(m_numbered, position(index));
+    }
+    ZVTreeViewItem* child = rows[position(index)];
+    rows.erase(iteratorAt(rows, position(index)));
+    return child;
+}
+
+void ZVTreeViewItemChildren::placeWaiting(std::size_t count)
+{
+    Waiting& waiting = m_stage->waiting;
+    for (; count > 0; --count) {
+        const std::size_t slot = waiting.first();
+        waiting.remove(slot);
+        m_stage->placed.push_back(m_stage->shown[slot]);
+    }
+}
+
+void ZVTreeViewItemChildren::stage()
+{
+    for (; m_numbered < m_rows.size(); ++m_numbered)
+        m_rows[m_numbered]->m_row = static_cast<int>(m_numbered);
+    m_stage = std::make_unique<Stage>(std::move(m_rows));
+    m_rows.clear();
+}
+
+const ZVTreeViewItemChildren::Rows& ZVTreeViewItemChildren::arranged()
+{
+    m_stage->placed.reserve(position(count()));
+    placeWaiting(m_stage->waiting.count());
+    m_stage->dirty = false;
+    return m_stage->placed;
+}
+
+void ZVTreeViewItemChildren::numberShown(std::size_t first)
+{
+    const Rows& rows = m_stage->shown;
+    for (std::size_t row = first; row < rows.size(); ++row)
+        rows[row]->m_row = static_cast<int>(row);
+    m_numbered = rows.size();
+}
+
+void ZVTreeViewItemChildren::unstage()
+{
+    m_rows = std::move(m_stage->shown);
+    m_stage.reset();
+}
+
+ZVTreeViewItemChildren::Rows ZVTreeViewItemChildren::release()
+{
+    Rows rows;
+    if (m_stage) {
+        arranged();
+        rows = std::move(m_stage->placed);
+        m_stage.reset();
+    }
+    rows.insert(rows.end(), m_rows.begin(), m_rows.end());
+    m_rows.clear();
+    m_numbered = 0;
+    return rows;
+}
+
+} // namespace Zorvane

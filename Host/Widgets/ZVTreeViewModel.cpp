@@ -1,0 +1,150 @@
+#include "Host/Widgets/ZVTreeViewModel.h"
+
+#include "Host/Widgets/ZVTreeViewModelPrivate.h"
+
+#include <algorithm>
+
+namespace Zorvane {
+
+namespace {
+
+ZVTreeViewItem* rowOf(const QModelIndex& index)
+{
+    return static_cast<ZVTreeViewItem*>(index.internalPointer());
+}
+
+} // namespace
+
+ZVTreeViewModel::ZVTreeViewModel(QObject* parent)
+    : QAbstractItemModel(parent)
+    , d(std::make_unique<ZVTreeViewModelPrivate>(this))
+{
+}
+
+ZVTreeViewModel::~ZVTreeViewModel() = default;
+
+ZVTreeViewItem* ZVTreeViewModel::rootItem() const
+{
+    return &d->root;
+}
+
+ZVTreeViewItem* ZVTreeViewModel::itemFromIndex(const QModelIndex& index) const
+{
+    return index.isValid() && index.model() == this ? rowOf(index) : rootItem();
+}
+
+QModelIndex ZVTreeViewModel::indexFromItem(const ZVTreeViewItem* item, int column) const
+{
+    if (!item || column < 0 || column >= columnCount()
+        || ZVTreeViewModelPrivate::showing(item) != d.get())
+        return {};
+    return d->shownIndex(item, column);
+}
+
+void ZVTreeViewModel::setColumnCount(int count)
+{
+    const int wanted = std::max(count, 1);
+    if (wanted == d->headers.size())
+        return;
+    // The reset: the columns of every row change at once, for which there is no announcement.
+    beginResetModel();
+    d->headers.resize(wanted);
+    endResetModel();
+}
+
+void ZVTreeViewModel::setHorizontalHeaderLabels(const QStringList& labels)
+{
+    setColumnCount(labels.size());
+    for (int section = 0; section < labels.size(); ++section)
+        setHeaderData(section, Qt::Horizontal, labels.at(section));
+}
+
+QModelIndex ZVTreeViewModel::index(int row, int column, const QModelIndex& parent) const
+{
+    const ZVTreeViewItem* parentRow = itemFromIndex(parent);
+    if (row < 0 || column < 0 || column >= d->headers.size() || parent.column() > 0
+        || !parentRow->m_children || row >= parentRow->m_children->shownCount())
+        return {};
+    return createIndex(row, column, parentRow->m_children->shownAt(row));
+}
+
+QModelIndex ZVTreeViewModel::parent(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return {};
+    return d->shownIndex(ZVTreeViewModelPrivate::shownParent(rowOf(index)));
+}
+
+QModelIndex ZVTreeViewModel::sibling(int row, int column, const QModelIndex& index) const
+{
+    if (index.isValid() && row == index.row() && column >= 0 && column < d->headers.size())
+        return createIndex(row, column, rowOf(index));
+    return QAbstractItemModel::sibling(row, column, index);
+}
+
+int ZVTreeViewModel::rowCount(const QModelIndex& parent) const
+{
+    const ZVTreeViewItem* row = itemFromIndex(parent);
+    return parent.column() > 0 || !row->m_children ? 0 : row->m_children->shownCount();
+}
+
+int ZVTreeViewModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.column() > 0 ? 0 : d->headers.size();
+}
+
+bool ZVTreeViewModel::hasChildren(const QModelIndex& parent) const
+{
+    return rowCount(parent) > 0;
+}
+
+QVariant ZVTreeViewModel::data(const QModelIndex& index, int role) const
+{
+    return index.isValid() ? rowOf(index)->data(index.column(), role) : QVariant();
+}
+
+bool ZVTreeViewModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (!index.isValid() || index.model() != this
+        || !rowOf(index)->setData(index.column(), role, value))
+        return false;
+    Q_EMIT edited(index, value, role);
+    return true;
+}
+
+Qt::ItemFlags ZVTreeViewModel::flags(const QModelIndex& index) const
+{
+    return index.isValid() ? rowOf(index)->flags() : Qt::ItemFlags(Qt::NoItemFlags);
+}
+
+QVariant ZVTreeViewModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= d->headers.size())
+        return QAbstractItemModel::headerData(section, orientation, role);
+    const QHash<int, QVariant>& values = d->headers.at(section);
+    const int stored = role == Qt::EditRole ? int(Qt::DisplayRole) : role;
+    if (stored == Qt::DisplayRole && !values.contains(stored))
+        return QAbstractItemModel::headerData(section, orientation, role);
+    return values.value(stored);
+}
+
+bool ZVTreeViewModel::setHeaderData(int section, Qt::Orientation orientation,
+                                    const QVariant& value, int role)
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= d->headers.size())
+        return false;
+    const int stored = role == Qt::EditRole ? int(Qt::DisplayRole) : role;
+    if (d->headers.at(section).value(stored) == value)
+        return true;
+    d->headers[section].insert(stored, value);
+    Q_EMIT headerDataChanged(orientation, section, section);
+    return true;
+}
+
+bool ZVTreeViewModel::isLeaving(const QModelIndex& index) const
+{
+    return index.isValid() && index.model() == this
+           && !ZVTreeViewModelPrivate::isAttached(rowOf(index));
+}
+
+} // namespace Zorvane

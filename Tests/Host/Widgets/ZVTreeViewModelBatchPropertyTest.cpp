@@ -1,0 +1,363 @@
+#include "Host/Widgets/ZVTreeViewModelBatch.h"
+#include "Tests/Support/ModelMirror.h"
+#include "Tests/Support/TestCase.h"
+
+#include <QtCore/QSortFilterProxyModel>
+#include <QtWidgets/QTreeView>
+
+#include <KDescendantsProxyModel>
+#include <rapidcheck.h>
+
+#include <map>
+#include <random>
+#include <vector>
+
+using namespace Zorvane;
+
+namespace {
+
+/** One random change; what it does depends on the tree that it meets. */
+struct Step
+{
+    int kind;
+    unsigned first;
+    unsigned second;
+};
+
+void showValue(const Step& step, std::ostream& out)
+{
+    out << "{" << step.kind << ", " << step.first << ", " << step.second << "}";
+}
+
+enum Kind
+{
+    InsertNew,
+    InsertTree,
+    MoveWithin,
+    MoveAcross,
+    Delete,
+    DeleteDirectly,
+    Rename,
+    SetOther,
+    TakeAndKeep,
+    PutBack,
+    CloseBatch,
+    NestBatch,
+    KindCount
+};
+
+class TestModel : public ZVTreeViewModel
+{
+public:
+    explicit TestModel(int columns) { setColumnCount(columns); }
+};
+
+constexpr int SerialRole = Qt::UserRole;
+
+/** Rows are told apart by number: the address of a deleted one may come back. */
+std::uint64_t serialOf(const ZVTreeViewItem* row)
+{
+    return row->id(SerialRole)->getIdentifier().getValue();
+}
+
+/** Runs random changes in batches with everything attached that watches a tree. */
+class Playground
+{
+public:
+    explicit Playground(int columns)
+        : model(columns)
+        , tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest)
+        , mirror(&model)
+    {
+        plain.setSourceModel(&model);
+        sorted.setSourceModel(&model);
+        sorted.sort(0);
+        descendants.setSourceModel(&model);
+        view.setModel(&model);
+        proxyView.setModel(&sorted);
+    }
+
+    ~Playground()
+    {
+        for (ZVTreeViewItem* row : kept)
+            delete row;
+    }
+
+    ZVTreeViewItem* newRow()
+    {
+        auto row = std::make_unique<ZVTreeViewItem>();
+        row->setText(std::to_string(names() % 50));
+        row->setId(SerialRole, Identifier(++lastSerial));
+        return row.release();
+    }
+
+    std::vector<ZVTreeViewItem*> rowsBelow(ZVTreeViewItem* parent) const
+    {
+        std::vector<ZVTreeViewItem*> rows;
+        for (int i = 0; i < parent->childCount(); ++i) {
+            rows.push_back(parent->child(i));
+            const auto below = rowsBelow(parent->child(i));
+            rows.insert(rows.end(), below.begin(), below.end());
+        }
+        return rows;
+    }
+
+    ZVTreeViewItem* pick(unsigned number) const
+    {
+        const auto rows = rowsBelow(model.rootItem());
+        return rows.empty() ? nullptr : rows[number % rows.size()];
+    }
+
+    ZVTreeViewItem* pickParent(unsigned number) const
+    {
+        ZVTreeViewItem* row = number % 3 == 0 ? nullptr : pick(number / 3);
+        return row ? row : model.rootItem();
+    }
+
+    static int position(const ZVTreeViewItem* parent, unsigned number)
+    {
+        return int(number % unsigned(parent->childCount() + 1));
+    }
+
+    void apply(const Step& step)
+    {
+        ZVTreeViewItem* parent = pickParent(step.first);
+        ZVTreeViewItem* row = pick(step.first);
+        switch (step.kind) {
+        case InsertNew:
+            parent->insertChild(position(parent, step.second), newRow());
+            break;
+        case InsertTree:
+            insertTree(parent, step.second);
+            break;
+        case MoveWithin:
+            if (row)
+                moveTo(row, row->parent(), step.second);
+            break;
+        case MoveAcross:
+            if (row)
+                moveTo(row, pickParent(step.second), step.second);
+            break;
+        case Delete:
+            if (row)
+                QVERIFY(row->parent()->deleteChild(row->row()));
+            break;
+        case DeleteDirectly:
+            forgetPlacesOfKept();
+            delete row;
+            break;
+        case Rename:
+            if (row)
+                row->setText(std::to_string(step.second % 50));
+            break;
+        case SetOther:
+            if (row)
+                row->setData(int(step.second % 3), Qt::ToolTipRole, int(step.second % 5));
+            break;
+        case TakeAndKeep:
+            if (row)
+                kept.push_back(row->parent()->takeChild(row->row()));
+            break;
+        case PutBack:
+            if (!kept.empty() && parent->insertChild(position(parent, step.second), kept.back()))
+                kept.pop_back();
+            break;
+        default:
+            break;
+        }
+    }
+
+    void insertTree(ZVTreeViewItem* parent, unsigned seed)
+    {
+        QVector<ZVTreeViewItem*> rows;
+        for (unsigned i = 0; i < 2 + seed % 3; ++i) {
+            rows.append(newRow());
+            rows.back()->appendChildren({newRow(), newRow()});
+        }
+        parent->appendChildren(rows);
+    }
+
+    static void moveTo(ZVTreeViewItem* row, ZVTreeViewItem* target, unsigned number)
+    {
+        ZVTreeViewItem* origin = row->parent();
+        const int before = row->row();
+        origin->takeChild(before);
+        if (!target->insertChild(position(target, number), row))
+            origin->insertChild(before, row);
+    }
+
+    /** What a view can find out about the structure. */
+    void shownRows(const QModelIndex& parent, std::vector<void*>& rows) const
+    {
+        for (int row = 0; row < model.rowCount(parent); ++row) {
+            const QModelIndex index = model.index(row, 0, parent);
+            rows.push_back(index.internalPointer());
+            RC_ASSERT((index.parent() == parent) == true);
+            shownRows(index, rows);
+        }
+        rows.push_back(nullptr);
+    }
+
+    void rememberPlaces()
+    {
+        places.clear();
+        for (ZVTreeViewItem* row : rowsBelow(model.rootItem())) {
+            places[serialOf(row)] = QPersistentModelIndex(model.indexFromItem(row, model.columnCount() - 1));
+            if (row->childCount() > 0)
+                view.setExpanded(model.indexFromItem(row), true);
+        }
+    }
+
+    /** A direct deletion announces what has been gathered: rows taken out by then lose theirs. */
+    void forgetPlacesOfKept()
+    {
+        for (ZVTreeViewItem* row : kept) {
+            places.erase(serialOf(row));
+            for (const ZVTreeViewItem* below : rowsBelow(row))
+                places.erase(serialOf(below));
+        }
+    }
+
+    void checkPlaces() const
+    {
+        std::map<std::uint64_t, const ZVTreeViewItem*> present;
+        for (const ZVTreeViewItem* row : rowsBelow(model.rootItem()))
+            present[serialOf(row)] = row;
+        for (const auto& [serial, index] : places) {
+            const auto found = present.find(serial);
+            RC_ASSERT(index.isValid() == (found != present.end()));
+            if (!index.isValid())
+                continue;
+            const QModelIndex expected = model.indexFromItem(found->second, index.column());
+            RC_ASSERT((index == expected) == true);
+        }
+    }
+
+    void checkAll(bool expectNoReset = true) const
+    {
+        const QString difference = mirror.difference();
+        RC_ASSERT(difference.toStdString() == std::string());
+        if (expectNoReset)
+            RC_ASSERT(mirror.resets() == 0);
+        RC_ASSERT(descendants.rowCount() == int(rowsBelow(model.rootItem()).size()));
+        checkProxy(plain, QModelIndex(), false);
+        checkProxy(sorted, QModelIndex(), true);
+    }
+
+    void checkProxy(const QSortFilterProxyModel& proxy, const QModelIndex& parent,
+                    bool ordered) const
+    {
+        const QModelIndex source = proxy.mapToSource(parent);
+        RC_ASSERT(proxy.rowCount(parent) == model.rowCount(source));
+        for (int row = 0; row < proxy.rowCount(parent); ++row) {
+            const QModelIndex index = proxy.index(row, 0, parent);
+            RC_ASSERT((proxy.mapFromSource(proxy.mapToSource(index)) == index) == true);
+            if (ordered && row > 0) {
+                const QString before = proxy.index(row - 1, 0, parent).data().toString();
+                RC_ASSERT(QString::compare(before, index.data().toString()) <= 0);
+            }
+            checkProxy(proxy, index, ordered);
+        }
+    }
+
+    TestModel model;
+    QAbstractItemModelTester tester;
+    Testing::ModelMirror mirror;
+    QSortFilterProxyModel plain;
+    QSortFilterProxyModel sorted;
+    KDescendantsProxyModel descendants;
+    QTreeView view;
+    QTreeView proxyView;
+    std::vector<ZVTreeViewItem*> kept;
+    std::map<std::uint64_t, QPersistentModelIndex> places;
+    std::uint64_t lastSerial = 0;
+    std::minstd_rand names;
+};
+
+rc::Gen<std::vector<Step>> steps(int kinds)
+{
+    return rc::gen::container<std::vector<Step>>(rc::gen::build<Step>(
+        rc::gen::set(&Step::kind, rc::gen::inRange(0, kinds)),
+        rc::gen::set(&Step::first, rc::gen::inRange(0U, 1000U)),
+        rc::gen::set(&Step::second, rc::gen::inRange(0U, 1000U))));
+}
+
+} // namespace
+
+class ZVTreeViewModelBatchPropertyTest : public Testing::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyWatcherFollowsRandomBatches();
+    void everyWatcherFollowsSingleChanges();
+    void longListsKeepEverybodyInStep();
+};
+
+void ZVTreeViewModelBatchPropertyTest::everyWatcherFollowsRandomBatches()
+{
+    const bool held = rc::check("random batches", [](bool twoColumns) {
+        Playground playground(twoColumns ? 2 : 1);
+        playground.insertTree(playground.model.rootItem(), 2);
+        for (int round = 0; round < 3; ++round) {
+            playground.rememberPlaces();
+            std::vector<void*> before;
+            playground.shownRows(QModelIndex(), before);
+            {
+                ZVTreeViewModelBatch batch(&playground.model);
+                bool shownStays = true;
+                for (const Step& step : *steps(KindCount)) {
+                    playground.apply(step);
+                    if (step.kind == DeleteDirectly)
+                        shownStays = false;
+                    if (step.kind == NestBatch)
+                        ZVTreeViewModelBatch nested(&playground.model);
+                }
+                if (shownStays && playground.kept.empty()) {
+                    std::vector<void*> now;
+                    playground.shownRows(QModelIndex(), now);
+                    const bool unchanged = now == before;
+                    RC_ASSERT(unchanged);
+                }
+            }
+            playground.checkPlaces();
+            playground.checkAll();
+        }
+    });
+    QVERIFY(held);
+}
+
+void ZVTreeViewModelBatchPropertyTest::everyWatcherFollowsSingleChanges()
+{
+    const bool held = rc::check("single changes", [] {
+        Playground playground(2);
+        for (const Step& step : *steps(PutBack + 1)) {
+            playground.apply(step);
+            playground.checkAll();
+        }
+    });
+    QVERIFY(held);
+}
+
+void ZVTreeViewModelBatchPropertyTest::longListsKeepEverybodyInStep()
+{
+    const bool held = rc::check("long lists", [] {
+        Playground playground(1);
+        QVector<ZVTreeViewItem*> rows;
+        for (int i = 0; i < 1100; ++i)
+            rows.append(playground.newRow());
+        playground.model.rootItem()->appendChildren(rows);
+        playground.rememberPlaces();
+        {
+            ZVTreeViewModelBatch batch(&playground.model);
+            for (const Step& step : *steps(TakeAndKeep))
+                playground.apply(step);
+        }
+        playground.checkPlaces();
+        playground.checkAll();
+    });
+    QVERIFY(held);
+}
+
+ZORVANE_TEST_MAIN(ZVTreeViewModelBatchPropertyTest)
+#include "ZVTreeViewModelBatchPropertyTest.moc"
