@@ -1,0 +1,7 @@
+#include "Host/DesignStatus/DesignInterface.h"
+
+namespace Zorvane {
+
+DesignInterface::~DesignInterface() = default;
+
+} // namespace Zorvane

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Host/FileHandling/FileName.h"
+
+namespace Zorvane {
+
+/**
+ * Whether the file holds binary STL, told by the number of triangles in its head, which fits its
+ * size to the byte; some programs start binary files with "solid" too. False for a file that
+ * cannot be read.
+ */
+bool isBinaryStl(const FileName& file);
+
+} // namespace Zorvane

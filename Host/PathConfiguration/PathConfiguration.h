@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Host/FileHandling/FileName.h"
+#include "Host/HostExport.h"
+
+namespace Zorvane {
+
+/**
+ * The folders that the suite is set up with. Each getter looks at every call, in this order:
+ * 1. the environment variable "ZORVANE_PATH_" + the folder's name in capitals and underscores;
+ * 2. the application's setting "Paths/" + the folder's name;
+ * 3. for the data folders, the sub-folder of that name in the data root, which
+ *    "ZORVANE_PATH_DATA" or the setting "Paths/Data" sets;
+ * 4. the system's standard locations: the user's documents, or the first existing folder
+ *    "zorvane/" + name in the shared data locations, else where the user's own would be.
+ *
+ * An override must be an absolute path; a relative one would name another folder at every start
+ * and is ignored. Nothing is created, and the folder need not exist.
+ */
+class ZORVANE_HOST_EXPORT PathConfiguration
+{
+public:
+    PathConfiguration() = delete;
+
+    static FileName getZvPathMyDocuments();
+    static FileName getZvPathPressesFiles();
+    static FileName getZvPathMaterialFiles();
+    static FileName getZvPathLubricationFiles();
+    static FileName getZvPathStandardFiles();
+    static FileName getZvPathTemplateDesignFiles();
+    static FileName getZvPathDrawbeadFiles();
+    static FileName getZvPathFormabilityFiles();
+    static FileName getZvPathAddendumFiles();
+    static FileName getZvPathHemmingToolFiles();
+    static FileName getZvPathGuidelineFiles();
+    static FileName getZvPathConnectorFiles();
+};
+
+} // namespace Zorvane
