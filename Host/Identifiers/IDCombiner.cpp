@@ -1,18 +1,32 @@
 #include "Host/Identifiers/IDCombiner.h"
 
+#include <QtCore/QtEndian>
+
 namespace Zorvane {
 
-const Identifier& IDCombiner::getIdentifier() const
+IDCombiner::IDCombiner(const GUIdentifier& identifier)
+    : m_kind(Kind::CombinedPart)
 {
-    const auto* identifier = std::get_if<Identifier>(&m_part);
-    return identifier ? *identifier : Identifier::getInvalidId();
+    const QUuid& uuid = identifier.toQUuid();
+    m_high = std::uint64_t(uuid.data1) << 32U | std::uint64_t(uuid.data2) << 16U | uuid.data3;
+    m_low = qFromBigEndian<quint64>(uuid.data4);
 }
 
-const GUIdentifier& IDCombiner::getCombinedPart() const
+Identifier IDCombiner::getIdentifier() const
 {
-    static const GUIdentifier null;
-    const auto* part = std::get_if<GUIdentifier>(&m_part);
-    return part ? *part : null;
+    return hasIdentifier() ? Identifier(m_high, static_cast<std::uint16_t>(m_low)) : Identifier();
+}
+
+GUIdentifier IDCombiner::getCombinedPart() const
+{
+    if (!hasCombinedPart())
+        return {};
+    QUuid uuid;
+    uuid.data1 = static_cast<uint>(m_high >> 32U);
+    uuid.data2 = static_cast<ushort>(m_high >> 16U);
+    uuid.data3 = static_cast<ushort>(m_high);
+    qToBigEndian<quint64>(m_low, uuid.data4);
+    return GUIdentifier(uuid);
 }
 
 std::size_t hash_value(const IDCombiner& id)

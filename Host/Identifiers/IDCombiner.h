@@ -7,8 +7,8 @@
 #include <QtCore/QMetaType>
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
-#include <variant>
 
 namespace Zorvane {
 
@@ -23,22 +23,23 @@ public:
     /** Carries nothing. */
     IDCombiner() = default;
     IDCombiner(const Identifier& identifier)
-        : m_part(identifier)
+        : m_high(identifier.getValue())
+        , m_low(identifier.getSubValue())
+        , m_kind(Kind::Identifier)
     {}
-    IDCombiner(const GUIdentifier& identifier)
-        : m_part(identifier)
-    {}
+    IDCombiner(const GUIdentifier& identifier);
 
-    bool hasIdentifier() const { return std::holds_alternative<Identifier>(m_part); }
-    bool hasCombinedPart() const { return std::holds_alternative<GUIdentifier>(m_part); }
+    bool hasIdentifier() const { return m_kind == Kind::Identifier; }
+    bool hasCombinedPart() const { return m_kind == Kind::CombinedPart; }
     /** The identifier carried, else `Identifier::getInvalidId()`. */
-    const Identifier& getIdentifier() const;
+    Identifier getIdentifier() const;
     /** The combined part carried, else the null one. */
-    const GUIdentifier& getCombinedPart() const;
+    GUIdentifier getCombinedPart() const;
 
     friend bool operator==(const IDCombiner& left, const IDCombiner& right)
     {
-        return left.m_part == right.m_part;
+        return left.m_high == right.m_high && left.m_low == right.m_low &&
+               left.m_kind == right.m_kind;
     }
     friend bool operator!=(const IDCombiner& left, const IDCombiner& right)
     {
@@ -46,11 +47,23 @@ public:
     }
     friend bool operator<(const IDCombiner& left, const IDCombiner& right)
     {
-        return left.m_part < right.m_part;
+        if (left.m_kind != right.m_kind)
+            return left.m_kind < right.m_kind;
+        return left.m_high != right.m_high ? left.m_high < right.m_high : left.m_low < right.m_low;
     }
 
 private:
-    std::variant<std::monostate, Identifier, GUIdentifier> m_part;
+    enum class Kind : std::uint8_t
+    {
+        Nothing,
+        Identifier,
+        CombinedPart
+    };
+
+    // Value and sub-value, or the UUID in the order of its text: rows are compared by the million.
+    std::uint64_t m_high = 0;
+    std::uint64_t m_low = 0;
+    Kind m_kind = Kind::Nothing;
 };
 
 /** The hash of the part carried; 0 for nothing. The same in every run of the program. */

@@ -316,9 +316,9 @@ bool ZVTreeViewItem::appendChildren(const QVector<ZVTreeViewItem*>& added)
 {
     QVector<ZVTreeViewItem*> distinct = added;
     std::sort(distinct.begin(), distinct.end());
-    const bool fit = std::adjacent_find(distinct.begin(), distinct.end()) == distinct.end()
-                     && std::all_of(added.begin(), added.end(),
-                                    [this](const auto* child) { return canAdopt(child); });
+    const bool fit = std::adjacent_find(distinct.begin(), distinct.end()) == distinct.end() &&
+                     std::all_of(added.begin(), added.end(),
+                                 [this](const auto* child) { return canAdopt(child); });
     if (!fit || added.isEmpty())
         return fit;
     for (ZVTreeViewItem* child : added)

@@ -82,8 +82,7 @@ private:
         explicit Stage(Rows&& rows)
             : shown(std::move(rows))
             , waiting(shown.size())
-        {
-        }
+        {}
 
         Rows shown;
         Rows placed;

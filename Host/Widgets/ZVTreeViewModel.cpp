@@ -18,8 +18,7 @@ ZVTreeViewItem* rowOf(const QModelIndex& index)
 ZVTreeViewModel::ZVTreeViewModel(QObject* parent)
     : QAbstractItemModel(parent)
     , d(std::make_unique<ZVTreeViewModelPrivate>(this))
-{
-}
+{}
 
 ZVTreeViewModel::~ZVTreeViewModel() = default;
 
@@ -35,8 +34,8 @@ ZVTreeViewItem* ZVTreeViewModel::itemFromIndex(const QModelIndex& index) const
 
 QModelIndex ZVTreeViewModel::indexFromItem(const ZVTreeViewItem* item, int column) const
 {
-    if (!item || column < 0 || column >= columnCount()
-        || ZVTreeViewModelPrivate::showing(item) != d.get())
+    if (!item || column < 0 || column >= columnCount() ||
+        ZVTreeViewModelPrivate::showing(item) != d.get())
         return {};
     return d->shownIndex(item, column);
 }
@@ -62,8 +61,8 @@ void ZVTreeViewModel::setHorizontalHeaderLabels(const QStringList& labels)
 QModelIndex ZVTreeViewModel::index(int row, int column, const QModelIndex& parent) const
 {
     const ZVTreeViewItem* parentRow = itemFromIndex(parent);
-    if (row < 0 || column < 0 || column >= d->headers.size() || parent.column() > 0
-        || !parentRow->m_children || row >= parentRow->m_children->shownCount())
+    if (row < 0 || column < 0 || column >= d->headers.size() || parent.column() > 0 ||
+        !parentRow->m_children || row >= parentRow->m_children->shownCount())
         return {};
     return createIndex(row, column, parentRow->m_children->shownAt(row));
 }
@@ -105,8 +104,8 @@ QVariant ZVTreeViewModel::data(const QModelIndex& index, int role) const
 
 bool ZVTreeViewModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (!index.isValid() || index.model() != this
-        || !rowOf(index)->setData(index.column(), role, value))
+    if (!index.isValid() || index.model() != this ||
+        !rowOf(index)->setData(index.column(), role, value))
         return false;
     Q_EMIT edited(index, value, role);
     return true;
@@ -128,8 +127,8 @@ QVariant ZVTreeViewModel::headerData(int section, Qt::Orientation orientation, i
     return values.value(stored);
 }
 
-bool ZVTreeViewModel::setHeaderData(int section, Qt::Orientation orientation,
-                                    const QVariant& value, int role)
+bool ZVTreeViewModel::setHeaderData(int section, Qt::Orientation orientation, const QVariant& value,
+                                    int role)
 {
     if (orientation != Qt::Horizontal || section < 0 || section >= d->headers.size())
         return false;
@@ -143,8 +142,8 @@ bool ZVTreeViewModel::setHeaderData(int section, Qt::Orientation orientation,
 
 bool ZVTreeViewModel::isLeaving(const QModelIndex& index) const
 {
-    return index.isValid() && index.model() == this
-           && !ZVTreeViewModelPrivate::isAttached(rowOf(index));
+    return index.isValid() && index.model() == this &&
+           !ZVTreeViewModelPrivate::isAttached(rowOf(index));
 }
 
 } // namespace Zorvane

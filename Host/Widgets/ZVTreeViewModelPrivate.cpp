@@ -14,8 +14,7 @@ ZVTreeViewModelPrivate::Root::Root(ZVTreeViewModelPrivate* owner)
 ZVTreeViewModelPrivate::ZVTreeViewModelPrivate(ZVTreeViewModel* model)
     : q(model)
     , root(this)
-{
-}
+{}
 
 ZVTreeViewModelPrivate::~ZVTreeViewModelPrivate()
 {
@@ -68,8 +67,8 @@ void ZVTreeViewModelPrivate::prepareMove(const ZVTreeViewItem* row, ZVTreeViewIt
     while (ZVTreeViewItem* above = top->parent())
         top = above;
     // Its former parent may now come to be below it: the way to the root must not go in circles.
-    if (top->hasState(ZVTreeViewItem::Taken)
-        && !top->hasState(ZVTreeViewItem::Fresh | ZVTreeViewItem::Relocated))
+    if (top->hasState(ZVTreeViewItem::Taken) &&
+        !top->hasState(ZVTreeViewItem::Fresh | ZVTreeViewItem::Relocated))
         model->hold(top);
 }
 
@@ -191,8 +190,8 @@ void ZVTreeViewModelPrivate::record(ChangeGroup& group, int row, int column,
 {
     constexpr std::size_t mostRanges = 8;
     for (auto range = group.ranges.rbegin(); range != group.ranges.rend(); ++range) {
-        const bool sameCells = range->firstColumn <= column && column <= range->lastColumn
-                               && range->roles == roles;
+        const bool sameCells =
+            range->firstColumn <= column && column <= range->lastColumn && range->roles == roles;
         if (!sameCells || row < range->firstRow - 1 || row > range->lastRow + 1)
             continue;
         range->firstRow = std::min(range->firstRow, row);

@@ -57,8 +57,8 @@ void ZVTreeViewModelPrivate::publishRounds()
         const unsigned resets = m_resets;
         announceValues();
         Plan plan = makePlan();
-        const bool done = resets == m_resets
-                          && (isExact(plan) ? announceExactly(plan) : announceByLayout(plan));
+        const bool done =
+            resets == m_resets && (isExact(plan) ? announceExactly(plan) : announceByLayout(plan));
         if (done)
             finish(plan);
     }
@@ -76,10 +76,10 @@ void ZVTreeViewModelPrivate::announceValues()
             continue;
         const ZVTreeViewItemChildren& children = *group.parent->m_children;
         for (const ValueRange& range : group.ranges) {
-            const QModelIndex first = q->createIndex(range.firstRow, range.firstColumn,
-                                                     children.shownAt(range.firstRow));
-            const QModelIndex last = q->createIndex(range.lastRow, range.lastColumn,
-                                                    children.shownAt(range.lastRow));
+            const QModelIndex first =
+                q->createIndex(range.firstRow, range.firstColumn, children.shownAt(range.firstRow));
+            const QModelIndex last =
+                q->createIndex(range.lastRow, range.lastColumn, children.shownAt(range.lastRow));
             Q_EMIT q->dataChanged(first, last, range.roles);
             if (resets != m_resets)
                 return;
@@ -114,8 +114,8 @@ ZVTreeViewModelPrivate::ListPlan ZVTreeViewModelPrivate::planFor(ZVTreeViewItem*
     for (std::size_t i = 0; i < list.target.size(); ++i) {
         ZVTreeViewItem* row = list.target[i];
         const auto before = static_cast<std::size_t>(row->m_row);
-        const bool known = !row->hasState(ZVTreeViewItem::Fresh | ZVTreeViewItem::Relocated)
-                           && before < shown.size() && shown[before] == row;
+        const bool known = !row->hasState(ZVTreeViewItem::Fresh | ZVTreeViewItem::Relocated) &&
+                           before < shown.size() && shown[before] == row;
         if (!known) {
             list.arriving.push_back(row);
             extend(list.inserted, static_cast<int>(i));
@@ -203,8 +203,8 @@ bool ZVTreeViewModelPrivate::announceByLayout(Plan& plan)
     // A row that changes its parent cannot be shown twice meanwhile, so then all counts vary.
     for (ListPlan& list : plan) {
         const auto rows = std::max(list.target.size(), list.parent->m_children->editShown().size());
-        list.keepsCount = m_relocated.empty()
-                          && static_cast<int>(rows) * headers.size() > MostCellsOfVaryingList;
+        list.keepsCount =
+            m_relocated.empty() && static_cast<int>(rows) * headers.size() > MostCellsOfVaryingList;
         if (list.attached && list.keepsCount && !appendArriving(list))
             return false;
     }
@@ -320,9 +320,8 @@ void ZVTreeViewModelPrivate::removeLeaving(ListPlan& list)
 
 void ZVTreeViewModelPrivate::finish(Plan& plan)
 {
-    std::vector<ZVTreeViewItem*> stillStaged(m_staged.begin()
-                                                 + static_cast<std::ptrdiff_t>(plan.size()),
-                                             m_staged.end());
+    std::vector<ZVTreeViewItem*> stillStaged(
+        m_staged.begin() + static_cast<std::ptrdiff_t>(plan.size()), m_staged.end());
     for (ListPlan& list : plan) {
         settle(list);
         if (list.parent->m_children->isDirty())

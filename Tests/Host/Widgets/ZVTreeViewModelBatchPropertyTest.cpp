@@ -202,7 +202,8 @@ public:
     {
         places.clear();
         for (ZVTreeViewItem* row : rowsBelow(model.rootItem())) {
-            places[serialOf(row)] = QPersistentModelIndex(model.indexFromItem(row, model.columnCount() - 1));
+            places[serialOf(row)] =
+                QPersistentModelIndex(model.indexFromItem(row, model.columnCount() - 1));
             if (row->childCount() > 0)
                 view.setExpanded(model.indexFromItem(row), true);
         }
@@ -276,10 +277,10 @@ public:
 
 rc::Gen<std::vector<Step>> steps(int kinds)
 {
-    return rc::gen::container<std::vector<Step>>(rc::gen::build<Step>(
-        rc::gen::set(&Step::kind, rc::gen::inRange(0, kinds)),
-        rc::gen::set(&Step::first, rc::gen::inRange(0U, 1000U)),
-        rc::gen::set(&Step::second, rc::gen::inRange(0U, 1000U))));
+    return rc::gen::container<std::vector<Step>>(
+        rc::gen::build<Step>(rc::gen::set(&Step::kind, rc::gen::inRange(0, kinds)),
+                             rc::gen::set(&Step::first, rc::gen::inRange(0U, 1000U)),
+                             rc::gen::set(&Step::second, rc::gen::inRange(0U, 1000U))));
 }
 
 } // namespace

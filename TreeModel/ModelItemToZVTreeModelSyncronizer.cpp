@@ -1,0 +1,183 @@
+#include "TreeModel/ModelItemToZVTreeModelSyncronizer.h"
+
+#include "Host/Widgets/ZVTreeViewItem.h"
+#include "Host/Widgets/ZVTreeViewModel.h"
+#include "Host/Widgets/ZVTreeViewModelBatch.h"
+#include "TreeModel/RowFinder.h"
+
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+#include <QtCore/QVector>
+
+#include <algorithm>
+#include <typeinfo>
+#include <utility>
+
+namespace Zorvane::GenericTreeViewModelHandling {
+
+namespace {
+
+std::size_t countBelow(const ZVTreeViewItem* row)
+{
+    const int children = row->childCount();
+    auto count = static_cast<std::size_t>(children);
+    for (int i = 0; i < children; ++i)
+        count += countBelow(row->child(i));
+    return count;
+}
+
+} // namespace
+
+ModelItemToZVTreeModelSyncronizer::ModelItemToZVTreeModelSyncronizer(int idRole)
+    : m_idRole(idRole)
+{}
+
+ModelItemToZVTreeModelSyncronizer::~ModelItemToZVTreeModelSyncronizer() = default;
+
+void ModelItemToZVTreeModelSyncronizer::setDataProvider(
+    std::shared_ptr<ZVTreeItemDataProviderInterface> dataProvider)
+{
+    m_dataProvider = std::move(dataProvider);
+}
+
+void ModelItemToZVTreeModelSyncronizer::syncronizeViewModel(ZVTreeViewModel* viewModel,
+                                                            std::shared_ptr<ModelRoot> root)
+{
+    align(viewModel, *root);
+    sortItemList();
+    m_dataProvider->addDataTo(m_itemList);
+    m_itemList.clear();
+}
+
+void ModelItemToZVTreeModelSyncronizer::syncronizeAndUpdateViewModel(
+    ZVTreeViewModel* viewModel, std::shared_ptr<ModelRoot> root)
+{
+    align(viewModel, *root);
+    m_itemList.clear();
+    gatherItemsRecursively(viewModel->rootItem());
+    sortItemList();
+    m_dataProvider->addDataTo(m_itemList);
+    m_itemList.clear();
+}
+
+void ModelItemToZVTreeModelSyncronizer::updateViewModelItems(ZVTreeViewModel* viewModel)
+{
+    m_itemList.reserve(countBelow(viewModel->rootItem()));
+    gatherItemsRecursively(viewModel->rootItem());
+    sortItemList();
+    m_dataProvider->updateDataOf(m_itemList);
+    m_itemList.clear();
+}
+
+void ModelItemToZVTreeModelSyncronizer::align(ZVTreeViewModel* viewModel, const ModelRoot& root)
+{
+    m_itemList.reserve(root.totalItemCount());
+    m_viewModel = viewModel;
+    m_newItemFlags = m_dataProvider->getItemFlags();
+    const ZVTreeViewModelBatch batch(viewModel);
+    synchronize(viewModel->rootItem(), root.getTopLevelItems());
+}
+
+void ModelItemToZVTreeModelSyncronizer::synchronize(ZVTreeViewItem* parent, const Items& items)
+{
+    const int wanted = static_cast<int>(items.size());
+    const int placed = placeRows(parent, items);
+    if (placed < wanted)
+        appendNewRows(parent, items, placed);
+    for (int row = parent->childCount() - 1; row >= wanted; --row)
+        parent->deleteChild(row);
+}
+
+/** Returns how many items have their row: all, or as many as there were rows. */
+int ModelItemToZVTreeModelSyncronizer::placeRows(ZVTreeViewItem* parent, const Items& items)
+{
+    const int wanted = static_cast<int>(items.size());
+    int count = parent->childCount();
+    RowFinder finder(parent, m_idColumn, m_idRole);
+    int front = 0;
+    for (; front < count && front < wanted; ++front) {
+        const ModelItem& item = *items[static_cast<std::size_t>(front)];
+        const int found = finder.find(front, item.getId());
+        if (found < 0) {
+            parent->insertChild(front, createListedRow(item));
+            ++count;
+            continue;
+        }
+        if (found == front) {
+            ZVTreeViewItem* row = parent->child(front);
+            writeText(row, item);
+            synchronizeChildren(row, item);
+        } else {
+            ZVTreeViewItem* row = parent->takeChild(found);
+            synchronizeChildren(row, item);
+            parent->insertChild(front, row);
+        }
+        finder.placed(front, found);
+    }
+    return front;
+}
+
+void ModelItemToZVTreeModelSyncronizer::synchronizeChildren(ZVTreeViewItem* row,
+                                                            const ModelItem& item)
+{
+    if (item.hasChildren() || row->childCount() > 0)
+        synchronize(row, item.getChildren());
+}
+
+void ModelItemToZVTreeModelSyncronizer::appendNewRows(ZVTreeViewItem* parent, const Items& items,
+                                                      int first)
+{
+    QVector<ZVTreeViewItem*> rows;
+    rows.reserve(static_cast<int>(items.size()) - first);
+    for (auto item = items.begin() + first; item != items.end(); ++item)
+        rows.append(createListedRow(**item));
+    parent->appendChildren(rows);
+}
+
+ZVTreeViewItem* ModelItemToZVTreeModelSyncronizer::createListedRow(const ModelItem& item)
+{
+    ZVTreeViewItem* row = createViewItemTree(item);
+    m_itemList.emplace_back(item.getId(), row);
+    return row;
+}
+
+ZVTreeViewItem* ModelItemToZVTreeModelSyncronizer::createViewItemTree(const ModelItem& item)
+{
+    auto row = std::make_unique<ZVTreeViewItem>();
+    row->setText(item.getName());
+    row->setId(m_idRole, item.getId());
+    row->setFlags(m_newItemFlags | row->flags() | Qt::ItemIsEditable);
+    if (item.hasChildren())
+        appendNewRows(row.get(), item.getChildren(), 0);
+    return row.release();
+}
+
+void ModelItemToZVTreeModelSyncronizer::writeText(ZVTreeViewItem* row, const ModelItem& item) const
+{
+    // A class of its own may want to see the value; our rows compare it without making one.
+    if (typeid(*row) == typeid(ZVTreeViewItem))
+        row->setText(item.getName());
+    else
+        row->setData(m_textColumn, Qt::DisplayRole, QString::fromStdString(item.getName()));
+}
+
+void ModelItemToZVTreeModelSyncronizer::gatherItemsRecursively(ZVTreeViewItem* parent)
+{
+    for (int i = 0, count = parent->childCount(); i < count; ++i) {
+        ZVTreeViewItem* row = parent->child(i);
+        if (row->childCount() > 0)
+            gatherItemsRecursively(row);
+        IDCombiner id;
+        if (RowFinder::readId(row, m_idColumn, m_idRole, id))
+            m_itemList.emplace_back(id, row);
+    }
+}
+
+void ModelItemToZVTreeModelSyncronizer::sortItemList()
+{
+    const auto byId = [](const auto& left, const auto& right) { return left.first < right.first; };
+    if (!std::is_sorted(m_itemList.begin(), m_itemList.end(), byId))
+        std::sort(m_itemList.begin(), m_itemList.end(), byId);
+}
+
+} // namespace Zorvane::GenericTreeViewModelHandling
