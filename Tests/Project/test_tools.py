@@ -75,6 +75,7 @@ class LayersTest(ToolTest):
         ("Host/A.cpp", '#include "moc_A.cpp"'),
         ("Tests/A.cpp", '#include "ATest.moc"'),
         ("Tests/A.cpp", "#include <QtTest/QtTest>"),
+        ("Tests/A.cpp", "#include <KDescendantsProxyModel>"),
         ("Utilities/A.cpp", "#include <unordered_map>"),
         ("Utilities/A.cpp", "#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)"),
     )
@@ -113,6 +114,7 @@ class LayersTest(ToolTest):
         ("TreeModel/A.cpp", "#include <QtSvg/QSvgRenderer>"),
         ("Files/A.cpp", "#include <assimp/scene.h>"),
         ("Workbench/A.cpp", "#include <rapidcheck.h>"),
+        ("Workbench/A.cpp", "#include <KDescendantsProxyModel>"),
     )
 
     def test_finds_what_goes_against_them(self):
