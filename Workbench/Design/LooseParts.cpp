@@ -5,6 +5,7 @@
 #include <QtCore/QCollator>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QLocale>
 #include <QtCore/QSet>
 
 #include <algorithm>
@@ -85,7 +86,9 @@ QStringList LooseParts::folders() const
 QStringList LooseParts::meshFilesIn(const QString& folder)
 {
     QStringList names = QDir(folder).entryList(MeshReader::nameFilters(), QDir::Files);
-    QCollator order;
+    // The C locale knows no numeric order.
+    const QLocale locale;
+    QCollator order(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
     order.setNumericMode(true);
     order.setCaseSensitivity(Qt::CaseInsensitive);
     std::sort(names.begin(), names.end(), order);

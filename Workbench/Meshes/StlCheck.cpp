@@ -57,7 +57,7 @@ public:
         for (std::string_view word = m_scanner.nextWord(); !word.empty();
              word = m_scanner.nextWord()) {
             if (word != "solid")
-                return expected("solid", word);
+                return expected(quoted("solid"), word);
             m_scanner.skipLine();
             if (!facets())
                 return m_wrong;
@@ -75,7 +75,7 @@ private:
             if (word == "endsolid")
                 return true;
             if (word != "facet") {
-                m_wrong = expected("facet", word);
+                m_wrong = expected(quoted("facet"), word);
                 return false;
             }
             if (!facet())
@@ -96,7 +96,7 @@ private:
         const std::string_view word = m_scanner.nextWord();
         if (word == wanted)
             return true;
-        m_wrong = expected(wanted, word);
+        m_wrong = expected(quoted(wanted), word);
         return false;
     }
 
@@ -105,26 +105,31 @@ private:
         for (int i = 0; i < 3; ++i) {
             const std::string_view word = m_scanner.nextWord();
             if (!numberIn(word)) {
-                m_wrong = expected("a number", word);
+                m_wrong = expected(MeshReader::tr("a number"), word);
                 return false;
             }
         }
         return true;
     }
 
-    MeshContent expected(const char* wanted, std::string_view found) const
+    /** `wanted` is a word of the format, or translated. */
+    MeshContent expected(const QString& wanted, std::string_view found) const
     {
-        const QString wantedText = QString::fromLatin1(wanted);
         if (found.empty())
             return MeshContent::wrong(
-                MeshReader::tr("is cut off: ends where \"%1\" should stand").arg(wantedText),
+                MeshReader::tr("is cut off: ends where %1 should stand").arg(wanted),
                 m_scanner.lineText());
         constexpr std::size_t shown = 20;
         const QString foundText =
             QString::fromUtf8(found.data(), static_cast<int>(std::min(found.size(), shown)));
         return MeshContent::wrong(
-            MeshReader::tr("has \"%1\" where \"%2\" should stand").arg(foundText, wantedText),
+            MeshReader::tr("has \"%1\" where %2 should stand").arg(foundText, wanted),
             m_scanner.lineText());
+    }
+
+    static QString quoted(const char* word)
+    {
+        return QLatin1Char('"') + QLatin1String(word) + QLatin1Char('"');
     }
 
     QByteArray m_text;
