@@ -49,6 +49,7 @@ private Q_SLOTS:
     void filterForEndings();
     void allLabelMayHoldPlaceholders();
     void filtersAreTranslated();
+    void germanCatalogueIsBuiltIn();
     void fileDialogsUnderstandFilters();
 };
 
@@ -272,6 +273,20 @@ void FileTypeFiltersTest::filtersAreTranslated()
     QCOMPARE(getFileFilterForTypes({ZvFileType::Csv}, true, "Tables"),
              std::string("Tables (*.csv);;[CSV File] (*.csv)"));
     QCOMPARE(getFileFilterForEnding(".abc"), std::string("abc (*.abc)"));
+}
+
+void FileTypeFiltersTest::germanCatalogueIsBuiltIn()
+{
+    QTranslator german;
+    if (!german.load(QLocale(QLocale::German), QStringLiteral("zorvane"), QStringLiteral("_"),
+                     QStringLiteral(":/Zorvane/Translations")))
+        QSKIP("built without lrelease, and so without translations");
+    QVERIFY(QCoreApplication::installTranslator(&german));
+    QCOMPARE(getFileFilterForTypes(s_stepAndIges, true, {}),
+             std::string("Alle Dateien (*.stp *.igs);;STEP-Datei (*.stp);;IGES-Datei (*.igs)"));
+    QCOMPARE(clearTextForFileType(ZvFileType::MaterialBinary),
+             std::string("Werkstoff (bin\xC3\xA4r)"));
+    QCOMPARE(clearTextForFileType(ZvFileType::Unknown), std::string("Unbekannte Datei"));
 }
 
 void FileTypeFiltersTest::fileDialogsUnderstandFilters()

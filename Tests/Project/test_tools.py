@@ -2,6 +2,7 @@
 
 import json
 import pathlib
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -155,6 +156,58 @@ class TextTest(ToolTest):
         result = self.check("check-text")
         self.assertEqual(result.returncode, 1)
         self.assertIn("Files/A.cpp: 701 lines", result.stdout)
+
+
+@unittest.skipUnless(shutil.which("lupdate"), "lupdate is not installed")
+class TranslationsTest(ToolTest):
+    SOURCE = 'auto text = Translator::translate("Context", "Copy %1");\n'
+
+    def setUp(self):
+        super().setUp()
+        self.write("Files/A.cpp", self.SOURCE)
+
+    def write_catalogue(self, translation, source="Copy %1"):
+        self.write("Translations/a_de.ts", f"""<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en_US">
+<context><name>Context</name>
+<message><source>{source}</source>{translation}</message>
+</context></TS>""")
+
+    def assert_finds(self, *findings):
+        result = self.check("check-translations")
+        self.assertEqual(result.returncode, 1)
+        for finding in findings:
+            self.assertIn(finding, result.stdout)
+        self.assertIn(f"Translations: {len(findings)} to mend\n", result.stdout)
+
+    def test_accepts_a_complete_catalogue(self):
+        self.write_catalogue("<translation>%1 kopieren</translation>")
+        result = self.check("check-translations")
+        self.assertEqual((result.returncode, result.stdout), (0, "Translations: in order\n"))
+
+    def test_finds_texts_that_are_missing_or_gone(self):
+        self.write_catalogue("<translation>Alt</translation>", source="Old")
+        self.assert_finds("'Copy %1': missing", "'Old': no longer in the sources")
+
+    def test_finds_what_is_not_translated(self):
+        for translation in ("<translation></translation>",
+                            '<translation type="unfinished">%1 kopieren</translation>'):
+            with self.subTest(translation):
+                self.write_catalogue(translation)
+                self.assert_finds("'Copy %1': not translated")
+
+    def test_finds_other_placeholders(self):
+        self.write_catalogue("<translation>%2 kopieren</translation>")
+        self.assert_finds("'Copy %1': other placeholders in '%2 kopieren'")
+
+    def test_fix_takes_texts_in_and_out(self):
+        self.write_catalogue("<translation>Alt</translation>", source="Old")
+        run_tool("check-translations", "--fix", "--root", self.root)
+        self.assert_finds("'Copy %1': not translated")
+
+    def test_a_project_without_catalogues_is_not_in_order(self):
+        self.assertEqual(self.check("check-translations").returncode, 1)
 
 
 class BenchTableTest(ToolTest):
