@@ -1,0 +1,142 @@
+#include "Workbench/Tree/DesignPipeline.h"
+
+#include "TreeModel/AddStaticParentToModuleProvider.h"
+#include "Workbench/Design/DesignSession.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+using namespace GenericTreeViewModelHandling;
+
+QString sectionText(DesignSection section)
+{
+    const auto text = [](const char* source) {
+        return QCoreApplication::translate("Zorvane::Workbench::DesignPipeline", source);
+    };
+    switch (section) {
+    case DesignSection::Parts:
+        return text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignPipeline", "Parts"));
+    case DesignSection::Operations:
+        return text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignPipeline", "Operations"));
+    case DesignSection::Materials:
+        return text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignPipeline", "Materials"));
+    case DesignSection::Files:
+        return text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignPipeline", "Files"));
+    case DesignSection::LooseParts:
+        break;
+    }
+    return text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignPipeline", "Mesh files"));
+}
+
+/** The same for the same section of the same design, always. */
+GUIdentifier sectionId(const GUIdentifier& designId, DesignSection section)
+{
+    return GUIdentifier(QUuid::createUuidV5(
+        designId.toQUuid(), QStringLiteral("workbench section %1").arg(int(section))));
+}
+
+std::size_t uniqueCount(std::vector<IDCombiner> ids)
+{
+    std::sort(ids.begin(), ids.end());
+    return std::size_t(std::distance(ids.begin(), std::unique(ids.begin(), ids.end())));
+}
+
+} // namespace
+
+DesignPipeline::DesignPipeline(const DesignSession& session, std::shared_ptr<Filter> filter,
+                               std::function<void()> changed)
+    : m_session(session)
+    , m_filter(std::move(filter))
+    , m_changed(std::move(changed))
+{
+    m_heads = headsNow();
+    compose();
+}
+
+std::shared_ptr<ModelRoot> DesignPipeline::provideModel()
+{
+    std::vector<Head> heads = headsNow();
+    if (heads != m_heads) {
+        m_heads = std::move(heads);
+        compose();
+    }
+    return m_top->provideModel();
+}
+
+int DesignPipeline::shownCount() const
+{
+    std::vector<IDCombiner> all;
+    for (const auto& [section, extractor] : m_extractors) {
+        const std::vector<IDCombiner>& ids = *extractor->getCollection();
+        all.insert(all.end(), ids.begin(), ids.end());
+    }
+    return int(uniqueCount(std::move(all)));
+}
+
+int DesignPipeline::shownCount(DesignSection wanted) const
+{
+    std::vector<IDCombiner> all;
+    for (const auto& [section, extractor] : m_extractors) {
+        const std::vector<IDCombiner>& ids = *extractor->getCollection();
+        if (section == wanted)
+            all.insert(all.end(), ids.begin(), ids.end());
+    }
+    return int(uniqueCount(std::move(all)));
+}
+
+std::vector<DesignPipeline::Head> DesignPipeline::headsNow() const
+{
+    std::vector<Head> heads;
+    for (const Design& design : m_session.designs())
+        heads.emplace_back(design.id, design.name);
+    return heads;
+}
+
+void DesignPipeline::compose()
+{
+    m_extractors.clear();
+    std::vector<std::shared_ptr<Provider>> providers;
+    for (const Head& design : m_heads)
+        providers.push_back(designProvider(design));
+    providers.push_back(sectionProvider({}, DesignSection::LooseParts));
+    m_top = std::make_shared<MergedModelProvider>();
+    m_top->addSubModelProvider(providers);
+    m_top->registerUpdateCallback(m_changed);
+}
+
+std::shared_ptr<DesignPipeline::Provider> DesignPipeline::designProvider(const Head& design)
+{
+    auto sections = std::make_shared<MergedModelProvider>();
+    sections->addSubModelProvider({sectionProvider(design.first, DesignSection::Parts),
+                                   sectionProvider(design.first, DesignSection::Operations),
+                                   sectionProvider(design.first, DesignSection::Materials),
+                                   sectionProvider(design.first, DesignSection::Files)});
+    auto parent = std::make_shared<AddStaticParentToModuleProvider>(design.first,
+                                                                    design.second.toStdString());
+    parent->addParentAlsoForEmptyChildTree();
+    parent->setInputModelProvider(sections);
+    return parent;
+}
+
+std::shared_ptr<DesignPipeline::Provider>
+DesignPipeline::sectionProvider(const GUIdentifier& designId, DesignSection section)
+{
+    auto extractor = std::make_shared<Extractor>();
+    extractor->setInputModelProvider(
+        std::make_shared<DesignSectionProvider>(m_session, designId, section, m_filter));
+    m_extractors.emplace_back(section, extractor);
+    auto parent = std::make_shared<AddStaticParentToModuleProvider>(
+        sectionId(designId, section), sectionText(section).toStdString());
+    parent->appendNumberOfChildrenToName();
+    parent->setInputModelProvider(extractor);
+    return parent;
+}
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,228 @@
+#include "Workbench/Tree/DesignTree.h"
+
+#include "Host/Widgets/ZVTreeViewModelBatch.h"
+#include "TreeModel/ModelItemFilterCombiner.h"
+#include "TreeModel/ZVTreeItemDataProviderManager.h"
+#include "Workbench/Design/DesignSession.h"
+#include "Workbench/Tree/DesignTreeDelegate.h"
+#include "Workbench/Tree/KindFilter.h"
+#include "Workbench/Tree/NameFilter.h"
+#include "Workbench/Tree/ScrollKeeper.h"
+
+#include <QtCore/QScopedValueRollback>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QTreeView>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+using namespace GenericTreeViewModelHandling;
+
+constexpr int s_idRole = 3394;
+
+std::shared_ptr<ModelItemFilterInterface>
+combined(const std::vector<std::shared_ptr<ModelItemFilterInterface>>& filters)
+{
+    auto combiner =
+        std::make_shared<ModelItemFilterCombiner>(ModelItemFilterCombiner::AllMustAccept);
+    combiner->setFilterToCombine(filters);
+    return combiner;
+}
+
+QModelIndex findRow(const QAbstractItemModel& model, const IDCombiner& id,
+                    const QModelIndex& parent)
+{
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, TreeColumn::Name, parent);
+        if (index.data(s_idRole).value<IDCombiner>() == id)
+            return index;
+        const QModelIndex below = findRow(model, id, index);
+        if (below.isValid())
+            return below;
+    }
+    return {};
+}
+
+} // namespace
+
+DesignTree::DesignTree(DesignSession& session, MeshLoader& loader, QObject* parent)
+    : QObject(parent)
+    , m_session(session)
+    , m_catalog(session, loader)
+    , m_nameFilter(std::make_shared<NameFilter>(m_catalog))
+    , m_kindFilter(std::make_shared<KindFilter>(m_catalog))
+    , m_pipeline(session, combined({m_kindFilter, m_nameFilter}), [this] { schedule(true); })
+    , m_decoration(session, m_catalog)
+    , m_synchronizer(s_idRole)
+{
+    m_model.setHorizontalHeaderLabels(treeColumnTitles());
+    m_synchronizer.setDataProvider(m_decoration.provider());
+    const std::shared_ptr<ZVTreeItemDataProviderInterface> rows = m_decoration.provider();
+    rows->registerUpdateCallback([this] { schedule(false); });
+    connect(&session, &DesignSession::changed, this, [this] { schedule(true); });
+    connect(&loader, &MeshLoader::loaded, this, [this] { m_decoration.factsChanged(); });
+    // A file that cannot be read changes the row's state too, which only a full refresh rewrites.
+    connect(&loader, &MeshLoader::failed, this, [this] { schedule(true); });
+    connect(&m_model, &ZVTreeViewModel::edited, this, &DesignTree::takeOverName);
+    schedule(true);
+}
+
+DesignTree::~DesignTree() = default;
+
+void DesignTree::attach(QTreeView* view)
+{
+    m_view = view;
+    view->setModel(&m_model);
+    view->setItemDelegate(new DesignTreeDelegate(view));
+    view->setUniformRowHeights(true);
+    view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::DoubleClicked);
+    view->setAllColumnsShowFocus(true);
+    m_scrollKeeper = new ScrollKeeper(view, &m_model, view);
+    connect(view, &QTreeView::expanded, this,
+            [this](const QModelIndex& index) { noteExpansion(index, true); });
+    connect(view, &QTreeView::collapsed, this,
+            [this](const QModelIndex& index) { noteExpansion(index, false); });
+    connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &DesignTree::currentChanged);
+}
+
+void DesignTree::setFilterText(const QString& text)
+{
+    m_nameFilter->setText(text);
+}
+
+void DesignTree::setKindShown(ObjectKind kind, bool shown)
+{
+    m_kindFilter->setShown(kind, shown);
+}
+
+bool DesignTree::isFiltered() const
+{
+    return m_nameFilter->isActive() || m_kindFilter->isActive();
+}
+
+IDCombiner DesignTree::idAt(const QModelIndex& index) const
+{
+    return index.sibling(index.row(), TreeColumn::Name).data(s_idRole).value<IDCombiner>();
+}
+
+QModelIndex DesignTree::indexOf(const IDCombiner& id) const
+{
+    return findRow(m_model, id, {});
+}
+
+IDCombiner DesignTree::currentId() const
+{
+    return m_view ? idAt(m_view->currentIndex()) : IDCombiner();
+}
+
+bool DesignTree::select(const IDCombiner& id)
+{
+    const QModelIndex index = indexOf(id);
+    if (!m_view || !index.isValid())
+        return false;
+    m_view->setCurrentIndex(index);
+    m_view->scrollTo(index);
+    return true;
+}
+
+bool DesignTree::editCurrent()
+{
+    if (!m_view)
+        return false;
+    const QModelIndex index =
+        m_view->currentIndex().sibling(m_view->currentIndex().row(), TreeColumn::Name);
+    if (!index.flags().testFlag(Qt::ItemIsEditable))
+        return false;
+    m_view->setCurrentIndex(index);
+    m_view->edit(index);
+    return true;
+}
+
+void DesignTree::expandAll()
+{
+    m_collapsed.clear();
+    applyExpansion({});
+}
+
+void DesignTree::collapseAll()
+{
+    if (m_view)
+        m_view->collapseAll();
+}
+
+void DesignTree::schedule(bool structure)
+{
+    if (m_busy)
+        return;
+    m_structureChanged = m_structureChanged || structure;
+    if (m_scheduled)
+        return;
+    m_scheduled = true;
+    QMetaObject::invokeMethod(this, &DesignTree::refreshNow, Qt::QueuedConnection);
+}
+
+void DesignTree::refreshNow()
+{
+    if (!m_scheduled)
+        return;
+    m_scheduled = false;
+    const QScopedValueRollback<bool> busy(m_busy, true);
+    {
+        const ZVTreeViewModelBatch batch(&m_model);
+        if (m_structureChanged) {
+            m_decoration.objectsChanged();
+            m_synchronizer.syncronizeAndUpdateViewModel(&m_model, m_pipeline.provideModel());
+        } else {
+            m_synchronizer.updateViewModelItems(&m_model);
+        }
+    }
+    if (m_view) {
+        if (m_structureChanged)
+            applyExpansion({});
+        m_scrollKeeper->restore();
+    }
+    m_structureChanged = false;
+    Q_EMIT refreshed();
+}
+
+void DesignTree::applyExpansion(const QModelIndex& parent)
+{
+    if (!m_view)
+        return;
+    const QScopedValueRollback<bool> busy(m_busy, true);
+    for (int row = 0; row < m_model.rowCount(parent); ++row) {
+        const QModelIndex index = m_model.index(row, TreeColumn::Name, parent);
+        if (!m_model.hasChildren(index))
+            continue;
+        m_view->setExpanded(index, m_nameFilter->isActive() || m_collapsed.count(idAt(index)) == 0);
+        applyExpansion(index);
+    }
+}
+
+void DesignTree::noteExpansion(const QModelIndex& index, bool expanded)
+{
+    if (m_busy || m_nameFilter->isActive())
+        return;
+    if (expanded)
+        m_collapsed.erase(idAt(index));
+    else
+        m_collapsed.insert(idAt(index));
+}
+
+void DesignTree::takeOverName(const QModelIndex& index, const QVariant& value, int role)
+{
+    const IDCombiner id = idAt(index);
+    if (index.column() != TreeColumn::Name || (role != Qt::EditRole && role != Qt::DisplayRole) ||
+        !id.hasCombinedPart())
+        return;
+    const QString refusal = m_session.rename(id.getCombinedPart(), value.toString());
+    // Also on success: the session trims what was typed.
+    m_model.itemFromIndex(index)->setText(m_session.name(id.getCombinedPart()).toStdString());
+    if (!refusal.isEmpty())
+        Q_EMIT renameRefused(value.toString(), refusal);
+}
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "Host/Widgets/ZVTreeViewModel.h"
+#include "TreeModel/ModelItemToZVTreeModelSyncronizer.h"
+#include "Workbench/Tree/DesignCatalog.h"
+#include "Workbench/Tree/DesignPipeline.h"
+#include "Workbench/Tree/RowDecoration.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+
+#include <memory>
+#include <set>
+
+QT_BEGIN_NAMESPACE
+class QTreeView;
+QT_END_NAMESPACE
+
+namespace Zorvane::Workbench {
+
+class DesignSession;
+class KindFilter;
+class NameFilter;
+class ScrollKeeper;
+
+/**
+ * Shows a session in a tree view and keeps it in step: whatever changes in the session, the meshes
+ * or the filters is gathered and shown once per turn of the event loop, with selection, expansion
+ * and scroll position kept. Names edited in the view go to the session; a refused one is put back.
+ *
+ * Rows with children are expanded unless the user has collapsed them, and always while a text
+ * filters. Session, loader and view must outlive it.
+ * Not supported: more than one view, sorting by a column.
+ */
+class DesignTree : public QObject
+{
+    Q_OBJECT
+
+public:
+    DesignTree(DesignSession& session, MeshLoader& loader, QObject* parent = nullptr);
+    ~DesignTree() override;
+
+    /** Sets up the view for this tree. Once. */
+    void attach(QTreeView* view);
+
+    const ZVTreeViewModel& model() const { return m_model; }
+    const DesignCatalog& catalog() const { return m_catalog; }
+    const DesignPipeline& pipeline() const { return m_pipeline; }
+
+    void setFilterText(const QString& text);
+    void setKindShown(ObjectKind kind, bool shown);
+    bool isFiltered() const;
+
+    /** The id of a row; null for an invalid index. */
+    IDCombiner idAt(const QModelIndex& index) const;
+    /** Invalid unless the id is shown. */
+    QModelIndex indexOf(const IDCombiner& id) const;
+    IDCombiner currentId() const;
+    /** Makes the row current and visible; false when it is not shown. */
+    bool select(const IDCombiner& id);
+    /** Edits the current row's name in place; false when it cannot be renamed. */
+    bool editCurrent();
+    void expandAll();
+    void collapseAll();
+
+    /** Does now what would be done once control returns to the event loop. */
+    void refreshNow();
+
+Q_SIGNALS:
+    /** Another row, or none, is current. */
+    void currentChanged();
+    /** The view is in step again. */
+    void refreshed();
+    /** A new name was refused, and why; the row shows the old one again. */
+    void renameRefused(const QString& name, const QString& reason);
+
+private:
+    void schedule(bool structure);
+    void applyExpansion(const QModelIndex& parent);
+    void noteExpansion(const QModelIndex& index, bool expanded);
+    void takeOverName(const QModelIndex& index, const QVariant& value, int role);
+
+    DesignSession& m_session;
+    DesignCatalog m_catalog;
+    std::shared_ptr<NameFilter> m_nameFilter;
+    std::shared_ptr<KindFilter> m_kindFilter;
+    DesignPipeline m_pipeline;
+    RowDecoration m_decoration;
+    ZVTreeViewModel m_model;
+    GenericTreeViewModelHandling::ModelItemToZVTreeModelSyncronizer m_synchronizer;
+    QPointer<QTreeView> m_view;
+    ScrollKeeper* m_scrollKeeper = nullptr;
+    std::set<IDCombiner> m_collapsed;
+    bool m_scheduled = false;
+    bool m_structureChanged = false;
+    bool m_busy = false;
+};
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,59 @@
+#include "Workbench/Tree/DesignTreeDelegate.h"
+
+#include "Host/Widgets/ZVWidgetStatus.h"
+#include "Workbench/Tree/RowDecoration.h"
+
+#include <QtWidgets/QLineEdit>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+constexpr int s_roomAroundText = 6;
+
+QColor warningColour(const QPalette& palette)
+{
+    const bool dark = palette.color(QPalette::Base).lightness() < 128;
+    return dark ? QColor(0xff, 0x9a, 0x86) : QColor(0xb0, 0x2a, 0x1c);
+}
+
+ZVWidgetStatus::Stati statiOf(const QModelIndex& index)
+{
+    const QVariant stati = index.sibling(index.row(), TreeColumn::Name).data(s_statiRole);
+    return ZVWidgetStatus::Stati(QFlag(stati.toInt()));
+}
+
+} // namespace
+
+QWidget* DesignTreeDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                          const QModelIndex& index) const
+{
+    if (index.column() != TreeColumn::Name)
+        return nullptr;
+    QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+    editor->setAccessibleName(tr("New name of %1").arg(index.data().toString()));
+    return editor;
+}
+
+QSize DesignTreeDelegate::sizeHint(const QStyleOptionViewItem& option,
+                                   const QModelIndex& index) const
+{
+    QSize size = QStyledItemDelegate::sizeHint(option, index);
+    size.setHeight(std::max(size.height(), option.fontMetrics.height() + s_roomAroundText));
+    return size;
+}
+
+void DesignTreeDelegate::initStyleOption(QStyleOptionViewItem* option,
+                                         const QModelIndex& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    const ZVWidgetStatus::Stati stati = statiOf(index);
+    const bool wrong = stati & (ZVWidgetStatus::Missing | ZVWidgetStatus::Error);
+    const bool tells = index.column() == TreeColumn::Name || index.column() == TreeColumn::State;
+    if (wrong && tells)
+        option->palette.setColor(QPalette::Text, warningColour(option->palette));
+    if (stati.testFlag(ZVWidgetStatus::Modified) && tells)
+        option->font.setItalic(true);
+}
+
+} // namespace Zorvane::Workbench

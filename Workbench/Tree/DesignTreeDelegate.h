@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QtWidgets/QStyledItemDelegate>
+
+namespace Zorvane::Workbench {
+
+/**
+ * Paints the rows of the design tree: what is wrong in a warning colour, what is modified in
+ * italics, figures dimmed. Only names are edited.
+ */
+class DesignTreeDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+};
+
+} // namespace Zorvane::Workbench

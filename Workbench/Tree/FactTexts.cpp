@@ -1,0 +1,20 @@
+#include "Workbench/Tree/FactTexts.h"
+
+#include <QtCore/QCoreApplication>
+
+namespace Zorvane::Workbench {
+
+QString surfaceText(double squareMillimetres, const QLocale& locale)
+{
+    const int decimals = squareMillimetres >= 1000 ? 0 : squareMillimetres >= 10 ? 1 : 3;
+    return QCoreApplication::translate("Zorvane::Workbench::FactTexts", "%1 mm²")
+        .arg(locale.toString(squareMillimetres, 'f', decimals));
+}
+
+QString yesNoText(bool yes)
+{
+    return yes ? QCoreApplication::translate("Zorvane::Workbench::FactTexts", "Yes")
+               : QCoreApplication::translate("Zorvane::Workbench::FactTexts", "No");
+}
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QtCore/QLocale>
+#include <QtCore/QString>
+
+namespace Zorvane::Workbench {
+
+/** Such as "35,200 mm²". */
+QString surfaceText(double squareMillimetres, const QLocale& locale);
+/** "Yes" or "No", translated. */
+QString yesNoText(bool yes);
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,191 @@
+#include "Workbench/Tree/RowDecoration.h"
+
+#include "TreeModel/FlagManipulationDataProvider.h"
+#include "TreeModel/StaticTreeItemByIdIconProvider.h"
+#include "TreeModel/TreeItemStaticDataProvider.h"
+#include "TreeModel/WidgetStateDataProvider.h"
+#include "TreeModel/ZVTreeItemDataProviderManager.h"
+#include "TreeModel/ZVTreeItemTextProvider.h"
+#include "Workbench/Design/DesignSession.h"
+#include "Workbench/MeshView/MeshViewOverlay.h"
+#include "Workbench/Tree/CatalogTextProvider.h"
+#include "Workbench/Tree/ChosenRowsDataProvider.h"
+#include "Workbench/Tree/FactTexts.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QLocale>
+#include <QtGui/QFont>
+#include <QtGui/QIcon>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+using namespace GenericTreeViewModelHandling;
+
+constexpr std::array<ObjectKind, 7> s_kindsWithIcons{
+    ObjectKind::Design, ObjectKind::Part,     ObjectKind::Blank, ObjectKind::Operation,
+    ObjectKind::Tool,   ObjectKind::Material, ObjectKind::File};
+
+/** A column that tells something about the mesh; empty until the mesh has been read. */
+template <typename Tell>
+auto factText(Tell tell)
+{
+    return [tell](const DesignCatalog& catalog, const CatalogEntry& entry) {
+        const std::optional<MeshFacts> facts = catalog.facts(entry);
+        return facts ? tell(*facts) : QString();
+    };
+}
+
+QString stateTextOf(const DesignCatalog& catalog, const CatalogEntry& entry)
+{
+    return catalog.stateText(entry);
+}
+
+QString toolTip(const DesignCatalog& catalog, const CatalogEntry& entry)
+{
+    QStringList lines{entry.name};
+    if (!entry.path.isEmpty())
+        lines << QDir::toNativeSeparators(entry.path);
+    const QString problem = catalog.meshProblem(entry);
+    lines << (problem.isEmpty() ? catalog.stateText(entry) : problem);
+    lines.removeAll(QString());
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace
+
+QStringList treeColumnTitles()
+{
+    const auto text = [](const char* title) {
+        return QCoreApplication::translate("Zorvane::Workbench::DesignTree", title);
+    };
+    return {text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Name")),
+            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Kind")),
+            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "State")),
+            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Triangles")),
+            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Size")),
+            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Surface")),
+            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Watertight"))};
+}
+
+RowDecoration::RowDecoration(const DesignSession& session, const DesignCatalog& catalog)
+    : m_session(session)
+    , m_catalog(catalog)
+    , m_manager(std::make_shared<ZVTreeItemDataProviderManager>())
+{
+    addTexts();
+    addFactTexts();
+    addIcons();
+    addStates();
+    addLooks();
+}
+
+RowDecoration::~RowDecoration() = default;
+
+void RowDecoration::addForObjects(std::shared_ptr<Provider> provider)
+{
+    m_manager->addProvider(
+        std::make_shared<ChosenRowsDataProvider>(std::move(provider), [this](const IDCombiner& id) {
+            return m_catalog.find(id) != nullptr;
+        }));
+}
+
+void RowDecoration::addForGroups(std::shared_ptr<Provider> provider)
+{
+    m_manager->addProvider(
+        std::make_shared<ChosenRowsDataProvider>(std::move(provider), [this](const IDCombiner& id) {
+            return m_catalog.find(id) == nullptr;
+        }));
+}
+
+std::shared_ptr<CatalogTextProvider> RowDecoration::addText(int column, int role, Text text)
+{
+    auto source = std::make_shared<CatalogTextProvider>(m_catalog, std::move(text));
+    auto texts = std::make_shared<ZVTreeItemTextProvider>(column, role);
+    texts->setTextProvider(source);
+    addForObjects(texts);
+    return source;
+}
+
+void RowDecoration::addTexts()
+{
+    // Names are written here too: the synchronizer leaves the text of a row that it moves.
+    addText(TreeColumn::Name, Qt::DisplayRole,
+            [](const DesignCatalog&, const CatalogEntry& entry) { return entry.name; });
+    addText(TreeColumn::Kind, Qt::DisplayRole,
+            [](const DesignCatalog&, const CatalogEntry& entry) { return entry.kindText; });
+    m_factTexts.push_back(addText(TreeColumn::State, Qt::DisplayRole, &stateTextOf));
+    m_factTexts.push_back(addText(TreeColumn::Name, Qt::ToolTipRole, &toolTip));
+}
+
+void RowDecoration::addFactTexts()
+{
+    m_factTexts.push_back(
+        addText(TreeColumn::Triangles, Qt::DisplayRole, factText([](const MeshFacts& facts) {
+                    return QLocale().toString(qulonglong(facts.triangles));
+                })));
+    m_factTexts.push_back(addText(
+        TreeColumn::Size, Qt::DisplayRole,
+        factText([](const MeshFacts& facts) { return sizeText(facts.box.size(), QLocale()); })));
+    m_factTexts.push_back(addText(
+        TreeColumn::Surface, Qt::DisplayRole,
+        factText([](const MeshFacts& facts) { return surfaceText(facts.surface, QLocale()); })));
+    m_factTexts.push_back(
+        addText(TreeColumn::Watertight, Qt::DisplayRole,
+                factText([](const MeshFacts& facts) { return yesNoText(facts.watertight); })));
+}
+
+void RowDecoration::addIcons()
+{
+    m_icons =
+        std::make_shared<StaticTreeItemByIdIconProvider>(TreeColumn::Name, Qt::DecorationRole);
+    std::vector<QIcon> icons;
+    for (const ObjectKind kind : s_kindsWithIcons)
+        icons.emplace_back(iconPath(kind));
+    m_icons->setIcons(icons);
+    m_icons->setDefaultIcon(QIcon(QStringLiteral(":/workbench/group.svg")));
+    m_manager->addProvider(m_icons);
+}
+
+void RowDecoration::addStates()
+{
+    auto states = std::make_shared<WidgetStateDataProvider>(TreeColumn::Name, s_statiRole);
+    states->setStatiProviderFunction([this](const IDCombiner& id, ZVTreeViewItem*) {
+        const CatalogEntry* entry = m_catalog.find(id);
+        return entry ? m_catalog.stati(*entry) : ZVWidgetStatus::Stati(ZVWidgetStatus::Normal);
+    });
+    m_manager->addProvider(states);
+    auto fixed = std::make_shared<FlagManipulationDataProvider>();
+    fixed->setFlagsToRemove(Qt::ItemIsEditable);
+    m_manager->addProvider(
+        std::make_shared<ChosenRowsDataProvider>(fixed, [this](const IDCombiner& id) {
+            return !id.hasCombinedPart() || !m_session.canRename(id.getCombinedPart());
+        }));
+}
+
+void RowDecoration::addLooks()
+{
+    const int toTheRight = int(Qt::AlignRight | Qt::AlignVCenter);
+    addForObjects(std::make_shared<TreeItemStaticDataProvider>(
+        std::vector<int>{TreeColumn::Triangles, TreeColumn::Size, TreeColumn::Surface},
+        Qt::TextAlignmentRole, toTheRight));
+    QFont bold;
+    bold.setBold(true);
+    addForGroups(std::make_shared<TreeItemStaticDataProvider>(std::vector<int>{TreeColumn::Name},
+                                                              Qt::FontRole, bold));
+}
+
+void RowDecoration::objectsChanged()
+{
+    for (std::size_t index = 0; index < s_kindsWithIcons.size(); ++index)
+        m_icons->setIdsForIcon(m_catalog.idsOf(s_kindsWithIcons[index]), index);
+}
+
+void RowDecoration::factsChanged()
+{
+    for (const std::shared_ptr<CatalogTextProvider>& text : m_factTexts)
+        text->tellChanged();
+}
+
+} // namespace Zorvane::Workbench

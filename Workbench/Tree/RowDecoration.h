@@ -1,0 +1,80 @@
+#pragma once
+
+#include "Workbench/Tree/DesignCatalog.h"
+
+#include <QtCore/QStringList>
+
+#include <memory>
+#include <vector>
+
+namespace Zorvane::GenericTreeViewModelHandling {
+class StaticTreeItemByIdIconProvider;
+class ZVTreeItemDataProviderInterface;
+class ZVTreeItemDataProviderManager;
+} // namespace Zorvane::GenericTreeViewModelHandling
+
+namespace Zorvane::Workbench {
+
+class CatalogTextProvider;
+class DesignSession;
+
+/** The columns of the design tree. */
+namespace TreeColumn {
+enum Column
+{
+    Name,
+    Kind,
+    State,
+    Triangles,
+    Size,
+    Surface,
+    Watertight
+};
+} // namespace TreeColumn
+
+/** Titles of the columns, translated. */
+QStringList treeColumnTitles();
+
+/** Column 0: `ZVWidgetStatus::Stati` of the row as an int. */
+constexpr int s_statiRole = Qt::UserRole + 1;
+
+/**
+ * The stack of data providers that fills the rows of the design tree: texts, icons, states, flags.
+ * Session and catalog must outlive it.
+ */
+class RowDecoration
+{
+public:
+    RowDecoration(const DesignSession& session, const DesignCatalog& catalog);
+    ~RowDecoration();
+
+    std::shared_ptr<GenericTreeViewModelHandling::ZVTreeItemDataProviderManager> provider() const
+    {
+        return m_manager;
+    }
+    /** The catalog's objects have changed: assigns the icons anew. */
+    void objectsChanged();
+    /** More meshes have been read: asks for a refresh of the columns that tell facts. */
+    void factsChanged();
+
+private:
+    using Provider = GenericTreeViewModelHandling::ZVTreeItemDataProviderInterface;
+    using Text = std::function<QString(const DesignCatalog&, const CatalogEntry&)>;
+
+    std::shared_ptr<CatalogTextProvider> addText(int column, int role, Text text);
+    void addTexts();
+    void addFactTexts();
+    void addIcons();
+    void addStates();
+    void addLooks();
+    void addForObjects(std::shared_ptr<Provider> provider);
+    void addForGroups(std::shared_ptr<Provider> provider);
+
+    const DesignSession& m_session;
+    const DesignCatalog& m_catalog;
+    std::shared_ptr<GenericTreeViewModelHandling::ZVTreeItemDataProviderManager> m_manager;
+    std::shared_ptr<GenericTreeViewModelHandling::StaticTreeItemByIdIconProvider> m_icons;
+    std::vector<std::shared_ptr<CatalogTextProvider>> m_factTexts;
+};
+
+} // namespace Zorvane::Workbench
