@@ -1,0 +1,503 @@
+#include "Workbench/Window/MainWindow.h"
+
+#include "Host/Widgets/ZVMessageBox.h"
+#include "Workbench/MeshView/MeshView.h"
+#include "Workbench/Meshes/MeshReader.h"
+#include "Workbench/Window/DetailsPanel.h"
+#include "Workbench/Window/FactsReader.h"
+#include "Workbench/Window/FilterBar.h"
+#include "Workbench/Window/MeshPresenter.h"
+#include "Workbench/Window/MessageBar.h"
+#include "Workbench/Window/ProblemsPanel.h"
+#include "Workbench/Window/ReadingProgress.h"
+#include "Workbench/Window/RecentPaths.h"
+#include "Workbench/Window/SampleDesigns.h"
+#include "Workbench/Window/WindowActions.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QMimeData>
+#include <QtCore/QSettings>
+#include <QtGui/QCloseEvent>
+#include <QtGui/QDragEnterEvent>
+#include <QtWidgets/QActionGroup>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QSplitter>
+#include <QtWidgets/QStatusBar>
+#include <QtWidgets/QToolBar>
+#include <QtWidgets/QTreeView>
+#include <QtWidgets/QVBoxLayout>
+
+namespace {
+
+/** Resources of a static library must be asked for, outside of any namespace. */
+void initializeResources()
+{
+    Q_INIT_RESOURCE(workbench);
+}
+
+} // namespace
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+const QString s_geometryKey = QStringLiteral("Workbench/Geometry");
+const QString s_stateKey = QStringLiteral("Workbench/State");
+const QString s_sidesKey = QStringLiteral("Workbench/Sides");
+
+QStringList localPaths(const QMimeData& data)
+{
+    QStringList paths;
+    for (const QUrl& url : data.urls())
+        if (url.isLocalFile())
+            paths << url.toLocalFile();
+    return paths;
+}
+
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent)
+    , m_tree((initializeResources(), new DesignTree(m_session, m_loader, this)))
+    , m_actions(new WindowActions(this))
+    , m_factsReader(new FactsReader(m_session, m_loader, this))
+    , m_filterBar(new FilterBar(this))
+    , m_treeView(new QTreeView(this))
+    , m_meshView(new MeshView(this))
+    , m_meshPresenter(new MeshPresenter(m_session, m_loader, *m_meshView, this))
+    , m_details(new DetailsPanel(this))
+    , m_problemsPanel(new ProblemsPanel(this))
+    , m_messageBar(new MessageBar(this))
+    , m_progress(new ReadingProgress(m_loader, this))
+    , m_counts(new QLabel(this))
+{
+    setWindowIcon(QIcon(QStringLiteral(":/workbench/application.svg")));
+    setAcceptDrops(true);
+    layOut();
+    fillMenus();
+    fillToolBar();
+    fillStatusBar();
+    connectActions();
+    connectViewActions();
+    connectParts();
+    showSession();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::layOut()
+{
+    m_sides = new QSplitter(Qt::Horizontal, this);
+    m_sides->addWidget(createTreeSide());
+    m_sides->addWidget(createMeshSide());
+    m_sides->setStretchFactor(0, 5);
+    m_sides->setStretchFactor(1, 4);
+    m_allAndProblems = new QSplitter(Qt::Vertical, this);
+    m_allAndProblems->addWidget(m_sides);
+    m_allAndProblems->addWidget(m_problemsPanel);
+    m_allAndProblems->setStretchFactor(0, 1);
+    m_allAndProblems->setStretchFactor(1, 0);
+    m_allAndProblems->setSizes({640, 140});
+    m_problemsPanel->hide();
+    for (QSplitter* splitter : {m_sides, m_meshAndDetails, m_allAndProblems})
+        splitter->setChildrenCollapsible(false);
+    auto* middle = new QWidget(this);
+    auto* layout = new QVBoxLayout(middle);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_messageBar);
+    layout->addWidget(m_allAndProblems, 1);
+    setCentralWidget(middle);
+    resize(1360, 820);
+    m_sides->setSizes({760, 600});
+    m_meshAndDetails->setSizes({520, 240});
+}
+
+QWidget* MainWindow::createTreeSide()
+{
+    m_treeView->setAccessibleName(tr("Objects"));
+    m_treeView->setFrameShape(QFrame::NoFrame);
+    m_treeView->setAlternatingRowColors(true);
+    m_tree->attach(m_treeView);
+    QHeaderView* header = m_treeView->header();
+    header->setStretchLastSection(true);
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    const int widths[] = {230, 110, 100, 76, 170, 92, 80};
+    for (int column = 0; column < header->count(); ++column)
+        header->resizeSection(column, widths[column]);
+    auto* side = new QWidget(this);
+    auto* layout = new QVBoxLayout(side);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_filterBar);
+    layout->addWidget(m_treeView, 1);
+    return side;
+}
+
+QWidget* MainWindow::createMeshSide()
+{
+    m_meshAndDetails = new QSplitter(Qt::Vertical, this);
+    m_meshAndDetails->addWidget(m_meshView);
+    m_meshAndDetails->addWidget(m_details);
+    m_meshAndDetails->setStretchFactor(0, 1);
+    m_meshAndDetails->setStretchFactor(1, 0);
+    return m_meshAndDetails;
+}
+
+void MainWindow::fillMenus()
+{
+    fillFileMenu();
+    m_actions->addTo(*menuBar()->addMenu(tr("&Edit")),
+                     {WindowActions::Rename, WindowActions::Find});
+    fillViewMenu();
+    m_actions->addTo(*menuBar()->addMenu(tr("&Help")),
+                     {WindowActions::About, WindowActions::AboutQt});
+}
+
+void MainWindow::fillFileMenu()
+{
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    m_actions->addTo(*file, {WindowActions::OpenFolder, WindowActions::OpenFiles});
+    QMenu* recent = file->addMenu(tr("Open Re&cent"));
+    connect(recent, &QMenu::aboutToShow, this, [this, recent] { showRecent(*recent); });
+    QMenu* samples = file->addMenu(tr("Open Sa&mple"));
+    for (const SampleDesign& sample : sampleDesigns())
+        connect(samples->addAction(sample.name), &QAction::triggered, this,
+                [this, folder = sample.folder] { open({folder}); });
+    samples->setEnabled(!samples->isEmpty());
+    file->addSeparator();
+    m_actions->addTo(*file, {WindowActions::Save, WindowActions::Reload, WindowActions::CloseAll});
+    file->addSeparator();
+    m_actions->addTo(*file, {WindowActions::Quit});
+}
+
+void MainWindow::fillViewMenu()
+{
+    QMenu* view = menuBar()->addMenu(tr("&View"));
+    m_actions->addTo(*view, {WindowActions::Fit, WindowActions::ZoomIn, WindowActions::ZoomOut});
+    view->addSeparator();
+    m_actions->addTo(*view,
+                     {WindowActions::ViewIsometric, WindowActions::ViewTop,
+                      WindowActions::ViewBottom, WindowActions::ViewFront, WindowActions::ViewBack,
+                      WindowActions::ViewLeft, WindowActions::ViewRight});
+    view->addSeparator();
+    m_actions->addTo(*view, {WindowActions::ExpandAll, WindowActions::CollapseAll});
+    view->addSeparator();
+    addAppearances(*view->addMenu(tr("&Appearance")));
+}
+
+void MainWindow::addAppearances(QMenu& menu)
+{
+    auto* group = new QActionGroup(this);
+    const std::pair<Appearance, QString> choices[] = {{Appearance::System, tr("&System")},
+                                                      {Appearance::Light, tr("&Light")},
+                                                      {Appearance::Dark, tr("&Dark")}};
+    for (const auto& [appearance, text] : choices) {
+        QAction* action = menu.addAction(text);
+        action->setCheckable(true);
+        action->setChecked(appearance == storedAppearance());
+        group->addAction(action);
+        connect(action, &QAction::triggered, this, [chosen = appearance] {
+            storeAppearance(chosen);
+            applyAppearance(*qApp, chosen);
+        });
+    }
+}
+
+void MainWindow::showRecent(QMenu& menu)
+{
+    menu.clear();
+    for (const QString& path : RecentPaths::paths())
+        connect(menu.addAction(QDir::toNativeSeparators(path)), &QAction::triggered, this,
+                [this, path] { open({path}); });
+    if (menu.isEmpty())
+        menu.addAction(tr("Nothing opened yet"))->setEnabled(false);
+    menu.addSeparator();
+    connect(menu.addAction(tr("Clear")), &QAction::triggered, &RecentPaths::clear);
+}
+
+void MainWindow::fillToolBar()
+{
+    QToolBar* bar = addToolBar(tr("Tools"));
+    bar->setObjectName(QStringLiteral("tools"));
+    bar->setIconSize(QSize(18, 18));
+    bar->setMovable(false);
+    m_actions->addTo(*bar, {WindowActions::OpenFolder, WindowActions::Save, WindowActions::Reload});
+    bar->addSeparator();
+    m_actions->addTo(*bar,
+                     {WindowActions::Fit, WindowActions::ViewIsometric, WindowActions::ViewTop,
+                      WindowActions::ViewFront, WindowActions::ViewRight});
+}
+
+void MainWindow::fillStatusBar()
+{
+    m_counts->setContentsMargins(6, 0, 6, 0);
+    statusBar()->addWidget(m_counts, 1);
+    statusBar()->addPermanentWidget(m_progress);
+    statusBar()->setSizeGripEnabled(false);
+}
+
+void MainWindow::connectActions()
+{
+    const auto on = [this](WindowActions::Id id, auto operation) {
+        connect((*m_actions)[id], &QAction::triggered, this, operation);
+    };
+    on(WindowActions::OpenFiles, &MainWindow::askForFiles);
+    on(WindowActions::OpenFolder, &MainWindow::askForFolder);
+    on(WindowActions::Save, &MainWindow::saveAll);
+    on(WindowActions::Reload, &MainWindow::reload);
+    on(WindowActions::CloseAll, &MainWindow::closeAll);
+    on(WindowActions::Quit, &MainWindow::close);
+    on(WindowActions::Rename, &MainWindow::rename);
+    on(WindowActions::Find, [this] { m_filterBar->focusText(); });
+    on(WindowActions::ExpandAll, [this] { m_tree->expandAll(); });
+    on(WindowActions::CollapseAll, [this] { m_tree->collapseAll(); });
+    on(WindowActions::About, &MainWindow::about);
+    on(WindowActions::AboutQt, [] { QApplication::aboutQt(); });
+}
+
+void MainWindow::connectViewActions()
+{
+    const auto on = [this](WindowActions::Id id, auto operation) {
+        connect((*m_actions)[id], &QAction::triggered, m_meshView, operation);
+    };
+    const auto direction = [&](WindowActions::Id id, ViewDirection from) {
+        on(id, [this, from] { m_meshView->setDirection(from); });
+    };
+    on(WindowActions::Fit, &MeshView::fit);
+    on(WindowActions::ZoomIn, &MeshView::zoomIn);
+    on(WindowActions::ZoomOut, &MeshView::zoomOut);
+    direction(WindowActions::ViewIsometric, ViewDirection::Isometric);
+    direction(WindowActions::ViewTop, ViewDirection::Top);
+    direction(WindowActions::ViewBottom, ViewDirection::Bottom);
+    direction(WindowActions::ViewFront, ViewDirection::Front);
+    direction(WindowActions::ViewBack, ViewDirection::Back);
+    direction(WindowActions::ViewLeft, ViewDirection::Left);
+    direction(WindowActions::ViewRight, ViewDirection::Right);
+}
+
+void MainWindow::connectParts()
+{
+    connect(m_filterBar, &FilterBar::textChanged, m_tree, &DesignTree::setFilterText);
+    connect(m_filterBar, &FilterBar::kindToggled, m_tree, &DesignTree::setKindShown);
+    connect(m_tree, &DesignTree::currentChanged, this, &MainWindow::showCurrent);
+    connect(m_tree, &DesignTree::refreshed, this, &MainWindow::showSession);
+    connect(m_tree, &DesignTree::renameRefused, this,
+            [this](const QString&, const QString& reason) { m_messageBar->say(reason); });
+    connect(&m_session, &DesignSession::conflictFound, this, &MainWindow::tellConflict);
+    connect(m_progress, &ReadingProgress::cancelled, m_factsReader, &FactsReader::cancel);
+    connect(m_problemsPanel, &ProblemsPanel::activated, this, [this](const Problem& problem) {
+        if (const std::optional<IDCombiner> id = m_tree->catalog().findByFile(problem.file))
+            m_tree->select(*id);
+    });
+}
+
+void MainWindow::open(const QStringList& paths)
+{
+    QStringList absolute;
+    for (const QString& path : paths) {
+        absolute << QFileInfo(path).absoluteFilePath();
+        RecentPaths::add(path);
+    }
+    const std::size_t before = m_session.problems().size();
+    m_session.open(absolute);
+    m_tree->refreshNow();
+    selectSomething();
+    const Problems problems = m_session.problems();
+    if (problems.size() > before)
+        m_messageBar->say(problems.back().text());
+}
+
+void MainWindow::selectSomething()
+{
+    if (m_tree->currentId() != IDCombiner())
+        return;
+    for (const Design& design : m_session.designs())
+        if (!design.parts.empty() && m_tree->select(design.parts.front().id))
+            return;
+    if (!m_session.looseParts().empty())
+        m_tree->select(m_session.looseParts().front().id);
+}
+
+void MainWindow::showCurrent()
+{
+    m_meshPresenter->show(m_tree->currentId());
+    m_details->show(m_tree->catalog(), m_tree->currentId());
+    const GUIdentifier object = m_tree->currentId().getCombinedPart();
+    (*m_actions)[WindowActions::Rename]->setEnabled(m_session.canRename(object));
+}
+
+void MainWindow::showSession()
+{
+    m_counts->setText(countsText());
+    showProblems();
+    showCurrent();
+    const std::vector<Design>& designs = m_session.designs();
+    const QString subject =
+        designs.size() == 1 && m_session.looseParts().empty() ? designs.front().name : QString();
+    const QString program = tr("Zorvane Workbench");
+    setWindowTitle(subject.isEmpty() ? program : tr("%1[*] – %2").arg(subject, program));
+    setWindowModified(!subject.isEmpty() && m_session.isModified());
+    (*m_actions)[WindowActions::Save]->setEnabled(m_session.isModified());
+    const bool something = !designs.empty() || !m_session.looseParts().empty();
+    (*m_actions)[WindowActions::Reload]->setEnabled(something);
+    (*m_actions)[WindowActions::CloseAll]->setEnabled(something || !m_session.problems().empty());
+}
+
+QString MainWindow::countsText() const
+{
+    const int total = m_tree->catalog().objectCount();
+    const int designs = int(m_session.designs().size());
+    QString objects = tr("%n object(s)", nullptr, total);
+    if (m_tree->isFiltered())
+        objects =
+            tr("%1 of %n object(s) shown", nullptr, total).arg(m_tree->pipeline().shownCount());
+    return designs > 0 ? tr("%n design(s) · %1", nullptr, designs).arg(objects) : objects;
+}
+
+void MainWindow::showProblems()
+{
+    Problems problems = m_session.problems();
+    for (const QString& file : m_session.meshFiles())
+        if (const std::optional<Problem> problem = m_loader.problem(file))
+            problems.push_back(*problem);
+    m_problemsPanel->show(problems);
+    m_problemsPanel->setVisible(!problems.empty());
+}
+
+void MainWindow::askForFiles()
+{
+    const QStringList endings = QStringList{QStringLiteral("*.dsg")} + MeshReader::nameFilters();
+    const QStringList files = QFileDialog::getOpenFileNames(
+        this, tr("Open Files"), {},
+        tr("Designs and meshes (%1);;All files (*)").arg(endings.join(QLatin1Char(' '))));
+    if (!files.isEmpty())
+        open(files);
+}
+
+void MainWindow::askForFolder()
+{
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Open Folder"));
+    if (!folder.isEmpty())
+        open({folder});
+}
+
+bool MainWindow::saveAll()
+{
+    Problems problems = m_session.save();
+    const auto conflicts = [this] {
+        for (const Design& design : m_session.designs())
+            if (m_session.hasConflict(design.id))
+                return true;
+        return false;
+    };
+    if (!problems.empty() && conflicts()) {
+        const auto answer = ZVMessageBox::warning(
+            this, tr("Save"),
+            tr("Another program has changed the design meanwhile. Replace its version by yours?"),
+            ZVMessageBox::Save | ZVMessageBox::Cancel, ZVMessageBox::Cancel);
+        if (answer != ZVMessageBox::Save)
+            return false;
+        problems = m_session.save(DesignSession::OnConflict::Overwrite);
+    }
+    if (!problems.empty())
+        m_messageBar->say(problems.front().text());
+    return problems.empty();
+}
+
+bool MainWindow::mayDropChanges()
+{
+    if (!m_session.isModified())
+        return true;
+    const auto answer = ZVMessageBox::question(
+        this, tr("Unsaved Changes"), tr("Save the changes of the design?"),
+        ZVMessageBox::Save | ZVMessageBox::Discard | ZVMessageBox::Cancel, ZVMessageBox::Save);
+    if (answer == ZVMessageBox::Save)
+        return saveAll();
+    return answer == ZVMessageBox::Discard;
+}
+
+void MainWindow::reload()
+{
+    if (!mayDropChanges())
+        return;
+    std::vector<GUIdentifier> ids;
+    for (const Design& design : m_session.designs())
+        ids.push_back(design.id);
+    for (const GUIdentifier& id : ids)
+        m_session.revert(id);
+    m_factsReader->readAgain();
+}
+
+void MainWindow::closeAll()
+{
+    if (!mayDropChanges())
+        return;
+    m_loader.cancel();
+    m_session.close();
+}
+
+void MainWindow::rename()
+{
+    m_treeView->setFocus();
+    m_tree->editCurrent();
+}
+
+void MainWindow::about()
+{
+    QMessageBox::about(this, tr("About the Workbench"),
+                       tr("<p><b>Zorvane Workbench</b> %1</p><p>Looks at sheet-metal forming "
+                          "designs: parts, tools, materials and the files behind them.</p>")
+                           .arg(QApplication::applicationVersion()));
+}
+
+void MainWindow::tellConflict(const GUIdentifier& designId)
+{
+    m_messageBar->say(tr("Another program has changed the file of %1, which has unsaved changes "
+                         "here. Save replaces its version, Reload drops yours.")
+                          .arg(m_session.name(designId)));
+}
+
+void MainWindow::keepLayout()
+{
+    m_keepsLayout = true;
+    const QSettings settings;
+    restoreGeometry(settings.value(s_geometryKey).toByteArray());
+    restoreState(settings.value(s_stateKey).toByteArray());
+    m_sides->restoreState(settings.value(s_sidesKey).toByteArray());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!mayDropChanges()) {
+        event->ignore();
+        return;
+    }
+    if (m_keepsLayout) {
+        QSettings settings;
+        settings.setValue(s_geometryKey, saveGeometry());
+        settings.setValue(s_stateKey, saveState());
+        settings.setValue(s_sidesKey, m_sides->saveState());
+    }
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!localPaths(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    open(localPaths(*event->mimeData()));
+    event->acceptProposedAction();
+}
+
+} // namespace Zorvane::Workbench

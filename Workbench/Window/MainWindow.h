@@ -1,0 +1,112 @@
+#pragma once
+
+#include "Workbench/Design/DesignSession.h"
+#include "Workbench/Meshes/MeshLoader.h"
+#include "Workbench/Tree/DesignTree.h"
+#include "Workbench/Window/Appearance.h"
+
+#include <QtWidgets/QMainWindow>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+class QSplitter;
+class QTreeView;
+QT_END_NAMESPACE
+
+namespace Zorvane::Workbench {
+
+class DetailsPanel;
+class FactsReader;
+class FilterBar;
+class MeshPresenter;
+class MeshView;
+class MessageBar;
+class ProblemsPanel;
+class ReadingProgress;
+class WindowActions;
+
+/**
+ * The Workbench's window: the tree of what is open with its filters, the mesh and the details of
+ * what is selected, and what is wrong. Owns the session that it shows.
+ */
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /** Design folders, design files or mesh files, in addition to what is open. */
+    void open(const QStringList& paths);
+    /** The window as it was left last; stores it again when it closes. */
+    void keepLayout();
+
+    // For those who drive the window without a person in front of it.
+    DesignSession& session() { return m_session; }
+    MeshLoader& loader() { return m_loader; }
+    DesignTree& tree() { return *m_tree; }
+    QTreeView& treeView() { return *m_treeView; }
+    MeshView& meshView() { return *m_meshView; }
+    FilterBar& filterBar() { return *m_filterBar; }
+    const ProblemsPanel& problemsPanel() const { return *m_problemsPanel; }
+    const MessageBar& messageBar() const { return *m_messageBar; }
+    const ReadingProgress& readingProgress() const { return *m_progress; }
+    QString countsText() const;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void layOut();
+    QWidget* createTreeSide();
+    QWidget* createMeshSide();
+    void fillMenus();
+    void fillFileMenu();
+    void fillViewMenu();
+    void fillToolBar();
+    void fillStatusBar();
+    void connectActions();
+    void connectViewActions();
+    void connectParts();
+    void addAppearances(QMenu& menu);
+    void showRecent(QMenu& menu);
+
+    void askForFiles();
+    void askForFolder();
+    bool saveAll();
+    bool mayDropChanges();
+    void reload();
+    void closeAll();
+    void rename();
+    void about();
+
+    void showCurrent();
+    void showSession();
+    void showProblems();
+    void selectSomething();
+    void tellConflict(const GUIdentifier& designId);
+
+    DesignSession m_session;
+    MeshLoader m_loader;
+    DesignTree* m_tree;
+    WindowActions* m_actions;
+    FactsReader* m_factsReader;
+    FilterBar* m_filterBar;
+    QTreeView* m_treeView;
+    MeshView* m_meshView;
+    MeshPresenter* m_meshPresenter;
+    DetailsPanel* m_details;
+    ProblemsPanel* m_problemsPanel;
+    MessageBar* m_messageBar;
+    ReadingProgress* m_progress;
+    QLabel* m_counts;
+    QSplitter* m_sides = nullptr;
+    QSplitter* m_meshAndDetails = nullptr;
+    QSplitter* m_allAndProblems = nullptr;
+    bool m_keepsLayout = false;
+};
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,77 @@
+#include "Workbench/Window/WindowActions.h"
+
+#include <QtGui/QIcon>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QToolBar>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+struct ActionRow
+{
+    WindowActions::Id id;
+    const char* text;
+    const char* shortcut;
+    const char* icon;
+};
+
+// clang-format off
+constexpr ActionRow s_actions[] = {
+    {WindowActions::OpenFiles,     QT_TR_NOOP("&Open Files…"),         "Ctrl+O",       ""},
+    {WindowActions::OpenFolder,    QT_TR_NOOP("Open &Folder…"),        "Ctrl+Shift+O", "open"},
+    {WindowActions::Save,          QT_TR_NOOP("&Save"),                "Ctrl+S",       "save"},
+    {WindowActions::Reload,        QT_TR_NOOP("&Reload"),              "F5",           "reload"},
+    {WindowActions::CloseAll,      QT_TR_NOOP("&Close All"),           "Ctrl+W",       ""},
+    {WindowActions::Quit,          QT_TR_NOOP("&Quit"),                "Ctrl+Q",       ""},
+    {WindowActions::Rename,        QT_TR_NOOP("&Rename"),              "F2",           ""},
+    {WindowActions::Find,          QT_TR_NOOP("&Find"),                "Ctrl+F",       ""},
+    {WindowActions::Fit,           QT_TR_NOOP("&Fit"),                 "Ctrl+0",       "fit"},
+    {WindowActions::ZoomIn,        QT_TR_NOOP("Zoom &In"),             "Ctrl++",       ""},
+    {WindowActions::ZoomOut,       QT_TR_NOOP("Zoom &Out"),            "Ctrl+-",       ""},
+    {WindowActions::ViewIsometric, QT_TR_NOOP("From a &Corner"),       "Ctrl+1",       "view-isometric"},
+    {WindowActions::ViewTop,       QT_TR_NOOP("From the &Top"),        "Ctrl+2",       "view-top"},
+    {WindowActions::ViewBottom,    QT_TR_NOOP("From &Below"),          "Ctrl+3",       ""},
+    {WindowActions::ViewFront,     QT_TR_NOOP("From the F&ront"),      "Ctrl+4",       "view-front"},
+    {WindowActions::ViewBack,      QT_TR_NOOP("From Be&hind"),         "Ctrl+5",       ""},
+    {WindowActions::ViewLeft,      QT_TR_NOOP("From the &Left"),       "Ctrl+6",       ""},
+    {WindowActions::ViewRight,     QT_TR_NOOP("From the Ri&ght"),      "Ctrl+7",       "view-right"},
+    {WindowActions::ExpandAll,     QT_TR_NOOP("&Expand All"),          "Ctrl+Shift++", ""},
+    {WindowActions::CollapseAll,   QT_TR_NOOP("Co&llapse All"),        "Ctrl+Shift+-", ""},
+    {WindowActions::About,         QT_TR_NOOP("&About the Workbench"), "",             ""},
+    {WindowActions::AboutQt,       QT_TR_NOOP("About &Qt"),            "",             ""},
+};
+// clang-format on
+
+} // namespace
+
+WindowActions::WindowActions(QObject* parent)
+    : QObject(parent)
+{
+    for (const ActionRow& row : s_actions) {
+        auto* action = new QAction(tr(row.text), this);
+        action->setShortcut(QKeySequence(QString::fromLatin1(row.shortcut)));
+        if (*row.icon != '\0')
+            action->setIcon(
+                QIcon(QStringLiteral(":/workbench/%1.svg").arg(QLatin1String(row.icon))));
+        m_actions[row.id] = action;
+    }
+    m_actions[Quit]->setMenuRole(QAction::QuitRole);
+    m_actions[About]->setMenuRole(QAction::AboutRole);
+    m_actions[AboutQt]->setMenuRole(QAction::AboutQtRole);
+}
+
+void WindowActions::addTo(QMenu& menu, std::initializer_list<Id> ids) const
+{
+    for (const Id id : ids)
+        menu.addAction(m_actions.at(id));
+}
+
+void WindowActions::addTo(QToolBar& toolBar, std::initializer_list<Id> ids) const
+{
+    for (const Id id : ids)
+        toolBar.addAction(m_actions.at(id));
+}
+
+} // namespace Zorvane::Workbench

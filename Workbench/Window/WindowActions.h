@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QtCore/QObject>
+
+#include <map>
+
+QT_BEGIN_NAMESPACE
+class QAction;
+class QMenu;
+class QToolBar;
+QT_END_NAMESPACE
+
+namespace Zorvane::Workbench {
+
+/** The main window's commands: texts, keys and pictures in one table. */
+class WindowActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum Id
+    {
+        OpenFiles,
+        OpenFolder,
+        Save,
+        Reload,
+        CloseAll,
+        Quit,
+        Rename,
+        Find,
+        Fit,
+        ZoomIn,
+        ZoomOut,
+        ViewIsometric,
+        ViewTop,
+        ViewBottom,
+        ViewFront,
+        ViewBack,
+        ViewLeft,
+        ViewRight,
+        ExpandAll,
+        CollapseAll,
+        About,
+        AboutQt
+    };
+
+    explicit WindowActions(QObject* parent);
+
+    QAction* operator[](Id id) const { return m_actions.at(id); }
+    void addTo(QMenu& menu, std::initializer_list<Id> ids) const;
+    void addTo(QToolBar& toolBar, std::initializer_list<Id> ids) const;
+
+private:
+    std::map<Id, QAction*> m_actions;
+};
+
+} // namespace Zorvane::Workbench
