@@ -21,20 +21,20 @@ class DesignSession;
 struct CatalogEntry
 {
     ObjectKind kind = ObjectKind::Part;
-    QString name;
+    QString name{};
     /** Translated, such as "Die" or "Draw operation". */
-    QString kindText;
+    QString kindText{};
     /** Absolute path of the file behind the object; empty when it has none or it is outside. */
-    QString file;
+    QString file{};
     /** The path as the design tells it, or `file`. */
-    QString path;
+    QString path{};
     bool hasFile = false;
     bool isMesh = false;
     FileState fileState = FileState::Exists;
     bool modified = false;
     bool changedOnDisk = false;
     /** Such as "Thickness" and "0.8 mm", translated; beyond what every object has. */
-    std::vector<std::pair<QString, QString>> particulars;
+    std::vector<std::pair<QString, QString>> particulars{};
 };
 
 /**

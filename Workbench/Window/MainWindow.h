@@ -39,6 +39,8 @@ public:
 
     /** Design folders, design files or mesh files, in addition to what is open. */
     void open(const QStringList& paths);
+    /** Reads everything again, once the user has agreed to drop unsaved changes. */
+    void reload();
     /** The window as it was left last; stores it again when it closes. */
     void keepLayout();
 

@@ -28,9 +28,9 @@ std::vector<SampleDesign> sampleDesigns()
             found.push_back({name, folder});
     };
     add(text(QT_TRANSLATE_NOOP("Zorvane::Workbench::SampleDesigns", "Drawn cup")),
-        sampleFolder(QStringLiteral("cup")));
+        sampleFolder(QStringLiteral("drawn-cup")));
     add(text(QT_TRANSLATE_NOOP("Zorvane::Workbench::SampleDesigns", "Door panel")),
-        sampleFolder(QStringLiteral("door")));
+        sampleFolder(QStringLiteral("door-panel")));
     return found;
 }
 

@@ -17,7 +17,7 @@ struct SampleDesign
 
 /** Those found beside the program: as it lies in a build folder, and as it is installed. */
 std::vector<SampleDesign> sampleDesigns();
-/** Empty when it is not there. `folderName` is "cup" or "door". */
+/** Empty when it is not there. `folderName` is such as "drawn-cup". */
 QString sampleFolder(const QString& folderName);
 
 } // namespace Zorvane::Workbench

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Workbench/Tour/TourReport.h"
+#include "Workbench/Tour/WindowDriver.h"
+
+#include <QtCore/QStringList>
+#include <QtCore/QTemporaryDir>
+
+namespace Zorvane::Workbench {
+
+class MainWindow;
+
+/**
+ * Shows what the Workbench can do without a person, on copies in a temporary folder, and checks
+ * that each step shows what it should. Leaves pictures and "tour.md".
+ */
+class Tour
+{
+public:
+    Tour(MainWindow& window, const QString& folder);
+
+    /** Also opens what the user named, if anything. Returns what was not shown, in words. */
+    QStringList perform(const QStringList& paths);
+
+private:
+    void openCup();
+    void lookAtTools();
+    void turnTheMesh();
+    void filterByText();
+    void filterByKind();
+    void renameInPlace();
+    void refuseAName();
+    void followAnotherProgram();
+    void missFile();
+    void openDoor();
+    void openManyFiles();
+    void cancelReading();
+    void keepTheScrollPosition();
+    void surviveBrokenInputs();
+    void redrawManyTriangles();
+    void goDark();
+    void walkByTab();
+    void openPathsOfUser(const QStringList& paths);
+
+    bool copySample(const QString& name);
+    QString workFolder(const QString& name) const { return m_work.filePath(name); }
+    void reopen(const QStringList& paths);
+    void picture(const QString& name);
+
+    MainWindow& m_window;
+    WindowDriver m_driver;
+    TourReport m_report;
+    QTemporaryDir m_work;
+};
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,76 @@
+#include "Workbench/Tour/TourReport.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QSet>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+constexpr int s_fewestColours = 64;
+
+bool isBlank(const QImage& picture)
+{
+    QSet<QRgb> colours;
+    for (int y = 0; y < picture.height(); y += 2) {
+        for (int x = 0; x < picture.width(); x += 2)
+            colours.insert(picture.pixel(x, y));
+        if (colours.size() >= s_fewestColours)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+TourReport::TourReport(const QString& folder)
+    : m_folder(folder)
+    , m_lines{QStringLiteral("# A tour of the Workbench")}
+{
+    if (!QDir().mkpath(folder))
+        m_failures << QStringLiteral("cannot make the folder ") + folder;
+}
+
+void TourReport::beginStep(const QString& title, const QString& text)
+{
+    m_step = title;
+    m_lines << QString() << QStringLiteral("## %1. %2").arg(++m_steps).arg(title) << QString()
+            << text << QString();
+}
+
+void TourReport::expect(bool met, const QString& what)
+{
+    m_lines << QStringLiteral("- %1 %2").arg(
+        met ? QStringLiteral("shown:") : QStringLiteral("**NOT SHOWN:**"), what);
+    if (!met)
+        m_failures << QStringLiteral("%1: %2").arg(m_step, what);
+}
+
+void TourReport::addPicture(const QString& name, const QImage& picture)
+{
+    const QString file =
+        QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(name);
+    expect(!isBlank(picture), QStringLiteral("a picture that is not blank"));
+    expect(picture.save(QDir(m_folder).filePath(file)), QStringLiteral("%1 is stored").arg(file));
+    m_lines << QString() << QStringLiteral("![%1](%2)").arg(m_step, file) << QString();
+}
+
+void TourReport::addNote(const QString& text)
+{
+    m_lines << QStringLiteral("- %1").arg(text);
+}
+
+bool TourReport::write()
+{
+    m_lines << QString()
+            << (m_failures.isEmpty()
+                    ? QStringLiteral("Everything was shown as it should be.")
+                    : QStringLiteral("%1 expectations were not met.").arg(m_failures.size()))
+            << QString();
+    QFile file(QDir(m_folder).filePath(QStringLiteral("tour.md")));
+    const QByteArray text = m_lines.join(QLatin1Char('\n')).toUtf8();
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+}
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,140 @@
+#include "Workbench/Tour/WindowDriver.h"
+
+#include "Workbench/Window/MainWindow.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QTimer>
+#include <QtGui/QAccessible>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QTreeView>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+constexpr qint64 s_patienceMilliseconds = 60'000;
+constexpr int s_mostTabStops = 40;
+
+QString accessibleName(QWidget* widget)
+{
+    const QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(widget);
+    return interface ? interface->text(QAccessible::Name) : QString();
+}
+
+} // namespace
+
+WindowDriver::WindowDriver(MainWindow& window)
+    : m_window(window)
+{}
+
+bool WindowDriver::waitFor(const std::function<bool()>& condition) const
+{
+    QElapsedTimer patience;
+    patience.start();
+    QTimer wake;
+    wake.start(10);
+    while (!condition()) {
+        if (patience.hasExpired(s_patienceMilliseconds))
+            return false;
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    return true;
+}
+
+bool WindowDriver::waitUntilRead() const
+{
+    const bool read = waitFor([this] { return !m_window.loader().isBusy(); });
+    QCoreApplication::processEvents();
+    m_window.tree().refreshNow();
+    return read;
+}
+
+void WindowDriver::pressKey(QWidget* widget, int key, const QString& text) const
+{
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(widget, &press);
+    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QCoreApplication::sendEvent(widget, &release);
+}
+
+void WindowDriver::type(QWidget* widget, const QString& text) const
+{
+    for (const QChar letter : text)
+        pressKey(widget, letter.toUpper().unicode(), letter);
+}
+
+IDCombiner WindowDriver::find(ObjectKind kind, const QString& name) const
+{
+    const DesignCatalog& catalog = m_window.tree().catalog();
+    for (const IDCombiner& id : catalog.idsOf(kind))
+        if (catalog.find(id)->name == name)
+            return id;
+    return {};
+}
+
+bool WindowDriver::select(ObjectKind kind, const QString& name) const
+{
+    const bool selected = m_window.tree().select(find(kind, name));
+    QCoreApplication::processEvents();
+    return selected;
+}
+
+QString WindowDriver::cell(const IDCombiner& id, int column) const
+{
+    const QModelIndex index = m_window.tree().indexOf(id);
+    return index.sibling(index.row(), column).data().toString();
+}
+
+QStringList WindowDriver::visibleNames() const
+{
+    QStringList names;
+    addVisibleNames({}, names);
+    return names;
+}
+
+void WindowDriver::addVisibleNames(const QModelIndex& parent, QStringList& names) const
+{
+    const ZVTreeViewModel& model = m_window.tree().model();
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, TreeColumn::Name, parent);
+        names << index.data().toString();
+        if (m_window.treeView().isExpanded(index))
+            addVisibleNames(index, names);
+    }
+}
+
+QString WindowDriver::firstNameInSight() const
+{
+    return m_window.treeView().indexAt(QPoint(0, 0)).data().toString();
+}
+
+QWidget* WindowDriver::nameEditor() const
+{
+    return m_window.treeView().viewport()->findChild<QLineEdit*>();
+}
+
+QStringList WindowDriver::tabStops() const
+{
+    m_window.activateWindow();
+    m_window.treeView().setFocus();
+    QStringList names;
+    QWidget* const first = &m_window.treeView();
+    QWidget* now = first;
+    do {
+        names << accessibleName(now);
+        pressKey(now, Qt::Key_Tab);
+        now = QApplication::focusWidget();
+    } while (now != nullptr && now != first && names.size() < s_mostTabStops);
+    return names;
+}
+
+QImage WindowDriver::picture() const
+{
+    QCoreApplication::processEvents();
+    m_window.tree().refreshNow();
+    return m_window.grab().toImage();
+}
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Host/Identifiers/IDCombiner.h"
+#include "Workbench/Tree/ObjectKind.h"
+
+#include <QtCore/QStringList>
+#include <QtGui/QImage>
+
+#include <functional>
+#include <vector>
+
+QT_BEGIN_NAMESPACE
+class QModelIndex;
+class QWidget;
+QT_END_NAMESPACE
+
+namespace Zorvane::Workbench {
+
+class MainWindow;
+
+/** Hands and eyes of someone who uses the main window. */
+class WindowDriver
+{
+public:
+    explicit WindowDriver(MainWindow& window);
+
+    /** Lets events run until the condition holds; false if it doesn't within a minute. */
+    bool waitFor(const std::function<bool()>& condition) const;
+    /** Until nothing is read any more and the tree is in step. */
+    bool waitUntilRead() const;
+    void pressKey(QWidget* widget, int key, const QString& text = {}) const;
+    void type(QWidget* widget, const QString& text) const;
+
+    /** Nothing's id unless there is an object of this kind and name. */
+    IDCombiner find(ObjectKind kind, const QString& name) const;
+    bool select(ObjectKind kind, const QString& name) const;
+    /** What the tree shows at an object; empty when the object is not shown. */
+    QString cell(const IDCombiner& id, int column) const;
+    /** Names of all rows in the order shown, those below collapsed rows left out. */
+    QStringList visibleNames() const;
+    /** The name of the first row in sight. */
+    QString firstNameInSight() const;
+    /** The editor of a name in the tree; null while none is edited. */
+    QWidget* nameEditor() const;
+    /** Accessible names of the widgets that the Tab key leads to, in order, from the tree. */
+    QStringList tabStops() const;
+
+    QImage picture() const;
+
+private:
+    void addVisibleNames(const QModelIndex& parent, QStringList& names) const;
+
+    MainWindow& m_window;
+};
+
+} // namespace Zorvane::Workbench
