@@ -33,15 +33,11 @@
 #include <QtWidgets/QTreeView>
 #include <QtWidgets/QVBoxLayout>
 
-namespace {
-
-/** Resources of a static library must be asked for, outside of any namespace. */
-void initializeResources()
+// Resources of a static library must be asked for, outside of any namespace, unnamed ones too.
+static void initializeResources()
 {
     Q_INIT_RESOURCE(workbench);
 }
-
-} // namespace
 
 namespace Zorvane::Workbench {
 

@@ -80,7 +80,6 @@ private:
     void askForFolder();
     bool saveAll();
     bool mayDropChanges();
-    void reload();
     void closeAll();
     void rename();
     void about();
