@@ -15,6 +15,8 @@ namespace {
 
 using namespace Zorvane::Workbench;
 
+constexpr int s_tourPointSize = 9;
+
 /** Ends with 0 when everything was shown as it should be. */
 int takeTour(QApplication& application, const QString& folder, const QStringList& paths)
 {
@@ -23,6 +25,9 @@ int takeTour(QApplication& application, const QString& folder, const QStringList
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    QFont font = QApplication::font();
+    font.setPointSize(s_tourPointSize);
+    QApplication::setFont(font);
     applyAppearance(application, Appearance::Light);
     MainWindow window;
     Tour tour(window, folder);

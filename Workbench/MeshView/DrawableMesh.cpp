@@ -8,6 +8,7 @@ namespace Zorvane::Workbench {
 namespace {
 
 constexpr float s_cosineOfFold = 0.866f;
+constexpr double s_heightOfSliver = 0.02;
 constexpr std::size_t s_mostTrianglesToRefine = 2'000'000;
 constexpr std::size_t s_mostTrianglesToCompare = 64;
 
@@ -102,6 +103,20 @@ std::vector<Side> sortedSides(const TriangleMesh& mesh)
     return sides;
 }
 
+double edgeLength(const TriangleMesh& mesh, const Side& side)
+{
+    return double((mesh.points[side.to] - mesh.points[side.from]).length());
+}
+
+bool isFold(const QVector3D& left, const QVector3D& right, double edge)
+{
+    const double smaller = double(std::min(left.length(), right.length()));
+    // Where a triangle points to is a matter of rounding once it is this much longer than high.
+    if (smaller < edge * edge * s_heightOfSliver)
+        return false;
+    return QVector3D::dotProduct(left, right) < s_cosineOfFold * left.length() * right.length();
+}
+
 void findEdges(DrawableMesh& drawable, const std::vector<QVector3D>& areaNormals)
 {
     const std::vector<Side> sides = sortedSides(*drawable.mesh);
@@ -109,14 +124,10 @@ void findEdges(DrawableMesh& drawable, const std::vector<QVector3D>& areaNormals
         std::size_t end = first + 1;
         while (end < sides.size() && isSameEdge(sides[first], sides[end]))
             ++end;
-        bool shows = end - first != 2;
-        if (!shows) {
-            const QVector3D& left = areaNormals[sides[first].triangle];
-            const QVector3D& right = areaNormals[sides[first + 1].triangle];
-            shows = QVector3D::dotProduct(left, right) <
-                    s_cosineOfFold * left.length() * right.length();
-        }
-        if (shows)
+        const bool inside = end - first == 2;
+        if (!inside ||
+            isFold(areaNormals[sides[first].triangle], areaNormals[sides[first + 1].triangle],
+                   edgeLength(*drawable.mesh, sides[first])))
             drawable.edges.push_back({sides[first].from, sides[first].to});
         first = end;
     }

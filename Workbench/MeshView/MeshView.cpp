@@ -85,7 +85,7 @@ void MeshView::describe()
     }
     setAccessibleDescription(
         tr("%1, %2, %n triangles. %3", nullptr, int(m_drawable.mesh->triangles.size()))
-            .arg(m_title, sizeText(m_drawable.box.size(), locale()), keys));
+            .arg(m_title, sizeText(m_drawable.box.size(), QLocale()), keys));
 }
 
 void MeshView::setDirection(ViewDirection direction)
@@ -176,7 +176,7 @@ void MeshView::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     paintOverlay(painter);
     if (hasFocus()) {
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.setPen(QPen(palette().color(QPalette::Link), 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 }
@@ -199,7 +199,7 @@ void MeshView::paintOverlay(QPainter& painter) const
                      metrics.elidedText(m_title, Qt::ElideMiddle, text.width()));
     painter.setFont(font());
     painter.drawText(text.adjusted(0, metrics.lineSpacing() + 2, 0, 0),
-                     Qt::AlignLeft | Qt::AlignTop, sizeText(m_drawable.box.size(), locale()));
+                     Qt::AlignLeft | Qt::AlignTop, sizeText(m_drawable.box.size(), QLocale()));
     drawAxes(painter, rect(), m_camera.transform(QSizeF(size())));
     drawScaleBar(painter, rect(), m_camera.pixelsPerMm(), ink);
 }

@@ -44,7 +44,7 @@ struct Lighting
         double gleam = std::max(0.f, QVector3D::dotProduct(normal, highlight));
         for (int doubling = 0; doubling < 5; ++doubling)
             gleam *= gleam;
-        const double light = 0.30 + key.strength * keyCosine + fill.strength * fillCosine;
+        const double light = 0.34 + key.strength * keyCosine + fill.strength * fillCosine;
         return std::min(255.0, s_fullLight * light + 40 * gleam);
     }
 };

@@ -180,7 +180,7 @@ void Tour::filterByText()
                        text("Only what has \"punch\" in its name, kind or file, with what holds "
                             "it; the status bar tells how much is shown."));
     m_window.filterBar().setText(text("punch"));
-    QCoreApplication::processEvents();
+    m_driver.settle();
     const QStringList wanted{text("Drawn cup"), text("Operations (1)"), text("OP10 Draw"),
                              text("Punch"),     text("Files (1)"),      text("Punch")};
     m_report.expect(m_driver.visibleNames() == wanted, wanted.join(text(", ")));
@@ -195,13 +195,13 @@ void Tour::filterByKind()
     m_report.beginStep(text("Filtered by kinds"), text("Files and materials hidden."));
     m_window.filterBar().setKindShown(ObjectKind::File, false);
     m_window.filterBar().setKindShown(ObjectKind::Material, false);
-    QCoreApplication::processEvents();
+    m_driver.settle();
     const QStringList names = m_driver.visibleNames();
     m_report.expect(!names.contains(text("Files (7)")), text("no files"));
     m_report.expect(names.contains(text("Operations (3)")), text("operations and tools"));
     picture(text("filtered-by-kinds"));
     m_window.filterBar().showAllKinds();
-    QCoreApplication::processEvents();
+    m_driver.settle();
     m_report.expect(m_driver.visibleNames().contains(text("Files (7)")),
                     text("the files again afterwards"));
 }
@@ -222,7 +222,7 @@ void Tour::renameInPlace()
     m_driver.type(editor, text("Blank holder"));
     picture(text("editing-a-name"));
     m_driver.pressKey(editor, Qt::Key_Return);
-    QCoreApplication::processEvents();
+    m_driver.settle();
     const GUIdentifier object = binder.getCombinedPart();
     m_report.expect(m_window.session().name(object) == text("Blank holder"),
                     text("the design has the new name"));
@@ -243,7 +243,7 @@ void Tour::refuseAName()
         m_driver.pressKey(editor, Qt::Key_Delete);
         m_driver.pressKey(editor, Qt::Key_Return);
     }
-    QCoreApplication::processEvents();
+    m_driver.settle();
     m_report.expect(!m_window.messageBar().text().isEmpty(), m_window.messageBar().text());
     m_report.expect(m_driver.visibleNames().contains(text("Punch")), text("the old name"));
     picture(text("name-refused"));
@@ -425,7 +425,7 @@ void Tour::goDark()
     m_driver.select(ObjectKind::Tool, text("Draw punch"));
     m_driver.waitFor([this] { return m_window.meshView().hasMesh(); });
     applyAppearance(*qApp, Appearance::Dark);
-    QCoreApplication::processEvents();
+    m_driver.settle();
     const QImage dark = m_driver.picture();
     m_report.expect(qGray(dark.pixel(dark.width() / 2, dark.height() - 4)) < 90,
                     text("dark colours"));
@@ -437,7 +437,7 @@ void Tour::walkByTab()
 {
     m_report.beginStep(text("By keyboard"),
                        text("The Tab key leads to every control, and each has a name."));
-    QCoreApplication::processEvents();
+    m_driver.settle();
     const QStringList stops = m_driver.tabStops();
     m_report.expect(stops.size() >= 4, text("at least four stops"));
     m_report.expect(!stops.contains(QString()), stops.join(text(", ")));
@@ -461,7 +461,7 @@ void Tour::reopen(const QStringList& paths)
 {
     m_window.loader().cancel();
     m_window.session().close();
-    QCoreApplication::processEvents();
+    m_driver.settle();
     m_window.open(paths);
 }
 

@@ -43,11 +43,16 @@ bool WindowDriver::waitFor(const std::function<bool()>& condition) const
     return true;
 }
 
+void WindowDriver::settle() const
+{
+    QCoreApplication::processEvents();
+    m_window.tree().refreshNow();
+}
+
 bool WindowDriver::waitUntilRead() const
 {
     const bool read = waitFor([this] { return !m_window.loader().isBusy(); });
-    QCoreApplication::processEvents();
-    m_window.tree().refreshNow();
+    settle();
     return read;
 }
 
@@ -77,7 +82,7 @@ IDCombiner WindowDriver::find(ObjectKind kind, const QString& name) const
 bool WindowDriver::select(ObjectKind kind, const QString& name) const
 {
     const bool selected = m_window.tree().select(find(kind, name));
-    QCoreApplication::processEvents();
+    settle();
     return selected;
 }
 
@@ -132,8 +137,7 @@ QStringList WindowDriver::tabStops() const
 
 QImage WindowDriver::picture() const
 {
-    QCoreApplication::processEvents();
-    m_window.tree().refreshNow();
+    settle();
     return m_window.grab().toImage();
 }
 

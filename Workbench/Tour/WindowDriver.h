@@ -26,6 +26,8 @@ public:
 
     /** Lets events run until the condition holds; false if it doesn't within a minute. */
     bool waitFor(const std::function<bool()>& condition) const;
+    /** Lets the events that are waiting, and those they cause, run. */
+    void settle() const;
     /** Until nothing is read any more and the tree is in step. */
     bool waitUntilRead() const;
     void pressKey(QWidget* widget, int key, const QString& text = {}) const;

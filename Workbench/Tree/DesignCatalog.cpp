@@ -24,6 +24,7 @@ constexpr Word s_toolWords[] = {
     {"binder",  QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignCatalog", "Binder")},
     {"pad",     QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignCatalog", "Pad")},
     {"knife",   QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignCatalog", "Knife")},
+    {"post",    QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignCatalog", "Post")},
     {"steel",   QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignCatalog", "Steel")},
 };
 constexpr Word s_operationWords[] = {

@@ -1,6 +1,7 @@
 #include "Workbench/Tree/DesignPipeline.h"
 
 #include "TreeModel/AddStaticParentToModuleProvider.h"
+#include "TreeModel/ModelItem.h"
 #include "Workbench/Design/DesignSession.h"
 
 #include <QtCore/QCoreApplication>
@@ -67,7 +68,28 @@ std::shared_ptr<ModelRoot> DesignPipeline::provideModel()
         m_heads = std::move(heads);
         compose();
     }
-    return m_top->provideModel();
+    std::shared_ptr<ModelRoot> root = m_top->provideModel();
+    for (auto& [id, name] : m_groupNames)
+        name.clear();
+    noteGroupNames(root->getTopLevelItems());
+    return root;
+}
+
+void DesignPipeline::noteGroupNames(const Items& items)
+{
+    for (const std::shared_ptr<ModelItem>& item : items) {
+        const auto group = m_groupNames.find(item->getId());
+        if (group != m_groupNames.end())
+            group->second = QString::fromStdString(item->getName());
+        else if (item->hasChildren())
+            noteGroupNames(item->getChildren());
+    }
+}
+
+QString DesignPipeline::groupName(const IDCombiner& id) const
+{
+    const auto group = m_groupNames.find(id);
+    return group == m_groupNames.end() ? QString() : group->second;
 }
 
 int DesignPipeline::shownCount() const
@@ -102,6 +124,7 @@ std::vector<DesignPipeline::Head> DesignPipeline::headsNow() const
 void DesignPipeline::compose()
 {
     m_extractors.clear();
+    m_groupNames.clear();
     std::vector<std::shared_ptr<Provider>> providers;
     for (const Head& design : m_heads)
         providers.push_back(designProvider(design));
@@ -132,8 +155,10 @@ DesignPipeline::sectionProvider(const GUIdentifier& designId, DesignSection sect
     extractor->setInputModelProvider(
         std::make_shared<DesignSectionProvider>(m_session, designId, section, m_filter));
     m_extractors.emplace_back(section, extractor);
-    auto parent = std::make_shared<AddStaticParentToModuleProvider>(
-        sectionId(designId, section), sectionText(section).toStdString());
+    const GUIdentifier id = sectionId(designId, section);
+    m_groupNames[id] = QString();
+    auto parent =
+        std::make_shared<AddStaticParentToModuleProvider>(id, sectionText(section).toStdString());
     parent->appendNumberOfChildrenToName();
     parent->setInputModelProvider(extractor);
     return parent;

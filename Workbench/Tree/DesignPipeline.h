@@ -9,6 +9,7 @@
 #include <QtCore/QString>
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -33,13 +34,18 @@ public:
     /** How many objects the model provided last shows; an object in two places counts once. */
     int shownCount() const;
     int shownCount(DesignSection section) const;
+    /** The text of a row above a list in the model provided last, its count included. */
+    QString groupName(const IDCombiner& id) const;
 
 private:
     using Provider = GenericTreeViewModelHandling::ModelProviderInterface;
     using Extractor = GenericTreeViewModelHandling::IdsOfModelProviderExtractor;
     using Head = std::pair<GUIdentifier, QString>;
 
+    using Items = std::vector<std::shared_ptr<GenericTreeViewModelHandling::ModelItem>>;
+
     std::vector<Head> headsNow() const;
+    void noteGroupNames(const Items& items);
     void compose();
     std::shared_ptr<Provider> designProvider(const Head& design);
     std::shared_ptr<Provider> sectionProvider(const GUIdentifier& designId, DesignSection section);
@@ -51,6 +57,7 @@ private:
     std::vector<Head> m_heads;
     std::vector<std::pair<DesignSection, std::shared_ptr<Extractor>>> m_extractors;
     std::shared_ptr<GenericTreeViewModelHandling::MergedModelProvider> m_top;
+    std::map<IDCombiner, QString> m_groupNames;
 };
 
 } // namespace Zorvane::Workbench

@@ -53,10 +53,13 @@ DesignTree::DesignTree(DesignSession& session, MeshLoader& loader, QObject* pare
     , m_nameFilter(std::make_shared<NameFilter>(m_catalog))
     , m_kindFilter(std::make_shared<KindFilter>(m_catalog))
     , m_pipeline(session, combined({m_kindFilter, m_nameFilter}), [this] { schedule(true); })
-    , m_decoration(session, m_catalog)
+    , m_decoration(session, m_catalog, m_pipeline)
     , m_synchronizer(s_idRole)
 {
     m_model.setHorizontalHeaderLabels(treeColumnTitles());
+    for (int column = 0; column < m_model.columnCount(); ++column)
+        m_model.setHeaderData(column, Qt::Horizontal, int(treeColumnAlignment(column)),
+                              Qt::TextAlignmentRole);
     m_synchronizer.setDataProvider(m_decoration.provider());
     const std::shared_ptr<ZVTreeItemDataProviderInterface> rows = m_decoration.provider();
     rows->registerUpdateCallback([this] { schedule(false); });

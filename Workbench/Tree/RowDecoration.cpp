@@ -10,6 +10,7 @@
 #include "Workbench/MeshView/MeshViewOverlay.h"
 #include "Workbench/Tree/CatalogTextProvider.h"
 #include "Workbench/Tree/ChosenRowsDataProvider.h"
+#include "Workbench/Tree/DesignPipeline.h"
 #include "Workbench/Tree/FactTexts.h"
 
 #include <QtCore/QDir>
@@ -26,6 +27,32 @@ using namespace GenericTreeViewModelHandling;
 constexpr std::array<ObjectKind, 7> s_kindsWithIcons{
     ObjectKind::Design, ObjectKind::Part,     ObjectKind::Blank, ObjectKind::Operation,
     ObjectKind::Tool,   ObjectKind::Material, ObjectKind::File};
+
+class GroupNames : public ZVTextProviderInterface
+{
+public:
+    explicit GroupNames(const DesignPipeline& pipeline)
+        : m_pipeline(pipeline)
+    {}
+
+    std::string getText(const IDCombiner& id) override
+    {
+        return m_pipeline.groupName(id).toStdString();
+    }
+    /** Never: groups change with the model only, and then all rows are written. */
+    void registerTextChangedCallback(std::function<void()>) override {}
+
+private:
+    const DesignPipeline& m_pipeline;
+};
+
+/** The same picture on the highlight colour, which would tint it otherwise. */
+QIcon rowIcon(const QString& path)
+{
+    QIcon icon(path);
+    icon.addFile(path, {}, QIcon::Selected);
+    return icon;
+}
 
 /** A column that tells something about the mesh; empty until the mesh has been read. */
 template <typename Tell>
@@ -55,6 +82,13 @@ QString toolTip(const DesignCatalog& catalog, const CatalogEntry& entry)
 
 } // namespace
 
+Qt::Alignment treeColumnAlignment(int column)
+{
+    const bool figure = column == TreeColumn::Triangles || column == TreeColumn::Size ||
+                        column == TreeColumn::Surface;
+    return (figure ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+}
+
 QStringList treeColumnTitles()
 {
     const auto text = [](const char* title) {
@@ -62,18 +96,21 @@ QStringList treeColumnTitles()
     };
     return {text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Name")),
             text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Kind")),
-            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "State")),
             text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Triangles")),
             text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Size")),
             text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Surface")),
-            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Watertight"))};
+            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Watertight")),
+            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "State"))};
 }
 
-RowDecoration::RowDecoration(const DesignSession& session, const DesignCatalog& catalog)
+RowDecoration::RowDecoration(const DesignSession& session, const DesignCatalog& catalog,
+                             const DesignPipeline& pipeline)
     : m_session(session)
     , m_catalog(catalog)
+    , m_pipeline(pipeline)
     , m_manager(std::make_shared<ZVTreeItemDataProviderManager>())
 {
+    addNames();
     addTexts();
     addFactTexts();
     addIcons();
@@ -108,11 +145,19 @@ std::shared_ptr<CatalogTextProvider> RowDecoration::addText(int column, int role
     return source;
 }
 
-void RowDecoration::addTexts()
+void RowDecoration::addNames()
 {
-    // Names are written here too: the synchronizer leaves the text of a row that it moves.
+    // The synchronizer leaves the text of a row that it moves, so names and counts are written
+    // here too.
     addText(TreeColumn::Name, Qt::DisplayRole,
             [](const DesignCatalog&, const CatalogEntry& entry) { return entry.name; });
+    auto texts = std::make_shared<ZVTreeItemTextProvider>(TreeColumn::Name, Qt::DisplayRole);
+    texts->setTextProvider(std::make_shared<GroupNames>(m_pipeline));
+    addForGroups(texts);
+}
+
+void RowDecoration::addTexts()
+{
     addText(TreeColumn::Kind, Qt::DisplayRole,
             [](const DesignCatalog&, const CatalogEntry& entry) { return entry.kindText; });
     m_factTexts.push_back(addText(TreeColumn::State, Qt::DisplayRole, &stateTextOf));
@@ -142,9 +187,9 @@ void RowDecoration::addIcons()
         std::make_shared<StaticTreeItemByIdIconProvider>(TreeColumn::Name, Qt::DecorationRole);
     std::vector<QIcon> icons;
     for (const ObjectKind kind : s_kindsWithIcons)
-        icons.emplace_back(iconPath(kind));
+        icons.push_back(rowIcon(iconPath(kind)));
     m_icons->setIcons(icons);
-    m_icons->setDefaultIcon(QIcon(QStringLiteral(":/workbench/group.svg")));
+    m_icons->setDefaultIcon(rowIcon(QStringLiteral(":/workbench/group.svg")));
     m_manager->addProvider(m_icons);
 }
 
@@ -166,10 +211,9 @@ void RowDecoration::addStates()
 
 void RowDecoration::addLooks()
 {
-    const int toTheRight = int(Qt::AlignRight | Qt::AlignVCenter);
     addForObjects(std::make_shared<TreeItemStaticDataProvider>(
         std::vector<int>{TreeColumn::Triangles, TreeColumn::Size, TreeColumn::Surface},
-        Qt::TextAlignmentRole, toTheRight));
+        Qt::TextAlignmentRole, int(treeColumnAlignment(TreeColumn::Triangles))));
     QFont bold;
     bold.setBold(true);
     addForGroups(std::make_shared<TreeItemStaticDataProvider>(std::vector<int>{TreeColumn::Name},

@@ -16,6 +16,7 @@ class ZVTreeItemDataProviderManager;
 namespace Zorvane::Workbench {
 
 class CatalogTextProvider;
+class DesignPipeline;
 class DesignSession;
 
 /** The columns of the design tree. */
@@ -24,14 +25,16 @@ enum Column
 {
     Name,
     Kind,
-    State,
     Triangles,
     Size,
     Surface,
-    Watertight
+    Watertight,
+    State
 };
 } // namespace TreeColumn
 
+/** Figures stand to the right, texts to the left. */
+Qt::Alignment treeColumnAlignment(int column);
 /** Titles of the columns, translated. */
 QStringList treeColumnTitles();
 
@@ -40,12 +43,13 @@ constexpr int s_statiRole = Qt::UserRole + 1;
 
 /**
  * The stack of data providers that fills the rows of the design tree: texts, icons, states, flags.
- * Session and catalog must outlive it.
+ * Session, catalog and pipeline must outlive it.
  */
 class RowDecoration
 {
 public:
-    RowDecoration(const DesignSession& session, const DesignCatalog& catalog);
+    RowDecoration(const DesignSession& session, const DesignCatalog& catalog,
+                  const DesignPipeline& pipeline);
     ~RowDecoration();
 
     std::shared_ptr<GenericTreeViewModelHandling::ZVTreeItemDataProviderManager> provider() const
@@ -62,6 +66,7 @@ private:
     using Text = std::function<QString(const DesignCatalog&, const CatalogEntry&)>;
 
     std::shared_ptr<CatalogTextProvider> addText(int column, int role, Text text);
+    void addNames();
     void addTexts();
     void addFactTexts();
     void addIcons();
@@ -72,6 +77,7 @@ private:
 
     const DesignSession& m_session;
     const DesignCatalog& m_catalog;
+    const DesignPipeline& m_pipeline;
     std::shared_ptr<GenericTreeViewModelHandling::ZVTreeItemDataProviderManager> m_manager;
     std::shared_ptr<GenericTreeViewModelHandling::StaticTreeItemByIdIconProvider> m_icons;
     std::vector<std::shared_ptr<CatalogTextProvider>> m_factTexts;

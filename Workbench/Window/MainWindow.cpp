@@ -99,7 +99,7 @@ void MainWindow::layOut()
     m_allAndProblems->addWidget(m_problemsPanel);
     m_allAndProblems->setStretchFactor(0, 1);
     m_allAndProblems->setStretchFactor(1, 0);
-    m_allAndProblems->setSizes({640, 140});
+    m_allAndProblems->setSizes({620, 160});
     m_problemsPanel->hide();
     for (QSplitter* splitter : {m_sides, m_meshAndDetails, m_allAndProblems})
         splitter->setChildrenCollapsible(false);
@@ -111,7 +111,7 @@ void MainWindow::layOut()
     layout->addWidget(m_allAndProblems, 1);
     setCentralWidget(middle);
     resize(1360, 820);
-    m_sides->setSizes({760, 600});
+    m_sides->setSizes({800, 560});
     m_meshAndDetails->setSizes({520, 240});
 }
 
@@ -124,7 +124,7 @@ QWidget* MainWindow::createTreeSide()
     QHeaderView* header = m_treeView->header();
     header->setStretchLastSection(true);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const int widths[] = {230, 110, 100, 76, 170, 92, 80};
+    const int widths[] = {214, 108, 72, 150, 92, 76, 90};
     for (int column = 0; column < header->count(); ++column)
         header->resizeSection(column, widths[column]);
     auto* side = new QWidget(this);
@@ -296,6 +296,7 @@ void MainWindow::connectParts()
 
 void MainWindow::open(const QStringList& paths)
 {
+    m_messageBar->hide();
     QStringList absolute;
     for (const QString& path : paths) {
         absolute << QFileInfo(path).absoluteFilePath();
@@ -350,11 +351,13 @@ QString MainWindow::countsText() const
 {
     const int total = m_tree->catalog().objectCount();
     const int designs = int(m_session.designs().size());
-    QString objects = tr("%n object(s)", nullptr, total);
+    QString objects = total == 1 ? tr("1 object") : tr("%n objects", nullptr, total);
     if (m_tree->isFiltered())
-        objects =
-            tr("%1 of %n object(s) shown", nullptr, total).arg(m_tree->pipeline().shownCount());
-    return designs > 0 ? tr("%n design(s) · %1", nullptr, designs).arg(objects) : objects;
+        objects = tr("%1 of %2 shown").arg(m_tree->pipeline().shownCount()).arg(objects);
+    if (designs == 0)
+        return objects;
+    return designs == 1 ? tr("1 design · %1").arg(objects)
+                        : tr("%n designs · %1", nullptr, designs).arg(objects);
 }
 
 void MainWindow::showProblems()
@@ -386,6 +389,7 @@ void MainWindow::askForFolder()
 
 bool MainWindow::saveAll()
 {
+    m_messageBar->hide();
     Problems problems = m_session.save();
     const auto conflicts = [this] {
         for (const Design& design : m_session.designs())
@@ -435,6 +439,7 @@ void MainWindow::closeAll()
 {
     if (!mayDropChanges())
         return;
+    m_messageBar->hide();
     m_loader.cancel();
     m_session.close();
 }

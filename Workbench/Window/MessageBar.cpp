@@ -61,9 +61,9 @@ void MessageBar::changeEvent(QEvent* event)
 void MessageBar::colour()
 {
     m_colouring = true;
-    const QPalette around = QApplication::palette();
-    const bool dark = around.color(QPalette::Window).lightness() < 128;
-    QPalette own = around;
+    const bool dark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    // Only these roles are our own, so that a change of the others still reaches the bar.
+    QPalette own;
     own.setColor(QPalette::Window, dark ? QColor(0x4d, 0x40, 0x20) : QColor(0xff, 0xf3, 0xd1));
     own.setColor(QPalette::WindowText, dark ? QColor(0xff, 0xec, 0xc0) : QColor(0x4a, 0x36, 0x05));
     own.setColor(QPalette::ButtonText, own.color(QPalette::WindowText));
