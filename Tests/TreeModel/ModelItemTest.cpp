@@ -128,7 +128,8 @@ void ModelItemTest::setChildrenToTheListOfADyingChild()
 {
     const Items items{makeItem(1), makeItem(2)};
     ModelItem parent(Identifier(9), "parent");
-    parent.addChildren({makeItem(7, items)});
+    // Two places to be filled, the first of which lets go of the list that is read.
+    parent.addChildren({makeItem(7, items), makeItem(8)});
     parent.setChildren(parent.getChildren().front()->getChildren());
     QVERIFY(parent.getChildren() == items);
 }
