@@ -63,6 +63,7 @@ public:
      * missing, which `geometryState` tells.
      */
     QString geometryFile(const GUIdentifier& objectId) const;
+    /** Missing as well if the object has no mesh file. */
     FileState geometryState(const GUIdentifier& objectId) const;
     /** Every mesh file that exists, each once, in the order of designs and parts. */
     QStringList meshFiles() const;
@@ -77,7 +78,7 @@ public:
     QString rename(const GUIdentifier& objectId, const QString& name);
 
     bool isModified() const { return m_store.isModified(); }
-    /** Whether the object itself was changed since it was read or saved. */
+    /** Whether the object itself, not what it contains, was changed since it was read or saved. */
     bool isModified(const GUIdentifier& objectId) const;
     /** Whether the design was modified here and its file by another program. */
     bool hasConflict(const GUIdentifier& designId) const;

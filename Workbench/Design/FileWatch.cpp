@@ -38,7 +38,7 @@ void FileWatch::watch(const QStringList& files, const QStringList& folders)
 FileWatch::Stamp FileWatch::stampOf(const QString& file)
 {
     const QFileInfo info(file);
-    return info.exists() ? Stamp{info.size(), info.lastModified()} : Stamp();
+    return info.exists() ? Stamp{info.size(), info.lastModified(), info.isReadable()} : Stamp();
 }
 
 QString FileWatch::nearestFolder(const QString& file)
@@ -100,7 +100,8 @@ void FileWatch::watchAll()
 {
     QSet<QString> wanted;
     for (auto file = m_stamps.cbegin(); file != m_stamps.cend(); ++file) {
-        if (QFileInfo::exists(file.key()))
+        // A file that may not be read cannot be watched either.
+        if (QFileInfo(file.key()).isReadable())
             wanted.insert(file.key());
         wanted.insert(nearestFolder(file.key()));
     }

@@ -37,10 +37,12 @@ private:
     {
         qint64 size = -1;
         QDateTime time;
+        bool readable = false;
 
         friend bool operator==(const Stamp& left, const Stamp& right)
         {
-            return left.size == right.size && left.time == right.time;
+            return left.size == right.size && left.time == right.time &&
+                   left.readable == right.readable;
         }
     };
 

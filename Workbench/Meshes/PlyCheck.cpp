@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -328,7 +329,7 @@ private:
         const bool isFace = element.name == "face" &&
                             (property.name == "vertex_indices" || property.name == "vertex_index");
         const auto count = values.next(property.countType);
-        if (!count || !(*count >= 0) || !(*count <= m_content.size()))
+        if (!count || !isIndex(*count))
             return wrong(MeshReader::tr("is cut off or has a list of no sensible length"));
         if (isFace && *count < 3)
             return wrong(MeshReader::tr("has a face of fewer than three points"));
@@ -346,9 +347,15 @@ private:
         return true;
     }
 
+    /** A whole number that a file of this size can count to. */
+    bool isIndex(double number) const
+    {
+        return number >= 0 && number <= m_content.size() && std::floor(number) == number;
+    }
+
     bool corner(double index)
     {
-        if (!(index >= 0) || !(index <= m_content.size()))
+        if (!isIndex(index))
             return wrong(MeshReader::tr("has a face with a point that doesn't exist"));
         const auto whole = static_cast<quint32>(index);
         m_highest = std::max<qint64>(m_highest, whole);

@@ -49,6 +49,7 @@ class DesignReaderTest : public TestCase
 
 private Q_SLOTS:
     void readsEveryPiece();
+    void readsTheDocumentedExample();
     void tellsWhichFilesAreThere();
     void acceptsDesignWithNothingInIt();
     void refusesFile_data();
@@ -88,6 +89,16 @@ void DesignReaderTest::readsEveryPiece()
     QCOMPARE(design.files.at(1).kind, FileKind::Material);
     QCOMPARE(design.allIds().size(), std::size_t(9));
     QVERIFY(design.findName(id(99)) == nullptr);
+}
+
+void DesignReaderTest::readsTheDocumentedExample()
+{
+    const QByteArray text = readFile(QFINDTESTDATA("../../../Docs/DesignFile.md"));
+    const int start = text.indexOf("```json") + 7;
+    const QByteArray example = text.mid(start, text.indexOf("```", start) - start);
+    const DesignReading reading = DesignReader().parse(example, QStringLiteral("/d/cup.dsg"));
+    QVERIFY(reading.problems.empty());
+    QCOMPARE(reading.design->allIds().size(), std::size_t(10));
 }
 
 void DesignReaderTest::tellsWhichFilesAreThere()

@@ -207,6 +207,8 @@ void MeshReaderTest::refuses_data()
     row("binary PLY cut off",              "a.ply", binaryPly(cube(), true).chopped(1), "is cut off");
     row("PLY with face out of range",      "a.ply", asciiPly(cube()).replace("3 0 2 3", "3 0 2 8"), "has a face with point 9, but only 8 points");
     row("PLY with negative point",         "a.ply", asciiPly(cube()).replace("3 0 2 3", "3 0 2 -3"), "a point that doesn't exist");
+    row("PLY with point between two",      "a.ply", asciiPly(cube()).replace("3 0 2 3", "3 0 2.5 3"), "a point that doesn't exist");
+    row("PLY with list of broken length",  "a.ply", asciiPly(cube()).replace("3 0 2 3", "3.5 0 2 3"), "no sensible length");
     row("PLY with list of no end",         "a.ply", asciiPly(cube()).replace("3 0 2 3", "1e18 0 2 3"), "no sensible length");
     row("PLY without faces",               "a.ply", asciiPly({cube().points, {}}), "");
     // clang-format on
