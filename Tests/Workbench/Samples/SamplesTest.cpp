@@ -29,6 +29,8 @@ private Q_SLOTS:
     void onlyTheSpringbackResultIsMissing();
     void meshes_data();
     void meshes();
+    void sheetsFaceUpWithoutFolds_data();
+    void sheetsFaceUpWithoutFolds();
     void everyMeshFileIsPartOfItsDesign();
     void bothStlFormatsOccur();
     void toolsFitThePart();
@@ -129,6 +131,25 @@ void SamplesTest::meshes()
         QVERIFY(facts.box.size().x() > 900 && facts.box.size().x() < 1600);
     else
         QVERIFY((facts.box.size() - size).length() < 0.5F);
+}
+
+void SamplesTest::sheetsFaceUpWithoutFolds_data()
+{
+    QTest::addColumn<QString>("file");
+    for (const char* file : {"drawn-panel.stl", "trimmed-panel.stl"})
+        QTest::newRow(file) << QStringLiteral("door-panel/geometry/") + QLatin1String(file);
+}
+
+void SamplesTest::sheetsFaceUpWithoutFolds()
+{
+    QFETCH(QString, file);
+    const MeshReading reading = MeshReader::read(sample(file));
+    const std::vector<QVector3D>& points = reading.mesh->points;
+    for (const TriangleMesh::Triangle& triangle : reading.mesh->triangles) {
+        const QVector3D normal =
+            QVector3D::normal(points[triangle[0]], points[triangle[1]], points[triangle[2]]);
+        QVERIFY(normal.z() > 0);
+    }
 }
 
 void SamplesTest::everyMeshFileIsPartOfItsDesign()
