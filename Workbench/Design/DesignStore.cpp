@@ -88,21 +88,25 @@ void DesignStore::arrange()
     m_designs.clear();
     m_references.clear();
     m_referred.clear();
-    for (const QString& file : std::as_const(m_opened)) {
-        QStringList path;
-        place(file, path, pool);
-    }
-    for (auto& [file, design] : pool) {
+    for (const QString& file : std::as_const(m_opened))
+        placeOpened(file, pool);
+    for (const auto& [file, record] : m_records) {
         // No longer referred to, but with changes that only we have.
-        if (!contains(m_designs, file) && !m_records[file].savedNames.empty()) {
-            m_opened.append(file);
-            m_designs.push_back(std::move(design));
-        }
+        if (record.savedNames.empty() || contains(m_designs, file))
+            continue;
+        m_opened.append(file);
+        placeOpened(file, pool);
     }
     for (auto record = m_records.begin(); record != m_records.end();) {
         const bool wanted = m_opened.contains(record->first) || m_referred.contains(record->first);
         record = wanted ? std::next(record) : m_records.erase(record);
     }
+}
+
+void DesignStore::placeOpened(const QString& file, Pool& pool)
+{
+    QStringList path;
+    place(file, path, pool);
 }
 
 void DesignStore::place(const QString& file, QStringList& path, Pool& pool)
@@ -195,15 +199,19 @@ DesignStore::Outcome DesignStore::follow(const QString& file)
         return different ? Outcome::Changed : Outcome::Nothing;
     }
     if (design != nullptr && reading.design && !record.savedNames.empty()) {
-        record.file = {{file,
-                        {},
-                        tr("was changed by another program; it is shown as it was, "
-                           "with your unsaved changes")}};
-        return std::exchange(record.conflict, true) ? Outcome::Nothing : Outcome::Conflict;
+        const bool known = record.conflict;
+        noteConflict(record, file);
+        return known ? Outcome::Nothing : Outcome::Conflict;
     }
     if (design == nullptr || accept(record, *design, std::move(reading)))
         arrange();
     return Outcome::Changed;
+}
+
+void DesignStore::noteConflict(Record& record, const QString& file)
+{
+    record.conflict = true;
+    record.file = {{file, {}, tr("was changed by another program; your unsaved changes are kept")}};
 }
 
 /** Takes over what was read; false, with only the problems taken over, if that is no design. */
@@ -286,7 +294,7 @@ std::optional<Problem> DesignStore::saveOne(Design& design, Record& record, bool
     const DesignReading present = DesignReader().read(design.file);
     const bool differs = QFileInfo::exists(design.file) && present.content != record.content;
     if (differs && !overwriteConflict) {
-        record.conflict = true;
+        noteConflict(record, design.file);
         return Problem{
             design.file, {}, tr("was changed by another program and is not overwritten")};
     }

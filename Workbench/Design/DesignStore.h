@@ -79,10 +79,12 @@ private:
     using Pool = std::map<QString, Design>;
 
     void arrange();
+    void placeOpened(const QString& file, Pool& pool);
     void place(const QString& file, QStringList& path, Pool& pool);
     void followReference(std::size_t index, std::size_t reference, QStringList& path, Pool& pool);
     void readNew(const QString& file, Pool& pool);
     DesignReader::TakenIds takenIds(const QString& exceptFile, const Pool& pool) const;
+    static void noteConflict(Record& record, const QString& file);
     bool accept(Record& record, Design& design, DesignReading reading);
     std::optional<Problem> saveOne(Design& design, Record& record, bool overwriteConflict);
     Design* findByFile(const QString& file);

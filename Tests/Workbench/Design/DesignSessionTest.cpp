@@ -531,6 +531,7 @@ void DesignSessionTest::savingRefusesToOverwriteSilently()
     QCOMPARE(readFile(file), theirs);
     QVERIFY(m_session->isModified(id(21)));
     QVERIFY(m_session->hasConflict(id(1)));
+    QVERIFY(allProblems(*m_session).contains(QStringLiteral("changed by another program")));
 }
 
 void DesignSessionTest::savingMayOverwrite()
