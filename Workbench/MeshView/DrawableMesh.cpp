@@ -8,7 +8,7 @@ namespace Zorvane::Workbench {
 namespace {
 
 constexpr float s_cosineOfFold = 0.866f;
-constexpr double s_heightOfSliver = 0.02;
+constexpr float s_heightOfSliver = 0.02f;
 constexpr std::size_t s_mostTrianglesToRefine = 2'000'000;
 constexpr std::size_t s_mostTrianglesToCompare = 64;
 
@@ -103,18 +103,27 @@ std::vector<Side> sortedSides(const TriangleMesh& mesh)
     return sides;
 }
 
-double edgeLength(const TriangleMesh& mesh, const Side& side)
+/** Where a triangle points to is a matter of rounding once it is this much longer than high. */
+bool isSliver(const TriangleMesh& mesh, const TriangleMesh::Triangle& corners, float twiceTheArea)
 {
-    return double((mesh.points[side.to] - mesh.points[side.from]).length());
+    float longest = 0;
+    for (std::size_t corner = 0; corner < 3; ++corner) {
+        const QVector3D side =
+            mesh.points[corners[(corner + 1) % 3]] - mesh.points[corners[corner]];
+        longest = std::max(longest, side.lengthSquared());
+    }
+    return twiceTheArea < s_heightOfSliver * longest;
 }
 
-bool isFold(const QVector3D& left, const QVector3D& right, double edge)
+bool isFold(const TriangleMesh& mesh, const std::vector<QVector3D>& areaNormals, std::uint32_t left,
+            std::uint32_t right)
 {
-    const double smaller = double(std::min(left.length(), right.length()));
-    // Where a triangle points to is a matter of rounding once it is this much longer than high.
-    if (smaller < edge * edge * s_heightOfSliver)
-        return false;
-    return QVector3D::dotProduct(left, right) < s_cosineOfFold * left.length() * right.length();
+    const float leftArea = areaNormals[left].length();
+    const float rightArea = areaNormals[right].length();
+    return QVector3D::dotProduct(areaNormals[left], areaNormals[right]) <
+               s_cosineOfFold * leftArea * rightArea &&
+           !isSliver(mesh, mesh.triangles[left], leftArea) &&
+           !isSliver(mesh, mesh.triangles[right], rightArea);
 }
 
 void findEdges(DrawableMesh& drawable, const std::vector<QVector3D>& areaNormals)
@@ -126,8 +135,7 @@ void findEdges(DrawableMesh& drawable, const std::vector<QVector3D>& areaNormals
             ++end;
         const bool inside = end - first == 2;
         if (!inside ||
-            isFold(areaNormals[sides[first].triangle], areaNormals[sides[first + 1].triangle],
-                   edgeLength(*drawable.mesh, sides[first])))
+            isFold(*drawable.mesh, areaNormals, sides[first].triangle, sides[first + 1].triangle))
             drawable.edges.push_back({sides[first].from, sides[first].to});
         first = end;
     }

@@ -48,12 +48,18 @@ ScaleBar scaleBarFor(double pixelsPerMm, double atMost)
     return {power, power * pixelsPerMm};
 }
 
-QString sizeText(const QVector3D& millimetres, const QLocale& locale)
+QString sizeFigures(const QVector3D& millimetres, const QLocale& locale)
 {
-    return QCoreApplication::translate("Zorvane::Workbench::MeshView", "%1 × %2 × %3 mm")
+    return QStringLiteral("%1 × %2 × %3")
         .arg(numberText(double(millimetres.x()), locale),
              numberText(double(millimetres.y()), locale),
              numberText(double(millimetres.z()), locale));
+}
+
+QString sizeText(const QVector3D& millimetres, const QLocale& locale)
+{
+    return QCoreApplication::translate("Zorvane::Workbench::MeshView", "%1 mm")
+        .arg(sizeFigures(millimetres, locale));
 }
 
 void drawAxes(QPainter& painter, const QRect& area, const ViewTransform& view)

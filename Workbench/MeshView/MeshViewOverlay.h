@@ -23,7 +23,9 @@ struct ScaleBar
 /** The longest bar of 1, 2 or 5 times a power of ten millimetres that fits into `atMost` pixels. */
 ScaleBar scaleBarFor(double pixelsPerMm, double atMost);
 
-/** A size such as "120 × 80.5 × 45 mm", to about four digits. */
+/** A size such as "120 × 80.5 × 45", to about four digits. */
+QString sizeFigures(const QVector3D& millimetres, const QLocale& locale);
+/** The same with its unit, "mm". */
 QString sizeText(const QVector3D& millimetres, const QLocale& locale);
 
 /** The axes in the lower left corner of `area`, the ones that point to the viewer last. */

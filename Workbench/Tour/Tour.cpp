@@ -424,6 +424,7 @@ void Tour::goDark()
     m_driver.waitUntilRead();
     m_driver.select(ObjectKind::Tool, text("Draw punch"));
     m_driver.waitFor([this] { return m_window.meshView().hasMesh(); });
+    m_window.meshView().setDirection(ViewDirection::Isometric);
     applyAppearance(*qApp, Appearance::Dark);
     m_driver.settle();
     const QImage dark = m_driver.picture();

@@ -91,7 +91,8 @@ std::optional<IDCombiner> DesignCatalog::findByFile(const QString& file) const
 
 std::optional<MeshFacts> DesignCatalog::facts(const CatalogEntry& entry) const
 {
-    return entry.isMesh ? m_loader.facts(entry.file) : std::nullopt;
+    const bool there = entry.isMesh && entry.fileState == FileState::Exists;
+    return there ? m_loader.facts(entry.file) : std::nullopt;
 }
 
 QString DesignCatalog::meshProblem(const CatalogEntry& entry) const

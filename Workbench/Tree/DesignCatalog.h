@@ -57,7 +57,7 @@ public:
     /** The first object behind which this file is; nothing when there is none. */
     std::optional<IDCombiner> findByFile(const QString& file) const;
 
-    /** Of the mesh behind the entry, once it has been read. */
+    /** Of the mesh behind the entry, once it has been read and as long as it is there. */
     std::optional<MeshFacts> facts(const CatalogEntry& entry) const;
     /** Why the mesh behind the entry could not be read; empty when it could. */
     QString meshProblem(const CatalogEntry& entry) const;

@@ -11,9 +11,10 @@ namespace {
 
 constexpr int s_roomAroundText = 6;
 
-QColor warningColour(const QPalette& palette)
+/** Readable on this background. */
+QColor warningColour(const QColor& background)
 {
-    const bool dark = palette.color(QPalette::Base).lightness() < 128;
+    const bool dark = background.lightness() < 128;
     return dark ? QColor(0xff, 0x9a, 0x86) : QColor(0xb0, 0x2a, 0x1c);
 }
 
@@ -50,8 +51,13 @@ void DesignTreeDelegate::initStyleOption(QStyleOptionViewItem* option,
     const ZVWidgetStatus::Stati stati = statiOf(index);
     const bool wrong = stati & (ZVWidgetStatus::Missing | ZVWidgetStatus::Error);
     const bool tells = index.column() == TreeColumn::Name || index.column() == TreeColumn::State;
-    if (wrong && tells)
-        option->palette.setColor(QPalette::Text, warningColour(option->palette));
+    if (wrong && tells) {
+        const QPalette& palette = option->palette;
+        const QColor plain = warningColour(palette.color(QPalette::Base));
+        const QColor selected = warningColour(palette.color(QPalette::Highlight));
+        option->palette.setColor(QPalette::Text, plain);
+        option->palette.setColor(QPalette::HighlightedText, selected);
+    }
     if (stati.testFlag(ZVWidgetStatus::Modified) && tells)
         option->font.setItalic(true);
 }

@@ -4,11 +4,16 @@
 
 namespace Zorvane::Workbench {
 
-QString surfaceText(double squareMillimetres, const QLocale& locale)
+QString surfaceFigures(double squareMillimetres, const QLocale& locale)
 {
     const int decimals = squareMillimetres >= 1000 ? 0 : squareMillimetres >= 10 ? 1 : 3;
+    return locale.toString(squareMillimetres, 'f', decimals);
+}
+
+QString surfaceText(double squareMillimetres, const QLocale& locale)
+{
     return QCoreApplication::translate("Zorvane::Workbench::FactTexts", "%1 mm²")
-        .arg(locale.toString(squareMillimetres, 'f', decimals));
+        .arg(surfaceFigures(squareMillimetres, locale));
 }
 
 QString yesNoText(bool yes)

@@ -5,7 +5,9 @@
 
 namespace Zorvane::Workbench {
 
-/** Such as "35,200 mm²". */
+/** Such as "35,200". */
+QString surfaceFigures(double squareMillimetres, const QLocale& locale);
+/** The same with its unit, "mm²". */
 QString surfaceText(double squareMillimetres, const QLocale& locale);
 /** "Yes" or "No", translated. */
 QString yesNoText(bool yes);

@@ -86,6 +86,8 @@ Qt::Alignment treeColumnAlignment(int column)
 {
     const bool figure = column == TreeColumn::Triangles || column == TreeColumn::Size ||
                         column == TreeColumn::Surface;
+    if (column == TreeColumn::Watertight)
+        return Qt::AlignCenter;
     return (figure ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
 }
 
@@ -97,8 +99,8 @@ QStringList treeColumnTitles()
     return {text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Name")),
             text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Kind")),
             text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Triangles")),
-            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Size")),
-            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Surface")),
+            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Size in mm")),
+            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Surface in mm²")),
             text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Watertight")),
             text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "State"))};
 }
@@ -172,10 +174,10 @@ void RowDecoration::addFactTexts()
                 })));
     m_factTexts.push_back(addText(
         TreeColumn::Size, Qt::DisplayRole,
-        factText([](const MeshFacts& facts) { return sizeText(facts.box.size(), QLocale()); })));
+        factText([](const MeshFacts& facts) { return sizeFigures(facts.box.size(), QLocale()); })));
     m_factTexts.push_back(addText(
         TreeColumn::Surface, Qt::DisplayRole,
-        factText([](const MeshFacts& facts) { return surfaceText(facts.surface, QLocale()); })));
+        factText([](const MeshFacts& facts) { return surfaceFigures(facts.surface, QLocale()); })));
     m_factTexts.push_back(
         addText(TreeColumn::Watertight, Qt::DisplayRole,
                 factText([](const MeshFacts& facts) { return yesNoText(facts.watertight); })));
@@ -211,9 +213,10 @@ void RowDecoration::addStates()
 
 void RowDecoration::addLooks()
 {
-    addForObjects(std::make_shared<TreeItemStaticDataProvider>(
-        std::vector<int>{TreeColumn::Triangles, TreeColumn::Size, TreeColumn::Surface},
-        Qt::TextAlignmentRole, int(treeColumnAlignment(TreeColumn::Triangles))));
+    for (const int column :
+         {TreeColumn::Triangles, TreeColumn::Size, TreeColumn::Surface, TreeColumn::Watertight})
+        addForObjects(std::make_shared<TreeItemStaticDataProvider>(
+            std::vector<int>{column}, Qt::TextAlignmentRole, int(treeColumnAlignment(column))));
     QFont bold;
     bold.setBold(true);
     addForGroups(std::make_shared<TreeItemStaticDataProvider>(std::vector<int>{TreeColumn::Name},

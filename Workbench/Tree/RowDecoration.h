@@ -33,7 +33,7 @@ enum Column
 };
 } // namespace TreeColumn
 
-/** Figures stand to the right, texts to the left. */
+/** Figures stand to the right, short answers in the middle, texts to the left. */
 Qt::Alignment treeColumnAlignment(int column);
 /** Titles of the columns, translated. */
 QStringList treeColumnTitles();

@@ -33,6 +33,8 @@
 #include <QtWidgets/QTreeView>
 #include <QtWidgets/QVBoxLayout>
 
+#include <utility>
+
 // Resources of a static library must be asked for, outside of any namespace, unnamed ones too.
 static void initializeResources()
 {
@@ -111,7 +113,7 @@ void MainWindow::layOut()
     layout->addWidget(m_allAndProblems, 1);
     setCentralWidget(middle);
     resize(1360, 820);
-    m_sides->setSizes({800, 560});
+    m_sides->setSizes({840, 520});
     m_meshAndDetails->setSizes({520, 240});
 }
 
@@ -124,7 +126,7 @@ QWidget* MainWindow::createTreeSide()
     QHeaderView* header = m_treeView->header();
     header->setStretchLastSection(true);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const int widths[] = {214, 108, 72, 150, 92, 76, 90};
+    const int widths[] = {212, 122, 70, 154, 106, 76, 80};
     for (int column = 0; column < header->count(); ++column)
         header->resizeSection(column, widths[column]);
     auto* side = new QWidget(this);
@@ -285,7 +287,14 @@ void MainWindow::connectParts()
     connect(m_tree, &DesignTree::currentChanged, this, &MainWindow::showCurrent);
     connect(m_tree, &DesignTree::refreshed, this, &MainWindow::showSession);
     connect(m_tree, &DesignTree::renameRefused, this,
-            [this](const QString&, const QString& reason) { m_messageBar->say(reason); });
+            [this](const QString&, const QString& reason) {
+                m_messageBar->say(reason);
+                m_tellsRefusal = true;
+            });
+    connect(m_tree, &DesignTree::currentChanged, this, [this] {
+        if (std::exchange(m_tellsRefusal, false))
+            m_messageBar->hide();
+    });
     connect(&m_session, &DesignSession::conflictFound, this, &MainWindow::tellConflict);
     connect(m_progress, &ReadingProgress::cancelled, m_factsReader, &FactsReader::cancel);
     connect(m_problemsPanel, &ProblemsPanel::activated, this, [this](const Problem& problem) {

@@ -108,6 +108,7 @@ private:
     QSplitter* m_meshAndDetails = nullptr;
     QSplitter* m_allAndProblems = nullptr;
     bool m_keepsLayout = false;
+    bool m_tellsRefusal = false;
 };
 
 } // namespace Zorvane::Workbench
