@@ -3,7 +3,9 @@
 #include "Host/FileHandling/PathSyntax.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 
+#include <exception>
 #include <filesystem>
 #include <system_error>
 
@@ -14,6 +16,22 @@ namespace {
 QString tidied(const FileName& file)
 {
     return QDir::cleanPath(QDir().absoluteFilePath(file.toQString()));
+}
+
+std::filesystem::path pathOf(const FileName& file)
+{
+    try {
+        return std::filesystem::u8path(file.toString());
+    } catch (const std::exception&) {
+        // Where names are text, there is no file whose name is none.
+        return {};
+    }
+}
+
+bool isSameCanonically(const FileName& left, const FileName& right)
+{
+    const QString canonical = QFileInfo(left.toQString()).canonicalFilePath();
+    return !canonical.isEmpty() && canonical == QFileInfo(right.toQString()).canonicalFilePath();
 }
 
 bool isSpelledAlike(const FileName& left, const FileName& right)
@@ -27,9 +45,11 @@ bool isSpelledAlike(const FileName& left, const FileName& right)
 
 bool FileUtilities::exists(const FileName& file)
 {
+    // Qt knows of paths longer than Windows takes by itself, the standard library of names that
+    // are no text.
     std::error_code failure;
     return !file.isEmpty() &&
-           std::filesystem::exists(std::filesystem::u8path(file.toString()), failure);
+           (QFileInfo::exists(file.toQString()) || std::filesystem::exists(pathOf(file), failure));
 }
 
 bool FileUtilities::isEquivalent(const FileName& left, const FileName& right)
@@ -39,8 +59,8 @@ bool FileUtilities::isEquivalent(const FileName& left, const FileName& right)
     if (!exists(left) || !exists(right))
         return isSpelledAlike(left, right);
     std::error_code failure;
-    return std::filesystem::equivalent(std::filesystem::u8path(left.toString()),
-                                       std::filesystem::u8path(right.toString()), failure);
+    return isSameCanonically(left, right) ||
+           std::filesystem::equivalent(pathOf(left), pathOf(right), failure);
 }
 
 } // namespace Zorvane

@@ -51,6 +51,8 @@ private Q_SLOTS:
     void filtersAreTranslated();
     void germanCatalogueIsBuiltIn();
     void fileDialogsUnderstandFilters();
+    void documentationHasTheSameTable_data() { clearText_data(); }
+    void documentationHasTheSameTable();
 };
 
 void FileTypeFiltersTest::clearText_data()
@@ -299,6 +301,24 @@ void FileTypeFiltersTest::fileDialogsUnderstandFilters()
     QCOMPARE(dialog.nameFilters().size(), 53);
     dialog.selectNameFilter(dialog.nameFilters().at(1));
     QCOMPARE(dialog.selectedNameFilter(), QStringLiteral("ZV Design File (*.zvd)"));
+}
+
+void FileTypeFiltersTest::documentationHasTheSameTable()
+{
+    QFETCH(int, number);
+    QFETCH(QString, text);
+    QFile documentation(QFINDTESTDATA("../../Docs/Files.md"));
+    if (!documentation.open(QIODevice::ReadOnly))
+        QSKIP("run without the sources beside it");
+    const QRegularExpression row(
+        QStringLiteral("^\\| %1 \\| `(\\w+)` \\| (.+) \\| `(.+)` \\|$").arg(number),
+        QRegularExpression::MultilineOption);
+    const auto match = row.match(QString::fromUtf8(documentation.readAll()));
+    QCOMPARE(match.hasMatch(), number >= 0 && number <= 51);
+    if (!match.hasMatch())
+        return;
+    QCOMPARE(match.captured(2), text);
+    QCOMPARE(match.captured(3), QString::fromStdString(getExtensionForFileType(type(number))));
 }
 
 ZORVANE_TEST_MAIN(FileTypeFiltersTest)

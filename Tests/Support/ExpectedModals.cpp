@@ -1,10 +1,14 @@
 #include "Tests/Support/ExpectedModals.h"
 
 #include <QtCore/QEvent>
+#include <QtCore/QPointer>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTimer>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
+
+#include <algorithm>
 
 namespace Zorvane::Testing {
 

@@ -1,14 +1,13 @@
 #pragma once
 
 #include <QtCore/QObject>
-#include <QtCore/QPointer>
-#include <QtCore/QRegularExpression>
 #include <QtCore/QStringList>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QMessageBox>
 
 #include <deque>
 #include <functional>
+#include <vector>
 
 namespace Zorvane::Testing {
 
