@@ -132,7 +132,7 @@ MeshReading refused(const QString& path, const QString& reason, const QString& w
     return {std::nullopt, {path, where, reason}};
 }
 
-MeshReading parse(const QString& path, const QByteArray& content, const char* ending)
+MeshReading parseChecked(const QString& path, const QByteArray& content, const char* ending)
 {
     Assimp::Importer importer;
     const aiScene* scene =
@@ -159,8 +159,6 @@ QString obstacleTo(const QString& path)
     // Pipes and devices could be read without end.
     if (!info.isFile())
         return MeshReader::tr("is no file");
-    if (info.size() == 0)
-        return MeshReader::tr("is empty");
     if (info.size() > MeshReader::largestFile)
         return MeshReader::tr("is too large for a mesh file: %1, the limit is %2")
             .arg(QLocale().formattedDataSize(info.size()),
@@ -168,35 +166,61 @@ QString obstacleTo(const QString& path)
     return {};
 }
 
-MeshReading readChecked(const QString& path, const Format& format)
+/** The content, or none with the reason. */
+std::optional<QByteArray> contentOf(const QString& path, QString& reason)
 {
+    reason = obstacleTo(path);
+    if (!reason.isEmpty())
+        return std::nullopt;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return refused(path, MeshReader::tr("cannot be opened: %1").arg(file.errorString()));
+    if (!file.open(QIODevice::ReadOnly)) {
+        reason = MeshReader::tr("cannot be opened: %1").arg(file.errorString());
+        return std::nullopt;
+    }
     const QByteArray content = file.read(MeshReader::largestFile);
-    if (file.error() != QFileDevice::NoError)
-        return refused(path, MeshReader::tr("cannot be read: %1").arg(file.errorString()));
-    const MeshContent checked = format.check(content);
-    if (!checked.reason.isEmpty())
-        return refused(path, checked.reason, checked.where);
-    return parse(path, checked.content, format.ending);
+    if (file.error() != QFileDevice::NoError) {
+        reason = MeshReader::tr("cannot be read: %1").arg(file.errorString());
+        return std::nullopt;
+    }
+    return content;
+}
+
+/** What `read` gives, or the problem when memory runs out on the way. */
+template <typename Read>
+MeshReading withinMemory(const QString& path, Read read)
+{
+    try {
+        return read();
+    } catch (const std::bad_alloc&) {
+        return refused(path, MeshReader::tr("takes more memory than there is"));
+    }
 }
 
 } // namespace
 
 MeshReading MeshReader::read(const QString& path)
 {
+    if (!isMeshFile(path))
+        return parse({}, path);
+    return withinMemory(path, [&path] {
+        QString reason;
+        const std::optional<QByteArray> content = contentOf(path, reason);
+        return content ? parse(*content, path) : refused(path, reason);
+    });
+}
+
+MeshReading MeshReader::parse(const QByteArray& content, const QString& path)
+{
     const Format* format = formatOf(path);
     if (format == nullptr)
         return refused(path, tr("is no mesh file: its name must end with stl, obj or ply"));
-    const QString obstacle = obstacleTo(path);
-    if (!obstacle.isEmpty())
-        return refused(path, obstacle);
-    try {
-        return readChecked(path, *format);
-    } catch (const std::bad_alloc&) {
-        return refused(path, tr("takes more memory than there is"));
-    }
+    if (content.isEmpty())
+        return refused(path, tr("is empty"));
+    return withinMemory(path, [&] {
+        const MeshContent checked = format->check(content);
+        return checked.reason.isEmpty() ? parseChecked(path, checked.content, format->ending)
+                                        : refused(path, checked.reason, checked.where);
+    });
 }
 
 bool MeshReader::isMeshFile(const QString& path)

@@ -3,6 +3,7 @@
 #include "Workbench/Design/Problem.h"
 #include "Workbench/Meshes/TriangleMesh.h"
 
+#include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -34,7 +35,10 @@ public:
     /** In bytes; five million triangles of a binary STL file. */
     static constexpr qint64 largestFile = 256LL * 1024 * 1024;
 
+    /** Reads the file at `path`. */
     static MeshReading read(const QString& path);
+    /** Reads `content` as if it stood in the file at `path`. */
+    static MeshReading parse(const QByteArray& content, const QString& path);
 
     /** Whether the name ends as a mesh file's does, in any case. */
     static bool isMeshFile(const QString& path);

@@ -455,7 +455,7 @@ void DesignSessionTest::followsRewritingInPlace()
     const QString file = openSmallDesign();
     for (const char* name : {"Second", "Third"}) {
         writeFile(file, namedDesign(QString::fromUtf8(name)));
-        QTRY_COMPARE(designName(), QString::fromUtf8(name));
+        QTRY_COMPARE_WITH_TIMEOUT(designName(), QString::fromUtf8(name), patience);
     }
 }
 
@@ -464,7 +464,7 @@ void DesignSessionTest::followsReplacementByRename()
     const QString file = openSmallDesign();
     for (const char* name : {"Second", "Third", "Fourth"}) {
         replaceFile(file, namedDesign(QString::fromUtf8(name)));
-        QTRY_COMPARE(designName(), QString::fromUtf8(name));
+        QTRY_COMPARE_WITH_TIMEOUT(designName(), QString::fromUtf8(name), patience);
     }
 }
 
@@ -473,13 +473,13 @@ void DesignSessionTest::keepsLastGoodStateWhileBroken()
     const QString file = openSmallDesign();
     const QByteArray whole = namedDesign(QStringLiteral("Second"));
     writeFile(file, whole.left(whole.size() - 20));
-    QTRY_VERIFY(!m_session->problems().empty());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_session->problems().empty(), patience);
     QCOMPARE(designName(), QStringLiteral("Small"));
     QCOMPARE(m_session->name(id(21)), QStringLiteral("Die"));
     QVERIFY(allProblems(*m_session).contains(QStringLiteral("is no complete JSON")));
     QVERIFY(allProblems(*m_session).contains(QStringLiteral("as it was read last")));
     writeFile(file, whole);
-    QTRY_COMPARE(designName(), QStringLiteral("Second"));
+    QTRY_COMPARE_WITH_TIMEOUT(designName(), QStringLiteral("Second"), patience);
     QVERIFY(m_session->problems().empty());
 }
 
@@ -487,10 +487,11 @@ void DesignSessionTest::keepsDesignWhoseFileIsGone()
 {
     const QString file = openSmallDesign();
     QVERIFY(QFile::remove(file));
-    QTRY_VERIFY(allProblems(*m_session).contains(QStringLiteral("doesn't exist")));
+    QTRY_VERIFY_WITH_TIMEOUT(allProblems(*m_session).contains(QStringLiteral("doesn't exist")),
+                             patience);
     QCOMPARE(designName(), QStringLiteral("Small"));
     writeFile(file, toText(smallDesign()));
-    QTRY_VERIFY(m_session->problems().empty());
+    QTRY_VERIFY_WITH_TIMEOUT(m_session->problems().empty(), patience);
 }
 
 void DesignSessionTest::opensDesignOnceItIsMended()
@@ -500,7 +501,7 @@ void DesignSessionTest::opensDesignOnceItIsMended()
     QVERIFY(m_session->designs().empty());
     QCOMPARE(m_session->problems().size(), std::size_t(1));
     writeFile(file, toText(smallDesign()));
-    QTRY_COMPARE(m_session->designs().size(), std::size_t(1));
+    QTRY_COMPARE_WITH_TIMEOUT(m_session->designs().size(), std::size_t(1), patience);
     QVERIFY(m_session->problems().empty());
 }
 
@@ -512,7 +513,7 @@ void DesignSessionTest::keepsUnsavedChangesOnConflict()
             [&conflicts](const GUIdentifier& design) { conflicts.push_back(design); });
     m_session->rename(id(21), QStringLiteral("Ours"));
     writeFile(file, namedDesign(QStringLiteral("Theirs")));
-    QTRY_COMPARE(conflicts.size(), std::size_t(1));
+    QTRY_COMPARE_WITH_TIMEOUT(conflicts.size(), std::size_t(1), patience);
     QVERIFY(conflicts.front() == id(1));
     QVERIFY(m_session->hasConflict(id(1)));
     QCOMPARE(m_session->name(id(21)), QStringLiteral("Ours"));
@@ -569,9 +570,9 @@ void DesignSessionTest::conflictEndsWhenTheFileIsAsItWas()
     const QString file = openSmallDesign();
     m_session->rename(id(21), QStringLiteral("Ours"));
     writeFile(file, namedDesign(QStringLiteral("Theirs")));
-    QTRY_VERIFY(m_session->hasConflict(id(1)));
+    QTRY_VERIFY_WITH_TIMEOUT(m_session->hasConflict(id(1)), patience);
     writeFile(file, toText(smallDesign()));
-    QTRY_VERIFY(!m_session->hasConflict(id(1)));
+    QTRY_VERIFY_WITH_TIMEOUT(!m_session->hasConflict(id(1)), patience);
     QCOMPARE(m_session->name(id(21)), QStringLiteral("Ours"));
     QVERIFY(m_session->problems().empty());
 }
@@ -583,7 +584,7 @@ void DesignSessionTest::ownSaveIsNoChange()
     QSignalSpy told(m_session.get(), &DesignSession::fileChanged);
     QVERIFY(m_session->save().empty());
     const QSignalSpy changed(m_session.get(), &DesignSession::changed);
-    QVERIFY(told.wait());
+    QVERIFY(told.wait(patience));
     QCOMPARE(told.at(0).at(0).toString(), file);
     QCOMPARE(changed.count(), 0);
     QCOMPARE(m_session->name(id(21)), QStringLiteral("Ours"));
@@ -596,16 +597,16 @@ void DesignSessionTest::followsFilesReferredTo()
     const auto state = [this] { return m_session->geometryState(id(21)); };
     QCOMPARE(state(), FileState::Missing);
     writeFile(die, "solid");
-    QTRY_COMPARE(state(), FileState::Exists);
+    QTRY_COMPARE_WITH_TIMEOUT(state(), FileState::Exists, patience);
     QSignalSpy told(m_session.get(), &DesignSession::fileChanged);
     replaceFile(die, "solid again");
-    QTRY_VERIFY(told.count() > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(told.count() > 0, patience);
     QCOMPARE(told.at(0).at(0).toString(), die);
     QVERIFY(QFile::remove(die));
-    QTRY_COMPARE(state(), FileState::Missing);
+    QTRY_COMPARE_WITH_TIMEOUT(state(), FileState::Missing, patience);
     QVERIFY(QDir(path("geometry")).removeRecursively());
     writeFile(die, "solid");
-    QTRY_COMPARE(state(), FileState::Exists);
+    QTRY_COMPARE_WITH_TIMEOUT(state(), FileState::Exists, patience);
 }
 
 void DesignSessionTest::followsFolderOfMeshFiles()
@@ -614,12 +615,12 @@ void DesignSessionTest::followsFolderOfMeshFiles()
     m_session->open({path("m"), writeFile(path("alone.stl"), "solid")});
     QCOMPARE(m_session->looseParts().size(), std::size_t(2));
     writeFile(path("m/b.stl"), "solid");
-    QTRY_COMPARE(m_session->looseParts().size(), std::size_t(3));
+    QTRY_COMPARE_WITH_TIMEOUT(m_session->looseParts().size(), std::size_t(3), patience);
     QVERIFY(QFile::remove(a));
-    QTRY_COMPARE(m_session->looseParts().size(), std::size_t(2));
+    QTRY_COMPARE_WITH_TIMEOUT(m_session->looseParts().size(), std::size_t(2), patience);
     // A file opened by name keeps its place.
     QVERIFY(QFile::remove(path("alone.stl")));
-    QTRY_COMPARE(m_session->looseParts().at(1).state, FileState::Missing);
+    QTRY_COMPARE_WITH_TIMEOUT(m_session->looseParts().at(1).state, FileState::Missing, patience);
 }
 
 void DesignSessionTest::followsNewReferenceToDesign()
@@ -632,11 +633,11 @@ void DesignSessionTest::followsNewReferenceToDesign()
     const QJsonArray files{fileEntry(101, QStringLiteral("Small"), QStringLiteral("design"),
                                      QStringLiteral("small.dsg"))};
     writeFile(door, toText(designWithFiles(100, QStringLiteral("Door"), files)));
-    QTRY_COMPARE(m_session->designs().size(), std::size_t(2));
+    QTRY_COMPARE_WITH_TIMEOUT(m_session->designs().size(), std::size_t(2), patience);
     writeFile(path("small.dsg"), namedDesign(QStringLiteral("Changed")));
-    QTRY_COMPARE(m_session->designs().at(1).name, QStringLiteral("Changed"));
+    QTRY_COMPARE_WITH_TIMEOUT(m_session->designs().at(1).name, QStringLiteral("Changed"), patience);
     writeFile(door, toText(designWithFiles(100, QStringLiteral("Door"), {})));
-    QTRY_COMPARE(m_session->designs().size(), std::size_t(1));
+    QTRY_COMPARE_WITH_TIMEOUT(m_session->designs().size(), std::size_t(1), patience);
 }
 
 void DesignSessionTest::keepsModifiedDesignNoLongerReferredTo()
@@ -649,7 +650,7 @@ void DesignSessionTest::keepsModifiedDesignNoLongerReferredTo()
     m_session->open({door});
     m_session->rename(id(21), QStringLiteral("Ours"));
     writeFile(door, toText(designWithFiles(100, QStringLiteral("Alone"), {})));
-    QTRY_COMPARE(designName(), QStringLiteral("Alone"));
+    QTRY_COMPARE_WITH_TIMEOUT(designName(), QStringLiteral("Alone"), patience);
     QCOMPARE(m_session->designs().size(), std::size_t(2));
     QCOMPARE(m_session->name(id(21)), QStringLiteral("Ours"));
     QVERIFY(m_session->save().empty());

@@ -50,10 +50,10 @@ void FileWatchTest::tellsOfRewritingInPlace()
     const QString file = writeFile(path("a"), "1");
     m_watch->watch({file}, {});
     writeFile(file, "2");
-    QTRY_VERIFY(m_told.contains(file));
+    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
     m_told.clear();
     writeFile(file, "three");
-    QTRY_VERIFY(m_told.contains(file));
+    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
     m_told.clear();
 }
 
@@ -63,7 +63,7 @@ void FileWatchTest::tellsOfEveryReplacementByRename()
     m_watch->watch({file}, {});
     for (int i = 0; i < 5; ++i) {
         replaceFile(file, QByteArray(i + 2, 'x'));
-        QTRY_VERIFY(m_told.contains(file));
+        QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
         m_told.clear();
     }
 }
@@ -76,10 +76,10 @@ void FileWatchTest::tellsOfRewritingAfterReplacement()
     QVERIFY(holder.open(QIODevice::ReadOnly));
     m_watch->watch({file}, {});
     replaceFile(file, "22");
-    QTRY_VERIFY(m_told.contains(file));
+    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
     m_told.clear();
     writeFile(file, "333");
-    QTRY_VERIFY(m_told.contains(file));
+    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
     m_told.clear();
 }
 
@@ -88,13 +88,13 @@ void FileWatchTest::tellsOfDeletionAndReturn()
     const QString file = writeFile(path("a"), "1");
     m_watch->watch({file}, {});
     QVERIFY(QFile::remove(file));
-    QTRY_VERIFY(m_told.contains(file));
+    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
     m_told.clear();
     writeFile(file, "1");
-    QTRY_VERIFY(m_told.contains(file));
+    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
     m_told.clear();
     writeFile(file, "22");
-    QTRY_VERIFY(m_told.contains(file));
+    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
     m_told.clear();
 }
 
@@ -103,10 +103,10 @@ void FileWatchTest::waitsForFileInFolderThatIsYetToCome()
     const QString file = path("deep/deeper/a");
     m_watch->watch({file}, {});
     QVERIFY(QDir().mkpath(path("deep")));
-    QTRY_COMPARE(m_times, 1);
+    QTRY_COMPARE_WITH_TIMEOUT(m_times, 1, patience);
     QVERIFY(m_told.isEmpty());
     writeFile(file, "1");
-    QTRY_VERIFY(m_told.contains(file));
+    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
     m_told.clear();
 }
 
@@ -114,7 +114,7 @@ void FileWatchTest::tellsOfNewEntriesOfFolder()
 {
     m_watch->watch({}, {m_folder->path()});
     writeFile(path("new"), "1");
-    QTRY_VERIFY(m_times > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(m_times > 0, patience);
     QVERIFY(m_told.isEmpty());
 }
 
@@ -126,7 +126,7 @@ void FileWatchTest::forgetsWhatIsNoLongerWatched()
     m_watch->watch({watched}, {});
     writeFile(forgotten, "22");
     writeFile(watched, "22");
-    QTRY_VERIFY(m_told.contains(watched));
+    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(watched), patience);
     QVERIFY(!m_told.contains(forgotten));
 }
 
@@ -142,7 +142,7 @@ void FileWatchTest::tellsBurstTogether()
         const QSet<QString> told(m_told.cbegin(), m_told.cend());
         return told == QSet<QString>(files.cbegin(), files.cend());
     };
-    QTRY_VERIFY(allTold());
+    QTRY_VERIFY_WITH_TIMEOUT(allTold(), patience);
     QVERIFY(m_times < 200);
 }
 
