@@ -289,6 +289,7 @@ void Tour::missFile()
     m_report.expect(m_driver.waitFor([&] { return state() == text("File missing"); }),
                     text("the state File missing"));
     m_report.expect(!m_window.meshView().hasMesh(), text("no mesh"));
+    m_report.expect(m_window.problemsPanel().problems().size() == 1, text("one problem"));
     picture(text("file-missing"));
     m_report.expect(QFile::rename(file + text(".away"), file), text("the file is back"));
     m_report.expect(

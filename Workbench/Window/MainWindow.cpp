@@ -113,7 +113,7 @@ void MainWindow::layOut()
     layout->addWidget(m_allAndProblems, 1);
     setCentralWidget(middle);
     resize(1360, 820);
-    m_sides->setSizes({840, 520});
+    m_sides->setSizes({860, 500});
     m_meshAndDetails->setSizes({520, 240});
 }
 
@@ -126,7 +126,7 @@ QWidget* MainWindow::createTreeSide()
     QHeaderView* header = m_treeView->header();
     header->setStretchLastSection(true);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const int widths[] = {212, 122, 70, 154, 106, 76, 80};
+    const int widths[] = {224, 118, 70, 168, 104, 76, 82};
     for (int column = 0; column < header->count(); ++column)
         header->resizeSection(column, widths[column]);
     auto* side = new QWidget(this);
@@ -372,6 +372,11 @@ QString MainWindow::countsText() const
 void MainWindow::showProblems()
 {
     Problems problems = m_session.problems();
+    for (const Design& design : m_session.designs())
+        for (const FileReference& file : design.files)
+            if (file.state == FileState::Missing)
+                problems.push_back(
+                    {file.file, {}, tr("is missing; %1 refers to it").arg(design.name)});
     for (const QString& file : m_session.meshFiles())
         if (const std::optional<Problem> problem = m_loader.problem(file))
             problems.push_back(*problem);

@@ -1,0 +1,110 @@
+#include "Tests/Support/TestCase.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
+
+#include <set>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+const QString s_folder = QStringLiteral(ZORVANE_TOUR_FOLDER);
+
+struct Outcome
+{
+    int exitCode;
+    QString errors;
+};
+
+Outcome runWorkbench(const QStringList& arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(ZORVANE_WORKBENCH), arguments);
+    if (!process.waitForFinished(240'000) || process.exitStatus() != QProcess::NormalExit)
+        return {-1, QStringLiteral("did not end by itself: ") + process.errorString()};
+    return {process.exitCode(), QString::fromLocal8Bit(process.readAllStandardError())};
+}
+
+std::size_t colourCount(const QImage& image)
+{
+    std::set<QRgb> colours;
+    for (int y = 0; y < image.height(); y += 3)
+        for (int x = 0; x < image.width(); x += 3)
+            colours.insert(image.pixel(x, y));
+    return colours.size();
+}
+
+} // namespace
+
+class TourTest : public Testing::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsEverythingAndEndsWell();
+    void leavesPicturesThatAreNotBlank();
+    void tellsWhatEachPictureShows();
+    void endsBadlyWhenItCannotStorePictures();
+    void refusesUnknownOptions();
+};
+
+void TourTest::showsEverythingAndEndsWell()
+{
+    QVERIFY(QDir(s_folder).removeRecursively());
+    const Outcome outcome = runWorkbench({QStringLiteral("--tour"), s_folder});
+    QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
+}
+
+void TourTest::leavesPicturesThatAreNotBlank()
+{
+    const QStringList pictures = QDir(s_folder).entryList({QStringLiteral("*.png")});
+    QVERIFY(pictures.size() >= 17);
+    for (const QString& picture : pictures) {
+        const QImage image(QDir(s_folder).filePath(picture));
+        QVERIFY2(image.width() >= 1000 && image.height() >= 600, qPrintable(picture));
+        QVERIFY2(colourCount(image) > 100, qPrintable(picture));
+    }
+}
+
+void TourTest::tellsWhatEachPictureShows()
+{
+    QFile file(QDir(s_folder).filePath(QStringLiteral("tour.md")));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(file.readAll());
+    for (const QString& picture : QDir(s_folder).entryList({QStringLiteral("*.png")}))
+        QVERIFY2(text.contains(QStringLiteral("](%1)").arg(picture)), qPrintable(picture));
+    for (const char* shown :
+         {"Operations (3)", "OP10 Draw, second try", "File missing", "Mesh files (500)",
+          "Mesh files (501)", "truncated.stl: ", "shopping-list.stl: ", "sparse.stl: ", "cut.dsg: ",
+          "1 design · 3 of 14 objects shown", "Mesh view, Details"})
+        QVERIFY2(text.contains(QString::fromUtf8(shown)), shown);
+    QVERIFY(!text.contains(QStringLiteral("NOT SHOWN")));
+}
+
+void TourTest::endsBadlyWhenItCannotStorePictures()
+{
+    const QTemporaryDir folder;
+    QFile inTheWay(folder.filePath(QStringLiteral("file")));
+    QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+    const Outcome outcome =
+        runWorkbench({QStringLiteral("--tour"), folder.filePath(QStringLiteral("file/tour"))});
+    QVERIFY(outcome.exitCode > 0);
+    QVERIFY(outcome.errors.contains(QStringLiteral("not shown")));
+}
+
+void TourTest::refusesUnknownOptions()
+{
+    const Outcome outcome = runWorkbench({QStringLiteral("--no-such-option")});
+    QVERIFY(outcome.exitCode > 0);
+    QVERIFY(outcome.errors.contains(QStringLiteral("no-such-option")));
+}
+
+} // namespace Zorvane::Workbench
+
+using Zorvane::Workbench::TourTest;
+ZORVANE_TEST_MAIN(TourTest)
+#include "TourTest.moc"

@@ -1,0 +1,358 @@
+#include "Workbench/Window/MainWindow.h"
+
+#include "Tests/Support/ExpectedModals.h"
+#include "Tests/Support/TestCase.h"
+#include "Tests/Workbench/Tree/TreeFixture.h"
+#include "Workbench/MeshView/MeshView.h"
+#include "Workbench/Window/FilterBar.h"
+#include "Workbench/Window/MessageBar.h"
+#include "Workbench/Window/ProblemsPanel.h"
+#include "Workbench/Window/ReadingProgress.h"
+#include "Workbench/Window/WindowActions.h"
+
+#include <QtCore/QMimeData>
+#include <QtGui/QAccessible>
+#include <QtGui/QDropEvent>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QProgressBar>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTreeView>
+
+namespace Zorvane::Workbench {
+
+using Testing::objectId;
+
+namespace {
+
+bool isControl(const QWidget* widget)
+{
+    return widget->focusPolicy() != Qt::NoFocus || qobject_cast<const QAbstractButton*>(widget) ||
+           qobject_cast<const QAbstractItemView*>(widget) ||
+           qobject_cast<const QProgressBar*>(widget);
+}
+
+/** Parts of Qt's own controls, which speak for them. */
+bool isInnerPart(const QWidget* widget)
+{
+    return widget->objectName().startsWith(QLatin1String("qt_")) ||
+           widget->inherits("QHeaderView") || widget->inherits("QLineEditIconButton") ||
+           widget->inherits("QMenu") || widget->inherits("QToolBarExtension");
+}
+
+QString accessibleName(QWidget* widget)
+{
+    return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+}
+
+} // namespace
+
+class MainWindowTest : public Testing::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void everyControlHasAName();
+    void everyControlIsReachedByTab();
+    void opensADesignAndSelectsItsFirstPart();
+    void opensAMeshFile();
+    void whatCannotBeOpenedIsToldAndTheRestOpens();
+    void aBrokenMeshIsListedWithItsReason();
+    void missingFilesAreListed();
+    void theStatusBarCounts();
+    void theMeshFollowsItsFile();
+    void objectsWithoutMeshSayWhy();
+    void renamingRefusedIsToldUntilSomethingElseIsSelected();
+    void savingWritesTheDesign();
+    void savingOverAnotherProgramsChangeAsks();
+    void closingAsksForUnsavedChanges_data();
+    void closingAsksForUnsavedChanges();
+    void reloadReadsWhatWasCancelled();
+    void closeAllForgetsEverything();
+    void droppedFilesAreOpened();
+    void findFocusesTheFilter();
+    void activatingAProblemSelectsItsObject();
+
+private:
+    void triggerText(const QString& text);
+    void openDesign();
+
+    std::unique_ptr<Testing::OpenedDesign> m_files;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+void MainWindowTest::init()
+{
+    m_files = std::make_unique<Testing::OpenedDesign>();
+    m_window = std::make_unique<MainWindow>();
+    m_window->show();
+    m_window->activateWindow();
+}
+
+void MainWindowTest::cleanup()
+{
+    m_window.reset();
+    m_files.reset();
+    TestCase::cleanup();
+}
+
+void MainWindowTest::openDesign()
+{
+    m_window->open({m_files->folder.path()});
+    QTRY_VERIFY(!m_window->loader().isBusy());
+    m_window->tree().refreshNow();
+}
+
+void MainWindowTest::triggerText(const QString& text)
+{
+    for (QAction* action : m_window->findChildren<QAction*>())
+        if (action->text().remove(QLatin1Char('&')) == text)
+            return action->trigger();
+    QFAIL(qPrintable(QStringLiteral("no action ") + text));
+}
+
+void MainWindowTest::everyControlHasAName()
+{
+    openDesign();
+    m_window->open({m_files->path(QStringLiteral("nowhere"))});
+    int controls = 0;
+    for (QWidget* widget : m_window->findChildren<QWidget*>()) {
+        if (!isControl(widget) || isInnerPart(widget))
+            continue;
+        ++controls;
+        QVERIFY2(!accessibleName(widget).isEmpty(), widget->metaObject()->className());
+    }
+    QVERIFY(controls >= 10);
+}
+
+void MainWindowTest::everyControlIsReachedByTab()
+{
+    openDesign();
+    m_window->open({m_files->path(QStringLiteral("nowhere"))});
+    QSet<QWidget*> reached;
+    m_window->treeView().setFocus();
+    QTRY_VERIFY(m_window->treeView().hasFocus());
+    while (!reached.contains(QApplication::focusWidget())) {
+        reached.insert(QApplication::focusWidget());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    for (QWidget* widget : m_window->findChildren<QWidget*>())
+        if (widget->isVisible() && widget->isEnabled() && !isInnerPart(widget) &&
+            (widget->focusPolicy() & Qt::TabFocus))
+            QVERIFY2(reached.contains(widget), qPrintable(accessibleName(widget)));
+    QVERIFY(reached.size() >= 7);
+}
+
+void MainWindowTest::opensADesignAndSelectsItsFirstPart()
+{
+    openDesign();
+    QVERIFY(m_window->tree().currentId() == IDCombiner(objectId(10)));
+    QTRY_VERIFY(m_window->meshView().hasMesh());
+    QVERIFY(m_window->windowTitle().startsWith(QStringLiteral("Small")));
+    QVERIFY(!m_window->problemsPanel().isVisible());
+    QVERIFY(m_window->messageBar().text().isEmpty());
+}
+
+void MainWindowTest::opensAMeshFile()
+{
+    m_window->open({m_files->path(QStringLiteral("geometry/die.stl"))});
+    QTRY_VERIFY(m_window->meshView().hasMesh());
+    QCOMPARE(m_window->countsText(), QStringLiteral("1 object"));
+}
+
+void MainWindowTest::whatCannotBeOpenedIsToldAndTheRestOpens()
+{
+    const QString wrong = m_files->path(QStringLiteral("nowhere.dsg"));
+    m_window->open({wrong, m_files->designFile()});
+    QVERIFY(m_window->messageBar().text().contains(QDir::toNativeSeparators(wrong)));
+    QVERIFY(m_window->problemsPanel().isVisible());
+    QCOMPARE(m_window->session().designs().size(), std::size_t(1));
+}
+
+void MainWindowTest::aBrokenMeshIsListedWithItsReason()
+{
+    const QString file = m_files->path(QStringLiteral("geometry/die.stl"));
+    Testing::writeFile(file, "no mesh");
+    openDesign();
+    const Problems& problems = m_window->problemsPanel().problems();
+    QCOMPARE(problems.size(), std::size_t(1));
+    QCOMPARE(problems[0].file, file);
+    QVERIFY(!problems[0].reason.isEmpty());
+    QVERIFY(!m_window->meshView().hasMesh());
+    QVERIFY(m_window->meshView().accessibleDescription().contains(problems[0].reason));
+    Testing::replaceFile(file, Testing::binaryStl(Testing::cube()));
+    QTRY_VERIFY(m_window->meshView().hasMesh());
+    QTRY_VERIFY(!m_window->problemsPanel().isVisible());
+}
+
+void MainWindowTest::missingFilesAreListed()
+{
+    openDesign();
+    const QString file = m_files->path(QStringLiteral("steel.json"));
+    QVERIFY(QFile::remove(file));
+    QTRY_COMPARE(m_window->problemsPanel().problems().size(), std::size_t(1));
+    QCOMPARE(m_window->problemsPanel().problems()[0].file, file);
+}
+
+void MainWindowTest::theStatusBarCounts()
+{
+    QCOMPARE(m_window->countsText(),
+             QStringLiteral("0 objects").replace(0, 1, QLocale().toString(0)));
+    openDesign();
+    QCOMPARE(m_window->countsText(), QStringLiteral("1 design · 8 objects"));
+    m_window->filterBar().setText(QStringLiteral("steel"));
+    m_window->tree().refreshNow();
+    QCOMPARE(m_window->countsText(), QStringLiteral("1 design · 2 of 8 objects shown"));
+}
+
+void MainWindowTest::theMeshFollowsItsFile()
+{
+    openDesign();
+    QTRY_VERIFY(
+        m_window->meshView().accessibleDescription().contains(QStringLiteral("10 × 10 × 10 mm")));
+    Testing::replaceFile(m_files->path(QStringLiteral("geometry/die.stl")),
+                         Testing::binaryStl(Testing::cube(25)));
+    QTRY_VERIFY(
+        m_window->meshView().accessibleDescription().contains(QStringLiteral("25 × 25 × 25 mm")));
+}
+
+void MainWindowTest::objectsWithoutMeshSayWhy()
+{
+    openDesign();
+    m_window->tree().select(objectId(22));
+    QVERIFY(m_window->meshView().accessibleDescription().contains(QStringLiteral("Punch")));
+    m_window->treeView().setCurrentIndex({});
+    QVERIFY(m_window->meshView().accessibleDescription().startsWith(QStringLiteral("Select")));
+    m_window->tree().select(objectId(21));
+    QTRY_VERIFY(m_window->meshView().hasMesh());
+    QVERIFY(QFile::remove(m_files->path(QStringLiteral("geometry/die.stl"))));
+    QTRY_VERIFY(!m_window->meshView().hasMesh());
+    QVERIFY(m_window->meshView().accessibleDescription().contains(QStringLiteral("missing")));
+}
+
+void MainWindowTest::renamingRefusedIsToldUntilSomethingElseIsSelected()
+{
+    openDesign();
+    m_window->tree().select(objectId(21));
+    triggerText(QStringLiteral("Rename"));
+    auto* editor = m_window->treeView().viewport()->findChild<QLineEdit*>();
+    QVERIFY(editor != nullptr);
+    editor->clear();
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTRY_VERIFY(!m_window->messageBar().text().isEmpty());
+    m_window->tree().select(objectId(22));
+    QVERIFY(m_window->messageBar().text().isEmpty());
+}
+
+void MainWindowTest::savingWritesTheDesign()
+{
+    openDesign();
+    QCOMPARE(m_window->session().rename(objectId(21), QStringLiteral("Upper die")), QString());
+    m_window->tree().refreshNow();
+    QVERIFY(m_window->isWindowModified());
+    triggerText(QStringLiteral("Save"));
+    m_window->tree().refreshNow();
+    QVERIFY(!m_window->isWindowModified());
+    QVERIFY(Testing::readFile(m_files->designFile()).contains("Upper die"));
+}
+
+void MainWindowTest::savingOverAnotherProgramsChangeAsks()
+{
+    openDesign();
+    QCOMPARE(m_window->session().rename(objectId(21), QStringLiteral("Upper die")), QString());
+    QJsonObject theirs = Testing::smallDesign();
+    theirs[QLatin1String("name")] = QStringLiteral("Theirs");
+    Testing::replaceFile(m_files->designFile(), Testing::toText(theirs));
+    QTRY_VERIFY(m_window->session().hasConflict(objectId(1)));
+    QTRY_VERIFY(!m_window->messageBar().text().isEmpty());
+    Testing::ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("Another program"), QMessageBox::Cancel);
+    triggerText(QStringLiteral("Save"));
+    QVERIFY(Testing::readFile(m_files->designFile()).contains("Theirs"));
+    modals.expectMessageBox(QStringLiteral("Another program"), QMessageBox::Save);
+    triggerText(QStringLiteral("Save"));
+    QVERIFY(modals.allMet());
+    QVERIFY(Testing::readFile(m_files->designFile()).contains("Upper die"));
+}
+
+void MainWindowTest::closingAsksForUnsavedChanges_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("closed");
+    QTest::addColumn<bool>("saved");
+    QTest::newRow("save") << int(QMessageBox::Save) << true << true;
+    QTest::newRow("discard") << int(QMessageBox::Discard) << true << false;
+    QTest::newRow("cancel") << int(QMessageBox::Cancel) << false << false;
+}
+
+void MainWindowTest::closingAsksForUnsavedChanges()
+{
+    QFETCH(int, answer);
+    openDesign();
+    QCOMPARE(m_window->session().rename(objectId(21), QStringLiteral("Upper die")), QString());
+    Testing::ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("Save the changes"),
+                            QMessageBox::StandardButton(answer));
+    m_window->close();
+    QVERIFY(modals.allMet());
+    QTEST(!m_window->isVisible(), "closed");
+    QTEST(Testing::readFile(m_files->designFile()).contains("Upper die"), "saved");
+}
+
+void MainWindowTest::reloadReadsWhatWasCancelled()
+{
+    m_window->open({m_files->folder.path()});
+    m_window->readingProgress().findChild<QPushButton*>()->click();
+    QTRY_VERIFY(!m_window->loader().isBusy());
+    QVERIFY(!m_window->readingProgress().isVisible());
+    triggerText(QStringLiteral("Reload"));
+    const QString file = m_files->path(QStringLiteral("geometry/die.stl"));
+    QTRY_VERIFY(m_window->loader().facts(file));
+}
+
+void MainWindowTest::closeAllForgetsEverything()
+{
+    openDesign();
+    triggerText(QStringLiteral("Close All"));
+    m_window->tree().refreshNow();
+    QCOMPARE(m_window->tree().model().rowCount(), 0);
+    QVERIFY(!m_window->meshView().hasMesh());
+    QVERIFY(m_window->session().designs().empty());
+}
+
+void MainWindowTest::droppedFilesAreOpened()
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(m_files->designFile())});
+    QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_window.get(), &drop);
+    QCOMPARE(m_window->session().designs().size(), std::size_t(1));
+}
+
+void MainWindowTest::findFocusesTheFilter()
+{
+    m_window->treeView().setFocus();
+    triggerText(QStringLiteral("Find"));
+    QTRY_VERIFY(m_window->filterBar().findChild<QLineEdit*>()->hasFocus());
+}
+
+void MainWindowTest::activatingAProblemSelectsItsObject()
+{
+    openDesign();
+    QVERIFY(QFile::remove(m_files->path(QStringLiteral("steel.json"))));
+    QTRY_COMPARE(m_window->problemsPanel().problems().size(), std::size_t(1));
+    Q_EMIT m_window->findChild<ProblemsPanel*>()->activated(
+        m_window->problemsPanel().problems()[0]);
+    QVERIFY(m_window->tree().currentId() == IDCombiner(objectId(30)));
+}
+
+} // namespace Zorvane::Workbench
+
+using Zorvane::Workbench::MainWindowTest;
+ZORVANE_TEST_MAIN(MainWindowTest)
+#include "MainWindowTest.moc"

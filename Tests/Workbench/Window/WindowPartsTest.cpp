@@ -1,0 +1,150 @@
+#include "Tests/Support/TestCase.h"
+#include "Workbench/Window/Appearance.h"
+#include "Workbench/Window/FilterBar.h"
+#include "Workbench/Window/MessageBar.h"
+#include "Workbench/Window/ProblemsPanel.h"
+#include "Workbench/Window/RecentPaths.h"
+#include "Workbench/Window/WindowActions.h"
+
+#include <QtWidgets/QAction>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QToolButton>
+#include <QtWidgets/QTreeWidget>
+
+namespace Zorvane::Workbench {
+
+class WindowPartsTest : public Testing::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyActionHasATextAndAKeyOfItsOwn();
+    void recentPathsComeNewestFirstOnceAndTenAtMost();
+    void theAppearanceIsKept();
+    void theFilterBarTellsTextsAndKinds();
+    void escapeClearsTheFilterText();
+    void theMessageBarTellsTheNewestAndCloses();
+    void theMessageBarFollowsTheAppearance();
+    void problemsAreListedAndActivated();
+};
+
+void WindowPartsTest::everyActionHasATextAndAKeyOfItsOwn()
+{
+    QObject parent;
+    const WindowActions actions(&parent);
+    QSet<QString> keys;
+    for (int id = WindowActions::OpenFiles; id <= WindowActions::AboutQt; ++id) {
+        const QAction* action = actions[WindowActions::Id(id)];
+        QVERIFY(!action->text().isEmpty());
+        const QString key = action->shortcut().toString();
+        QVERIFY2(key.isEmpty() || !keys.contains(key), qPrintable(key));
+        keys.insert(key);
+    }
+}
+
+void WindowPartsTest::recentPathsComeNewestFirstOnceAndTenAtMost()
+{
+    RecentPaths::clear();
+    const QString absolute = QDir::tempPath() + QLatin1Char('/');
+    for (int number = 0; number < 12; ++number)
+        RecentPaths::add(absolute + QString::number(number));
+    RecentPaths::add(absolute + QStringLiteral("5"));
+    const QStringList paths = RecentPaths::paths();
+    QCOMPARE(paths.size(), 10);
+    QCOMPARE(paths.first(), absolute + QStringLiteral("5"));
+    QCOMPARE(paths.count(absolute + QStringLiteral("5")), 1);
+    RecentPaths::clear();
+    QVERIFY(RecentPaths::paths().isEmpty());
+}
+
+void WindowPartsTest::theAppearanceIsKept()
+{
+    QCOMPARE(storedAppearance(), Appearance::System);
+    storeAppearance(Appearance::Dark);
+    QCOMPARE(storedAppearance(), Appearance::Dark);
+    storeAppearance(Appearance::System);
+}
+
+void WindowPartsTest::theFilterBarTellsTextsAndKinds()
+{
+    FilterBar bar;
+    QSignalSpy texts(&bar, &FilterBar::textChanged);
+    int toggles = 0;
+    connect(&bar, &FilterBar::kindToggled, this, [&toggles] { ++toggles; });
+    bar.setText(QStringLiteral("die"));
+    QCOMPARE(texts.count(), 1);
+    auto* kinds = bar.findChild<QToolButton*>();
+    const QString before = kinds->text();
+    bar.setKindShown(ObjectKind::File, false);
+    QCOMPARE(toggles, 1);
+    QVERIFY(kinds->text() != before);
+    QVERIFY(kinds->accessibleName().contains(kinds->text()));
+    bar.setKindShown(ObjectKind::Design, false);
+    QCOMPARE(toggles, 1);
+    bar.showAllKinds();
+    QCOMPARE(toggles, 2);
+    QCOMPARE(kinds->text(), before);
+}
+
+void WindowPartsTest::escapeClearsTheFilterText()
+{
+    FilterBar bar;
+    bar.show();
+    bar.activateWindow();
+    bar.setText(QStringLiteral("die"));
+    bar.focusText();
+    auto* text = bar.findChild<QLineEdit*>();
+    QTRY_VERIFY(text->hasFocus());
+    QTest::keyClick(text, Qt::Key_Escape);
+    QCOMPARE(text->text(), QString());
+}
+
+void WindowPartsTest::theMessageBarTellsTheNewestAndCloses()
+{
+    MessageBar bar;
+    QCOMPARE(bar.text(), QString());
+    bar.say(QStringLiteral("one"));
+    bar.say(QStringLiteral("two"));
+    QCOMPARE(bar.text(), QStringLiteral("two"));
+    QTest::mouseClick(bar.findChild<QToolButton*>(), Qt::LeftButton);
+    QCOMPARE(bar.text(), QString());
+}
+
+void WindowPartsTest::theMessageBarFollowsTheAppearance()
+{
+    MessageBar bar;
+    bar.say(QStringLiteral("one"));
+    applyAppearance(*qApp, Appearance::Dark);
+    QTRY_VERIFY(bar.palette().color(QPalette::Window).lightness() < 128);
+    QVERIFY(bar.palette().color(QPalette::WindowText).lightness() > 128);
+    applyAppearance(*qApp, Appearance::Light);
+    QTRY_VERIFY(bar.palette().color(QPalette::Window).lightness() > 128);
+}
+
+void WindowPartsTest::problemsAreListedAndActivated()
+{
+    ProblemsPanel panel;
+    const Problems problems{
+        {QStringLiteral("/a/one.stl"), {}, QStringLiteral("is cut off")},
+        {QStringLiteral("/a/two.dsg"), QStringLiteral("line 3"), QStringLiteral("is no JSON")}};
+    panel.show(problems);
+    auto* list = panel.findChild<QTreeWidget*>();
+    QCOMPARE(list->topLevelItemCount(), 2);
+    QCOMPARE(list->topLevelItem(1)->text(0), QStringLiteral("two.dsg"));
+    QCOMPARE(list->topLevelItem(1)->text(1), QStringLiteral("line 3"));
+    QCOMPARE(list->topLevelItem(1)->text(2), QStringLiteral("is no JSON"));
+    QString activated;
+    connect(&panel, &ProblemsPanel::activated, this,
+            [&activated](const Problem& problem) { activated = problem.file; });
+    Q_EMIT list->itemActivated(list->topLevelItem(0), 0);
+    QCOMPARE(activated, QStringLiteral("/a/one.stl"));
+    panel.show({});
+    QCOMPARE(list->topLevelItemCount(), 0);
+}
+
+} // namespace Zorvane::Workbench
+
+using Zorvane::Workbench::WindowPartsTest;
+ZORVANE_TEST_MAIN(WindowPartsTest)
+#include "WindowPartsTest.moc"
