@@ -323,7 +323,7 @@ void Tour::openManyFiles()
                     text("the files are made"));
     reopen({folder});
     const QStringList names = m_driver.visibleNames();
-    m_report.expect(names.contains(text("Mesh files (500)")), text("the group with its count"));
+    m_report.expect(names.contains(text("Mesh files (500)")), text("the row Mesh files (500)"));
     m_report.expect(names.size() == s_manyFiles + 1, text("all rows before the facts"));
     m_report.expect(m_driver.waitFor([this] { return m_window.loader().done() >= 25; }),
                     text("facts arriving"));
@@ -365,7 +365,7 @@ void Tour::keepTheScrollPosition()
     m_report.expect(m_driver.waitFor([this] {
         return m_driver.visibleNames().contains(text("Mesh files (501)"));
     }),
-                    text("the new count"));
+                    text("the row Mesh files (501)"));
     m_driver.waitUntilRead();
     m_report.expect(m_driver.firstNameInSight() == first, text("the same first row in sight"));
     picture(text("scroll-position-kept"));

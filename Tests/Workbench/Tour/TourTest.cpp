@@ -78,7 +78,7 @@ void TourTest::tellsWhatEachPictureShows()
     for (const QString& picture : QDir(s_folder).entryList({QStringLiteral("*.png")}))
         QVERIFY2(text.contains(QStringLiteral("](%1)").arg(picture)), qPrintable(picture));
     for (const char* shown :
-         {"Operations (3)", "OP10 Draw, second try", "File missing", "Mesh files (500)",
+         {"Operations (3)", "the operation's new name", "File missing", "Mesh files (500)",
           "Mesh files (501)", "truncated.stl: ", "shopping-list.stl: ", "sparse.stl: ", "cut.dsg: ",
           "1 design · 3 of 14 objects shown", "Mesh view, Details"})
         QVERIFY2(text.contains(QString::fromUtf8(shown)), shown);

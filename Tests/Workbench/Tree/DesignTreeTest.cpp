@@ -3,7 +3,7 @@
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Tree/TreeFixture.h"
 
-#include <QtCore/QAbstractItemModelTester>
+#include <QtTest/QAbstractItemModelTester>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTreeView>
@@ -55,9 +55,9 @@ void DesignTreeTest::init()
     m_opened = std::make_unique<Testing::OpenedDesign>();
     m_view = std::make_unique<QTreeView>();
     m_tree = std::make_unique<DesignTree>(m_opened->session, m_opened->loader);
-    new QAbstractItemModelTester(
-        &m_tree->model(), QAbstractItemModelTester::FailureReportingMode::Fatal, m_tree.get());
     m_tree->attach(m_view.get());
+    new QAbstractItemModelTester(
+        m_view->model(), QAbstractItemModelTester::FailureReportingMode::Fatal, m_tree.get());
     m_view->resize(900, 700);
     m_view->show();
     m_tree->refreshNow();

@@ -329,6 +329,9 @@ void MainWindowTest::droppedFilesAreOpened()
 {
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(m_files->designFile())});
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_window.get(), &enter);
+    QVERIFY(enter.isAccepted());
     QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(m_window.get(), &drop);
     QCOMPARE(m_window->session().designs().size(), std::size_t(1));
