@@ -46,10 +46,6 @@ private Q_SLOTS:
     void hiddenButtonStaysHidden();
     void maximumWidthWrapsTheText_data();
     void maximumWidthWrapsTheText();
-    void expectedModals_data();
-    void expectedModals();
-    void expectedModalsNest();
-    void expectedModalsTolerate();
 };
 
 void ZVMessageBoxTest::pressedButtonIsReturned()
@@ -252,67 +248,6 @@ void ZVMessageBoxTest::maximumWidthWrapsTheText()
         shown.button(QMessageBox::Cancel)->click();
     });
     box.exec();
-}
-
-void ZVMessageBoxTest::expectedModals_data()
-{
-    QTest::addColumn<QString>("expected");
-    QTest::addColumn<int>("shown");
-    QTest::addColumn<QStringList>("failures");
-    const QString none;
-    // clang-format off
-    QTest::newRow("met")        << QStringLiteral("^text 0$") << 1 << QStringList();
-    QTest::newRow("none")       << none                       << 0 << QStringList();
-    QTest::newRow("unexpected") << none                       << 1 << QStringList{QStringLiteral("^unexpected modal window: .*text 0")};
-    QTest::newRow("second")     << QStringLiteral("^text 0$") << 2 << QStringList{QStringLiteral("^unexpected modal window: .*text 1")};
-    QTest::newRow("unmet")      << QStringLiteral("^text 0$") << 0 << QStringList{QStringLiteral("never came: message box")};
-    QTest::newRow("other")      << QStringLiteral("^other$")  << 1 << QStringList{QStringLiteral("^expected message box .other.*but there came.*text 0"), QStringLiteral("never came: message box")};
-    // clang-format on
-}
-
-void ZVMessageBoxTest::expectedModals()
-{
-    QFETCH(QString, expected);
-    QFETCH(int, shown);
-    QFETCH(QStringList, failures);
-    Testing::ExpectedModals modals;
-    if (!expected.isEmpty())
-        modals.expectMessageBox(expected, QMessageBox::Ok);
-    for (int i = 0; i < shown; ++i)
-        ZVMessageBox::information(nullptr, QStringLiteral("title"),
-                                  QStringLiteral("text %1").arg(i));
-    QCOMPARE(modals.allMet(), failures.isEmpty());
-    const QStringList found = modals.takeFailures();
-    QCOMPARE(found.size(), failures.size());
-    for (int i = 0; i < found.size(); ++i)
-        QVERIFY2(QRegularExpression(failures.at(i)).match(found.at(i)).hasMatch(),
-                 qPrintable(found.at(i)));
-}
-
-void ZVMessageBoxTest::expectedModalsNest()
-{
-    Testing::ExpectedModals modals;
-    modals.expectDialog<QDialog>(QStringLiteral("outer"), [](QDialog& outer) {
-        ZVMessageBox::information(&outer, QStringLiteral("title"), QStringLiteral("inner"));
-        outer.accept();
-    });
-    modals.expectMessageBox(QStringLiteral("inner"), QMessageBox::Ok);
-    QDialog outer;
-    QCOMPARE(outer.exec(), int(QDialog::Accepted));
-    modals.expectDialog<QDialog>(QStringLiteral("idle"), [](QDialog&) {});
-    QCOMPARE(outer.exec(), int(QDialog::Rejected));
-    QCOMPARE(modals.takeFailures(),
-             QStringList{QStringLiteral("the answer left the window open: QDialog")});
-}
-
-void ZVMessageBoxTest::expectedModalsTolerate()
-{
-    Testing::ExpectedModals modals;
-    modals.tolerate<QDialog>();
-    QDialog progress;
-    QTimer::singleShot(0, &progress, &QDialog::accept);
-    QCOMPARE(progress.exec(), int(QDialog::Accepted));
-    QVERIFY(modals.allMet());
 }
 
 ZORVANE_TEST_MAIN(ZVMessageBoxTest)
