@@ -1,0 +1,8 @@
+#include "Files/CopyProgress.h"
+
+namespace Zorvane {
+
+CopyProgress::CopyProgress() = default;
+CopyProgress::~CopyProgress() = default;
+
+} // namespace Zorvane

@@ -1,0 +1,8 @@
+#include "Files/CopyQuestions.h"
+
+namespace Zorvane {
+
+CopyQuestions::CopyQuestions() = default;
+CopyQuestions::~CopyQuestions() = default;
+
+} // namespace Zorvane

@@ -1,0 +1,113 @@
+#include "Files/Portable/FileTransfer.h"
+
+#include "Files/Portable/CopyErrors.h"
+#include "Files/Portable/Descriptor.h"
+
+#include <algorithm>
+
+namespace Zorvane {
+
+namespace {
+
+constexpr size_t s_kibibyte = 1024;
+constexpr size_t s_smallestSlice = 64 * s_kibibyte;
+constexpr size_t s_firstSlice = 1024 * s_kibibyte;
+constexpr size_t s_largestSlice = 8192 * s_kibibyte;
+constexpr size_t s_bufferSize = 256 * s_kibibyte;
+constexpr qint64 s_largeFile = 4096 * s_kibibyte;
+constexpr qint64 s_tooSlow = 40;
+constexpr qint64 s_veryFast = 10;
+
+} // namespace
+
+size_t nextSliceSize(size_t size, qint64 milliseconds)
+{
+    if (milliseconds > s_tooSlow)
+        return std::max(size / 2, s_smallestSlice);
+    if (milliseconds < s_veryFast)
+        return std::min(size * 2, s_largestSlice);
+    return size;
+}
+
+FileTransfer::FileTransfer(const SystemCalls& calls, std::function<bool(qint64)> advance)
+    : m_calls(calls)
+    , m_advance(std::move(advance))
+    , m_buffer(s_bufferSize)
+    , m_sliceSize(s_firstSlice)
+{}
+
+TransferResult FileTransfer::run(int from, int to, qint64 size)
+{
+    const bool large = size >= s_largeFile;
+    m_copiesRanges = large;
+    m_pushedBegin = m_pushedEnd = 0;
+    TransferResult result;
+    for (qint64 done = 0; done < size;) {
+        const qint64 start = large ? m_calls.milliseconds() : 0;
+        const qint64 wanted = std::min<qint64>(size - done, static_cast<qint64>(m_sliceSize));
+        const ssize_t copied = copySlice(from, to, static_cast<size_t>(wanted), result);
+        if (copied < 0)
+            return result;
+        if (copied == 0)
+            return {TransferResult::End::SourceTooShort, 0};
+        if (large) {
+            if (const int error = pushToDisk(to, done, done + copied))
+                return {TransferResult::End::TargetError, error};
+            m_sliceSize = nextSliceSize(m_sliceSize, m_calls.milliseconds() - start);
+        }
+        done += copied;
+        if (!m_advance(copied))
+            return {TransferResult::End::Cancelled, 0};
+    }
+    return result;
+}
+
+ssize_t FileTransfer::copySlice(int from, int to, size_t size, TransferResult& result)
+{
+    if (m_copiesRanges) {
+        const ssize_t copied = uninterrupted([&] { return m_calls.copyRange(from, to, size); });
+        if (copied > 0)
+            return copied;
+        // Unable, at the end, or in trouble: reading and writing tells which, and on which side.
+        m_copiesRanges = false;
+    }
+    return copyThroughBuffer(from, to, size, result);
+}
+
+ssize_t FileTransfer::copyThroughBuffer(int from, int to, size_t size, TransferResult& result)
+{
+    const size_t wanted = std::min(size, m_buffer.size());
+    const ssize_t length =
+        uninterrupted([&] { return m_calls.read(from, m_buffer.data(), wanted); });
+    if (length < 0) {
+        result = {TransferResult::End::SourceError, errno};
+        return -1;
+    }
+    for (ssize_t written = 0; written < length;) {
+        const ssize_t count = uninterrupted([&] {
+            return m_calls.write(to, m_buffer.data() + written,
+                                 static_cast<size_t>(length - written));
+        });
+        if (count <= 0) {
+            result = {TransferResult::End::TargetError, count < 0 ? errno : EIO};
+            return -1;
+        }
+        written += count;
+    }
+    return length;
+}
+
+int FileTransfer::pushToDisk(int to, qint64 begin, qint64 end)
+{
+    // One slice is on its way while the next is copied; then its turn to be waited for comes.
+    int error = errorOf([&] { return m_calls.startWriteback(to, begin, end - begin); });
+    if (error == 0 && m_pushedEnd > m_pushedBegin)
+        error = errorOf([&] {
+            return m_calls.finishWriteback(to, m_pushedBegin, m_pushedEnd - m_pushedBegin);
+        });
+    m_pushedBegin = begin;
+    m_pushedEnd = end;
+    return isMissingFeature(error) ? 0 : error;
+}
+
+} // namespace Zorvane

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Files/Portable/TargetFolder.h"
+
+#include <string>
+
+namespace Zorvane {
+
+/**
+ * A file in the making. It has no name or a temporary one until it is published; unpublished, it
+ * goes away with this object. Functions return an error number, 0 for success.
+ */
+class StagedFile
+{
+public:
+    explicit StagedFile(const TargetFolder& folder);
+    ~StagedFile();
+    StagedFile(StagedFile&& other) noexcept;
+    StagedFile& operator=(StagedFile&&) = delete;
+
+    int create();
+    int descriptor() const { return m_file.get(); }
+
+    /** Gives the file its name; EEXIST where something has it. Nothing is ever replaced. */
+    int publishNew(const std::string& leaf);
+    /** Gives the file its name in place of what has it, at one stroke. */
+    int publishReplacing(const std::string& leaf);
+
+private:
+    int giveName(const std::string& leaf);
+    bool hasName(const std::string& leaf) const;
+    void removeTemporaryName();
+
+    const TargetFolder& m_folder;
+    Descriptor m_file;
+    std::string m_temporaryName;
+};
+
+} // namespace Zorvane

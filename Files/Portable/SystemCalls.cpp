@@ -1,0 +1,200 @@
+#include "Files/Portable/SystemCalls.h"
+
+#include <QtCore/QRandomGenerator>
+
+#include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <fcntl.h>
+#include <string>
+#include <unistd.h>
+#ifdef __linux__
+#include <array>
+#include <sys/statfs.h>
+#endif
+
+namespace Zorvane {
+
+namespace {
+
+#ifdef __linux__
+
+ssize_t copyRange(int from, int to, size_t size)
+{
+    return ::copy_file_range(from, nullptr, to, nullptr, size, 0);
+}
+
+int startWriteback(int file, off_t offset, off_t size)
+{
+    return ::sync_file_range(file, offset, size, SYNC_FILE_RANGE_WRITE);
+}
+
+int finishWriteback(int file, off_t offset, off_t size)
+{
+    return ::sync_file_range(file, offset, size,
+                             SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE |
+                                 SYNC_FILE_RANGE_WAIT_AFTER);
+}
+
+int flushFileSystem(int file)
+{
+    return ::syncfs(file);
+}
+
+/** Network and user-space file systems may answer syncfs without having flushed anything. */
+int flushFileSystemCounts(int file)
+{
+    constexpr std::array<unsigned long, 5> kinds{
+        0xEF53UL,     // ext2, ext3, ext4
+        0x58465342UL, // XFS
+        0x9123683EUL, // Btrfs
+        0xF2F52010UL, // F2FS
+        0x01021994UL, // tmpfs
+    };
+    struct statfs facts
+    {};
+    if (::fstatfs(file, &facts) != 0)
+        return -1;
+    for (const unsigned long kind : kinds) {
+        if ((static_cast<unsigned long>(facts.f_type) & 0xFFFFFFFFUL) == kind)
+            return 1;
+    }
+    return 0;
+}
+
+qint64 unwrittenBytes()
+{
+    const int file = ::open("/proc/meminfo", O_RDONLY | O_CLOEXEC);
+    if (file < 0)
+        return -1;
+    std::array<char, 2048> text{};
+    const ssize_t length = ::read(file, text.data(), text.size() - 1);
+    ::close(file);
+    const std::string facts(text.data(), length > 0 ? static_cast<size_t>(length) : 0);
+    const size_t line = facts.find("\nDirty:");
+    long long kibibytes = -1;
+    if (line == std::string::npos ||
+        std::sscanf(facts.c_str() + line, "\nDirty: %lld", &kibibytes) != 1)
+        return -1;
+    return kibibytes * 1024;
+}
+
+int renameNoReplace(int folder, const char* from, const char* to)
+{
+    return ::renameat2(folder, from, folder, to, RENAME_NOREPLACE);
+}
+
+int linkUnnamed(int file, int folder, const char* to)
+{
+    const std::string from = "/proc/self/fd/" + std::to_string(file);
+    return ::linkat(AT_FDCWD, from.c_str(), folder, to, AT_SYMLINK_FOLLOW);
+}
+
+constexpr int s_unnamedFileFlags = O_TMPFILE | O_RDWR;
+
+#else
+
+template <typename... Arguments>
+int missing(Arguments...)
+{
+    errno = ENOSYS;
+    return -1;
+}
+
+ssize_t copyRange(int from, int to, size_t size)
+{
+    return missing(from, to, size);
+}
+
+int startWriteback(int file, off_t offset, off_t size)
+{
+    return missing(file, offset, size);
+}
+
+int finishWriteback(int file, off_t offset, off_t size)
+{
+    return missing(file, offset, size);
+}
+
+int flushFileSystem(int file)
+{
+    return missing(file);
+}
+
+int flushFileSystemCounts(int)
+{
+    return 0;
+}
+
+qint64 unwrittenBytes()
+{
+    return -1;
+}
+
+int renameNoReplace(int folder, const char* from, const char* to)
+{
+    return missing(folder, from, to);
+}
+
+int linkUnnamed(int file, int folder, const char* to)
+{
+    return missing(file, folder, to);
+}
+
+constexpr int s_unnamedFileFlags = 0;
+
+#endif
+
+qint64 milliseconds()
+{
+    using namespace std::chrono;
+    return duration_cast<std::chrono::milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+SystemCalls makeReal()
+{
+    SystemCalls calls;
+    calls.openAt = [](int folder, const char* path, int flags, mode_t mode) {
+        return ::openat(folder, path, flags, mode);
+    };
+    calls.close = ::close;
+    calls.read = ::read;
+    calls.write = ::write;
+    calls.copyRange = copyRange;
+    calls.status = [](int file, struct stat& status) { return ::fstat(file, &status); };
+    calls.statusAt = [](int folder, const char* path, struct stat& status, int flags) {
+        return ::fstatat(folder, path, &status, flags);
+    };
+    calls.setMode = ::fchmod;
+    calls.setTimes = ::futimens;
+    calls.startWriteback = startWriteback;
+    calls.finishWriteback = finishWriteback;
+    calls.flush = ::fsync;
+    calls.flushFileSystem = flushFileSystem;
+    calls.flushFileSystemCounts = flushFileSystemCounts;
+    calls.unwrittenBytes = unwrittenBytes;
+    calls.rename = [](int folder, const char* from, const char* to) {
+        return ::renameat(folder, from, folder, to);
+    };
+    calls.renameNoReplace = renameNoReplace;
+    calls.link = [](int folder, const char* from, const char* to) {
+        return ::linkat(folder, from, folder, to, 0);
+    };
+    calls.linkUnnamed = linkUnnamed;
+    calls.unlink = [](int folder, const char* name) { return ::unlinkat(folder, name, 0); };
+    calls.mostNameBytes = [](int folder) { return ::fpathconf(folder, _PC_NAME_MAX); };
+    calls.milliseconds = milliseconds;
+    calls.random = [] { return QRandomGenerator::system()->generate(); };
+    calls.unnamedFileFlags = s_unnamedFileFlags;
+    return calls;
+}
+
+} // namespace
+
+const SystemCalls& SystemCalls::real()
+{
+    static const SystemCalls calls = makeReal();
+    return calls;
+}
+
+} // namespace Zorvane
