@@ -25,7 +25,9 @@ public:
     CopyProgress(const CopyProgress&) = delete;
     CopyProgress& operator=(const CopyProgress&) = delete;
 
-    /** False cancels: nothing more is copied, and what isn't complete goes away. */
+    /**
+     * False cancels: nothing more is copied, and what isn't complete goes away. Stays false then.
+     */
     virtual bool goOn(const CopyProgressState& state) = 0;
 };
 

@@ -41,11 +41,12 @@ const QList<FileCopyUtility::FileCopyInfo>& FileCopyUtility::copyFiles(int& resu
 
 int FileCopyUtility::check(const QStringList& sourceFiles, const QString& targetFolder)
 {
-    const PathFacts target = probePath(targetFolder);
+    PathProbe probe;
+    const PathFacts target = probe.look(targetFolder);
     if (!target.isFolder)
         return NoTargetFolder;
     for (const QString& source : sourceFiles) {
-        const PathFacts facts = probePath(source);
+        const PathFacts facts = probe.look(source);
         if (!facts.exists || facts.isFolder)
             return SourceMissing;
         if (facts.canonicalFolder == target.canonicalPath)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QHash>
 #include <QtCore/QString>
 
 namespace Zorvane {
@@ -13,7 +14,17 @@ struct PathFacts
     QString canonicalFolder; /**< The folder of the canonical path. */
 };
 
-/** Asks the platform. Never fails: what cannot be looked at does not exist. */
-PathFacts probePath(const QString& path);
+/**
+ * Asks the platform. Never fails: what cannot be looked at does not exist. Remembers the folders
+ * that it has seen, so one probe serves one check and is thrown away.
+ */
+class PathProbe
+{
+public:
+    PathFacts look(const QString& path);
+
+private:
+    QHash<QString, QString> m_canonicalFolders;
+};
 
 } // namespace Zorvane

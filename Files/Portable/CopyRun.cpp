@@ -42,7 +42,11 @@ CopyRun::CopyRun(const SystemCalls& calls, CopyQuestions& questions, CopyProgres
                  TargetFolder& folder, const QString& folderPath)
     : m_progress(progress)
     , m_decisions(
-          questions, [&folder](const std::string& name) { return folder.has(name); },
+          questions,
+          [this](const std::string& name) {
+              report(nullptr, 0); // with many collisions to decide at one stroke
+              return m_context.folder.has(name);
+          },
           folder.mostNameBytes())
     , m_context{calls, folder, folderPath, m_decisions, [this] { return report(nullptr, 0); }}
     , m_group(m_context)

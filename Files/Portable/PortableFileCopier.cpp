@@ -1,8 +1,7 @@
+#include "Files/DialogCopyProgress.h"
+#include "Files/DialogCopyQuestions.h"
 #include "Files/FileCopier.h"
-
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
+#include "Files/Portable/CopyEngine.h"
 
 namespace Zorvane {
 
@@ -11,17 +10,12 @@ namespace {
 class PortableFileCopier final : public FileCopier
 {
 public:
-    QList<FileCopyUtility::FileCopyInfo> copy(QWidget*, const QStringList& sources,
+    QList<FileCopyUtility::FileCopyInfo> copy(QWidget* owner, const QStringList& sources,
                                               const QString& targetFolder) override
     {
-        QList<FileCopyUtility::FileCopyInfo> records;
-        for (const QString& source : sources) {
-            const QString target = QDir(targetFolder).filePath(QFileInfo(source).fileName());
-            const bool copied = QFile::copy(source, target);
-            records.append({source, copied ? target : QString(),
-                            copied ? FileCopyUtility::Copied : FileCopyUtility::NotCopied});
-        }
-        return records;
+        DialogCopyProgress progress(owner);
+        DialogCopyQuestions questions(progress);
+        return toCopyInfos(CopyEngine(questions, progress).run(sources, targetFolder));
     }
 };
 

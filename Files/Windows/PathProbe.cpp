@@ -4,7 +4,7 @@
 
 namespace Zorvane {
 
-PathFacts probePath(const QString& path)
+PathFacts PathProbe::look(const QString& path)
 {
     const QFileInfo info(path);
     PathFacts facts;
