@@ -1,0 +1,530 @@
+#include "Files/Portable/CopyEngine.h"
+
+#include "Files/PathText.h"
+#include "Tests/Files/Portable/CopyFixture.h"
+#include "Tests/Files/Portable/FaultySystem.h"
+#include "Tests/Support/TestCase.h"
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Zorvane;
+using Testing::CopyFixture;
+using Testing::FolderContent;
+
+namespace {
+
+const CopyAnswer s_replace{CopyDecision::Replace, false};
+const CopyAnswer s_skip{CopyDecision::Skip, false};
+const CopyAnswer s_keepBoth{CopyDecision::KeepBoth, false};
+const CopyAnswer s_cancel{CopyDecision::Cancel, false};
+
+std::string largeContent(std::size_t size)
+{
+    std::string content(size, '\0');
+    for (std::size_t i = 0; i < size; ++i)
+        content[i] = static_cast<char>(i * 2654435761U >> 24U);
+    return content;
+}
+
+struct stat statusOf(const std::string& path)
+{
+    struct stat status{};
+    stat(path.c_str(), &status);
+    return status;
+}
+
+} // namespace
+
+class CopyEngineTest : public Testing::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void contentArrivesWhole_data();
+    void contentArrivesWhole();
+    void outcomesStandInTheOrderOfTheSources();
+    void relativeTargetIsReportedInFull();
+    void modificationTimeAndPermissionsAreKept_data();
+    void modificationTimeAndPermissionsAreKept();
+    void linkAsSourceIsFollowed();
+    void namesAreBytes();
+    void longNameIsCopied();
+    void sourceThatIsNoFile_data();
+    void sourceThatIsNoFile();
+    void existingFileIsAskedAbout_data();
+    void existingFileIsAskedAbout();
+    void questionShowsBothFiles();
+    void cancelInTheQuestionCopiesNothing();
+    void replacingALinkLeavesWhatItLeadsTo();
+    void danglingLinkIsAsNameTaken();
+    void sameFileIsItsOwnAnswer_data();
+    void sameFileIsItsOwnAnswer();
+    void folderIsNeverReplaced();
+    void equalNamesWithinTheBatch();
+    void keepBothOfALongNameStaysLegal();
+    void nothingIsAskedTwiceWithForAll();
+    void cancelLeavesNoTrace_data();
+    void cancelLeavesNoTrace();
+    void progressTellsBytesAndFiles();
+    void manySmallFilesAreFlushedInGroups();
+    void fewFilesAreFlushedOneByOne();
+    void programsWithMuchToWriteAreNotWaitedFor();
+    void openFilesStayBounded();
+    void memoryStaysFlat();
+};
+
+void CopyEngineTest::contentArrivesWhole_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::newRow("empty") << 0;
+    QTest::newRow("one byte") << 1;
+    QTest::newRow("a buffer") << 256 * 1024;
+    QTest::newRow("a buffer and a byte") << 256 * 1024 + 1;
+    QTest::newRow("large enough for the kernel to copy") << 5 * 1024 * 1024 + 13;
+}
+
+void CopyEngineTest::contentArrivesWhole()
+{
+    QFETCH(int, size);
+    CopyFixture fixture;
+    const std::string content = largeContent(static_cast<std::size_t>(size));
+    const auto outcomes = fixture.copy({fixture.addSource("part.stl", content)});
+    QCOMPARE(outcomes.size(), 1);
+    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
+    QCOMPARE(outcomes[0].target, pathFromBytes(fixture.target("part.stl")));
+    QVERIFY(fixture.targetContent() == FolderContent({{"part.stl", content}}));
+    QVERIFY(fixture.questions.told.isEmpty());
+}
+
+void CopyEngineTest::outcomesStandInTheOrderOfTheSources()
+{
+    CopyFixture fixture;
+    const QStringList sources{fixture.addSource("c", "1"), fixture.addSource("a", "2"),
+                              fixture.addSource("b", "3")};
+    const auto outcomes = fixture.copy(sources);
+    for (int i = 0; i < sources.size(); ++i)
+        QCOMPARE(outcomes[i].source, sources[i]);
+    QVERIFY(fixture.targetContent() == FolderContent({{"a", "2"}, {"b", "3"}, {"c", "1"}}));
+}
+
+void CopyEngineTest::relativeTargetIsReportedInFull()
+{
+    CopyFixture fixture;
+    const QString source = fixture.addSource("a", "1");
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(fixture.sourceFolder());
+    const auto outcomes = CopyEngine(fixture.questions, fixture.progress)
+                              .run({QStringLiteral("a")}, QStringLiteral("../target"));
+    QDir::setCurrent(before);
+    QCOMPARE(outcomes[0].target, pathFromBytes(fixture.target("a")));
+    QCOMPARE(outcomes[0].source, QStringLiteral("a"));
+}
+
+void CopyEngineTest::modificationTimeAndPermissionsAreKept_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::newRow("usual") << 0644;
+    QTest::newRow("read only") << 0444;
+    QTest::newRow("program") << 0755;
+    QTest::newRow("private") << 0600;
+    QTest::newRow("everybody, beyond the umask") << 0666;
+}
+
+void CopyEngineTest::modificationTimeAndPermissionsAreKept()
+{
+    QFETCH(int, mode);
+    CopyFixture fixture;
+    const QString source = fixture.addSource("a", "1");
+    const timespec times[2] = {{1000000000, 5}, {1234567890, 123456789}};
+    QCOMPARE(utimensat(AT_FDCWD, fixture.source("a").c_str(), times, 0), 0);
+    QCOMPARE(chmod(fixture.source("a").c_str(), static_cast<mode_t>(mode)), 0);
+    fixture.copy({source});
+    const struct stat copy = statusOf(fixture.target("a"));
+    QCOMPARE(int(copy.st_mode & 07777), mode);
+    QCOMPARE(qint64(copy.st_mtim.tv_sec), Q_INT64_C(1234567890));
+    QCOMPARE(qint64(copy.st_mtim.tv_nsec), Q_INT64_C(123456789));
+}
+
+void CopyEngineTest::linkAsSourceIsFollowed()
+{
+    CopyFixture fixture;
+    fixture.addSource("real", "content");
+    QCOMPARE(symlink("real", fixture.source("link").c_str()), 0);
+    const auto outcomes = fixture.copy({pathFromBytes(fixture.source("link"))});
+    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
+    struct stat status{};
+    QCOMPARE(lstat(fixture.target("link").c_str(), &status), 0);
+    QVERIFY(S_ISREG(status.st_mode));
+    QVERIFY(fixture.targetContent() == FolderContent({{"link", "content"}}));
+}
+
+void CopyEngineTest::namesAreBytes()
+{
+    CopyFixture fixture;
+    const std::string latin = "T\xFCr.stl";
+    const std::string utf8 = "T\xC3\xBCr \xE6\xBF\x80.stl";
+    fixture.addTarget(latin, "old");
+    fixture.questions.answers = {s_keepBoth};
+    const auto outcomes = fixture.copy({fixture.addSource(latin, "1"), fixture.addSource(utf8, "2")});
+    QCOMPARE(outcomes[0].fate, CopyFate::CopiedUnderOtherName);
+    QCOMPARE(pathToBytes(outcomes[0].target), fixture.target("T\xFCr (2).stl"));
+    QVERIFY(fixture.targetContent()
+            == FolderContent({{latin, "old"}, {"T\xFCr (2).stl", "1"}, {utf8, "2"}}));
+}
+
+void CopyEngineTest::longNameIsCopied()
+{
+    CopyFixture fixture;
+    const std::string name(255, 'n');
+    const auto outcomes = fixture.copy({fixture.addSource(name, "1")});
+    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
+    QVERIFY(fixture.targetContent() == FolderContent({{name, "1"}}));
+}
+
+void CopyEngineTest::sourceThatIsNoFile_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::newRow("missing") << QStringLiteral("missing");
+    QTest::newRow("folder") << QStringLiteral("folder");
+    QTest::newRow("pipe") << QStringLiteral("pipe");
+    QTest::newRow("dangling link") << QStringLiteral("dangling");
+}
+
+void CopyEngineTest::sourceThatIsNoFile()
+{
+    QFETCH(QString, kind);
+    CopyFixture fixture;
+    const std::string name = kind.toStdString();
+    if (name == "folder")
+        QCOMPARE(mkdir(fixture.source(name).c_str(), 0755), 0);
+    if (name == "pipe")
+        QCOMPARE(mkfifo(fixture.source(name).c_str(), 0644), 0);
+    if (name == "dangling")
+        QCOMPARE(symlink("nowhere", fixture.source(name).c_str()), 0);
+    const auto outcomes =
+        fixture.copy({pathFromBytes(fixture.source(name)), fixture.addSource("good", "1")});
+    QCOMPARE(outcomes[0].fate, CopyFate::Failed);
+    QVERIFY(!outcomes[0].reason.isEmpty());
+    QCOMPARE(outcomes[1].fate, CopyFate::Copied);
+    QCOMPARE(fixture.questions.told.size(), 1);
+    QVERIFY(fixture.targetContent() == FolderContent({{"good", "1"}}));
+}
+
+void CopyEngineTest::existingFileIsAskedAbout_data()
+{
+    QTest::addColumn<int>("decision");
+    QTest::addColumn<int>("fate");
+    QTest::addColumn<QString>("old");
+    QTest::addColumn<QString>("second");
+    const auto row = [](const char* name, CopyDecision decision, CopyFate fate, const char* old,
+                        const char* second) {
+        QTest::newRow(name) << static_cast<int>(decision) << static_cast<int>(fate)
+                            << QString::fromUtf8(old) << QString::fromUtf8(second);
+    };
+    row("replace", CopyDecision::Replace, CopyFate::Copied, "new", "");
+    row("skip", CopyDecision::Skip, CopyFate::Skipped, "old", "");
+    row("keep both", CopyDecision::KeepBoth, CopyFate::CopiedUnderOtherName, "old", "new");
+}
+
+void CopyEngineTest::existingFileIsAskedAbout()
+{
+    QFETCH(int, decision);
+    QFETCH(int, fate);
+    QFETCH(QString, old);
+    QFETCH(QString, second);
+    CopyFixture fixture;
+    fixture.addTarget("part.stl", "old");
+    fixture.questions.answers = {{static_cast<CopyDecision>(decision), false}};
+    const auto outcomes = fixture.copy({fixture.addSource("part.stl", "new")});
+    QCOMPARE(static_cast<int>(outcomes[0].fate), fate);
+    FolderContent expected{{"part.stl", old.toStdString()}};
+    if (!second.isEmpty())
+        expected["part (2).stl"] = second.toStdString();
+    QVERIFY(fixture.targetContent() == expected);
+    QVERIFY(fixture.targetContent()
+            == Testing::reportedContent({{"part.stl", "old"}}, outcomes, fixture.sourceContent()));
+    QVERIFY(fixture.sourceContent() == FolderContent({{"part.stl", "new"}}));
+}
+
+void CopyEngineTest::questionShowsBothFiles()
+{
+    CopyFixture fixture;
+    const QString source = fixture.addSource("part.stl", "longer");
+    fixture.addTarget("part.stl", "old");
+    const timespec times[2] = {{0, UTIME_OMIT}, {1000000000, 0}};
+    QCOMPARE(utimensat(AT_FDCWD, fixture.target("part.stl").c_str(), times, 0), 0);
+    fixture.copy({source});
+    QCOMPARE(int(fixture.questions.asked.size()), 1);
+    const CopyCollision& asked = fixture.questions.asked[0];
+    QCOMPARE(asked.kind, CollisionKind::ExistingFile);
+    QCOMPARE(asked.source.path, source);
+    QCOMPARE(asked.source.size, qint64(6));
+    QCOMPARE(asked.target.path, pathFromBytes(fixture.target("part.stl")));
+    QCOMPARE(asked.target.size, qint64(3));
+    QCOMPARE(asked.target.modified, QDateTime::fromSecsSinceEpoch(1000000000));
+    QVERIFY(asked.source.modified > asked.target.modified);
+    QCOMPARE(asked.keepBothName, QStringLiteral("part (2).stl"));
+    QCOMPARE(asked.remaining, 0);
+}
+
+void CopyEngineTest::cancelInTheQuestionCopiesNothing()
+{
+    CopyFixture fixture;
+    fixture.addTarget("b", "old");
+    fixture.questions.answers = {s_cancel};
+    const auto outcomes = fixture.copy({fixture.addSource("a", "1"), fixture.addSource("b", "2")});
+    QCOMPARE(outcomes[0].fate, CopyFate::NotReached);
+    QCOMPARE(outcomes[1].fate, CopyFate::NotReached);
+    QVERIFY(fixture.targetContent() == FolderContent({{"b", "old"}}));
+    QVERIFY(fixture.questions.told.isEmpty());
+}
+
+void CopyEngineTest::replacingALinkLeavesWhatItLeadsTo()
+{
+    CopyFixture fixture;
+    fixture.addTarget("other", "precious");
+    QCOMPARE(symlink("other", fixture.target("a").c_str()), 0);
+    fixture.questions.answers = {s_replace};
+    fixture.copy({fixture.addSource("a", "new")});
+    QVERIFY(fixture.targetContent() == FolderContent({{"a", "new"}, {"other", "precious"}}));
+}
+
+void CopyEngineTest::danglingLinkIsAsNameTaken()
+{
+    CopyFixture fixture;
+    QCOMPARE(symlink("nowhere", fixture.target("a").c_str()), 0);
+    fixture.questions.answers = {s_keepBoth};
+    fixture.copy({fixture.addSource("a", "new")});
+    QCOMPARE(int(fixture.questions.asked.size()), 1);
+    QCOMPARE(fixture.targetContent().at("a (2)"), std::string("new"));
+    QCOMPARE(access(fixture.target("nowhere").c_str(), F_OK), -1);
+}
+
+void CopyEngineTest::sameFileIsItsOwnAnswer_data()
+{
+    QTest::addColumn<bool>("hardLink");
+    QTest::addColumn<int>("decision");
+    QTest::addColumn<int>("fate");
+    for (const bool hard : {true, false}) {
+        const char* kind = hard ? "hard link" : "symbolic link";
+        const auto row = [&](const char* name, CopyDecision decision, CopyFate fate) {
+            QTest::addRow("%s, %s", kind, name)
+                << hard << static_cast<int>(decision) << static_cast<int>(fate);
+        };
+        row("skip", CopyDecision::Skip, CopyFate::SameFile);
+        row("replace, which is not offered", CopyDecision::Replace, CopyFate::SameFile);
+        row("keep both", CopyDecision::KeepBoth, CopyFate::CopiedUnderOtherName);
+    }
+}
+
+void CopyEngineTest::sameFileIsItsOwnAnswer()
+{
+    QFETCH(bool, hardLink);
+    QFETCH(int, decision);
+    QFETCH(int, fate);
+    CopyFixture fixture;
+    const QString source = fixture.addSource("a", "1");
+    const auto make = hardLink ? ::link : ::symlink;
+    QCOMPARE(make(fixture.source("a").c_str(), fixture.target("a").c_str()), 0);
+    fixture.questions.answers = {{static_cast<CopyDecision>(decision), false}};
+    const auto outcomes = fixture.copy({source});
+    QCOMPARE(fixture.questions.asked.at(0).kind, CollisionKind::SameFile);
+    QVERIFY(!fixture.questions.asked.at(0).allows(CopyDecision::Replace));
+    QCOMPARE(static_cast<int>(outcomes[0].fate), fate);
+    FolderContent expected{{"a", "1"}};
+    if (outcomes[0].fate == CopyFate::CopiedUnderOtherName)
+        expected["a (2)"] = "1";
+    QVERIFY(fixture.targetContent() == expected);
+    QVERIFY(fixture.sourceContent() == FolderContent({{"a", "1"}}));
+}
+
+void CopyEngineTest::folderIsNeverReplaced()
+{
+    CopyFixture fixture;
+    QCOMPARE(mkdir(fixture.target("a").c_str(), 0755), 0);
+    QCOMPARE(mkdir(fixture.target("b").c_str(), 0755), 0);
+    fixture.questions.answers = {s_replace, s_keepBoth};
+    const auto outcomes = fixture.copy({fixture.addSource("a", "1"), fixture.addSource("b", "2")});
+    QCOMPARE(fixture.questions.asked.at(0).kind, CollisionKind::NotAFile);
+    QCOMPARE(outcomes[0].fate, CopyFate::Skipped);
+    QVERIFY(fixture.targetContent()
+            == FolderContent({{"a", "<folder>"}, {"b", "<folder>"}, {"b (2)", "2"}}));
+}
+
+void CopyEngineTest::equalNamesWithinTheBatch()
+{
+    CopyFixture fixture;
+    QCOMPARE(mkdir(fixture.source("sub").c_str(), 0755), 0);
+    const QString first = fixture.addSource("a", "1");
+    const QString second = fixture.addSource("sub/a", "2");
+    const QString third = fixture.addSource("a (2)", "3");
+    fixture.questions.answers = {s_keepBoth};
+    const auto outcomes = fixture.copy({first, second, third});
+    QCOMPARE(fixture.questions.asked.at(0).kind, CollisionKind::WithinBatch);
+    QCOMPARE(fixture.questions.asked.at(0).target.path, first);
+    QCOMPARE(outcomes[1].fate, CopyFate::CopiedUnderOtherName);
+    // "a (2)" is what the third source is called.
+    QVERIFY(fixture.targetContent() == FolderContent({{"a", "1"}, {"a (2)", "3"}, {"a (3)", "2"}}));
+}
+
+void CopyEngineTest::keepBothOfALongNameStaysLegal()
+{
+    CopyFixture fixture;
+    std::string name;
+    while (name.size() + 2 <= 250)
+        name += "\xC3\xBC";
+    name += ".stl";
+    fixture.addTarget(name, "old");
+    fixture.questions.answers = {s_keepBoth};
+    const auto outcomes = fixture.copy({fixture.addSource(name, "new")});
+    QCOMPARE(outcomes[0].fate, CopyFate::CopiedUnderOtherName);
+    const std::string leaf = pathToBytes(outcomes[0].target).substr(fixture.target("").size());
+    QVERIFY(leaf.size() <= 255);
+    QVERIFY(!pathForDisplay(pathFromBytes(leaf)).contains(QStringLiteral("\\x")));
+    QVERIFY(pathFromBytes(leaf).endsWith(QStringLiteral(" (2).stl")));
+    QVERIFY(fixture.targetContent() == FolderContent({{name, "old"}, {leaf, "new"}}));
+}
+
+void CopyEngineTest::nothingIsAskedTwiceWithForAll()
+{
+    CopyFixture fixture;
+    QStringList sources;
+    for (const char* name : {"a", "b", "c"}) {
+        sources.append(fixture.addSource(name, "new"));
+        fixture.addTarget(name, "old");
+    }
+    fixture.questions.answers = {s_skip, {CopyDecision::Replace, true}};
+    fixture.copy(sources);
+    QCOMPARE(int(fixture.questions.asked.size()), 2);
+    QCOMPARE(fixture.questions.asked[0].remaining, 2);
+    QCOMPARE(fixture.questions.asked[1].remaining, 1);
+    QVERIFY(fixture.targetContent() == FolderContent({{"a", "old"}, {"b", "new"}, {"c", "new"}}));
+}
+
+void CopyEngineTest::cancelLeavesNoTrace_data()
+{
+    QTest::addColumn<int>("cancelAt");
+    for (int cancelAt = 0; cancelAt <= 40; ++cancelAt)
+        QTest::addRow("at word %d", cancelAt) << cancelAt;
+}
+
+void CopyEngineTest::cancelLeavesNoTrace()
+{
+    QFETCH(int, cancelAt);
+    CopyFixture fixture;
+    const FolderContent before{{"old", "old"}};
+    fixture.addTarget("old", "old");
+    const std::string large = largeContent(12 * 1024 * 1024);
+    QStringList sources{fixture.addSource("first", "1"), fixture.addSource("large", large),
+                        fixture.addSource("old", "new"), fixture.addSource("last", "4")};
+    const FolderContent sourcesBefore = fixture.sourceContent();
+    fixture.questions.answers = {s_replace};
+    fixture.progress.cancelAt = cancelAt;
+    const auto outcomes = fixture.copy(sources);
+    QVERIFY(fixture.sourceContent() == sourcesBefore);
+    QVERIFY(fixture.targetContent()
+            == Testing::reportedContent(before, outcomes, sourcesBefore));
+    QVERIFY(fixture.questions.told.isEmpty());
+}
+
+void CopyEngineTest::progressTellsBytesAndFiles()
+{
+    CopyFixture fixture;
+    const std::string large = largeContent(6 * 1024 * 1024);
+    fixture.copy({fixture.addSource("large", large), fixture.addSource("small", "12345")});
+    const auto& states = fixture.progress.states;
+    const qint64 total = qint64(large.size()) + 5;
+    qint64 done = 0;
+    for (const CopyProgressState& state : states) {
+        QVERIFY(state.bytesDone >= done);
+        done = state.bytesDone;
+    }
+    QCOMPARE(states.back().bytesDone, total);
+    QCOMPARE(states.back().bytesTotal, total);
+    QCOMPARE(states.back().filesDone, 2);
+    QCOMPARE(states.back().filesTotal, 2);
+    QCOMPARE(states.back().fileName, QStringLiteral("small"));
+}
+
+void CopyEngineTest::manySmallFilesAreFlushedInGroups()
+{
+    CopyFixture fixture;
+    Testing::FaultySystem system;
+    system.calls.flushFileSystemCounts = [](int) { return 1; };
+    QStringList sources;
+    constexpr int count = 100;
+    for (int i = 0; i < count; ++i)
+        sources.append(fixture.addSource("f" + std::to_string(i), std::to_string(i)));
+    const auto outcomes = fixture.copy(sources, system.calls);
+    QVERIFY(system.countOf("flushFileSystem") > 0);
+    QVERIFY(system.countOf("flush") < count / 4);
+    QVERIFY(fixture.targetContent() == fixture.sourceContent());
+    QVERIFY(std::all_of(outcomes.begin(), outcomes.end(), [](const CopyOutcome& outcome) {
+        return outcome.fate == CopyFate::Copied;
+    }));
+}
+
+void CopyEngineTest::fewFilesAreFlushedOneByOne()
+{
+    CopyFixture fixture;
+    Testing::FaultySystem system;
+    fixture.copy({fixture.addSource("a", "1"), fixture.addSource("b", "2")}, system.calls);
+    QCOMPARE(system.countOf("flushFileSystem"), 0);
+    QCOMPARE(system.countOf("flush"), 3); // two files and the folder
+}
+
+void CopyEngineTest::programsWithMuchToWriteAreNotWaitedFor()
+{
+    CopyFixture fixture;
+    Testing::FaultySystem system;
+    system.calls.unwrittenBytes = [] { return Q_INT64_C(4) << 30; };
+    QStringList sources;
+    for (int i = 0; i < 20; ++i)
+        sources.append(fixture.addSource("f" + std::to_string(i), "x"));
+    fixture.copy(sources, system.calls);
+    QCOMPARE(system.countOf("flushFileSystem"), 0);
+    QCOMPARE(system.countOf("flush"), 21);
+}
+
+void CopyEngineTest::openFilesStayBounded()
+{
+    CopyFixture fixture;
+    QStringList sources;
+    for (int i = 0; i < 300; ++i)
+        sources.append(fixture.addSource("f" + std::to_string(i), "x"));
+    rlimit before{};
+    QCOMPARE(getrlimit(RLIMIT_NOFILE, &before), 0);
+    const rlimit few{60, before.rlim_max};
+    QCOMPARE(setrlimit(RLIMIT_NOFILE, &few), 0);
+    const auto outcomes = fixture.copy(sources);
+    QCOMPARE(setrlimit(RLIMIT_NOFILE, &before), 0);
+    QVERIFY(std::all_of(outcomes.begin(), outcomes.end(), [](const CopyOutcome& outcome) {
+        return outcome.fate == CopyFate::Copied;
+    }));
+    QVERIFY(fixture.targetContent() == fixture.sourceContent());
+}
+
+void CopyEngineTest::memoryStaysFlat()
+{
+    CopyFixture fixture;
+    const std::string path = fixture.source("sparse");
+    Testing::writeFile(path, "");
+    constexpr off_t size = off_t(128) << 20;
+    QCOMPARE(truncate(path.c_str(), size), 0);
+    Testing::FaultySystem system;
+    system.removeRangeCopy();
+    rusage before{};
+    rusage after{};
+    QCOMPARE(getrusage(RUSAGE_SELF, &before), 0);
+    const auto outcomes = fixture.copy({pathFromBytes(path)}, system.calls);
+    QCOMPARE(getrusage(RUSAGE_SELF, &after), 0);
+    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
+    QCOMPARE(qint64(statusOf(fixture.target("sparse")).st_size), qint64(size));
+    const long grownKibibytes = after.ru_maxrss - before.ru_maxrss;
+    QVERIFY2(grownKibibytes < 8 * 1024, qPrintable(QString::number(grownKibibytes)));
+}
+
+ZORVANE_TEST_MAIN(CopyEngineTest)
+#include "CopyEngineTest.moc"

@@ -1,0 +1,110 @@
+#include "Tests/Files/Portable/CopyFixture.h"
+
+#include "Files/PathText.h"
+
+#include <QtCore/QDir>
+
+#include <dirent.h>
+#include <fstream>
+#include <iterator>
+#include <sys/stat.h>
+
+namespace Zorvane::Testing {
+
+namespace {
+
+std::string leafOf(const std::string& path)
+{
+    return path.substr(path.rfind('/') + 1);
+}
+
+} // namespace
+
+CopyFixture::CopyFixture()
+{
+    QDir root(m_root.path());
+    root.mkdir(QStringLiteral("source"));
+    root.mkdir(QStringLiteral("target"));
+}
+
+std::string CopyFixture::source(const std::string& name) const
+{
+    return pathToBytes(sourceFolder()) + '/' + name;
+}
+
+std::string CopyFixture::target(const std::string& name) const
+{
+    return pathToBytes(targetFolder()) + '/' + name;
+}
+
+QString CopyFixture::addSource(const std::string& name, const std::string& content)
+{
+    writeFile(source(name), content);
+    return pathFromBytes(source(name));
+}
+
+void CopyFixture::addTarget(const std::string& name, const std::string& content)
+{
+    writeFile(target(name), content);
+}
+
+FolderContent CopyFixture::sourceContent() const
+{
+    return contentOf(pathToBytes(sourceFolder()));
+}
+
+FolderContent CopyFixture::targetContent() const
+{
+    return contentOf(pathToBytes(targetFolder()));
+}
+
+QList<CopyOutcome> CopyFixture::copy(const QStringList& sources, const SystemCalls& calls)
+{
+    return CopyEngine(questions, progress, calls).run(sources, targetFolder());
+}
+
+void writeFile(const std::string& path, const std::string& content)
+{
+    std::ofstream(path, std::ios::binary) << content;
+}
+
+FolderContent contentOf(const std::string& folder)
+{
+    FolderContent content;
+    DIR* stream = opendir(folder.c_str());
+    while (const dirent* entry = readdir(stream)) {
+        const std::string name(entry->d_name);
+        if (name == "." || name == "..")
+            continue;
+        const std::string path = folder + '/' + name;
+        struct stat status{};
+        if (stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
+            content[name] = S_ISDIR(status.st_mode) ? "<folder>" : "<special>";
+            continue;
+        }
+        std::ifstream file(path, std::ios::binary);
+        content[name] = std::string(std::istreambuf_iterator<char>(file), {});
+    }
+    closedir(stream);
+    return content;
+}
+
+bool isTemporaryName(const std::string& name)
+{
+    constexpr std::size_t length = 12;
+    return name.size() == length && name.front() == '.' && name.substr(length - 4) == ".zvc";
+}
+
+FolderContent reportedContent(const FolderContent& before, const QList<CopyOutcome>& outcomes,
+                              const FolderContent& sources)
+{
+    FolderContent content = before;
+    for (const CopyOutcome& outcome : outcomes) {
+        if (!outcome.target.isEmpty())
+            content[leafOf(pathToBytes(outcome.target))] =
+                sources.at(leafOf(pathToBytes(outcome.source)));
+    }
+    return content;
+}
+
+} // namespace Zorvane::Testing

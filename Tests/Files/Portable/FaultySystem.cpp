@@ -1,0 +1,56 @@
+#include "Tests/Files/Portable/FaultySystem.h"
+
+#include <algorithm>
+
+namespace Zorvane::Testing {
+
+FaultySystem::FaultySystem()
+    : calls(SystemCalls::real())
+{
+    wrap(calls.openAt, "open");
+    wrap(calls.close, "close");
+    wrap(calls.read, "read");
+    wrap(calls.write, "write");
+    wrap(calls.copyRange, "copyRange");
+    wrap(calls.status, "status");
+    wrap(calls.statusAt, "statusAt");
+    wrap(calls.setMode, "setMode");
+    wrap(calls.setTimes, "setTimes");
+    wrap(calls.startWriteback, "startWriteback");
+    wrap(calls.finishWriteback, "finishWriteback");
+    wrap(calls.flush, "flush");
+    wrap(calls.flushFileSystem, "flushFileSystem");
+    wrap(calls.rename, "rename");
+    wrap(calls.renameNoReplace, "renameNoReplace");
+    wrap(calls.link, "link");
+    wrap(calls.linkUnnamed, "linkUnnamed");
+    wrap(calls.unlink, "unlink");
+    // What other programs have not written yet must not decide which way a test takes.
+    calls.unwrittenBytes = [] { return 0; };
+}
+
+int FaultySystem::countOf(const std::string& name) const
+{
+    return static_cast<int>(std::count_if(log.begin(), log.end(),
+                                          [&](const Call& call) { return call.name == name; }));
+}
+
+void FaultySystem::failOnce(const std::string& name, int error, int sameIndex)
+{
+    before = [=](const Call& call) {
+        return call.name == name && call.sameIndex == sameIndex ? error : 0;
+    };
+}
+
+void FaultySystem::failAlways(const std::string& name, int error)
+{
+    before = [=](const Call& call) { return call.name == name ? error : 0; };
+}
+
+int FaultySystem::announce(const char* name)
+{
+    log.push_back({name, static_cast<int>(log.size()), countOf(name)});
+    return before ? before(log.back()) : 0;
+}
+
+} // namespace Zorvane::Testing
