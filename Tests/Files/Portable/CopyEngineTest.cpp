@@ -5,6 +5,8 @@
 #include "Tests/Files/Portable/FaultySystem.h"
 #include "Tests/Support/TestCase.h"
 
+#include <algorithm>
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -30,7 +32,8 @@ std::string largeContent(std::size_t size)
 
 struct stat statusOf(const std::string& path)
 {
-    struct stat status{};
+    struct stat status
+    {};
     stat(path.c_str(), &status);
     return status;
 }
@@ -154,7 +157,8 @@ void CopyEngineTest::linkAsSourceIsFollowed()
     QCOMPARE(symlink("real", fixture.source("link").c_str()), 0);
     const auto outcomes = fixture.copy({pathFromBytes(fixture.source("link"))});
     QCOMPARE(outcomes[0].fate, CopyFate::Copied);
-    struct stat status{};
+    struct stat status
+    {};
     QCOMPARE(lstat(fixture.target("link").c_str(), &status), 0);
     QVERIFY(S_ISREG(status.st_mode));
     QVERIFY(fixture.targetContent() == FolderContent({{"link", "content"}}));
@@ -167,11 +171,12 @@ void CopyEngineTest::namesAreBytes()
     const std::string utf8 = "T\xC3\xBCr \xE6\xBF\x80.stl";
     fixture.addTarget(latin, "old");
     fixture.questions.answers = {s_keepBoth};
-    const auto outcomes = fixture.copy({fixture.addSource(latin, "1"), fixture.addSource(utf8, "2")});
+    const auto outcomes =
+        fixture.copy({fixture.addSource(latin, "1"), fixture.addSource(utf8, "2")});
     QCOMPARE(outcomes[0].fate, CopyFate::CopiedUnderOtherName);
     QCOMPARE(pathToBytes(outcomes[0].target), fixture.target("T\xFCr (2).stl"));
-    QVERIFY(fixture.targetContent()
-            == FolderContent({{latin, "old"}, {"T\xFCr (2).stl", "1"}, {utf8, "2"}}));
+    QVERIFY(fixture.targetContent() ==
+            FolderContent({{latin, "old"}, {"T\xFCr (2).stl", "1"}, {utf8, "2"}}));
 }
 
 void CopyEngineTest::longNameIsCopied()
@@ -243,8 +248,8 @@ void CopyEngineTest::existingFileIsAskedAbout()
     if (!second.isEmpty())
         expected["part (2).stl"] = second.toStdString();
     QVERIFY(fixture.targetContent() == expected);
-    QVERIFY(fixture.targetContent()
-            == Testing::reportedContent({{"part.stl", "old"}}, outcomes, fixture.sourceContent()));
+    QVERIFY(fixture.targetContent() ==
+            Testing::reportedContent({{"part.stl", "old"}}, outcomes, fixture.sourceContent()));
     QVERIFY(fixture.sourceContent() == FolderContent({{"part.stl", "new"}}));
 }
 
@@ -349,8 +354,8 @@ void CopyEngineTest::folderIsNeverReplaced()
     const auto outcomes = fixture.copy({fixture.addSource("a", "1"), fixture.addSource("b", "2")});
     QCOMPARE(fixture.questions.asked.at(0).kind, CollisionKind::NotAFile);
     QCOMPARE(outcomes[0].fate, CopyFate::Skipped);
-    QVERIFY(fixture.targetContent()
-            == FolderContent({{"a", "<folder>"}, {"b", "<folder>"}, {"b (2)", "2"}}));
+    QVERIFY(fixture.targetContent() ==
+            FolderContent({{"a", "<folder>"}, {"b", "<folder>"}, {"b (2)", "2"}}));
 }
 
 void CopyEngineTest::equalNamesWithinTheBatch()
@@ -406,7 +411,7 @@ void CopyEngineTest::nothingIsAskedTwiceWithForAll()
 void CopyEngineTest::cancelLeavesNoTrace_data()
 {
     QTest::addColumn<int>("cancelAt");
-    for (int cancelAt = 0; cancelAt <= 40; ++cancelAt)
+    for (int cancelAt = 0; cancelAt <= 20; ++cancelAt)
         QTest::addRow("at word %d", cancelAt) << cancelAt;
 }
 
@@ -416,7 +421,7 @@ void CopyEngineTest::cancelLeavesNoTrace()
     CopyFixture fixture;
     const FolderContent before{{"old", "old"}};
     fixture.addTarget("old", "old");
-    const std::string large = largeContent(12 * 1024 * 1024);
+    const std::string large = largeContent(5 * 1024 * 1024);
     QStringList sources{fixture.addSource("first", "1"), fixture.addSource("large", large),
                         fixture.addSource("old", "new"), fixture.addSource("last", "4")};
     const FolderContent sourcesBefore = fixture.sourceContent();
@@ -424,8 +429,7 @@ void CopyEngineTest::cancelLeavesNoTrace()
     fixture.progress.cancelAt = cancelAt;
     const auto outcomes = fixture.copy(sources);
     QVERIFY(fixture.sourceContent() == sourcesBefore);
-    QVERIFY(fixture.targetContent()
-            == Testing::reportedContent(before, outcomes, sourcesBefore));
+    QVERIFY(fixture.targetContent() == Testing::reportedContent(before, outcomes, sourcesBefore));
     QVERIFY(fixture.questions.told.isEmpty());
 }
 

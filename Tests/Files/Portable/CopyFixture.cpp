@@ -5,6 +5,7 @@
 #include <QtCore/QDir>
 
 #include <dirent.h>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <sys/stat.h>
@@ -25,6 +26,13 @@ CopyFixture::CopyFixture()
     QDir root(m_root.path());
     root.mkdir(QStringLiteral("source"));
     root.mkdir(QStringLiteral("target"));
+}
+
+CopyFixture::~CopyFixture()
+{
+    // QTemporaryDir cannot remove names that are not UTF-8.
+    std::error_code ignored;
+    std::filesystem::remove_all(pathToBytes(m_root.path()), ignored);
 }
 
 std::string CopyFixture::source(const std::string& name) const
@@ -77,7 +85,8 @@ FolderContent contentOf(const std::string& folder)
         if (name == "." || name == "..")
             continue;
         const std::string path = folder + '/' + name;
-        struct stat status{};
+        struct stat status
+        {};
         if (stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
             content[name] = S_ISDIR(status.st_mode) ? "<folder>" : "<special>";
             continue;

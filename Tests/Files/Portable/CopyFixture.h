@@ -18,6 +18,10 @@ class CopyFixture
 {
 public:
     CopyFixture();
+    ~CopyFixture();
+
+    CopyFixture(const CopyFixture&) = delete;
+    CopyFixture& operator=(const CopyFixture&) = delete;
 
     QString sourceFolder() const { return m_root.filePath(QStringLiteral("source")); }
     QString targetFolder() const { return m_root.filePath(QStringLiteral("target")); }

@@ -8,7 +8,13 @@ FaultySystem::FaultySystem()
     : calls(SystemCalls::real())
 {
     wrap(calls.openAt, "open");
-    wrap(calls.close, "close");
+    calls.close = [this](int file) {
+        // A close that fails has closed the file all the same.
+        const int error = announce("close");
+        const int result = SystemCalls::real().close(file);
+        errno = error != 0 ? error : errno;
+        return error != 0 ? -1 : result;
+    };
     wrap(calls.read, "read");
     wrap(calls.write, "write");
     wrap(calls.copyRange, "copyRange");
@@ -31,8 +37,8 @@ FaultySystem::FaultySystem()
 
 int FaultySystem::countOf(const std::string& name) const
 {
-    return static_cast<int>(std::count_if(log.begin(), log.end(),
-                                          [&](const Call& call) { return call.name == name; }));
+    return static_cast<int>(
+        std::count_if(log.begin(), log.end(), [&](const Call& call) { return call.name == name; }));
 }
 
 void FaultySystem::failOnce(const std::string& name, int error, int sameIndex)

@@ -1,0 +1,763 @@
+#include "Files/PathText.h"
+#include "Tests/Files/Portable/CopyFixture.h"
+#include "Tests/Files/Portable/FaultySystem.h"
+#include "Tests/Support/TestCase.h"
+
+#include <algorithm>
+#include <cctype>
+#include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Zorvane;
+using Testing::CopyFixture;
+using Testing::FaultySystem;
+using Testing::FolderContent;
+
+namespace {
+
+constexpr std::size_t s_largeSize = 5 * 1024 * 1024;
+
+/** The ways by which files get their names, from the best to the poorest. */
+enum Means
+{
+    LinkUnnamed,
+    RenameNoReplace,
+    Link
+};
+
+void addMeansColumn()
+{
+    QTest::addColumn<int>("means");
+}
+
+void addMeansRows()
+{
+    addMeansColumn();
+    QTest::newRow("unnamed files") << int(LinkUnnamed);
+    QTest::newRow("renaming without replacing") << int(RenameNoReplace);
+    QTest::newRow("hard links only") << int(Link);
+}
+
+void restrictTo(FaultySystem& system, int means)
+{
+    if (means != LinkUnnamed)
+        system.removeUnnamedFiles();
+    if (means == Link)
+        system.removeNoReplaceRename();
+    if (means == RenameNoReplace)
+        system.removeHardLinks();
+}
+
+/** A batch that meets most of what can happen: new, replaced, kept both, skipped, large. */
+struct Batch
+{
+    Batch()
+    {
+        for (const char* name : {"replace", "keep.x", "skip"})
+            fixture.addTarget(name, std::string("old ") + name);
+        before = fixture.targetContent();
+        sources << fixture.addSource("new", "new") << fixture.addSource("replace", "new replace")
+                << fixture.addSource("keep.x", "new keep") << fixture.addSource("skip", "new skip")
+                << fixture.addSource("large", std::string(s_largeSize, 'l'))
+                << fixture.addSource("last", "last");
+        sourcesBefore = fixture.sourceContent();
+        fixture.questions.answers = {{CopyDecision::Replace, false},
+                                     {CopyDecision::KeepBoth, false},
+                                     {CopyDecision::Skip, false}};
+    }
+
+    QList<CopyOutcome> copy(const FaultySystem& system)
+    {
+        return fixture.copy(sources, system.calls);
+    }
+
+    CopyFixture fixture;
+    FolderContent before;
+    FolderContent sourcesBefore;
+    QStringList sources;
+};
+
+FolderContent withoutTemporaries(FolderContent content)
+{
+    for (auto entry = content.begin(); entry != content.end();)
+        entry = Testing::isTemporaryName(entry->first) ? content.erase(entry) : std::next(entry);
+    return content;
+}
+
+QByteArray describe(const FolderContent& content)
+{
+    QByteArray text;
+    for (const auto& [name, value] : content)
+        text +=
+            QByteArray::fromStdString(name) + ": " + QByteArray::number(int(value.size())) + "; ";
+    return text;
+}
+
+} // namespace
+
+class CopyFaultTest : public Testing::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyMeansGivesTheSameResult_data() { addMeansRows(); }
+    void everyMeansGivesTheSameResult();
+    void faultAtEveryCall_data();
+    void faultAtEveryCall();
+    void errorStopsOrSkips_data();
+    void errorStopsOrSkips();
+    void copiedFilesStayReported_data() { addMeansRows(); }
+    void copiedFilesStayReported();
+    void failedGroupFlushFailsItsFilesOnly_data();
+    void failedGroupFlushFailsItsFilesOnly();
+    void folderFlushFailureIsTold();
+    void interruptionsAreHarmless_data() { addMeansRows(); }
+    void interruptionsAreHarmless();
+    void shortReadsAndWritesAreHarmless();
+    void rangeCopyThatStopsShortIsHarmless();
+    void sourceChangesWhileCopied_data();
+    void sourceChangesWhileCopied();
+    void targetAppearsBeforePublishing_data();
+    void targetAppearsBeforePublishing();
+    void madeUpNameIsTakenMeanwhile_data() { addMeansRows(); }
+    void madeUpNameIsTakenMeanwhile();
+    void targetToReplaceChangesMeanwhile_data();
+    void targetToReplaceChangesMeanwhile();
+    void targetToReplaceVanishes_data() { addMeansRows(); }
+    void targetToReplaceVanishes();
+    void linkSwappedInAtTheTarget_data() { addMeansRows(); }
+    void linkSwappedInAtTheTarget();
+    void linkSwappedInAtTheSource();
+    void targetFolderSwappedForALink();
+    void folderWithoutAnySafeMeansIsRefused();
+    void lostAnswerIsRecognised_data() { addMeansRows(); }
+    void lostAnswerIsRecognised();
+    void attributesThatCannotBeKeptAreNoFailure();
+    void caseOnlyCollision_data();
+    void caseOnlyCollision();
+    void caseMattersWhereItDoes();
+};
+
+void CopyFaultTest::everyMeansGivesTheSameResult()
+{
+    QFETCH(int, means);
+    Batch batch;
+    FaultySystem system;
+    restrictTo(system, means);
+    system.removeWriteback();
+    system.removeRangeCopy();
+    const auto outcomes = batch.copy(system);
+    const char* used[] = {"linkUnnamed", "renameNoReplace", "link"};
+    QVERIFY(means == LinkUnnamed ? system.countOf(used[LinkUnnamed]) > 1
+                                 : system.countOf(used[LinkUnnamed]) == 0);
+    FolderContent expected = batch.before;
+    expected["new"] = "new";
+    expected["replace"] = "new replace";
+    expected["keep (2).x"] = "new keep";
+    expected["large"] = std::string(s_largeSize, 'l');
+    expected["last"] = "last";
+    QVERIFY(batch.fixture.targetContent() == expected);
+    QVERIFY(batch.fixture.questions.told.isEmpty());
+    QCOMPARE(outcomes[3].fate, CopyFate::Skipped);
+}
+
+void CopyFaultTest::faultAtEveryCall_data()
+{
+    addMeansColumn();
+    QTest::addColumn<int>("error");
+    for (const int error : {EIO, ENOSPC, EACCES}) {
+        QTest::addRow("unnamed files, %s", strerror(error)) << int(LinkUnnamed) << error;
+        QTest::addRow("renaming without replacing, %s", strerror(error))
+            << int(RenameNoReplace) << error;
+        QTest::addRow("hard links only, %s", strerror(error)) << int(Link) << error;
+    }
+}
+
+void CopyFaultTest::faultAtEveryCall()
+{
+    QFETCH(int, means);
+    QFETCH(int, error);
+    for (int at = 0;; ++at) {
+        Batch batch;
+        FaultySystem system;
+        restrictTo(system, means);
+        std::string failed;
+        system.before = [&](const FaultySystem::Call& call) {
+            if (call.index != at)
+                return 0;
+            failed = call.name;
+            return error;
+        };
+        const auto outcomes = batch.copy(system);
+        if (failed.empty())
+            break;
+        const QByteArray where = QByteArray::fromStdString(failed) + " as call " +
+                                 QByteArray::number(at) + ": " +
+                                 describe(batch.fixture.targetContent());
+        QVERIFY2(batch.fixture.sourceContent() == batch.sourcesBefore, where);
+        // Where not even removing works, the temporary name is all that may stay.
+        const FolderContent now = batch.fixture.targetContent();
+        const FolderContent expected =
+            Testing::reportedContent(batch.before, outcomes, batch.sourcesBefore);
+        QVERIFY2((failed == "unlink" ? withoutTemporaries(now) : now) == expected, where);
+        QCOMPARE(outcomes.size(), batch.sources.size());
+    }
+}
+
+void CopyFaultTest::errorStopsOrSkips_data()
+{
+    QTest::addColumn<QString>("call");
+    QTest::addColumn<int>("sameIndex");
+    QTest::addColumn<int>("error");
+    QTest::addColumn<int>("means");
+    QTest::addColumn<bool>("stops");
+    const auto row = [](const char* call, int sameIndex, int error, Means means, bool stops) {
+        QTest::addRow("%s, %s", call, strerror(error))
+            << QString::fromLatin1(call) << sameIndex << error << int(means) << stops;
+    };
+    // The first file's turn comes after the folder has been opened and tried out.
+    for (const int error : {ENOSPC, EDQUOT, EROFS, EIO}) {
+        row("write", 0, error, LinkUnnamed, true);
+        row("flush", 0, error, LinkUnnamed, true);
+        row("linkUnnamed", 1, error, LinkUnnamed, true);
+        row("renameNoReplace", 1, error, RenameNoReplace, true);
+        row("link", 1, error, Link, true);
+        row("setTimes", 0, error, LinkUnnamed, true);
+    }
+    row("open: target", 3, ENOSPC, LinkUnnamed, true);
+    row("open: target", 3, EROFS, LinkUnnamed, true);
+    row("open: target", 3, EACCES, LinkUnnamed, false);
+    row("open: source", 2, EACCES, LinkUnnamed, false);
+    row("open: source", 2, EIO, LinkUnnamed, false);
+    row("open: source", 2, ENOENT, LinkUnnamed, false);
+    row("read", 0, EIO, LinkUnnamed, false);
+    row("read", 0, EACCES, LinkUnnamed, false);
+    row("write", 0, EFBIG, LinkUnnamed, false);
+    row("flush", 0, EACCES, LinkUnnamed, false);
+    row("linkUnnamed", 1, EACCES, LinkUnnamed, false);
+    row("renameNoReplace", 1, EACCES, RenameNoReplace, false);
+    row("link", 1, EACCES, Link, false);
+}
+
+void CopyFaultTest::errorStopsOrSkips()
+{
+    QFETCH(QString, call);
+    QFETCH(int, sameIndex);
+    QFETCH(int, error);
+    QFETCH(int, means);
+    QFETCH(bool, stops);
+    CopyFixture fixture;
+    FaultySystem system;
+    restrictTo(system, means);
+    const std::string name = call.section(QLatin1Char(':'), 0, 0).toStdString();
+    system.failOnce(name, error, sameIndex);
+    // A file of 16 MiB makes a group of its own, so that the first is done before the second.
+    const std::string large(16 << 20, 'x');
+    const QStringList sources{fixture.addSource("a", name == "flush" ? large : "1"),
+                              fixture.addSource("b", "2")};
+    const auto outcomes = fixture.copy(sources, system.calls);
+    QCOMPARE(outcomes[0].fate, CopyFate::Failed);
+    QVERIFY(!outcomes[0].reason.isEmpty());
+    const bool grouped = name.find("ink") != std::string::npos || name == "renameNoReplace";
+    if (stops && !grouped) {
+        QCOMPARE(outcomes[1].fate, CopyFate::NotReached);
+        QCOMPARE(fixture.questions.told.size(), 2);
+        QVERIFY(fixture.targetContent().empty());
+    } else {
+        // What was complete already when the other failed to get its name still gets its own.
+        QCOMPARE(outcomes[1].fate, CopyFate::Copied);
+        QCOMPARE(fixture.questions.told.size(), 1);
+        QVERIFY(fixture.targetContent() == FolderContent({{"b", "2"}}));
+    }
+    QCOMPARE(fixture.questions.told[0].path, sources[0]);
+}
+
+void CopyFaultTest::copiedFilesStayReported()
+{
+    QFETCH(int, means);
+    CopyFixture fixture;
+    FaultySystem system;
+    restrictTo(system, means);
+    system.failOnce("write", ENOSPC, 2);
+    const auto outcomes = fixture.copy({fixture.addSource("a", "1"), fixture.addSource("b", "2"),
+                                        fixture.addSource("c", "3"), fixture.addSource("d", "4")},
+                                       system.calls);
+    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
+    QCOMPARE(outcomes[1].fate, CopyFate::Copied);
+    QCOMPARE(outcomes[2].fate, CopyFate::Failed);
+    QCOMPARE(outcomes[3].fate, CopyFate::NotReached);
+    QVERIFY(fixture.targetContent() == FolderContent({{"a", "1"}, {"b", "2"}}));
+}
+
+void CopyFaultTest::failedGroupFlushFailsItsFilesOnly_data()
+{
+    QTest::addColumn<QString>("call");
+    QTest::newRow("the file system reports it") << QStringLiteral("flushFileSystem");
+    QTest::newRow("only the file reports it, and only once") << QStringLiteral("finishWriteback");
+}
+
+void CopyFaultTest::failedGroupFlushFailsItsFilesOnly()
+{
+    QFETCH(QString, call);
+    CopyFixture fixture;
+    FaultySystem system;
+    system.calls.flushFileSystemCounts = [](int) { return 1; };
+    const std::string first = call.toStdString();
+    system.before = [&](const FaultySystem::Call& made) {
+        const bool bad = made.name == first || (first == "flushFileSystem" && made.name == "flush");
+        return bad && made.sameIndex == 0 ? EIO : 0;
+    };
+    QStringList sources;
+    for (int i = 0; i < 20; ++i)
+        sources.append(fixture.addSource("f" + std::to_string(i), std::to_string(i)));
+    const auto outcomes = fixture.copy(sources, system.calls);
+    QCOMPARE(outcomes[0].fate, CopyFate::Failed);
+    for (int i = 1; i < outcomes.size(); ++i)
+        QCOMPARE(outcomes[i].fate, CopyFate::Copied);
+    QVERIFY(fixture.targetContent() ==
+            Testing::reportedContent({}, outcomes, fixture.sourceContent()));
+}
+
+void CopyFaultTest::folderFlushFailureIsTold()
+{
+    CopyFixture fixture;
+    FaultySystem system;
+    system.failOnce("flush", EIO, 1);
+    const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
+    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
+    QCOMPARE(fixture.questions.told.size(), 1);
+    QCOMPARE(fixture.questions.told[0].path, fixture.targetFolder());
+    QVERIFY(fixture.targetContent() == FolderContent({{"a", "1"}}));
+}
+
+void CopyFaultTest::interruptionsAreHarmless()
+{
+    QFETCH(int, means);
+    Batch batch;
+    FaultySystem system;
+    restrictTo(system, means);
+    // Every call is interrupted before it gets through; closing is not repeated on Linux.
+    bool interrupt = true;
+    system.before = [&](const FaultySystem::Call& call) {
+        interrupt = !interrupt && call.name != "close";
+        return interrupt ? EINTR : 0;
+    };
+    const auto outcomes = batch.copy(system);
+    QVERIFY(batch.fixture.questions.told.isEmpty());
+    for (const int copied : {0, 1, 2, 4, 5})
+        QVERIFY(!outcomes[copied].target.isEmpty());
+    QVERIFY(batch.fixture.targetContent() ==
+            Testing::reportedContent(batch.before, outcomes, batch.sourcesBefore));
+}
+
+void CopyFaultTest::shortReadsAndWritesAreHarmless()
+{
+    Batch batch;
+    FaultySystem system;
+    system.removeRangeCopy();
+    const SystemCalls& real = SystemCalls::real();
+    system.calls.read = [&real](int file, void* buffer, size_t size) {
+        return real.read(file, buffer, std::min<size_t>(size, 100001));
+    };
+    system.calls.write = [&real](int file, const void* buffer, size_t size) {
+        return real.write(file, buffer, std::min<size_t>(size, 70001));
+    };
+    const auto outcomes = batch.copy(system);
+    QVERIFY(batch.fixture.questions.told.isEmpty());
+    QCOMPARE(outcomes[4].fate, CopyFate::Copied);
+    QVERIFY(batch.fixture.targetContent() ==
+            Testing::reportedContent(batch.before, outcomes, batch.sourcesBefore));
+}
+
+void CopyFaultTest::rangeCopyThatStopsShortIsHarmless()
+{
+    Batch batch;
+    FaultySystem system;
+    int calls = 0;
+    system.calls.copyRange = [&calls](int from, int to, size_t size) -> ssize_t {
+        return ++calls > 3 ? 0
+                           : SystemCalls::real().copyRange(from, to, std::min<size_t>(size, 300));
+    };
+    const auto outcomes = batch.copy(system);
+    QCOMPARE(calls, 4);
+    QCOMPARE(outcomes[4].fate, CopyFate::Copied);
+    QVERIFY(batch.fixture.targetContent() ==
+            Testing::reportedContent(batch.before, outcomes, batch.sourcesBefore));
+}
+
+void CopyFaultTest::sourceChangesWhileCopied_data()
+{
+    QTest::addColumn<QString>("call");
+    QTest::addColumn<int>("sameIndex");
+    QTest::addColumn<QString>("change");
+    for (const char* change : {"vanishes", "grows", "shrinks", "becomes a folder", "becomes a pipe",
+                               "is replaced by another"}) {
+        const QString text = QString::fromLatin1(change);
+        // The first two openings are the target folder's.
+        QTest::addRow("%s before it is opened", change) << QStringLiteral("open") << 2 << text;
+        QTest::addRow("%s before it is read", change) << QStringLiteral("read") << 0 << text;
+        QTest::addRow("%s before its second piece", change) << QStringLiteral("read") << 1 << text;
+    }
+}
+
+void CopyFaultTest::sourceChangesWhileCopied()
+{
+    QFETCH(QString, call);
+    QFETCH(int, sameIndex);
+    QFETCH(QString, change);
+    CopyFixture fixture;
+    FaultySystem system;
+    system.removeRangeCopy();
+    const std::string content(600000, 's');
+    const QString source = fixture.addSource("a", content);
+    const std::string path = fixture.source("a");
+    const auto doIt = [&] {
+        if (change == QLatin1String("grows"))
+            Testing::writeFile(path, content + "more");
+        else if (change == QLatin1String("shrinks"))
+            QCOMPARE(truncate(path.c_str(), 10), 0);
+        else
+            QCOMPARE(unlink(path.c_str()), 0);
+        if (change == QLatin1String("becomes a folder"))
+            QCOMPARE(mkdir(path.c_str(), 0755), 0);
+        if (change == QLatin1String("becomes a pipe"))
+            QCOMPARE(mkfifo(path.c_str(), 0644), 0);
+        if (change == QLatin1String("is replaced by another"))
+            Testing::writeFile(path, std::string(600000, 'o'));
+    };
+    system.before = [&](const FaultySystem::Call& made) {
+        if (made.name == call.toStdString() && made.sameIndex == sameIndex)
+            doIt();
+        return 0;
+    };
+    const auto outcomes = fixture.copy({source, fixture.addSource("b", "2")}, system.calls);
+    FolderContent expected{{"b", "2"}};
+    if (outcomes[0].fate == CopyFate::Copied)
+        expected["a"] = content; // the file was open: it is the old one, and whole
+    else
+        QCOMPARE(outcomes[0].fate, CopyFate::Failed);
+    const bool inPlace = change == QLatin1String("grows") || change == QLatin1String("shrinks");
+    if (inPlace || call == QLatin1String("open"))
+        QCOMPARE(outcomes[0].fate, CopyFate::Failed);
+    QCOMPARE(outcomes[1].fate, CopyFate::Copied);
+    QVERIFY(fixture.targetContent() == expected);
+}
+
+void CopyFaultTest::targetAppearsBeforePublishing_data()
+{
+    addMeansColumn();
+    QTest::addColumn<int>("decision");
+    for (const int means : {LinkUnnamed, RenameNoReplace, Link}) {
+        QTest::addRow("means %d, replace", means) << means << int(CopyDecision::Replace);
+        QTest::addRow("means %d, skip", means) << means << int(CopyDecision::Skip);
+        QTest::addRow("means %d, keep both", means) << means << int(CopyDecision::KeepBoth);
+        QTest::addRow("means %d, cancel", means) << means << int(CopyDecision::Cancel);
+    }
+}
+
+void CopyFaultTest::targetAppearsBeforePublishing()
+{
+    QFETCH(int, means);
+    QFETCH(int, decision);
+    CopyFixture fixture;
+    FaultySystem system;
+    restrictTo(system, means);
+    system.before = [&](const FaultySystem::Call& call) {
+        if (call.name == "flush" && call.sameIndex == 0)
+            fixture.addTarget("a", "appeared");
+        return 0;
+    };
+    fixture.questions.answers = {{static_cast<CopyDecision>(decision), true}};
+    const auto outcomes =
+        fixture.copy({fixture.addSource("a", "1"), fixture.addSource("b", "2")}, system.calls);
+    QCOMPARE(int(fixture.questions.asked.size()), 1);
+    QCOMPARE(fixture.questions.asked[0].target.size, qint64(8));
+    QCOMPARE(fixture.questions.asked[0].remaining, 0);
+    FolderContent expected{{"a", "appeared"}, {"b", "2"}};
+    if (decision == int(CopyDecision::Replace))
+        expected["a"] = "1";
+    if (decision == int(CopyDecision::KeepBoth))
+        expected["a (2)"] = "1";
+    if (decision == int(CopyDecision::Cancel))
+        expected.erase("b");
+    QVERIFY2(fixture.targetContent() == expected, describe(fixture.targetContent()));
+    QVERIFY(expected ==
+            Testing::reportedContent({{"a", "appeared"}}, outcomes, fixture.sourceContent()));
+}
+
+void CopyFaultTest::madeUpNameIsTakenMeanwhile()
+{
+    QFETCH(int, means);
+    CopyFixture fixture;
+    fixture.addTarget("a", "old");
+    FaultySystem system;
+    restrictTo(system, means);
+    system.before = [&](const FaultySystem::Call& call) {
+        if (call.name == "flush" && call.sameIndex == 0)
+            fixture.addTarget("a (2)", "appeared");
+        return 0;
+    };
+    fixture.questions.answers = {{CopyDecision::KeepBoth, false}};
+    const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
+    QCOMPARE(int(fixture.questions.asked.size()), 1);
+    QCOMPARE(pathToBytes(outcomes[0].target), fixture.target("a (3)"));
+    QVERIFY(fixture.targetContent() ==
+            FolderContent({{"a", "old"}, {"a (2)", "appeared"}, {"a (3)", "1"}}));
+}
+
+void CopyFaultTest::targetToReplaceChangesMeanwhile_data()
+{
+    targetAppearsBeforePublishing_data();
+}
+
+void CopyFaultTest::targetToReplaceChangesMeanwhile()
+{
+    QFETCH(int, means);
+    QFETCH(int, decision);
+    CopyFixture fixture;
+    fixture.addTarget("a", "old");
+    FaultySystem system;
+    restrictTo(system, means);
+    system.before = [&](const FaultySystem::Call& call) {
+        if (call.name == "flush" && call.sameIndex == 0)
+            fixture.addTarget("a", "edited since");
+        return 0;
+    };
+    fixture.questions.answers = {{CopyDecision::Replace, true},
+                                 {static_cast<CopyDecision>(decision), false}};
+    const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
+    QCOMPARE(int(fixture.questions.asked.size()), 2);
+    QCOMPARE(fixture.questions.asked[1].target.size, qint64(12));
+    FolderContent expected{{"a", "edited since"}};
+    if (decision == int(CopyDecision::Replace))
+        expected["a"] = "1";
+    if (decision == int(CopyDecision::KeepBoth))
+        expected["a (2)"] = "1";
+    QVERIFY2(fixture.targetContent() == expected, describe(fixture.targetContent()));
+    QVERIFY(expected ==
+            Testing::reportedContent({{"a", "edited since"}}, outcomes, fixture.sourceContent()));
+}
+
+void CopyFaultTest::targetToReplaceVanishes()
+{
+    QFETCH(int, means);
+    CopyFixture fixture;
+    fixture.addTarget("a", "old");
+    FaultySystem system;
+    restrictTo(system, means);
+    system.before = [&](const FaultySystem::Call& call) {
+        if (call.name == "flush" && call.sameIndex == 0)
+            unlink(fixture.target("a").c_str());
+        return 0;
+    };
+    fixture.questions.answers = {{CopyDecision::Replace, false}};
+    const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
+    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
+    QVERIFY(fixture.targetContent() == FolderContent({{"a", "1"}}));
+}
+
+void CopyFaultTest::linkSwappedInAtTheTarget()
+{
+    QFETCH(int, means);
+    CopyFixture fixture;
+    fixture.addTarget("a", "old");
+    fixture.addTarget("precious", "precious");
+    FaultySystem system;
+    restrictTo(system, means);
+    system.before = [&](const FaultySystem::Call& call) {
+        if (call.name == "flush" && call.sameIndex == 0) {
+            unlink(fixture.target("a").c_str());
+            [[maybe_unused]] const int made = symlink("precious", fixture.target("a").c_str());
+        }
+        return 0;
+    };
+    fixture.questions.answers = {{CopyDecision::Replace, false}, {CopyDecision::Skip, false}};
+    const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
+    QCOMPARE(int(fixture.questions.asked.size()), 2);
+    QCOMPARE(outcomes[0].fate, CopyFate::Skipped);
+    QVERIFY(fixture.targetContent() ==
+            FolderContent({{"a", "precious"}, {"precious", "precious"}}));
+}
+
+void CopyFaultTest::linkSwappedInAtTheSource()
+{
+    CopyFixture fixture;
+    const QString source = fixture.addSource("a", "1");
+    fixture.addSource("secret", "secret");
+    FaultySystem system;
+    fixture.questions.onAsk = [&](const CopyCollision&) {
+        unlink(fixture.source("a").c_str());
+        QCOMPARE(symlink("secret", fixture.source("a").c_str()), 0);
+    };
+    fixture.addTarget("a", "old");
+    fixture.questions.answers = {{CopyDecision::KeepBoth, false}};
+    const auto outcomes = fixture.copy({source}, system.calls);
+    QCOMPARE(outcomes[0].fate, CopyFate::Failed);
+    QVERIFY(fixture.targetContent() == FolderContent({{"a", "old"}}));
+}
+
+void CopyFaultTest::targetFolderSwappedForALink()
+{
+    CopyFixture fixture;
+    const std::string folder = pathToBytes(fixture.targetFolder());
+    const std::string moved = folder + ".moved";
+    const std::string elsewhere = pathToBytes(fixture.sourceFolder()) + "/elsewhere";
+    QCOMPARE(mkdir(elsewhere.c_str(), 0755), 0);
+    FaultySystem system;
+    system.before = [&](const FaultySystem::Call& call) {
+        if (call.name == "flush" && call.sameIndex == 0) {
+            rename(folder.c_str(), moved.c_str());
+            [[maybe_unused]] const int made = symlink(elsewhere.c_str(), folder.c_str());
+        }
+        return 0;
+    };
+    fixture.copy({fixture.addSource("a", "1")}, system.calls);
+    QVERIFY(Testing::contentOf(elsewhere).empty());
+    QVERIFY(Testing::contentOf(moved) == FolderContent({{"a", "1"}}));
+}
+
+void CopyFaultTest::folderWithoutAnySafeMeansIsRefused()
+{
+    Batch batch;
+    FaultySystem system;
+    system.removeUnnamedFiles();
+    system.removeNoReplaceRename();
+    system.removeHardLinks();
+    const auto outcomes = batch.copy(system);
+    QVERIFY(std::all_of(outcomes.begin(), outcomes.end(), [](const CopyOutcome& outcome) {
+        return outcome.fate == CopyFate::Failed && !outcome.reason.isEmpty();
+    }));
+    QVERIFY(batch.fixture.questions.asked.empty());
+    QCOMPARE(batch.fixture.questions.told.size(), batch.sources.size());
+    QVERIFY(batch.fixture.targetContent() == batch.before);
+}
+
+void CopyFaultTest::lostAnswerIsRecognised()
+{
+    QFETCH(int, means);
+    CopyFixture fixture;
+    FaultySystem system;
+    restrictTo(system, means);
+    // The server has done it, and the answer to the repeated request says that it is there.
+    const auto loseAnswer = [](auto& entry) {
+        auto real = entry;
+        auto count = std::make_shared<int>(0);
+        entry = [real, count](auto... arguments) {
+            const int result = real(arguments...);
+            if (++*count != 2) // the first call tries out the folder
+                return result;
+            errno = EINTR;
+            return -1;
+        };
+    };
+    if (means == LinkUnnamed)
+        loseAnswer(system.calls.linkUnnamed);
+    if (means == RenameNoReplace)
+        loseAnswer(system.calls.renameNoReplace);
+    if (means == Link)
+        loseAnswer(system.calls.link);
+    const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
+    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
+    QVERIFY(fixture.questions.asked.empty());
+    QVERIFY(fixture.targetContent() == FolderContent({{"a", "1"}}));
+}
+
+void CopyFaultTest::attributesThatCannotBeKeptAreNoFailure()
+{
+    CopyFixture fixture;
+    FaultySystem system;
+    system.before = [](const FaultySystem::Call& call) {
+        return call.name == "setMode" || call.name == "setTimes" ? EPERM : 0;
+    };
+    const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
+    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
+}
+
+namespace {
+
+/** Lets the target folder find names as a file system does for which case doesn't count. */
+void ignoreCase(FaultySystem& system, const CopyFixture& fixture)
+{
+    const auto onDisk = [&fixture](const char* name) {
+        const auto alike = [](char left, char right) {
+            return std::tolower(left) == std::tolower(right);
+        };
+        const std::string wanted(name);
+        for (const auto& [entry, content] : fixture.targetContent()) {
+            if (std::equal(entry.begin(), entry.end(), wanted.begin(), wanted.end(), alike))
+                return entry;
+        }
+        return wanted;
+    };
+    auto& calls = system.calls;
+    calls.statusAt = [=, real = calls.statusAt](int folder, const char* name, struct stat& status,
+                                                int flags) {
+        return real(folder, onDisk(name).c_str(), status, flags);
+    };
+    calls.linkUnnamed = [=, real = calls.linkUnnamed](int file, int folder, const char* name) {
+        return real(file, folder, onDisk(name).c_str());
+    };
+    calls.rename = [=, real = calls.rename](int folder, const char* from, const char* to) {
+        return real(folder, from, onDisk(to).c_str());
+    };
+}
+
+} // namespace
+
+void CopyFaultTest::caseOnlyCollision_data()
+{
+    QTest::addColumn<bool>("withinBatch");
+    QTest::addColumn<int>("decision");
+    for (const bool within : {true, false}) {
+        const char* where = within ? "within the batch" : "with a file that is there";
+        for (const CopyDecision decision :
+             {CopyDecision::Replace, CopyDecision::Skip, CopyDecision::KeepBoth})
+            QTest::addRow("%s, decision %d", where, int(decision)) << within << int(decision);
+    }
+}
+
+void CopyFaultTest::caseOnlyCollision()
+{
+    QFETCH(bool, withinBatch);
+    QFETCH(int, decision);
+    CopyFixture fixture;
+    FaultySystem system;
+    ignoreCase(system, fixture);
+    QStringList sources;
+    if (withinBatch)
+        sources.append(fixture.addSource("Part.STL", "old"));
+    else
+        fixture.addTarget("Part.STL", "old");
+    sources.append(fixture.addSource("part.stl", "new"));
+    fixture.questions.answers = {{static_cast<CopyDecision>(decision), false}};
+    const auto outcomes = fixture.copy(sources, system.calls);
+    QCOMPARE(int(fixture.questions.asked.size()), 1);
+    QCOMPARE(fixture.questions.asked[0].kind,
+             withinBatch ? CollisionKind::WithinBatch : CollisionKind::ExistingFile);
+    FolderContent expected{{"Part.STL", "old"}};
+    if (decision == int(CopyDecision::KeepBoth))
+        expected["part (2).stl"] = "new";
+    if (decision == int(CopyDecision::Replace) && !withinBatch)
+        expected["Part.STL"] = "new";
+    QVERIFY2(fixture.targetContent() == expected, describe(fixture.targetContent()));
+    const CopyFate last = outcomes.last().fate;
+    QCOMPARE(last, decision == int(CopyDecision::KeepBoth) ? CopyFate::CopiedUnderOtherName
+                   : expected["Part.STL"] == "new"         ? CopyFate::Copied
+                                                           : CopyFate::Skipped);
+}
+
+void CopyFaultTest::caseMattersWhereItDoes()
+{
+    CopyFixture fixture;
+    fixture.addTarget("PART.stl", "old");
+    const auto outcomes =
+        fixture.copy({fixture.addSource("Part.stl", "1"), fixture.addSource("part.stl", "2")});
+    QVERIFY(fixture.questions.asked.empty());
+    QVERIFY(fixture.targetContent() ==
+            FolderContent({{"PART.stl", "old"}, {"Part.stl", "1"}, {"part.stl", "2"}}));
+    QCOMPARE(outcomes[1].fate, CopyFate::Copied);
+}
+
+ZORVANE_TEST_MAIN(CopyFaultTest)
+#include "CopyFaultTest.moc"
