@@ -98,7 +98,7 @@ void StagedFile::removeTemporaryName()
     if (m_temporaryName.empty())
         return;
     const std::string name = std::exchange(m_temporaryName, std::string());
-    errorOf([&] { return m_folder.calls().unlink(m_folder.descriptor(), name.c_str()); });
+    m_folder.remove(name);
 }
 
 } // namespace Zorvane

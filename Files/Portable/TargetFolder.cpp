@@ -108,20 +108,18 @@ TargetFolder::Means TargetFolder::probe(int& error) const
     error = createNamed(file, name);
     if (error != 0)
         return Means::None;
-    const std::string other = freshName();
     const int folder = m_folder.get();
-    const auto remove = [&](const std::string& leaf) {
-        return errorOf([&] { return m_calls.unlink(folder, leaf.c_str()); });
-    };
-    if (m_calls.renameNoReplace(folder, name.c_str(), other.c_str()) == 0) {
+    const std::string other = freshName();
+    const char* from = name.c_str();
+    const char* to = other.c_str();
+    if (errorOf([&] { return m_calls.renameNoReplace(folder, from, to); }) == 0) {
         error = remove(other);
         return Means::RenameNoReplace;
     }
-    const bool linked = m_calls.link(folder, name.c_str(), other.c_str()) == 0;
-    if (linked)
-        error = remove(other);
+    const bool linked = errorOf([&] { return m_calls.link(folder, from, to); }) == 0;
+    const int first = linked ? remove(other) : 0;
     const int second = remove(name);
-    error = error != 0 ? error : second;
+    error = first != 0 ? first : second;
     return linked ? Means::Link : Means::None;
 }
 
@@ -130,14 +128,20 @@ bool TargetFolder::canLinkUnnamed() const
     if (m_calls.unnamedFileFlags == 0)
         return false;
     const int folder = m_folder.get();
+    const int flags = m_calls.unnamedFileFlags | O_CLOEXEC;
     const Descriptor file(
-        m_calls, m_calls.openAt(folder, ".", m_calls.unnamedFileFlags | O_CLOEXEC, s_privateMode));
+        m_calls, uninterrupted([&] { return m_calls.openAt(folder, ".", flags, s_privateMode); }));
     if (!file.isOpen())
         return false;
     const std::string name = freshName();
-    if (m_calls.linkUnnamed(file.get(), folder, name.c_str()) != 0)
+    if (errorOf([&] { return m_calls.linkUnnamed(file.get(), folder, name.c_str()); }) != 0)
         return false;
-    return errorOf([&] { return m_calls.unlink(folder, name.c_str()); }) == 0;
+    return remove(name) == 0;
+}
+
+int TargetFolder::remove(const std::string& leaf) const
+{
+    return errorOf([&] { return m_calls.unlink(m_folder.get(), leaf.c_str()); });
 }
 
 } // namespace Zorvane

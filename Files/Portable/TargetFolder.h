@@ -45,6 +45,7 @@ public:
     /** A new empty file: without a name if `name` comes back empty. */
     int createFile(Descriptor& file, std::string& name) const;
     std::string freshName() const;
+    int remove(const std::string& leaf) const;
 
 private:
     Means probe(int& error) const;

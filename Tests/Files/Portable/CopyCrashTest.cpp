@@ -71,6 +71,7 @@ void CopyCrashTest::finalNameIsWholeAtEveryMoment()
         fixture.questions.answers = {{CopyDecision::Replace, false},
                                      {CopyDecision::KeepBoth, false}};
         FaultySystem system;
+        system.dontWaitForDisks(); // a dead process takes nothing along that it has written
         if (!unnamed)
             system.removeUnnamedFiles();
         if (!noReplace)

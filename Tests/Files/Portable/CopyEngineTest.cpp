@@ -427,7 +427,9 @@ void CopyEngineTest::cancelLeavesNoTrace()
     const FolderContent sourcesBefore = fixture.sourceContent();
     fixture.questions.answers = {s_replace};
     fixture.progress.cancelAt = cancelAt;
-    const auto outcomes = fixture.copy(sources);
+    Testing::FaultySystem system;
+    system.dontWaitForDisks();
+    const auto outcomes = fixture.copy(sources, system.calls);
     QVERIFY(fixture.sourceContent() == sourcesBefore);
     QVERIFY(fixture.targetContent() == Testing::reportedContent(before, outcomes, sourcesBefore));
     QVERIFY(fixture.questions.told.isEmpty());

@@ -53,6 +53,19 @@ void FaultySystem::failAlways(const std::string& name, int error)
     before = [=](const Call& call) { return call.name == name ? error : 0; };
 }
 
+void FaultySystem::dontWaitForDisks()
+{
+    const auto onlyAnnounce = [this](const char* name) {
+        const int error = announce(name);
+        errno = error != 0 ? error : errno;
+        return error != 0 ? -1 : 0;
+    };
+    calls.flush = [=](int) { return onlyAnnounce("flush"); };
+    calls.flushFileSystem = [=](int) { return onlyAnnounce("flushFileSystem"); };
+    calls.startWriteback = [=](int, off_t, off_t) { return onlyAnnounce("startWriteback"); };
+    calls.finishWriteback = [=](int, off_t, off_t) { return onlyAnnounce("finishWriteback"); };
+}
+
 int FaultySystem::announce(const char* name)
 {
     log.push_back({name, static_cast<int>(log.size()), countOf(name)});

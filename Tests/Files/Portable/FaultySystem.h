@@ -52,6 +52,9 @@ public:
         failFeature(calls.finishWriteback);
     }
 
+    /** Data needs not survive a power cut: for tests that copy hundreds of times. */
+    void dontWaitForDisks();
+
 private:
     int announce(const char* name);
 
