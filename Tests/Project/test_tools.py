@@ -201,6 +201,11 @@ class TranslationsTest(ToolTest):
         self.write_catalogue("<translation>%2 kopieren</translation>")
         self.assert_finds("'Copy %1': other placeholders in '%2 kopieren'")
 
+    def test_finds_texts_that_are_hidden_in_a_variable(self):
+        self.write_catalogue("<translation>%1 kopieren</translation>")
+        self.write("Files/B.cpp", 'return Translator::translate("Hidden", text);\n')
+        self.assert_finds("Files/B.cpp: Hidden: has no texts in Translations/a_de.ts")
+
     def test_fix_takes_texts_in_and_out(self):
         self.write_catalogue("<translation>Alt</translation>", source="Old")
         run_tool("check-translations", "--fix", "--root", self.root)
