@@ -34,7 +34,8 @@ private:
     void missFile();
     void openDoor();
     void openManyFiles();
-    void cancelReading();
+    void lookAndCancel();
+    void takeUpReading();
     void keepTheScrollPosition();
     void surviveBrokenInputs();
     void redrawManyTriangles();

@@ -20,6 +20,8 @@
 #include <QtCore/QSettings>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QDragEnterEvent>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
 #include <QtWidgets/QActionGroup>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
@@ -101,7 +103,6 @@ void MainWindow::layOut()
     m_allAndProblems->addWidget(m_problemsPanel);
     m_allAndProblems->setStretchFactor(0, 1);
     m_allAndProblems->setStretchFactor(1, 0);
-    m_allAndProblems->setSizes({620, 160});
     m_problemsPanel->hide();
     for (QSplitter* splitter : {m_sides, m_meshAndDetails, m_allAndProblems})
         splitter->setChildrenCollapsible(false);
@@ -112,9 +113,17 @@ void MainWindow::layOut()
     layout->addWidget(m_messageBar);
     layout->addWidget(m_allAndProblems, 1);
     setCentralWidget(middle);
-    resize(1360, 820);
-    m_sides->setSizes({860, 500});
-    m_meshAndDetails->setSizes({520, 240});
+    const double unit = digitWidth();
+    const QSize available = QGuiApplication::primaryScreen()->availableSize();
+    resize(QSize(int(170 * unit), int(102 * unit)).boundedTo(available));
+    m_sides->setSizes({int(108 * unit), int(62 * unit)});
+    m_meshAndDetails->setSizes({int(64 * unit), int(31 * unit)});
+}
+
+/** All widths follow the font: they are told in digits of it. */
+double MainWindow::digitWidth() const
+{
+    return fontMetrics().horizontalAdvance(QLatin1Char('0'));
 }
 
 QWidget* MainWindow::createTreeSide()
@@ -126,9 +135,9 @@ QWidget* MainWindow::createTreeSide()
     QHeaderView* header = m_treeView->header();
     header->setStretchLastSection(true);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const int widths[] = {224, 118, 70, 168, 104, 76, 82};
+    const double widths[] = {27.5, 14.75, 8.75, 21, 13, 9.5, 9.5};
     for (int column = 0; column < header->count(); ++column)
-        header->resizeSection(column, widths[column]);
+        header->resizeSection(column, int(widths[column] * digitWidth()));
     auto* side = new QWidget(this);
     auto* layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -381,6 +390,10 @@ void MainWindow::showProblems()
         if (const std::optional<Problem> problem = m_loader.problem(file))
             problems.push_back(*problem);
     m_problemsPanel->show(problems);
+    if (!problems.empty() && m_problemsPanel->isHidden()) {
+        const int height = m_problemsPanel->sizeHint().height();
+        m_allAndProblems->setSizes({m_allAndProblems->height() - height, height});
+    }
     m_problemsPanel->setVisible(!problems.empty());
 }
 

@@ -63,6 +63,7 @@ protected:
 
 private:
     void layOut();
+    double digitWidth() const;
     QWidget* createTreeSide();
     QWidget* createMeshSide();
     void fillMenus();

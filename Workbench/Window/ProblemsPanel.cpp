@@ -11,7 +11,15 @@
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
+
 namespace Zorvane::Workbench {
+
+namespace {
+
+constexpr int s_mostRowsShown = 6;
+
+} // namespace
 
 ProblemsPanel::ProblemsPanel(QWidget* parent)
     : QWidget(parent)
@@ -60,6 +68,15 @@ void ProblemsPanel::show(const Problems& problems)
     m_list->resizeColumnToContents(0);
     m_list->resizeColumnToContents(1);
     m_list->setCurrentItem(m_list->topLevelItem(current));
+}
+
+QSize ProblemsPanel::sizeHint() const
+{
+    const int rows = std::clamp(m_list->topLevelItemCount(), 2, s_mostRowsShown);
+    const int row = std::max(m_list->sizeHintForRow(0), fontMetrics().height());
+    const int height =
+        m_title->sizeHint().height() + m_list->header()->sizeHint().height() + rows * row + row / 2;
+    return {QWidget::sizeHint().width(), height};
 }
 
 void ProblemsPanel::activateRow(int row)

@@ -21,6 +21,8 @@ public:
 
     void show(const Problems& problems);
     const Problems& problems() const { return m_problems; }
+    /** High enough for the problems, six of them at most. */
+    QSize sizeHint() const override;
 
 Q_SIGNALS:
     /** The user wants to get to what the problem is about. */
