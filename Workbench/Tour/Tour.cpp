@@ -32,6 +32,7 @@ namespace Zorvane::Workbench {
 
 namespace {
 
+constexpr QSize s_windowSize(1360, 820);
 constexpr int s_manyFiles = 500;
 constexpr int s_filesReadBeforeCancel = 25;
 constexpr int s_manyTriangles = 100'000;
@@ -98,6 +99,8 @@ Tour::Tour(MainWindow& window, const QString& folder)
 
 QStringList Tour::perform(const QStringList& paths)
 {
+    // The same on every screen, and on none.
+    m_window.resizeAndDivide(s_windowSize);
     m_window.show();
     openCup();
     lookAtTools();

@@ -125,7 +125,7 @@ QString DesignCatalog::stateText(const CatalogEntry& entry) const
     if (entry.hasFile && entry.fileState == FileState::Missing)
         texts << tr("File missing");
     if (entry.hasFile && entry.fileState == FileState::Outside)
-        texts << tr("Outside folder");
+        texts << tr("Outside");
     if (!meshProblem(entry).isEmpty())
         texts << tr("Unreadable");
     if (entry.modified)

@@ -115,9 +115,14 @@ void MainWindow::layOut()
     setCentralWidget(middle);
     const double unit = digitWidth();
     const QSize available = QGuiApplication::primaryScreen()->availableSize();
-    resize(QSize(int(170 * unit), int(102 * unit)).boundedTo(available));
-    m_sides->setSizes({int(108 * unit), int(62 * unit)});
-    m_meshAndDetails->setSizes({int(64 * unit), int(31 * unit)});
+    resizeAndDivide(QSize(int(170 * unit), int(102 * unit)).boundedTo(available));
+}
+
+void MainWindow::resizeAndDivide(const QSize& size)
+{
+    resize(size);
+    m_sides->setSizes({size.width() * 63 / 100, size.width() * 37 / 100});
+    m_meshAndDetails->setSizes({size.height() * 60 / 100, size.height() * 30 / 100});
 }
 
 /** All widths follow the font: they are told in digits of it. */
@@ -135,7 +140,7 @@ QWidget* MainWindow::createTreeSide()
     QHeaderView* header = m_treeView->header();
     header->setStretchLastSection(true);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const double widths[] = {27.5, 14.75, 8.75, 21, 13, 9.5, 9.5};
+    const double widths[] = {27.5, 14.75, 8.75, 20.5, 13.75, 9.5, 9.5};
     for (int column = 0; column < header->count(); ++column)
         header->resizeSection(column, int(widths[column] * digitWidth()));
     auto* side = new QWidget(this);
@@ -390,11 +395,20 @@ void MainWindow::showProblems()
         if (const std::optional<Problem> problem = m_loader.problem(file))
             problems.push_back(*problem);
     m_problemsPanel->show(problems);
-    if (!problems.empty() && m_problemsPanel->isHidden()) {
-        const int height = m_problemsPanel->sizeHint().height();
-        m_allAndProblems->setSizes({m_allAndProblems->height() - height, height});
-    }
-    m_problemsPanel->setVisible(!problems.empty());
+    fitProblemsPanel();
+}
+
+void MainWindow::fitProblemsPanel()
+{
+    const int now = m_allAndProblems->sizes().last();
+    const bool appears = m_problemsPanel->isHidden();
+    m_problemsPanel->setVisible(!m_problemsPanel->problems().empty());
+    // Once the user has moved the splitter, it stays.
+    if (m_problemsPanel->isHidden() || (!appears && now != m_fittedProblemsHeight))
+        return;
+    const int height = m_problemsPanel->sizeHint().height();
+    m_allAndProblems->setSizes({m_allAndProblems->height() - height, height});
+    m_fittedProblemsHeight = m_allAndProblems->sizes().last();
 }
 
 void MainWindow::askForFiles()

@@ -39,6 +39,8 @@ public:
 
     /** Design folders, design files or mesh files, in addition to what is open. */
     void open(const QStringList& paths);
+    /** Gives the tree, the mesh and the details their usual parts of the window. */
+    void resizeAndDivide(const QSize& size);
     /** Reads everything again, once the user has agreed to drop unsaved changes. */
     void reload();
     /** The window as it was left last; stores it again when it closes. */
@@ -88,6 +90,7 @@ private:
     void showCurrent();
     void showSession();
     void showProblems();
+    void fitProblemsPanel();
     void selectSomething();
     void tellConflict(const GUIdentifier& designId);
 
@@ -108,6 +111,7 @@ private:
     QSplitter* m_sides = nullptr;
     QSplitter* m_meshAndDetails = nullptr;
     QSplitter* m_allAndProblems = nullptr;
+    int m_fittedProblemsHeight = 0;
     bool m_keepsLayout = false;
     bool m_tellsRefusal = false;
 };
