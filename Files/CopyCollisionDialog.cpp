@@ -20,22 +20,23 @@ namespace {
 
 constexpr int s_panelTextWidth = 250;
 
-QString translated(const char* text, int count = -1)
-{
-    return Translator::translate("CopyCollisionDialog", text, nullptr, count);
-}
-
 QString headline(CollisionKind kind)
 {
     switch (kind) {
     case CollisionKind::ExistingFile:
-        return translated("The target folder already has a file named \"%1\".");
+        return Translator::translate("CopyCollisionDialog",
+                                     "The target folder already has a file named \"%1\".");
     case CollisionKind::SameFile:
-        return translated("\"%1\" in the target folder is the very file that is to be copied.");
+        return Translator::translate(
+            "CopyCollisionDialog",
+            "\"%1\" in the target folder is the very file that is to be copied.");
     case CollisionKind::WithinBatch:
-        return translated("More than one of the files to copy is named \"%1\".");
+        return Translator::translate("CopyCollisionDialog",
+                                     "More than one of the files to copy is named \"%1\".");
     case CollisionKind::NotAFile:
-        return translated("\"%1\" in the target folder is not a file and cannot be replaced.");
+        return Translator::translate(
+            "CopyCollisionDialog",
+            "\"%1\" in the target folder is not a file and cannot be replaced.");
     }
     return {};
 }
@@ -44,14 +45,14 @@ QString targetTitle(CollisionKind kind)
 {
     switch (kind) {
     case CollisionKind::WithinBatch:
-        return translated("Other file to copy");
+        return Translator::translate("CopyCollisionDialog", "Other file to copy");
     case CollisionKind::NotAFile:
-        return translated("In the target folder");
+        return Translator::translate("CopyCollisionDialog", "In the target folder");
     case CollisionKind::ExistingFile:
     case CollisionKind::SameFile:
         break;
     }
-    return translated("File in the target folder");
+    return Translator::translate("CopyCollisionDialog", "File in the target folder");
 }
 
 QLabel* makeLabel(const QString& text, QWidget* parent)
@@ -79,7 +80,9 @@ QString dateText(const CopyFileFacts& file, const CopyFileFacts& other)
     const QString date = QLocale().toString(file.modified, QLocale::ShortFormat);
     if (file.modified <= other.modified)
         return date;
-    return ArgString(translated("%1 (newer)")).arg(date).toQString();
+    return ArgString(Translator::translate("CopyCollisionDialog", "%1 (newer)"))
+        .arg(date)
+        .toQString();
 }
 
 QString sizeText(const CopyFileFacts& file, const CopyFileFacts& other)
@@ -87,7 +90,9 @@ QString sizeText(const CopyFileFacts& file, const CopyFileFacts& other)
     const QString size = sizeForDisplay(file.size);
     if (file.size <= other.size)
         return size;
-    return ArgString(translated("%1 (larger)")).arg(size).toQString();
+    return ArgString(Translator::translate("CopyCollisionDialog", "%1 (larger)"))
+        .arg(size)
+        .toQString();
 }
 
 QFrame* makePanel(const QString& title, const CopyFileFacts& file, const CopyFileFacts& other,
@@ -120,7 +125,7 @@ QFrame* makePanel(const QString& title, const CopyFileFacts& file, const CopyFil
 CopyCollisionDialog::CopyCollisionDialog(const CopyCollision& collision, QWidget* parent)
     : QDialog(parent)
 {
-    setWindowTitle(translated("Name Already Taken"));
+    setWindowTitle(Translator::translate("CopyCollisionDialog", "Name Already Taken"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setModal(true);
 
@@ -131,17 +136,19 @@ CopyCollisionDialog::CopyCollisionDialog(const CopyCollision& collision, QWidget
     text->setWordWrap(true);
     layout->addWidget(text);
     layout->addWidget(makeFiles(collision));
-    QLabel* keepBoth =
-        makeLabel(ArgString(translated("Keep Both names the copy \"%1\"."))
-                      .arg(fontMetrics().elidedText(pathForDisplay(collision.keepBothName),
-                                                    Qt::ElideMiddle, s_panelTextWidth))
-                      .toQString(),
-                  this);
+    QLabel* keepBoth = makeLabel(
+        ArgString(Translator::translate("CopyCollisionDialog", "Keep Both names the copy \"%1\"."))
+            .arg(fontMetrics().elidedText(pathForDisplay(collision.keepBothName), Qt::ElideMiddle,
+                                          s_panelTextWidth))
+            .toQString(),
+        this);
     keepBoth->setToolTip(pathForDisplay(collision.keepBothName));
     layout->addWidget(keepBoth);
     if (collision.remaining > 0) {
-        m_forAll =
-            new QCheckBox(translated("&Do this for all %n remaining", collision.remaining), this);
+        m_forAll = new QCheckBox(Translator::translate("CopyCollisionDialog",
+                                                       "&Do this for all %n remaining", nullptr,
+                                                       collision.remaining),
+                                 this);
         layout->addWidget(m_forAll);
     }
     layout->addWidget(makeButtons(collision));
@@ -167,8 +174,8 @@ QWidget* CopyCollisionDialog::makeFiles(const CopyCollision& collision)
     auto* files = new QWidget(this);
     auto* layout = new QHBoxLayout(files);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(
-        makePanel(translated("File to copy"), collision.source, collision.target, files));
+    layout->addWidget(makePanel(Translator::translate("CopyCollisionDialog", "File to copy"),
+                                collision.source, collision.target, files));
     if (collision.kind == CollisionKind::SameFile)
         return files;
     layout->addWidget(
@@ -183,11 +190,15 @@ QWidget* CopyCollisionDialog::makeButtons(const CopyCollision& collision)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addStretch();
     if (collision.allows(CopyDecision::Replace))
-        layout->addWidget(makeButton(CopyDecision::Replace, translated("&Replace")));
-    layout->addWidget(makeButton(CopyDecision::Skip, translated("&Skip")));
-    QPushButton* keepBoth = makeButton(CopyDecision::KeepBoth, translated("Keep &Both"));
+        layout->addWidget(makeButton(CopyDecision::Replace,
+                                     Translator::translate("CopyCollisionDialog", "&Replace")));
+    layout->addWidget(
+        makeButton(CopyDecision::Skip, Translator::translate("CopyCollisionDialog", "&Skip")));
+    QPushButton* keepBoth = makeButton(CopyDecision::KeepBoth,
+                                       Translator::translate("CopyCollisionDialog", "Keep &Both"));
     layout->addWidget(keepBoth);
-    layout->addWidget(makeButton(CopyDecision::Cancel, translated("&Cancel")));
+    layout->addWidget(
+        makeButton(CopyDecision::Cancel, Translator::translate("CopyCollisionDialog", "&Cancel")));
     keepBoth->setDefault(true);
     keepBoth->setFocus();
     return row;

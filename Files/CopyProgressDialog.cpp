@@ -18,11 +18,6 @@ namespace {
 constexpr int s_barSteps = 1000;
 constexpr int s_width = 440;
 
-QString translated(const char* text, int count = -1)
-{
-    return Translator::translate("CopyProgressDialog", text, nullptr, count);
-}
-
 QLabel* makeLabel(QWidget* parent)
 {
     auto* label = new QLabel(parent);
@@ -42,7 +37,7 @@ int barValue(const CopyProgressState& state)
 
 QString amountText(const CopyProgressState& state)
 {
-    return ArgString(translated("File %1 of %2, %3 of %4"))
+    return ArgString(Translator::translate("CopyProgressDialog", "File %1 of %2, %3 of %4"))
         .arg(qMin(state.filesDone + 1, state.filesTotal))
         .arg(state.filesTotal)
         .arg(sizeForDisplay(state.bytesDone))
@@ -55,8 +50,8 @@ QString speedText(const CopyProgressState& state, const CopyRate& rate)
     const auto speed = rate.bytesPerSecond();
     const auto left = rate.secondsLeft(state.bytesTotal - state.bytesDone);
     if (!speed || !left)
-        return translated("Estimating the time left");
-    return ArgString(translated("%1 at %2 per second"))
+        return Translator::translate("CopyProgressDialog", "Estimating the time left");
+    return ArgString(Translator::translate("CopyProgressDialog", "%1 at %2 per second"))
         .arg(timeLeftForDisplay(*left))
         .arg(sizeForDisplay(static_cast<qint64>(*speed)))
         .toQString();
@@ -70,16 +65,16 @@ CopyProgressDialog::CopyProgressDialog(QWidget* parent)
     , m_bar(new QProgressBar(this))
     , m_amount(makeLabel(this))
     , m_speed(makeLabel(this))
-    , m_cancel(new QPushButton(translated("&Cancel"), this))
+    , m_cancel(new QPushButton(Translator::translate("CopyProgressDialog", "&Cancel"), this))
 {
-    setWindowTitle(translated("Copying Files"));
+    setWindowTitle(Translator::translate("CopyProgressDialog", "Copying Files"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setModal(true);
     setFixedWidth(s_width);
 
     m_bar->setRange(0, s_barSteps);
-    m_bar->setAccessibleName(translated("Progress of the copy"));
-    m_file->setAccessibleName(translated("File being copied"));
+    m_bar->setAccessibleName(Translator::translate("CopyProgressDialog", "Progress of the copy"));
+    m_file->setAccessibleName(Translator::translate("CopyProgressDialog", "File being copied"));
     m_cancel->setDefault(true);
     connect(m_cancel, &QPushButton::clicked, this, &CopyProgressDialog::reject);
 
@@ -110,7 +105,7 @@ void CopyProgressDialog::reject()
 {
     m_cancelled = true;
     m_cancel->setEnabled(false);
-    m_speed->setText(translated("Cancelling"));
+    m_speed->setText(Translator::translate("CopyProgressDialog", "Cancelling"));
 }
 
 } // namespace Zorvane

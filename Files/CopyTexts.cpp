@@ -47,12 +47,12 @@ QString sizeForDisplay(qint64 bytes)
 QString timeLeftForDisplay(qint64 seconds)
 {
     if (seconds < s_showSecondsBelow)
-        return countOf(QT_TRANSLATE_NOOP("FileCopyUtility", "About %n seconds left"),
+        return countOf(QT_TRANSLATE_N_NOOP("FileCopyUtility", "About %n seconds left"),
                        roundedUp(qMax<qint64>(seconds, 1), s_stepOfSeconds));
     if (seconds < s_showMinutesBelow)
-        return countOf(QT_TRANSLATE_NOOP("FileCopyUtility", "About %n minutes left"),
+        return countOf(QT_TRANSLATE_N_NOOP("FileCopyUtility", "About %n minutes left"),
                        roundedUp(seconds, s_minute) / s_minute);
-    return countOf(QT_TRANSLATE_NOOP("FileCopyUtility", "About %n hours left"),
+    return countOf(QT_TRANSLATE_N_NOOP("FileCopyUtility", "About %n hours left"),
                    roundedUp(seconds, s_hour) / s_hour);
 }
 

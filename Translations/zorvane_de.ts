@@ -2,6 +2,115 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
+    <name>CopyCollisionDialog</name>
+    <message>
+        <source>The target folder already has a file named &quot;%1&quot;.</source>
+        <translation>Im Zielordner gibt es schon eine Datei namens „%1“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in the target folder is the very file that is to be copied.</source>
+        <translation>„%1“ im Zielordner ist dieselbe Datei, die kopiert werden soll.</translation>
+    </message>
+    <message>
+        <source>More than one of the files to copy is named &quot;%1&quot;.</source>
+        <translation>Mehrere der zu kopierenden Dateien heißen „%1“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; in the target folder is not a file and cannot be replaced.</source>
+        <translation>„%1“ im Zielordner ist keine Datei und kann nicht ersetzt werden.</translation>
+    </message>
+    <message>
+        <source>Other file to copy</source>
+        <translation>Andere zu kopierende Datei</translation>
+    </message>
+    <message>
+        <source>In the target folder</source>
+        <translation>Im Zielordner</translation>
+    </message>
+    <message>
+        <source>File in the target folder</source>
+        <translation>Datei im Zielordner</translation>
+    </message>
+    <message>
+        <source>%1 (newer)</source>
+        <translation>%1 (neuer)</translation>
+    </message>
+    <message>
+        <source>%1 (larger)</source>
+        <translation>%1 (größer)</translation>
+    </message>
+    <message>
+        <source>Name Already Taken</source>
+        <translation>Name schon vergeben</translation>
+    </message>
+    <message>
+        <source>Keep Both names the copy &quot;%1&quot;.</source>
+        <translation>„Beide behalten“ nennt die Kopie „%1“.</translation>
+    </message>
+    <message numerus="yes">
+        <source>&amp;Do this for all %n remaining</source>
+        <translation>
+            <numerusform>&amp;Für die %n weitere übernehmen</numerusform>
+            <numerusform>&amp;Für alle %n weiteren übernehmen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>File to copy</source>
+        <translation>Zu kopierende Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>E&amp;rsetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Skip</source>
+        <translation>Ü&amp;berspringen</translation>
+    </message>
+    <message>
+        <source>Keep &amp;Both</source>
+        <translation>Beide be&amp;halten</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>CopyProgressDialog</name>
+    <message>
+        <source>File %1 of %2, %3 of %4</source>
+        <translation>Datei %1 von %2, %3 von %4</translation>
+    </message>
+    <message>
+        <source>Estimating the time left</source>
+        <translation>Restzeit wird geschätzt</translation>
+    </message>
+    <message>
+        <source>%1 at %2 per second</source>
+        <translation>%1 bei %2 pro Sekunde</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Copying Files</source>
+        <translation>Dateien werden kopiert</translation>
+    </message>
+    <message>
+        <source>Progress of the copy</source>
+        <translation>Fortschritt des Kopierens</translation>
+    </message>
+    <message>
+        <source>File being copied</source>
+        <translation>Datei, die kopiert wird</translation>
+    </message>
+    <message>
+        <source>Cancelling</source>
+        <translation>Wird abgebrochen</translation>
+    </message>
+</context>
+<context>
     <name>FileCopyUtility</name>
     <message>
         <source>Copy</source>
@@ -10,6 +119,110 @@
     <message>
         <source>Don&apos;t Copy</source>
         <translation>Nicht kopieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n seconds left</source>
+        <translation>
+            <numerusform>Noch etwa %n Sekunde</numerusform>
+            <numerusform>Noch etwa %n Sekunden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n minutes left</source>
+        <translation>
+            <numerusform>Noch etwa %n Minute</numerusform>
+            <numerusform>Noch etwa %n Minuten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>About %n hours left</source>
+        <translation>
+            <numerusform>Noch etwa %n Stunde</numerusform>
+            <numerusform>Noch etwa %n Stunden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>One file could not be copied.</source>
+        <translation>Eine Datei konnte nicht kopiert werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not be copied.</source>
+        <translation>
+            <numerusform>%n Datei konnte nicht kopiert werden.</numerusform>
+            <numerusform>%n Dateien konnten nicht kopiert werden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Copy Files</source>
+        <translation>Dateien kopieren</translation>
+    </message>
+    <message>
+        <source>Not copied because of the error before.</source>
+        <translation>Wegen des vorigen Fehlers nicht kopiert.</translation>
+    </message>
+    <message>
+        <source>There is not enough space on the disk.</source>
+        <translation>Auf dem Datenträger ist nicht genug Platz.</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up.</source>
+        <translation>Ihr Anteil am Datenträger ist aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>The disk is write-protected.</source>
+        <translation>Der Datenträger ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>The disk reports an error.</source>
+        <translation>Der Datenträger meldet einen Fehler.</translation>
+    </message>
+    <message>
+        <source>Access is denied.</source>
+        <translation>Der Zugriff wird verweigert.</translation>
+    </message>
+    <message>
+        <source>The operation is not permitted.</source>
+        <translation>Der Vorgang ist nicht erlaubt.</translation>
+    </message>
+    <message>
+        <source>The file is no longer there.</source>
+        <translation>Die Datei ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>The file is too large for the target&apos;s file system.</source>
+        <translation>Die Datei ist zu groß für das Dateisystem des Ziels.</translation>
+    </message>
+    <message>
+        <source>The name is too long for the target&apos;s file system.</source>
+        <translation>Der Name ist zu lang für das Dateisystem des Ziels.</translation>
+    </message>
+    <message>
+        <source>The target&apos;s file system does not allow this.</source>
+        <translation>Das Dateisystem des Ziels lässt das nicht zu.</translation>
+    </message>
+    <message>
+        <source>Another program keeps creating files of this name.</source>
+        <translation>Ein anderes Programm legt immer wieder Dateien dieses Namens an.</translation>
+    </message>
+    <message>
+        <source>Too many files are open.</source>
+        <translation>Zu viele Dateien sind geöffnet.</translation>
+    </message>
+    <message>
+        <source>The target&apos;s file system cannot create a file without the risk of replacing another.</source>
+        <translation>Das Dateisystem des Ziels kann keine Datei anlegen, ohne dass dabei eine andere ersetzt werden könnte.</translation>
+    </message>
+    <message>
+        <source>The target folder is no longer there.</source>
+        <translation>Der Zielordner ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>The file changed while it was being copied.</source>
+        <translation>Die Datei hat sich während des Kopierens verändert.</translation>
+    </message>
+    <message>
+        <source>This is not a file that can be copied.</source>
+        <translation>Das ist keine Datei, die kopiert werden kann.</translation>
     </message>
 </context>
 <context>
