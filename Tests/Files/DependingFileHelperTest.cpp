@@ -1,3 +1,4 @@
+#include "Files/CopyCollisionDialog.h"
 #include "Files/FileCopier.h"
 #include "Files/FileTypeDependingFilesHelper.h"
 #include "Files/PathText.h"
@@ -8,7 +9,7 @@
 
 #include <QtCore/QTranslator>
 #include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QProgressDialog>
+#include <QtWidgets/QPushButton>
 
 #include <cstdio>
 #include <type_traits>
@@ -161,6 +162,8 @@ private Q_SLOTS:
     void importCopiesNextToTheDesign();
     void importOfOneFileAsksInTheSingular();
     void importDeclinedIsGivenUp();
+    void importAsksAboutANameThatIsTaken_data();
+    void importAsksAboutANameThatIsTaken();
     void importOfFilesThatAllFailIsGivenUp();
     void importUsesRenamedCopies();
     void importTakesPartOfTheCopies();
@@ -332,7 +335,6 @@ void DependingFileHelperTest::importCopiesNextToTheDesign()
         folders.makeFile("parts/a.stl", "content of a"), folders.makeFile("designs/b.stl"),
         folders.makeFile("more parts/c.stp", "content of c"), folders.makeFile("parts/d.csv")};
     Testing::ExpectedModals modals;
-    modals.tolerate<QProgressDialog>();
     modals.expectMessageBox(QStringLiteral("^Copy Files$"), [&folders](QMessageBox& box) {
         QCOMPARE(box.icon(), QMessageBox::Question);
         QVERIFY(box.text().startsWith(QStringLiteral("Selected files are not next")));
@@ -377,6 +379,41 @@ void DependingFileHelperTest::importDeclinedIsGivenUp()
     QVERIFY(!helper.handleExternalFilesForImport(names(files), used));
     QCOMPARE(texts(used), old);
     QVERIFY(!QFile::exists(folders.path("designs/a.stl")));
+}
+
+void DependingFileHelperTest::importAsksAboutANameThatIsTaken_data()
+{
+    QTest::addColumn<int>("decision");
+    QTest::addColumn<bool>("isImported");
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("replace") << int(CopyDecision::Replace) << true << QByteArray("new");
+    QTest::newRow("keep both") << int(CopyDecision::KeepBoth) << true << QByteArray("old");
+    QTest::newRow("skip") << int(CopyDecision::Skip) << false << QByteArray("old");
+    QTest::newRow("cancel") << int(CopyDecision::Cancel) << false << QByteArray("old");
+}
+
+void DependingFileHelperTest::importAsksAboutANameThatIsTaken()
+{
+    QFETCH(int, decision);
+    QFETCH(bool, isImported);
+    QFETCH(QByteArray, content);
+    const Testing::FolderSetup folders;
+    FileTypeDependingFilesHelper helper = helperFor(folders.makeFile("designs/door.zvd"));
+    const QString taken = folders.makeFile("designs/a.stl", "old");
+    const QString file = folders.makeFile("parts/a.stl", "new");
+    Testing::ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("Copy File"), QMessageBox::Yes);
+    modals.expectDialog<CopyCollisionDialog>(
+        QStringLiteral("collision"), [decision](CopyCollisionDialog& dialog) {
+            dialog.button(static_cast<CopyDecision>(decision))->click();
+        });
+    std::list<FileName> used;
+    QCOMPARE(helper.handleExternalFilesForImport(names({file}), used), isImported);
+    QCOMPARE(used.size(), std::size_t(isImported ? 1 : 0));
+    QCOMPARE(contentOf(taken), content);
+    QCOMPARE(contentOf(file), QByteArray("new"));
+    if (isImported)
+        QCOMPARE(contentOf(texts(used).front()), QByteArray("new"));
 }
 
 void DependingFileHelperTest::importOfFilesThatAllFailIsGivenUp()
