@@ -171,15 +171,19 @@ QPushButton* CopyCollisionDialog::button(CopyDecision decision) const
 
 QWidget* CopyCollisionDialog::makeFiles(const CopyCollision& collision)
 {
+    // Two files are compared; a file with itself or with a folder is not.
+    const bool comparable = collision.kind == CollisionKind::ExistingFile ||
+                            collision.kind == CollisionKind::WithinBatch;
+    const CopyFileFacts& source = collision.source;
+    const CopyFileFacts& target = collision.target;
     auto* files = new QWidget(this);
     auto* layout = new QHBoxLayout(files);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(makePanel(Translator::translate("CopyCollisionDialog", "File to copy"),
-                                collision.source, collision.target, files));
-    if (collision.kind == CollisionKind::SameFile)
-        return files;
+                                source, comparable ? target : source, files),
+                      1);
     layout->addWidget(
-        makePanel(targetTitle(collision.kind), collision.target, collision.source, files));
+        makePanel(targetTitle(collision.kind), target, comparable ? source : target, files), 1);
     return files;
 }
 

@@ -1,5 +1,6 @@
 #include "Files/PathText.h"
 #include "Tests/Files/Portable/CopyFixture.h"
+#include "Tests/Files/Portable/CopyMeans.h"
 #include "Tests/Files/Portable/FaultySystem.h"
 #include "Tests/Support/TestCase.h"
 
@@ -10,44 +11,11 @@
 #include <unistd.h>
 
 using namespace Zorvane;
-using Testing::CopyFixture;
-using Testing::FaultySystem;
-using Testing::FolderContent;
+using namespace Zorvane::Testing;
 
 namespace {
 
 constexpr std::size_t s_largeSize = 5 * 1024 * 1024;
-
-/** The ways by which files get their names, from the best to the poorest. */
-enum Means
-{
-    LinkUnnamed,
-    RenameNoReplace,
-    Link
-};
-
-void addMeansColumn()
-{
-    QTest::addColumn<int>("means");
-}
-
-void addMeansRows()
-{
-    addMeansColumn();
-    QTest::newRow("unnamed files") << int(LinkUnnamed);
-    QTest::newRow("renaming without replacing") << int(RenameNoReplace);
-    QTest::newRow("hard links only") << int(Link);
-}
-
-void restrictTo(FaultySystem& system, int means)
-{
-    if (means != LinkUnnamed)
-        system.removeUnnamedFiles();
-    if (means == Link)
-        system.removeNoReplaceRename();
-    if (means == RenameNoReplace)
-        system.removeHardLinks();
-}
 
 /** A batch that meets most of what can happen: new, replaced, kept both, skipped, large. */
 struct Batch
@@ -85,15 +53,6 @@ FolderContent withoutTemporaries(FolderContent content)
     return content;
 }
 
-QByteArray describe(const FolderContent& content)
-{
-    QByteArray text;
-    for (const auto& [name, value] : content)
-        text +=
-            QByteArray::fromStdString(name) + ": " + QByteArray::number(int(value.size())) + "; ";
-    return text;
-}
-
 } // namespace
 
 class CopyFaultTest : public Testing::TestCase
@@ -116,27 +75,10 @@ private Q_SLOTS:
     void interruptionsAreHarmless();
     void shortReadsAndWritesAreHarmless();
     void rangeCopyThatStopsShortIsHarmless();
-    void sourceChangesWhileCopied_data();
-    void sourceChangesWhileCopied();
-    void targetAppearsBeforePublishing_data();
-    void targetAppearsBeforePublishing();
-    void madeUpNameIsTakenMeanwhile_data() { addMeansRows(); }
-    void madeUpNameIsTakenMeanwhile();
-    void targetToReplaceChangesMeanwhile_data();
-    void targetToReplaceChangesMeanwhile();
-    void targetToReplaceVanishes_data() { addMeansRows(); }
-    void targetToReplaceVanishes();
-    void linkSwappedInAtTheTarget_data() { addMeansRows(); }
-    void linkSwappedInAtTheTarget();
-    void linkSwappedInAtTheSource();
-    void targetFolderSwappedForALink();
     void folderWithoutAnySafeMeansIsRefused();
     void lostAnswerIsRecognised_data() { addMeansRows(); }
     void lostAnswerIsRecognised();
     void attributesThatCannotBeKeptAreNoFailure();
-    void caseOnlyCollision_data();
-    void caseOnlyCollision();
-    void caseMattersWhereItDoes();
 };
 
 void CopyFaultTest::everyMeansGivesTheSameResult()
@@ -197,8 +139,7 @@ void CopyFaultTest::faultAtEveryCall()
         QVERIFY2(batch.fixture.sourceContent() == batch.sourcesBefore, where);
         // Where not even removing works, the temporary name is all that may stay.
         const FolderContent now = batch.fixture.targetContent();
-        const FolderContent expected =
-            Testing::reportedContent(batch.before, outcomes, batch.sourcesBefore);
+        const FolderContent expected = reportedContent(batch.before, outcomes, batch.sourcesBefore);
         QVERIFY2((failed == "unlink" ? withoutTemporaries(now) : now) == expected, where);
         QCOMPARE(outcomes.size(), batch.sources.size());
     }
@@ -314,8 +255,7 @@ void CopyFaultTest::failedGroupFlushFailsItsFilesOnly()
     QCOMPARE(outcomes[0].fate, CopyFate::Failed);
     for (int i = 1; i < outcomes.size(); ++i)
         QCOMPARE(outcomes[i].fate, CopyFate::Copied);
-    QVERIFY(fixture.targetContent() ==
-            Testing::reportedContent({}, outcomes, fixture.sourceContent()));
+    QVERIFY(fixture.targetContent() == reportedContent({}, outcomes, fixture.sourceContent()));
 }
 
 void CopyFaultTest::folderFlushFailureIsTold()
@@ -347,7 +287,7 @@ void CopyFaultTest::interruptionsAreHarmless()
     for (const int copied : {0, 1, 2, 4, 5})
         QVERIFY(!outcomes[copied].target.isEmpty());
     QVERIFY(batch.fixture.targetContent() ==
-            Testing::reportedContent(batch.before, outcomes, batch.sourcesBefore));
+            reportedContent(batch.before, outcomes, batch.sourcesBefore));
 }
 
 void CopyFaultTest::shortReadsAndWritesAreHarmless()
@@ -366,7 +306,7 @@ void CopyFaultTest::shortReadsAndWritesAreHarmless()
     QVERIFY(batch.fixture.questions.told.isEmpty());
     QCOMPARE(outcomes[4].fate, CopyFate::Copied);
     QVERIFY(batch.fixture.targetContent() ==
-            Testing::reportedContent(batch.before, outcomes, batch.sourcesBefore));
+            reportedContent(batch.before, outcomes, batch.sourcesBefore));
 }
 
 void CopyFaultTest::rangeCopyThatStopsShortIsHarmless()
@@ -382,238 +322,7 @@ void CopyFaultTest::rangeCopyThatStopsShortIsHarmless()
     QCOMPARE(calls, 4);
     QCOMPARE(outcomes[4].fate, CopyFate::Copied);
     QVERIFY(batch.fixture.targetContent() ==
-            Testing::reportedContent(batch.before, outcomes, batch.sourcesBefore));
-}
-
-void CopyFaultTest::sourceChangesWhileCopied_data()
-{
-    QTest::addColumn<QString>("call");
-    QTest::addColumn<int>("sameIndex");
-    QTest::addColumn<QString>("change");
-    for (const char* change : {"vanishes", "grows", "shrinks", "becomes a folder", "becomes a pipe",
-                               "is replaced by another"}) {
-        const QString text = QString::fromLatin1(change);
-        // The first two openings are the target folder's.
-        QTest::addRow("%s before it is opened", change) << QStringLiteral("open") << 2 << text;
-        QTest::addRow("%s before it is read", change) << QStringLiteral("read") << 0 << text;
-        QTest::addRow("%s before its second piece", change) << QStringLiteral("read") << 1 << text;
-    }
-}
-
-void CopyFaultTest::sourceChangesWhileCopied()
-{
-    QFETCH(QString, call);
-    QFETCH(int, sameIndex);
-    QFETCH(QString, change);
-    CopyFixture fixture;
-    FaultySystem system;
-    system.removeRangeCopy();
-    const std::string content(600000, 's');
-    const QString source = fixture.addSource("a", content);
-    const std::string path = fixture.source("a");
-    const auto doIt = [&] {
-        if (change == QLatin1String("grows"))
-            Testing::writeFile(path, content + "more");
-        else if (change == QLatin1String("shrinks"))
-            QCOMPARE(truncate(path.c_str(), 10), 0);
-        else
-            QCOMPARE(unlink(path.c_str()), 0);
-        if (change == QLatin1String("becomes a folder"))
-            QCOMPARE(mkdir(path.c_str(), 0755), 0);
-        if (change == QLatin1String("becomes a pipe"))
-            QCOMPARE(mkfifo(path.c_str(), 0644), 0);
-        if (change == QLatin1String("is replaced by another"))
-            Testing::writeFile(path, std::string(600000, 'o'));
-    };
-    system.before = [&](const FaultySystem::Call& made) {
-        if (made.name == call.toStdString() && made.sameIndex == sameIndex)
-            doIt();
-        return 0;
-    };
-    const auto outcomes = fixture.copy({source, fixture.addSource("b", "2")}, system.calls);
-    FolderContent expected{{"b", "2"}};
-    if (outcomes[0].fate == CopyFate::Copied)
-        expected["a"] = content; // the file was open: it is the old one, and whole
-    else
-        QCOMPARE(outcomes[0].fate, CopyFate::Failed);
-    const bool inPlace = change == QLatin1String("grows") || change == QLatin1String("shrinks");
-    if (inPlace || call == QLatin1String("open"))
-        QCOMPARE(outcomes[0].fate, CopyFate::Failed);
-    QCOMPARE(outcomes[1].fate, CopyFate::Copied);
-    QVERIFY(fixture.targetContent() == expected);
-}
-
-void CopyFaultTest::targetAppearsBeforePublishing_data()
-{
-    addMeansColumn();
-    QTest::addColumn<int>("decision");
-    for (const int means : {LinkUnnamed, RenameNoReplace, Link}) {
-        QTest::addRow("means %d, replace", means) << means << int(CopyDecision::Replace);
-        QTest::addRow("means %d, skip", means) << means << int(CopyDecision::Skip);
-        QTest::addRow("means %d, keep both", means) << means << int(CopyDecision::KeepBoth);
-        QTest::addRow("means %d, cancel", means) << means << int(CopyDecision::Cancel);
-    }
-}
-
-void CopyFaultTest::targetAppearsBeforePublishing()
-{
-    QFETCH(int, means);
-    QFETCH(int, decision);
-    CopyFixture fixture;
-    FaultySystem system;
-    restrictTo(system, means);
-    system.before = [&](const FaultySystem::Call& call) {
-        if (call.name == "flush" && call.sameIndex == 0)
-            fixture.addTarget("a", "appeared");
-        return 0;
-    };
-    fixture.questions.answers = {{static_cast<CopyDecision>(decision), true}};
-    const auto outcomes =
-        fixture.copy({fixture.addSource("a", "1"), fixture.addSource("b", "2")}, system.calls);
-    QCOMPARE(int(fixture.questions.asked.size()), 1);
-    QCOMPARE(fixture.questions.asked[0].target.size, qint64(8));
-    QCOMPARE(fixture.questions.asked[0].remaining, 0);
-    FolderContent expected{{"a", "appeared"}, {"b", "2"}};
-    if (decision == int(CopyDecision::Replace))
-        expected["a"] = "1";
-    if (decision == int(CopyDecision::KeepBoth))
-        expected["a (2)"] = "1";
-    if (decision == int(CopyDecision::Cancel))
-        expected.erase("b");
-    QVERIFY2(fixture.targetContent() == expected, describe(fixture.targetContent()));
-    QVERIFY(expected ==
-            Testing::reportedContent({{"a", "appeared"}}, outcomes, fixture.sourceContent()));
-}
-
-void CopyFaultTest::madeUpNameIsTakenMeanwhile()
-{
-    QFETCH(int, means);
-    CopyFixture fixture;
-    fixture.addTarget("a", "old");
-    FaultySystem system;
-    restrictTo(system, means);
-    system.before = [&](const FaultySystem::Call& call) {
-        if (call.name == "flush" && call.sameIndex == 0)
-            fixture.addTarget("a (2)", "appeared");
-        return 0;
-    };
-    fixture.questions.answers = {{CopyDecision::KeepBoth, false}};
-    const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
-    QCOMPARE(int(fixture.questions.asked.size()), 1);
-    QCOMPARE(pathToBytes(outcomes[0].target), fixture.target("a (3)"));
-    QVERIFY(fixture.targetContent() ==
-            FolderContent({{"a", "old"}, {"a (2)", "appeared"}, {"a (3)", "1"}}));
-}
-
-void CopyFaultTest::targetToReplaceChangesMeanwhile_data()
-{
-    targetAppearsBeforePublishing_data();
-}
-
-void CopyFaultTest::targetToReplaceChangesMeanwhile()
-{
-    QFETCH(int, means);
-    QFETCH(int, decision);
-    CopyFixture fixture;
-    fixture.addTarget("a", "old");
-    FaultySystem system;
-    restrictTo(system, means);
-    system.before = [&](const FaultySystem::Call& call) {
-        if (call.name == "flush" && call.sameIndex == 0)
-            fixture.addTarget("a", "edited since");
-        return 0;
-    };
-    fixture.questions.answers = {{CopyDecision::Replace, true},
-                                 {static_cast<CopyDecision>(decision), false}};
-    const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
-    QCOMPARE(int(fixture.questions.asked.size()), 2);
-    QCOMPARE(fixture.questions.asked[1].target.size, qint64(12));
-    FolderContent expected{{"a", "edited since"}};
-    if (decision == int(CopyDecision::Replace))
-        expected["a"] = "1";
-    if (decision == int(CopyDecision::KeepBoth))
-        expected["a (2)"] = "1";
-    QVERIFY2(fixture.targetContent() == expected, describe(fixture.targetContent()));
-    QVERIFY(expected ==
-            Testing::reportedContent({{"a", "edited since"}}, outcomes, fixture.sourceContent()));
-}
-
-void CopyFaultTest::targetToReplaceVanishes()
-{
-    QFETCH(int, means);
-    CopyFixture fixture;
-    fixture.addTarget("a", "old");
-    FaultySystem system;
-    restrictTo(system, means);
-    system.before = [&](const FaultySystem::Call& call) {
-        if (call.name == "flush" && call.sameIndex == 0)
-            unlink(fixture.target("a").c_str());
-        return 0;
-    };
-    fixture.questions.answers = {{CopyDecision::Replace, false}};
-    const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
-    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
-    QVERIFY(fixture.targetContent() == FolderContent({{"a", "1"}}));
-}
-
-void CopyFaultTest::linkSwappedInAtTheTarget()
-{
-    QFETCH(int, means);
-    CopyFixture fixture;
-    fixture.addTarget("a", "old");
-    fixture.addTarget("precious", "precious");
-    FaultySystem system;
-    restrictTo(system, means);
-    system.before = [&](const FaultySystem::Call& call) {
-        if (call.name == "flush" && call.sameIndex == 0) {
-            unlink(fixture.target("a").c_str());
-            [[maybe_unused]] const int made = symlink("precious", fixture.target("a").c_str());
-        }
-        return 0;
-    };
-    fixture.questions.answers = {{CopyDecision::Replace, false}, {CopyDecision::Skip, false}};
-    const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
-    QCOMPARE(int(fixture.questions.asked.size()), 2);
-    QCOMPARE(outcomes[0].fate, CopyFate::Skipped);
-    QVERIFY(fixture.targetContent() ==
-            FolderContent({{"a", "precious"}, {"precious", "precious"}}));
-}
-
-void CopyFaultTest::linkSwappedInAtTheSource()
-{
-    CopyFixture fixture;
-    const QString source = fixture.addSource("a", "1");
-    fixture.addSource("secret", "secret");
-    FaultySystem system;
-    fixture.questions.onAsk = [&](const CopyCollision&) {
-        unlink(fixture.source("a").c_str());
-        QCOMPARE(symlink("secret", fixture.source("a").c_str()), 0);
-    };
-    fixture.addTarget("a", "old");
-    fixture.questions.answers = {{CopyDecision::KeepBoth, false}};
-    const auto outcomes = fixture.copy({source}, system.calls);
-    QCOMPARE(outcomes[0].fate, CopyFate::Failed);
-    QVERIFY(fixture.targetContent() == FolderContent({{"a", "old"}}));
-}
-
-void CopyFaultTest::targetFolderSwappedForALink()
-{
-    CopyFixture fixture;
-    const std::string folder = pathToBytes(fixture.targetFolder());
-    const std::string moved = folder + ".moved";
-    const std::string elsewhere = pathToBytes(fixture.sourceFolder()) + "/elsewhere";
-    QCOMPARE(mkdir(elsewhere.c_str(), 0755), 0);
-    FaultySystem system;
-    system.before = [&](const FaultySystem::Call& call) {
-        if (call.name == "flush" && call.sameIndex == 0) {
-            rename(folder.c_str(), moved.c_str());
-            [[maybe_unused]] const int made = symlink(elsewhere.c_str(), folder.c_str());
-        }
-        return 0;
-    };
-    fixture.copy({fixture.addSource("a", "1")}, system.calls);
-    QVERIFY(Testing::contentOf(elsewhere).empty());
-    QVERIFY(Testing::contentOf(moved) == FolderContent({{"a", "1"}}));
+            reportedContent(batch.before, outcomes, batch.sourcesBefore));
 }
 
 void CopyFaultTest::folderWithoutAnySafeMeansIsRefused()
@@ -671,91 +380,6 @@ void CopyFaultTest::attributesThatCannotBeKeptAreNoFailure()
     };
     const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
     QCOMPARE(outcomes[0].fate, CopyFate::Copied);
-}
-
-namespace {
-
-/** Lets the target folder find names as a file system does for which case doesn't count. */
-void ignoreCase(FaultySystem& system, const CopyFixture& fixture)
-{
-    const auto onDisk = [&fixture](const char* name) {
-        const auto alike = [](char left, char right) {
-            return std::tolower(left) == std::tolower(right);
-        };
-        const std::string wanted(name);
-        for (const auto& [entry, content] : fixture.targetContent()) {
-            if (std::equal(entry.begin(), entry.end(), wanted.begin(), wanted.end(), alike))
-                return entry;
-        }
-        return wanted;
-    };
-    auto& calls = system.calls;
-    calls.statusAt = [=, real = calls.statusAt](int folder, const char* name, struct stat& status,
-                                                int flags) {
-        return real(folder, onDisk(name).c_str(), status, flags);
-    };
-    calls.linkUnnamed = [=, real = calls.linkUnnamed](int file, int folder, const char* name) {
-        return real(file, folder, onDisk(name).c_str());
-    };
-    calls.rename = [=, real = calls.rename](int folder, const char* from, const char* to) {
-        return real(folder, from, onDisk(to).c_str());
-    };
-}
-
-} // namespace
-
-void CopyFaultTest::caseOnlyCollision_data()
-{
-    QTest::addColumn<bool>("withinBatch");
-    QTest::addColumn<int>("decision");
-    for (const bool within : {true, false}) {
-        const char* where = within ? "within the batch" : "with a file that is there";
-        for (const CopyDecision decision :
-             {CopyDecision::Replace, CopyDecision::Skip, CopyDecision::KeepBoth})
-            QTest::addRow("%s, decision %d", where, int(decision)) << within << int(decision);
-    }
-}
-
-void CopyFaultTest::caseOnlyCollision()
-{
-    QFETCH(bool, withinBatch);
-    QFETCH(int, decision);
-    CopyFixture fixture;
-    FaultySystem system;
-    ignoreCase(system, fixture);
-    QStringList sources;
-    if (withinBatch)
-        sources.append(fixture.addSource("Part.STL", "old"));
-    else
-        fixture.addTarget("Part.STL", "old");
-    sources.append(fixture.addSource("part.stl", "new"));
-    fixture.questions.answers = {{static_cast<CopyDecision>(decision), false}};
-    const auto outcomes = fixture.copy(sources, system.calls);
-    QCOMPARE(int(fixture.questions.asked.size()), 1);
-    QCOMPARE(fixture.questions.asked[0].kind,
-             withinBatch ? CollisionKind::WithinBatch : CollisionKind::ExistingFile);
-    FolderContent expected{{"Part.STL", "old"}};
-    if (decision == int(CopyDecision::KeepBoth))
-        expected["part (2).stl"] = "new";
-    if (decision == int(CopyDecision::Replace) && !withinBatch)
-        expected["Part.STL"] = "new";
-    QVERIFY2(fixture.targetContent() == expected, describe(fixture.targetContent()));
-    const CopyFate last = outcomes.last().fate;
-    QCOMPARE(last, decision == int(CopyDecision::KeepBoth) ? CopyFate::CopiedUnderOtherName
-                   : expected["Part.STL"] == "new"         ? CopyFate::Copied
-                                                           : CopyFate::Skipped);
-}
-
-void CopyFaultTest::caseMattersWhereItDoes()
-{
-    CopyFixture fixture;
-    fixture.addTarget("PART.stl", "old");
-    const auto outcomes =
-        fixture.copy({fixture.addSource("Part.stl", "1"), fixture.addSource("part.stl", "2")});
-    QVERIFY(fixture.questions.asked.empty());
-    QVERIFY(fixture.targetContent() ==
-            FolderContent({{"PART.stl", "old"}, {"Part.stl", "1"}, {"part.stl", "2"}}));
-    QCOMPARE(outcomes[1].fate, CopyFate::Copied);
 }
 
 ZORVANE_TEST_MAIN(CopyFaultTest)
