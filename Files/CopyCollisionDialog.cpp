@@ -77,7 +77,7 @@ QLabel* makeElidedLabel(const QString& text, QWidget* parent)
 
 QString dateText(const CopyFileFacts& file, const CopyFileFacts& other)
 {
-    const QString date = QLocale().toString(file.modified, QLocale::ShortFormat);
+    const QString date = QLocale().toString(file.modified.toLocalTime(), QLocale::ShortFormat);
     if (file.modified <= other.modified)
         return date;
     return ArgString(Translator::translate("CopyCollisionDialog", "%1 (newer)"))

@@ -29,8 +29,8 @@ enum class CollisionKind
 struct CopyFileFacts
 {
     QString path;
-    qint64 size = 0; /**< In bytes. */
-    QDateTime modified;
+    qint64 size = 0;    /**< In bytes. */
+    QDateTime modified; /**< In any time zone. */
 };
 
 struct CopyCollision

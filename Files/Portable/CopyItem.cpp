@@ -52,7 +52,8 @@ CopyFileFacts factsOf(const QString& path, const struct stat& status)
 {
     const qint64 milliseconds = status.st_mtim.tv_sec * s_millisecondsPerSecond +
                                 status.st_mtim.tv_nsec / s_nanosecondsPerMillisecond;
-    return {path, status.st_size, QDateTime::fromMSecsSinceEpoch(milliseconds)};
+    // In local time each would ask the system for its time zone.
+    return {path, status.st_size, QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC)};
 }
 
 QString pathInFolder(const QString& folder, const std::string& leaf)

@@ -142,7 +142,7 @@ int main(int argc, char** argv)
     constexpr int manyFiles = 10000;
     constexpr qint64 small = 4096;
     constexpr qint64 large = Q_INT64_C(1) << 30;
-    Zorvane::Benchmarks::addContest("copy/one-gib", 1, large, 3);
-    Zorvane::Benchmarks::addContest("copy/10000-small", manyFiles, small, 7);
+    Zorvane::Benchmarks::addContest("copy/one-gib", 1, large, 2);
+    Zorvane::Benchmarks::addContest("copy/10000-small", manyFiles, small, 5);
     return Zorvane::Benchmarks::runRows(argc, argv);
 }
