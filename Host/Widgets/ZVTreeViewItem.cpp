@@ -32,6 +32,10 @@ bool isSameValue(const QVariant& left, const QVariant& right)
 {
     if (left.userType() != right.userType() || left.isNull() != right.isNull())
         return false;
+    if (left.userType() == QMetaType::Double)
+        return left.toDouble() == right.toDouble();
+    if (left.userType() == QMetaType::Float)
+        return left.toFloat() == right.toFloat();
     if (left.userType() == QMetaType::QIcon)
         return left.value<QIcon>().cacheKey() == right.value<QIcon>().cacheKey();
     if (isId(left))
@@ -113,7 +117,8 @@ bool ZVTreeViewItem::setData(int column, int role, const QVariant& value)
     bool changed = false;
     if (column == 0 && wanted == Qt::DisplayRole)
         changed = storeText(value);
-    else if (column == 0 && (wanted == m_idRole || (m_idRole == NoRole && isId(value))))
+    else if (column == 0 && wanted != NoRole &&
+             (wanted == m_idRole || (m_idRole == NoRole && isId(value))))
         changed = storeId(wanted, value);
     else
         changed = storeExtra(column, wanted, value);
@@ -146,10 +151,13 @@ bool ZVTreeViewItem::storeId(int role, const QVariant& value)
     const auto newId = value.value<IDCombiner>();
     if (m_idRole == role && m_id == newId)
         return false;
+    // A second id, stored untyped while the first was there, may be the same.
+    const QVariant* untyped = findExtra(0, role);
+    const bool changed = !untyped || !isSameValue(*untyped, value);
     storeExtra(0, role, QVariant());
     m_id = newId;
     m_idRole = role;
-    return true;
+    return changed;
 }
 
 bool ZVTreeViewItem::storeExtra(int column, int role, const QVariant& value)
@@ -209,7 +217,8 @@ void ZVTreeViewItem::setText(const std::string& text)
 
 void ZVTreeViewItem::setId(int role, const IDCombiner& id)
 {
-    if (m_idRole != NoRole || m_extra || m_parent) {
+    const bool plain = role != NoRole && storedRole(role) != Qt::DisplayRole;
+    if (!plain || m_idRole != NoRole || m_extra || m_parent) {
         setData(0, role, QVariant::fromValue(id));
         return;
     }
@@ -285,7 +294,8 @@ void ZVTreeViewItem::orphan(ZVTreeViewItem* child, bool wasShownRow)
     ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::owning(this);
     if (wasShownRow && !child->hasState(Fresh | Relocated)) {
         child->addState(Taken);
-    } else if (model && (child->hasState(Relocated) || model->hasRelocated())) {
+    } else if (model &&
+               (child->hasState(Relocated) || model->hasRelocated() || model->isPublishing())) {
         model->hold(child);
     } else {
         child->dropState(Fresh);

@@ -29,7 +29,14 @@ ZVTreeViewItem* ZVTreeViewModel::rootItem() const
 
 ZVTreeViewItem* ZVTreeViewModel::itemFromIndex(const QModelIndex& index) const
 {
-    return index.isValid() && index.model() == this ? rowOf(index) : rootItem();
+    if (!index.isValid())
+        return rootItem();
+    return index.model() == this ? rowOf(index) : nullptr;
+}
+
+bool ZVTreeViewModel::isOwn(const QModelIndex& index) const
+{
+    return index.isValid() && index.model() == this;
 }
 
 QModelIndex ZVTreeViewModel::indexFromItem(const ZVTreeViewItem* item, int column) const
@@ -61,7 +68,7 @@ void ZVTreeViewModel::setHorizontalHeaderLabels(const QStringList& labels)
 QModelIndex ZVTreeViewModel::index(int row, int column, const QModelIndex& parent) const
 {
     const ZVTreeViewItem* parentRow = itemFromIndex(parent);
-    if (row < 0 || column < 0 || column >= d->headers.size() || parent.column() > 0 ||
+    if (row < 0 || column < 0 || column >= d->headers.size() || parent.column() > 0 || !parentRow ||
         !parentRow->m_children || row >= parentRow->m_children->shownCount())
         return {};
     return createIndex(row, column, parentRow->m_children->shownAt(row));
@@ -69,14 +76,14 @@ QModelIndex ZVTreeViewModel::index(int row, int column, const QModelIndex& paren
 
 QModelIndex ZVTreeViewModel::parent(const QModelIndex& index) const
 {
-    if (!index.isValid())
+    if (!isOwn(index))
         return {};
     return d->shownIndex(ZVTreeViewModelPrivate::shownParent(rowOf(index)));
 }
 
 QModelIndex ZVTreeViewModel::sibling(int row, int column, const QModelIndex& index) const
 {
-    if (index.isValid() && row == index.row() && column >= 0 && column < d->headers.size())
+    if (isOwn(index) && row == index.row() && column >= 0 && column < d->headers.size())
         return createIndex(row, column, rowOf(index));
     return QAbstractItemModel::sibling(row, column, index);
 }
@@ -84,7 +91,7 @@ QModelIndex ZVTreeViewModel::sibling(int row, int column, const QModelIndex& ind
 int ZVTreeViewModel::rowCount(const QModelIndex& parent) const
 {
     const ZVTreeViewItem* row = itemFromIndex(parent);
-    return parent.column() > 0 || !row->m_children ? 0 : row->m_children->shownCount();
+    return parent.column() > 0 || !row || !row->m_children ? 0 : row->m_children->shownCount();
 }
 
 int ZVTreeViewModel::columnCount(const QModelIndex& parent) const
@@ -99,21 +106,25 @@ bool ZVTreeViewModel::hasChildren(const QModelIndex& parent) const
 
 QVariant ZVTreeViewModel::data(const QModelIndex& index, int role) const
 {
-    return index.isValid() ? rowOf(index)->data(index.column(), role) : QVariant();
+    return isOwn(index) ? rowOf(index)->data(index.column(), role) : QVariant();
 }
 
 bool ZVTreeViewModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (!index.isValid() || index.model() != this ||
-        !rowOf(index)->setData(index.column(), role, value))
+    if (!isOwn(index))
         return false;
-    Q_EMIT edited(index, value, role);
+    // The row, or a slot that it tells, may take it out of the tree.
+    const QPersistentModelIndex lasting = index;
+    if (!rowOf(index)->setData(index.column(), role, value))
+        return false;
+    if (lasting.isValid())
+        Q_EMIT edited(lasting, value, role);
     return true;
 }
 
 Qt::ItemFlags ZVTreeViewModel::flags(const QModelIndex& index) const
 {
-    return index.isValid() ? rowOf(index)->flags() : Qt::ItemFlags(Qt::NoItemFlags);
+    return isOwn(index) ? rowOf(index)->flags() : Qt::ItemFlags(Qt::NoItemFlags);
 }
 
 QVariant ZVTreeViewModel::headerData(int section, Qt::Orientation orientation, int role) const
@@ -133,17 +144,20 @@ bool ZVTreeViewModel::setHeaderData(int section, Qt::Orientation orientation, co
     if (orientation != Qt::Horizontal || section < 0 || section >= d->headers.size())
         return false;
     const int stored = role == Qt::EditRole ? int(Qt::DisplayRole) : role;
-    if (d->headers.at(section).value(stored) == value)
+    const QVariant before = d->headers.at(section).value(stored);
+    if (before.userType() == value.userType() && before == value)
         return true;
-    d->headers[section].insert(stored, value);
+    if (value.isValid())
+        d->headers[section].insert(stored, value);
+    else
+        d->headers[section].remove(stored);
     Q_EMIT headerDataChanged(orientation, section, section);
     return true;
 }
 
 bool ZVTreeViewModel::isLeaving(const QModelIndex& index) const
 {
-    return index.isValid() && index.model() == this &&
-           !ZVTreeViewModelPrivate::isAttached(rowOf(index));
+    return isOwn(index) && !ZVTreeViewModelPrivate::isAttached(rowOf(index));
 }
 
 } // namespace Zorvane

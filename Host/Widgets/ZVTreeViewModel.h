@@ -31,7 +31,7 @@ public:
 
     /** The invisible row whose children are the top-level rows. Owned by the model. */
     ZVTreeViewItem* rootItem() const;
-    /** The row an index of this model shows; the root row for an invalid index. */
+    /** The row an index shows; the root row for an invalid index, null for another model's. */
     ZVTreeViewItem* itemFromIndex(const QModelIndex& index) const;
     /** Where views find the row; invalid for the root, a foreign row or one not announced yet. */
     QModelIndex indexFromItem(const ZVTreeViewItem* item, int column = 0) const;
@@ -70,6 +70,8 @@ private:
     friend class ZVTreeViewItem;
     friend class ZVTreeViewModelBatch;
     friend class ZVTreeViewModelPrivate;
+
+    bool isOwn(const QModelIndex& index) const;
 
     const std::unique_ptr<ZVTreeViewModelPrivate> d;
 };

@@ -2,6 +2,8 @@
 
 #include "Host/Widgets/ZVTreeViewModelPrivate.h"
 
+#include <utility>
+
 namespace Zorvane {
 
 ZVTreeViewModelBatch::ZVTreeViewModelBatch(ZVTreeViewModel* model)
@@ -18,9 +20,10 @@ ZVTreeViewModelBatch::~ZVTreeViewModelBatch()
 
 void ZVTreeViewModelBatch::close()
 {
-    if (m_model)
-        m_model->d->closeBatch();
-    m_model.clear();
+    // Forgotten first: a slot may close this very batch again.
+    const QPointer<ZVTreeViewModel> model = std::exchange(m_model, nullptr);
+    if (model)
+        model->d->closeBatch();
 }
 
 } // namespace Zorvane

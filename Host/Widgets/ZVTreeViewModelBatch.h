@@ -15,10 +15,12 @@ namespace Zorvane {
  *
  * What is announced is the minimum: changed values first, as ranges in the old structure, then a
  * few exact removed and inserted ranges or, where there would be many, one change of layout.
- * A slot that throws while this is announced from the destructor is reported as a warning.
+ * Slots may change rows and open batches while it is announced; what they do is announced after
+ * it. A slot that throws is reported as a warning, and views start over.
  *
- * Deleting a row that views still know, other than by `ZVTreeViewItem::deleteChild`, announces
- * what has been gathered so far at that moment.
+ * Deleting a row that views still know, other than by `ZVTreeViewItem::deleteChild`, or handing
+ * it to a tree outside of the model, announces what has been gathered so far at that moment; by a
+ * slot while a batch is announced it makes views start over.
  */
 class ZORVANE_HOST_EXPORT ZVTreeViewModelBatch
 {

@@ -18,6 +18,8 @@ ZVTreeViewModelPrivate::ZVTreeViewModelPrivate(ZVTreeViewModel* model)
 
 ZVTreeViewModelPrivate::~ZVTreeViewModelPrivate()
 {
+    // Rows that callers have taken out are theirs, whether or not that has been announced.
+    settleAll();
     root.deleteSubtree();
     deleteRetired();
 }
@@ -98,6 +100,21 @@ void ZVTreeViewModelPrivate::putBack(ZVTreeViewItem* row, ZVTreeViewItem* parent
     } else if (m_relocated.at(row) == parent) {
         m_relocated.erase(row);
         row->dropState(ZVTreeViewItem::Relocated);
+        // Home again; below a new row it carried another number.
+        row->m_row = parent->m_children->shownRowOf(row);
+    }
+}
+
+void ZVTreeViewModelPrivate::leaveViews(ZVTreeViewItem* row)
+{
+    if (m_relocated.erase(row) > 0)
+        row->dropState(ZVTreeViewItem::Relocated);
+    if (row->hasState(ZVTreeViewItem::Taken)) {
+        row->addState(ZVTreeViewItem::Fresh);
+        row->m_parent = &root;
+        m_held.insert(row);
+    } else if (showing(row->m_parent)) {
+        row->addState(ZVTreeViewItem::Fresh);
     }
 }
 
@@ -123,14 +140,16 @@ void ZVTreeViewModelPrivate::beginRemove(const ZVTreeViewItem* parent, int row)
 
 void ZVTreeViewModelPrivate::closeBatch()
 {
-    // The outermost batch still counts as open while it is announced: what slots do joins it.
-    if (m_openBatches == 1 && !m_publishing)
+    // The outermost batch still counts as open while it is announced: what slots do joins it,
+    // and so does what the end of deleted rows does.
+    while (m_openBatches == 1 && !m_publishing && (hasGathered() || !m_retired.empty()))
         publish();
     --m_openBatches;
 }
 
 void ZVTreeViewModelPrivate::stage(ZVTreeViewItem* parent)
 {
+    ++m_edits;
     ZVTreeViewItemChildren& children = parent->children();
     if (children.isStaged())
         return;
@@ -149,9 +168,15 @@ void ZVTreeViewModelPrivate::forgetRelocations()
     for (const auto& entry : std::exchange(m_relocated, {})) {
         auto* row = const_cast<ZVTreeViewItem*>(entry.first);
         row->dropState(ZVTreeViewItem::Relocated);
-        if (row->hasState(ZVTreeViewItem::Taken))
-            letGo(row);
+        if (row->hasState(ZVTreeViewItem::Taken)) {
+            row->addState(ZVTreeViewItem::Fresh);
+            m_held.insert(row);
+        }
     }
+}
+
+void ZVTreeViewModelPrivate::letGoOfHeld()
+{
     for (ZVTreeViewItem* row : std::exchange(m_held, {}))
         letGo(row);
 }

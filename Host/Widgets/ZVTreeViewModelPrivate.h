@@ -6,7 +6,6 @@
 
 #include <QtCore/QHash>
 
-#include <exception>
 #include <memory>
 #include <unordered_map>
 #include <unordered_set>
@@ -51,6 +50,7 @@ public:
 
     // Gathering changes for later.
     bool isGathering() const { return m_openBatches > 0; }
+    bool isPublishing() const { return m_publishing; }
     void openBatch() { ++m_openBatches; }
     void closeBatch();
     void stage(ZVTreeViewItem* parent);
@@ -107,26 +107,38 @@ private:
     static void record(ChangeGroup& group, int row, int column, const QVector<int>& roles);
     static void mergeRanges(ChangeGroup& group);
     bool hasGathered() const { return !m_changes.empty() || !m_staged.empty(); }
+    void dropUnchanged();
+    void publishGathered();
     void publishRounds();
     void announceValues();
+    void announceRange(const ZVTreeViewItemChildren& children, const ValueRange& range);
     ListPlan planFor(ZVTreeViewItem* parent) const;
     Plan makePlan() const;
     bool isExact(const Plan& plan) const;
+    // These are false when a slot has interfered: the rest is planned anew, or views start over.
     bool announceExactly(Plan& plan);
     bool announceRemoved(ListPlan& list);
     bool announceInserted(ListPlan& list);
     bool announceByLayout(Plan& plan);
     bool appendArriving(ListPlan& list);
     bool changeLayout(Plan& plan);
-    void removeLeaving(ListPlan& list);
-    QModelIndexList indexesAfterLayout(const Plan& plan, const QModelIndexList& shown) const;
+    bool removeLeaving(const ListPlan& list);
+    bool isAsPlanned() const { return m_edits == m_plannedEdits && m_resets == m_plannedResets; }
+    bool canInsert();
     bool leavesWithLayout(const ZVTreeViewItem* row) const;
+    void leaveWithLayout(const ListPlan& list);
     void showTarget(ListPlan& list) const;
-    void finish(Plan& plan);
-    void settle(ListPlan& list) const;
+    /** Views no longer see the row; one that a slot has put back meanwhile is new to them. */
+    void leaveViews(ZVTreeViewItem* row);
+    void finish(const Plan& plan, bool done);
+    void widenChanges(const ZVTreeViewItemChildren& children);
+    /** Makes the children of a row that no view sees, or will see anew, what they are. */
+    void settle(ZVTreeViewItem* parent);
+    void settleAll();
     void startOver();
     void relocate(ZVTreeViewItem* row);
     void forgetRelocations();
+    void letGoOfHeld();
     static void letGo(ZVTreeViewItem* row);
     void deleteRetired();
 
@@ -134,12 +146,19 @@ private:
     bool m_publishing = false;
     /** Counts the resets, so that an announcement under way notices one. */
     unsigned m_resets = 0;
+    /** Counts the changes of rows that views see, for the same purpose. */
+    unsigned m_edits = 0;
+    unsigned m_plannedResets = 0;
+    unsigned m_plannedEdits = 0;
     std::vector<ZVTreeViewItem*> m_staged;
     std::vector<ChangeGroup> m_changes;
     /** Rows below another parent than the one under which views still see them: the latter. */
     std::unordered_map<const ZVTreeViewItem*, ZVTreeViewItem*> m_relocated;
     std::vector<ZVTreeViewItem*> m_retired;
-    /** Rows that views do not know, taken out while rows that views do know were elsewhere. */
+    /**
+     * Rows that views do not know, taken out while rows that views do know were elsewhere or
+     * while changes were announced; kept in the batch's care until all is told.
+     */
     std::unordered_set<ZVTreeViewItem*> m_held;
 };
 

@@ -7,6 +7,7 @@
 #include "Host/Widgets/ZVTreeViewModelPrivate.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 namespace Zorvane {
@@ -22,69 +23,113 @@ constexpr std::size_t MostExactRanges = 8;
  */
 constexpr int MostCellsOfVaryingList = 1000;
 
+/** False when a slot threw; what there is to be known of it is told as a warning. */
+template <typename Emitter>
+bool guarded(Emitter emitter)
+{
+    try {
+        emitter();
+        return true;
+    } catch (const std::exception& error) {
+        qWarning("A slot threw while a tree model announced changes: %s", error.what());
+    } catch (...) {
+        qWarning("A slot threw while a tree model announced changes");
+    }
+    return false;
+}
+
 } // namespace
 
 void ZVTreeViewModelPrivate::publish()
 {
     if (m_publishing) {
-        // A slot deletes a row that is just being announced; only a reset leaves no view behind.
+        // A slot deletes a row that views may know; only a reset leaves none of them behind.
         startOver();
         return;
     }
     m_publishing = true;
     ++m_openBatches;
-    if (hasGathered()) {
-        try {
-            publishRounds();
-        } catch (const std::exception& error) {
-            startOver();
-            qWarning("A slot threw while a tree model announced changes: %s", error.what());
-        } catch (...) {
-            startOver();
-            qWarning("A slot threw while a tree model announced changes");
-        }
-    }
+    dropUnchanged();
+    // Slots of the last signals may change rows, too.
+    while (hasGathered())
+        publishGathered();
+    letGoOfHeld();
     --m_openBatches;
     m_publishing = false;
     deleteRetired();
 }
 
+void ZVTreeViewModelPrivate::dropUnchanged()
+{
+    const auto isUnchanged = [](ZVTreeViewItem* parent) {
+        ZVTreeViewItemChildren& children = *parent->m_children;
+        if (children.arranged() != children.editShown())
+            return false;
+        children.unstage();
+        return true;
+    };
+    m_staged.erase(std::remove_if(m_staged.begin(), m_staged.end(), isUnchanged), m_staged.end());
+}
+
+void ZVTreeViewModelPrivate::publishGathered()
+{
+    const bool whole = guarded([this] { publishRounds(); });
+    if (!whole)
+        startOver();
+    guarded([this] { Q_EMIT q->published(); });
+}
+
 void ZVTreeViewModelPrivate::publishRounds()
 {
     Q_EMIT q->aboutToPublish();
-    // Slots may change rows, too; what they gather is announced in a further round.
+    // Slots may change rows; what they gather is announced in a further round.
     while (hasGathered()) {
-        const unsigned resets = m_resets;
-        announceValues();
+        while (!m_changes.empty())
+            announceValues();
+        m_plannedEdits = m_edits;
+        m_plannedResets = m_resets;
         Plan plan = makePlan();
-        const bool done =
-            resets == m_resets && (isExact(plan) ? announceExactly(plan) : announceByLayout(plan));
-        if (done)
-            finish(plan);
+        const bool done = isExact(plan) ? announceExactly(plan) : announceByLayout(plan);
+        if (m_resets == m_plannedResets)
+            finish(plan, done);
     }
-    Q_EMIT q->published();
 }
 
 void ZVTreeViewModelPrivate::announceValues()
 {
     const std::vector<ChangeGroup> changes = std::exchange(m_changes, {});
-    for (const ChangeGroup& group : changes)
-        group.parent->m_children->changeGroup = -1;
+    for (const ChangeGroup& group : changes) {
+        if (group.parent)
+            group.parent->m_children->changeGroup = -1;
+    }
     const unsigned resets = m_resets;
     for (const ChangeGroup& group : changes) {
-        if (!isAttached(group.parent))
+        if (!group.parent || !isAttached(group.parent))
             continue;
-        const ZVTreeViewItemChildren& children = *group.parent->m_children;
         for (const ValueRange& range : group.ranges) {
-            const QModelIndex first =
-                q->createIndex(range.firstRow, range.firstColumn, children.shownAt(range.firstRow));
-            const QModelIndex last =
-                q->createIndex(range.lastRow, range.lastColumn, children.shownAt(range.lastRow));
-            Q_EMIT q->dataChanged(first, last, range.roles);
+            announceRange(*group.parent->m_children, range);
             if (resets != m_resets)
                 return;
         }
     }
+}
+
+void ZVTreeViewModelPrivate::announceRange(const ZVTreeViewItemChildren& children,
+                                           const ValueRange& range)
+{
+    int firstRow = range.firstRow;
+    int lastRow = range.lastRow;
+    // Rows about to be announced gone need no values any more.
+    while (firstRow <= lastRow && !isAttached(children.shownAt(firstRow)))
+        ++firstRow;
+    while (firstRow < lastRow && !isAttached(children.shownAt(lastRow)))
+        --lastRow;
+    const int lastColumn = std::min(range.lastColumn, headers.size() - 1);
+    if (firstRow > lastRow || range.firstColumn > lastColumn)
+        return;
+    Q_EMIT q->dataChanged(q->createIndex(firstRow, range.firstColumn, children.shownAt(firstRow)),
+                          q->createIndex(lastRow, lastColumn, children.shownAt(lastRow)),
+                          range.roles);
 }
 
 ZVTreeViewModelPrivate::Plan ZVTreeViewModelPrivate::makePlan() const
@@ -158,19 +203,19 @@ bool ZVTreeViewModelPrivate::announceExactly(Plan& plan)
 
 bool ZVTreeViewModelPrivate::announceRemoved(ListPlan& list)
 {
-    const unsigned resets = m_resets;
     const QModelIndex parent = shownIndex(list.parent);
     ZVTreeViewItemChildren& children = *list.parent->m_children;
     for (auto range = list.removed.rbegin(); range != list.removed.rend(); ++range) {
         q->beginRemoveRows(parent, range->first, range->first + range->count - 1);
-        if (resets != m_resets)
+        if (m_resets != m_plannedResets)
             return false;
         Rows& shown = children.editShown();
         const auto first = shown.begin() + range->first;
+        std::for_each(first, first + range->count, [this](auto* row) { leaveViews(row); });
         shown.erase(first, first + range->count);
         children.numberShown(static_cast<std::size_t>(range->first));
         q->endRemoveRows();
-        if (resets != m_resets)
+        if (!isAsPlanned())
             return false;
     }
     return true;
@@ -178,24 +223,33 @@ bool ZVTreeViewModelPrivate::announceRemoved(ListPlan& list)
 
 bool ZVTreeViewModelPrivate::announceInserted(ListPlan& list)
 {
-    const unsigned resets = m_resets;
     const QModelIndex parent = shownIndex(list.parent);
     ZVTreeViewItemChildren& children = *list.parent->m_children;
     for (const RowRange& range : list.inserted) {
+        const auto source = list.target.begin() + range.first;
         q->beginInsertRows(parent, range.first, range.first + range.count - 1);
-        if (resets != m_resets)
+        if (!canInsert())
             return false;
         Rows& shown = children.editShown();
-        const auto source = list.target.begin() + range.first;
         shown.insert(shown.begin() + range.first, source, source + range.count);
         std::for_each(source, source + range.count,
                       [](auto* row) { row->dropState(ZVTreeViewItem::Fresh); });
         children.numberShown(static_cast<std::size_t>(range.first));
         q->endInsertRows();
-        if (resets != m_resets)
+        if (!isAsPlanned())
             return false;
     }
     return true;
+}
+
+bool ZVTreeViewModelPrivate::canInsert()
+{
+    if (isAsPlanned())
+        return true;
+    // A slot may have taken the very rows whose insertion has just been told to views.
+    if (m_resets == m_plannedResets)
+        startOver();
+    return false;
 }
 
 bool ZVTreeViewModelPrivate::announceByLayout(Plan& plan)
@@ -210,26 +264,20 @@ bool ZVTreeViewModelPrivate::announceByLayout(Plan& plan)
     }
     if (!changeLayout(plan))
         return false;
-    const unsigned resets = m_resets;
-    for (ListPlan& list : plan) {
-        if (list.attached && list.keepsCount)
-            removeLeaving(list);
-        if (resets != m_resets)
-            return false;
-    }
-    return true;
+    return std::all_of(plan.begin(), plan.end(), [this](ListPlan& list) {
+        return !list.attached || !list.keepsCount || removeLeaving(list);
+    });
 }
 
 bool ZVTreeViewModelPrivate::appendArriving(ListPlan& list)
 {
     if (list.arriving.empty())
         return true;
-    const unsigned resets = m_resets;
     ZVTreeViewItemChildren& children = *list.parent->m_children;
     const int first = children.shownCount();
     q->beginInsertRows(shownIndex(list.parent), first,
                        first + static_cast<int>(list.arriving.size()) - 1);
-    if (resets != m_resets)
+    if (!canInsert())
         return false;
     Rows& shown = children.editShown();
     shown.insert(shown.end(), list.arriving.begin(), list.arriving.end());
@@ -237,16 +285,20 @@ bool ZVTreeViewModelPrivate::appendArriving(ListPlan& list)
         row->dropState(ZVTreeViewItem::Fresh);
     children.numberShown(static_cast<std::size_t>(first));
     q->endInsertRows();
-    return resets == m_resets;
+    return isAsPlanned();
 }
 
 bool ZVTreeViewModelPrivate::changeLayout(Plan& plan)
 {
-    const unsigned resets = m_resets;
     // No parents named: a sorted proxy only follows a change of layout that may be anywhere.
     Q_EMIT q->layoutAboutToBeChanged();
-    if (resets != m_resets)
+    if (m_resets != m_plannedResets)
         return false;
+    if (!isAsPlanned()) {
+        // A slot has changed rows: nothing moves this time, and the plan is made anew.
+        Q_EMIT q->layoutChanged();
+        return false;
+    }
     const QModelIndexList before = q->persistentIndexList();
     for (ListPlan& list : plan) {
         for (ZVTreeViewItem* row : list.leaving) {
@@ -264,6 +316,8 @@ bool ZVTreeViewModelPrivate::changeLayout(Plan& plan)
     for (ListPlan& list : plan)
         showTarget(list);
     forgetRelocations();
+    for (const ListPlan& list : plan)
+        leaveWithLayout(list);
     QModelIndexList from;
     QModelIndexList to;
     for (const QModelIndex& index : before) {
@@ -277,7 +331,7 @@ bool ZVTreeViewModelPrivate::changeLayout(Plan& plan)
     }
     q->changePersistentIndexList(from, to);
     Q_EMIT q->layoutChanged();
-    return resets == m_resets;
+    return isAsPlanned();
 }
 
 bool ZVTreeViewModelPrivate::leavesWithLayout(const ZVTreeViewItem* row) const
@@ -304,64 +358,104 @@ void ZVTreeViewModelPrivate::showTarget(ListPlan& list) const
     list.parent->m_children->numberShown();
 }
 
-void ZVTreeViewModelPrivate::removeLeaving(ListPlan& list)
+void ZVTreeViewModelPrivate::leaveWithLayout(const ListPlan& list)
+{
+    if (!list.attached || list.keepsCount)
+        return;
+    for (ZVTreeViewItem* row : list.leaving) {
+        row->dropState(ZVTreeViewItem::Leaving);
+        if (row->hasState(ZVTreeViewItem::Taken) && row->m_parent == list.parent)
+            leaveViews(row);
+    }
+}
+
+bool ZVTreeViewModelPrivate::removeLeaving(const ListPlan& list)
 {
     if (list.leaving.empty())
-        return;
-    const unsigned resets = m_resets;
+        return true;
     ZVTreeViewItemChildren& children = *list.parent->m_children;
     q->beginRemoveRows(shownIndex(list.parent), static_cast<int>(list.target.size()),
                        children.shownCount() - 1);
-    if (resets != m_resets)
-        return;
+    if (m_resets != m_plannedResets)
+        return false;
     children.editShown().resize(list.target.size());
+    for (ZVTreeViewItem* row : list.leaving)
+        leaveViews(row);
     q->endRemoveRows();
+    return isAsPlanned();
 }
 
-void ZVTreeViewModelPrivate::finish(Plan& plan)
+void ZVTreeViewModelPrivate::finish(const Plan& plan, bool done)
 {
     std::vector<ZVTreeViewItem*> stillStaged(
         m_staged.begin() + static_cast<std::ptrdiff_t>(plan.size()), m_staged.end());
-    for (ListPlan& list : plan) {
-        settle(list);
-        if (list.parent->m_children->isDirty())
+    for (const ListPlan& list : plan) {
+        ZVTreeViewItemChildren& children = *list.parent->m_children;
+        if (showing(list.parent) != this)
+            settle(list.parent);
+        else if (!done || children.isDirty())
             stillStaged.push_back(list.parent);
         else
-            list.parent->m_children->unstage();
+            children.unstage();
+        widenChanges(children);
     }
     m_staged = std::move(stillStaged);
+    for (ChangeGroup& group : m_changes) {
+        if (!group.parent || showing(group.parent) == this)
+            continue;
+        group.parent->m_children->changeGroup = -1;
+        group.parent = nullptr;
+    }
 }
 
-void ZVTreeViewModelPrivate::settle(ListPlan& list) const
+void ZVTreeViewModelPrivate::widenChanges(const ZVTreeViewItemChildren& children)
 {
-    if (!list.attached) {
-        list.parent->m_children->editShown() = list.target;
-        list.parent->m_children->numberShown();
-        for (ZVTreeViewItem* row : list.arriving)
-            row->dropState(ZVTreeViewItem::Fresh);
+    if (children.changeGroup < 0)
+        return;
+    // Slots have told these while the rows were moving: any row of the list may be meant.
+    ChangeGroup& group = m_changes[static_cast<std::size_t>(children.changeGroup)];
+    if (!group.ranges.empty())
+        mergeRanges(group);
+    for (ValueRange& range : group.ranges) {
+        range.firstRow = 0;
+        range.lastRow = children.shownCount() - 1;
     }
-    for (ZVTreeViewItem* row : list.leaving) {
-        row->dropState(ZVTreeViewItem::Leaving);
-        if (!row->hasState(ZVTreeViewItem::Taken) || row->m_parent != list.parent)
-            continue;
-        letGo(row);
+}
+
+void ZVTreeViewModelPrivate::settle(ZVTreeViewItem* parent)
+{
+    ZVTreeViewItemChildren& children = *parent->m_children;
+    const Rows& arranged = children.arranged();
+    for (ZVTreeViewItem* row : children.editShown()) {
+        if (row->hasState(ZVTreeViewItem::Taken) && row->m_parent == parent)
+            leaveViews(row);
     }
+    children.editShown() = arranged;
+    children.numberShown();
+    for (ZVTreeViewItem* row : arranged)
+        row->dropState(ZVTreeViewItem::Fresh);
+    children.unstage();
+}
+
+void ZVTreeViewModelPrivate::settleAll()
+{
+    for (const ChangeGroup& group : std::exchange(m_changes, {})) {
+        if (group.parent)
+            group.parent->m_children->changeGroup = -1;
+    }
+    for (ZVTreeViewItem* parent : std::exchange(m_staged, {}))
+        settle(parent);
+    forgetRelocations();
+    letGoOfHeld();
 }
 
 void ZVTreeViewModelPrivate::startOver()
 {
     ++m_resets;
-    m_changes.clear();
-    Plan plan = makePlan();
     // The reset: views have been told half of a change and there is no way to tell the rest.
-    q->beginResetModel();
-    for (ListPlan& list : plan) {
-        list.attached = false;
-        list.parent->m_children->changeGroup = -1;
-    }
-    forgetRelocations();
-    finish(plan);
-    q->endResetModel();
+    guarded([this] { q->beginResetModel(); });
+    settleAll();
+    guarded([this] { q->endResetModel(); });
 }
 
 } // namespace Zorvane
