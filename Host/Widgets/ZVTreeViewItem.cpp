@@ -27,7 +27,14 @@ bool isId(const QVariant& value)
     return value.userType() == qMetaTypeId<IDCombiner>();
 }
 
-/** Stricter than QVariant, which finds 1 and "1" equal, and wiser about icons and ids. */
+bool isSameValue(const QVariant& left, const QVariant& right);
+
+bool isSameList(const QVariantList& left, const QVariantList& right)
+{
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(), isSameValue);
+}
+
+/** Stricter than QVariant, which finds 1 and "1" or close numbers equal; knows icons and ids. */
 bool isSameValue(const QVariant& left, const QVariant& right)
 {
     if (left.userType() != right.userType() || left.isNull() != right.isNull())
@@ -36,6 +43,8 @@ bool isSameValue(const QVariant& left, const QVariant& right)
         return left.toDouble() == right.toDouble();
     if (left.userType() == QMetaType::Float)
         return left.toFloat() == right.toFloat();
+    if (left.userType() == QMetaType::QVariantList)
+        return isSameList(left.toList(), right.toList());
     if (left.userType() == QMetaType::QIcon)
         return left.value<QIcon>().cacheKey() == right.value<QIcon>().cacheKey();
     if (isId(left))

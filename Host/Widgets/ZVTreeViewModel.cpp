@@ -83,7 +83,9 @@ QModelIndex ZVTreeViewModel::parent(const QModelIndex& index) const
 
 QModelIndex ZVTreeViewModel::sibling(int row, int column, const QModelIndex& index) const
 {
-    if (isOwn(index) && row == index.row() && column >= 0 && column < d->headers.size())
+    if (!isOwn(index))
+        return {};
+    if (row == index.row() && column >= 0 && column < d->headers.size())
         return createIndex(row, column, rowOf(index));
     return QAbstractItemModel::sibling(row, column, index);
 }

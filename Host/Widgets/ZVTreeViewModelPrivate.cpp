@@ -228,6 +228,28 @@ void ZVTreeViewModelPrivate::record(ChangeGroup& group, int row, int column,
         mergeRanges(group);
 }
 
+void ZVTreeViewModelPrivate::joinNeighbours(ChangeGroup& group)
+{
+    auto& ranges = group.ranges;
+    for (auto range = ranges.begin(); range != ranges.end();) {
+        const auto touches = [range](const ValueRange& other) {
+            return other.firstColumn == range->firstColumn &&
+                   other.lastColumn == range->lastColumn && other.roles == range->roles &&
+                   other.firstRow <= range->lastRow + 1 && range->firstRow <= other.lastRow + 1;
+        };
+        const auto other = std::find_if(ranges.begin(), range, touches);
+        if (other == range) {
+            ++range;
+            continue;
+        }
+        other->firstRow = std::min(other->firstRow, range->firstRow);
+        other->lastRow = std::max(other->lastRow, range->lastRow);
+        // Grown, it may touch others in turn.
+        ranges.erase(range);
+        range = ranges.begin();
+    }
+}
+
 void ZVTreeViewModelPrivate::mergeRanges(ChangeGroup& group)
 {
     ValueRange merged = group.ranges.front();

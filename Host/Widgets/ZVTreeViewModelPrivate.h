@@ -105,6 +105,7 @@ private:
     using Plan = std::vector<ListPlan>;
 
     static void record(ChangeGroup& group, int row, int column, const QVector<int>& roles);
+    static void joinNeighbours(ChangeGroup& group);
     static void mergeRanges(ChangeGroup& group);
     bool hasGathered() const { return !m_changes.empty() || !m_staged.empty(); }
     void dropUnchanged();

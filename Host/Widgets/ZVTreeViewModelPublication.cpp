@@ -97,8 +97,9 @@ void ZVTreeViewModelPrivate::publishRounds()
 
 void ZVTreeViewModelPrivate::announceValues()
 {
-    const std::vector<ChangeGroup> changes = std::exchange(m_changes, {});
-    for (const ChangeGroup& group : changes) {
+    std::vector<ChangeGroup> changes = std::exchange(m_changes, {});
+    for (ChangeGroup& group : changes) {
+        joinNeighbours(group);
         if (group.parent)
             group.parent->m_children->changeGroup = -1;
     }
