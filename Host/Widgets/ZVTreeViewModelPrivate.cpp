@@ -21,7 +21,8 @@ ZVTreeViewModelPrivate::~ZVTreeViewModelPrivate()
     // Rows that callers have taken out are theirs, whether or not that has been announced.
     settleAll();
     root.deleteSubtree();
-    deleteRetired();
+    while (!m_retired.empty())
+        deleteRetired();
 }
 
 ZVTreeViewModelPrivate* ZVTreeViewModelPrivate::owning(const ZVTreeViewItem* row)
@@ -271,10 +272,8 @@ void ZVTreeViewModelPrivate::mergeRanges(ChangeGroup& group)
 
 void ZVTreeViewModelPrivate::deleteRetired()
 {
-    // Rows may own data whose end retires further rows.
-    while (!m_retired.empty()) {
-        ZVTreeViewItem* row = m_retired.back();
-        m_retired.pop_back();
+    // The end of a row may retire further ones, of which views have to be told first.
+    for (ZVTreeViewItem* row : std::exchange(m_retired, {})) {
         row->m_parent = nullptr;
         row->m_state = 0;
         delete row;

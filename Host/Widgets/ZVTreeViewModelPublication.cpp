@@ -76,7 +76,10 @@ void ZVTreeViewModelPrivate::publishGathered()
     const bool whole = guarded([this] { publishRounds(); });
     if (!whole)
         startOver();
+    // Nothing is half told any more: a slot may delete rows like everybody else.
+    m_publishing = false;
     guarded([this] { Q_EMIT q->published(); });
+    m_publishing = true;
 }
 
 void ZVTreeViewModelPrivate::publishRounds()
