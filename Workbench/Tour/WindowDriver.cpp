@@ -14,7 +14,7 @@ namespace Zorvane::Workbench {
 
 namespace {
 
-constexpr qint64 s_patienceMilliseconds = 60'000;
+constexpr qint64 s_patienceMilliseconds = 120'000;
 constexpr int s_mostTabStops = 40;
 
 QString accessibleName(QWidget* widget)

@@ -24,7 +24,7 @@ class WindowDriver
 public:
     explicit WindowDriver(MainWindow& window);
 
-    /** Lets events run until the condition holds; false if it doesn't within a minute. */
+    /** Lets events run until the condition holds; false if it doesn't within two minutes. */
     bool waitFor(const std::function<bool()>& condition) const;
     /** Lets the events that are waiting, and those they cause, run. */
     void settle() const;

@@ -20,6 +20,8 @@ namespace {
 using namespace GenericTreeViewModelHandling;
 
 constexpr int s_idRole = 3394;
+/** Facts of many meshes come faster than anybody reads; each refresh looks at every row. */
+constexpr int s_soonMilliseconds = 60;
 
 std::shared_ptr<ModelItemFilterInterface>
 combined(const std::vector<std::shared_ptr<ModelItemFilterInterface>>& filters)
@@ -52,7 +54,8 @@ DesignTree::DesignTree(DesignSession& session, MeshLoader& loader, QObject* pare
     , m_catalog(session, loader)
     , m_nameFilter(std::make_shared<NameFilter>(m_catalog))
     , m_kindFilter(std::make_shared<KindFilter>(m_catalog))
-    , m_pipeline(session, combined({m_kindFilter, m_nameFilter}), [this] { schedule(true); })
+    , m_pipeline(session, combined({m_kindFilter, m_nameFilter}),
+                 [this] { schedule(Scope::Rows, When::Next); })
     , m_decoration(session, m_catalog, m_pipeline)
     , m_synchronizer(s_idRole)
 {
@@ -62,13 +65,16 @@ DesignTree::DesignTree(DesignSession& session, MeshLoader& loader, QObject* pare
                               Qt::TextAlignmentRole);
     m_synchronizer.setDataProvider(m_decoration.provider());
     const std::shared_ptr<ZVTreeItemDataProviderInterface> rows = m_decoration.provider();
-    rows->registerUpdateCallback([this] { schedule(false); });
-    connect(&session, &DesignSession::changed, this, [this] { schedule(true); });
+    rows->registerUpdateCallback([this] { schedule(Scope::Values, When::Soon); });
+    connect(&session, &DesignSession::changed, this, [this] { schedule(Scope::Rows, When::Next); });
     connect(&loader, &MeshLoader::loaded, this, [this] { m_decoration.factsChanged(); });
     // A file that cannot be read changes the row's state too, which only a full refresh rewrites.
-    connect(&loader, &MeshLoader::failed, this, [this] { schedule(true); });
+    connect(&loader, &MeshLoader::failed, this, [this] { schedule(Scope::Rows, When::Soon); });
     connect(&m_model, &ZVTreeViewModel::edited, this, &DesignTree::takeOverName);
-    schedule(true);
+    m_soon.setSingleShot(true);
+    m_soon.setInterval(s_soonMilliseconds);
+    connect(&m_soon, &QTimer::timeout, this, &DesignTree::refreshNow);
+    schedule(Scope::Rows, When::Next);
 }
 
 DesignTree::~DesignTree() = default;
@@ -156,15 +162,25 @@ void DesignTree::collapseAll()
         m_view->collapseAll();
 }
 
-void DesignTree::schedule(bool structure)
+void DesignTree::schedule(Scope scope, When when)
 {
     if (m_busy)
         return;
-    m_structureChanged = m_structureChanged || structure;
-    if (m_scheduled)
-        return;
     m_scheduled = true;
-    QMetaObject::invokeMethod(this, &DesignTree::refreshNow, Qt::QueuedConnection);
+    m_structureChanged = m_structureChanged || scope == Scope::Rows;
+    if (when == When::Soon) {
+        if (!m_soon.isActive())
+            m_soon.start();
+    } else if (!m_queued) {
+        m_queued = true;
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                m_queued = false;
+                refreshNow();
+            },
+            Qt::QueuedConnection);
+    }
 }
 
 void DesignTree::refreshNow()
@@ -172,6 +188,7 @@ void DesignTree::refreshNow()
     if (!m_scheduled)
         return;
     m_scheduled = false;
+    m_soon.stop();
     const QScopedValueRollback<bool> busy(m_busy, true);
     {
         const ZVTreeViewModelBatch batch(&m_model);

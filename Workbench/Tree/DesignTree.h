@@ -8,6 +8,7 @@
 
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
+#include <QtCore/QTimer>
 
 #include <memory>
 #include <set>
@@ -24,9 +25,9 @@ class NameFilter;
 class ScrollKeeper;
 
 /**
- * Shows a session in a tree view and keeps it in step: whatever changes in the session, the meshes
- * or the filters is gathered and shown once per turn of the event loop, with selection, expansion
- * and scroll position kept. Names edited in the view go to the session; a refused one is put back.
+ * Shows a session in a tree view and keeps it in step: whatever changes in the session or the
+ * filters is gathered and shown once per turn of the event loop, facts of meshes a few times a
+ * second, with selection, expansion and scroll position kept. Names edited in the view go to the session; a refused one is put back.
  *
  * Rows with children are expanded unless the user has collapsed them, and always while a text
  * filters. Session, loader and view must outlive it.
@@ -75,7 +76,22 @@ Q_SIGNALS:
     void renameRefused(const QString& name, const QString& reason);
 
 private:
-    void schedule(bool structure);
+    enum class Scope
+    {
+        /** What asked for it in the rows there are. */
+        Values,
+        /** Rows, their order and everything in them. */
+        Rows
+    };
+    enum class When
+    {
+        /** In the next turn of the event loop. */
+        Next,
+        /** Together with what else happens shortly. */
+        Soon
+    };
+
+    void schedule(Scope scope, When when);
     void applyExpansion(const QModelIndex& parent);
     void noteExpansion(const QModelIndex& index, bool expanded);
     void takeOverName(const QModelIndex& index, const QVariant& value, int role);
@@ -91,6 +107,8 @@ private:
     QPointer<QTreeView> m_view;
     ScrollKeeper* m_scrollKeeper = nullptr;
     std::set<IDCombiner> m_collapsed;
+    QTimer m_soon;
+    bool m_queued = false;
     bool m_scheduled = false;
     bool m_structureChanged = false;
     bool m_busy = false;
