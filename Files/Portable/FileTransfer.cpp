@@ -10,11 +10,13 @@ namespace Zorvane {
 namespace {
 
 constexpr size_t s_kibibyte = 1024;
-constexpr size_t s_smallestSlice = 64 * s_kibibyte;
+constexpr size_t s_smallestSlice = 256 * s_kibibyte;
 constexpr size_t s_firstSlice = 1024 * s_kibibyte;
 constexpr size_t s_largestSlice = 8192 * s_kibibyte;
 constexpr size_t s_bufferSize = 256 * s_kibibyte;
 constexpr qint64 s_largeFile = 4096 * s_kibibyte;
+// So many slices the disk may have to do at a time; it sorts them better than we could.
+constexpr size_t s_mostOnTheirWay = 16;
 constexpr qint64 s_tooSlow = 40;
 constexpr qint64 s_veryFast = 10;
 
@@ -40,7 +42,7 @@ TransferResult FileTransfer::run(int from, int to, qint64 size)
 {
     const bool large = size >= s_largeFile;
     m_copiesRanges = large;
-    m_pushedBegin = m_pushedEnd = 0;
+    m_onTheirWay.clear();
     TransferResult result;
     for (qint64 done = 0; done < size;) {
         const qint64 start = large ? m_calls.milliseconds() : 0;
@@ -51,7 +53,7 @@ TransferResult FileTransfer::run(int from, int to, qint64 size)
         if (copied == 0)
             return {TransferResult::End::SourceTooShort, 0};
         if (large) {
-            if (const int error = pushToDisk(to, done, done + copied))
+            if (const int error = pushToDisk(to, done, copied))
                 return {TransferResult::End::TargetError, error};
             m_sliceSize = nextSliceSize(m_sliceSize, m_calls.milliseconds() - start);
         }
@@ -59,7 +61,7 @@ TransferResult FileTransfer::run(int from, int to, qint64 size)
         if (!m_advance(copied))
             return {TransferResult::End::Cancelled, 0};
     }
-    return result;
+    return waitForRest(to);
 }
 
 ssize_t FileTransfer::copySlice(int from, int to, size_t size, TransferResult& result)
@@ -97,17 +99,33 @@ ssize_t FileTransfer::copyThroughBuffer(int from, int to, size_t size, TransferR
     return length;
 }
 
-int FileTransfer::pushToDisk(int to, qint64 begin, qint64 end)
+int FileTransfer::pushToDisk(int to, qint64 begin, qint64 size)
 {
-    // One slice is on its way while the next is copied; then its turn to be waited for comes.
-    int error = errorOf([&] { return m_calls.startWriteback(to, begin, end - begin); });
-    if (error == 0 && m_pushedEnd > m_pushedBegin)
-        error = errorOf([&] {
-            return m_calls.finishWriteback(to, m_pushedBegin, m_pushedEnd - m_pushedBegin);
-        });
-    m_pushedBegin = begin;
-    m_pushedEnd = end;
+    const int error = errorOf([&] { return m_calls.startWriteback(to, begin, size); });
+    if (error != 0)
+        return isMissingFeature(error) ? 0 : error;
+    m_onTheirWay.push_back({begin, size});
+    return m_onTheirWay.size() > s_mostOnTheirWay ? waitForOldest(to) : 0;
+}
+
+int FileTransfer::waitForOldest(int to)
+{
+    const Range range = m_onTheirWay.front();
+    m_onTheirWay.pop_front();
+    const int error = errorOf([&] { return m_calls.finishWriteback(to, range.begin, range.size); });
     return isMissingFeature(error) ? 0 : error;
+}
+
+/** Piece by piece, so that one can still cancel; the flush after it has little left to do. */
+TransferResult FileTransfer::waitForRest(int to)
+{
+    while (!m_onTheirWay.empty()) {
+        if (const int error = waitForOldest(to))
+            return {TransferResult::End::TargetError, error};
+        if (!m_advance(0))
+            return {TransferResult::End::Cancelled, 0};
+    }
+    return {};
 }
 
 } // namespace Zorvane

@@ -5,6 +5,7 @@
 
 #include <QtCore/QtGlobal>
 
+#include <deque>
 #include <functional>
 #include <vector>
 
@@ -42,15 +43,22 @@ public:
 private:
     ssize_t copySlice(int from, int to, size_t size, TransferResult& result);
     ssize_t copyThroughBuffer(int from, int to, size_t size, TransferResult& result);
-    int pushToDisk(int to, qint64 begin, qint64 end);
+    int pushToDisk(int to, qint64 begin, qint64 size);
+    int waitForOldest(int to);
+    TransferResult waitForRest(int to);
+
+    struct Range
+    {
+        qint64 begin;
+        qint64 size;
+    };
 
     const SystemCalls& m_calls;
     std::function<bool(qint64)> m_advance;
     std::vector<char> m_buffer;
     size_t m_sliceSize;
     bool m_copiesRanges = false;
-    qint64 m_pushedBegin = 0;
-    qint64 m_pushedEnd = 0;
+    std::deque<Range> m_onTheirWay;
 };
 
 /** The size of the next slice after one that took so long. */
