@@ -249,6 +249,13 @@ Sollen sie nach %1 kopiert werden?</translation>
     </message>
 </context>
 <context>
+    <name>NumberRepresentation</name>
+    <message>
+        <source>No value</source>
+        <translation>Kein Wert</translation>
+    </message>
+</context>
+<context>
     <name>Zorvane::ZVMessageBox</name>
     <message>
         <source>Close</source>

@@ -1,0 +1,113 @@
+#include "Utilities/PostEventTask.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QString>
+
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <utility>
+
+using namespace Zorvane;
+
+namespace {
+
+bool s_isEnding = false;
+bool s_ranLate = false;
+
+class Task : public PostEventTask
+{
+public:
+    explicit Task(std::function<void()> work = {}, bool postNow = false)
+        : PostEventTask(Priority::SecondQueue, postNow)
+        , m_work(std::move(work))
+    {}
+    void run() override
+    {
+        s_ranLate = s_ranLate || s_isEnding;
+        if (m_work)
+            m_work();
+    }
+
+private:
+    std::function<void()> m_work;
+};
+
+// Lives longer than the queues, which come with the first post.
+class LastWord
+{
+public:
+    ~LastWord()
+    {
+        const bool isIdle = !m_task.isPosted() && !m_task.unpost() && !m_task.post();
+        std::puts(isIdle && !s_ranLate ? "nothing ran late" : "a task was still in a queue");
+    }
+    Task& task() { return m_task; }
+
+private:
+    Task m_task;
+};
+LastWord s_lastWord;
+
+int endByReturning(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    s_lastWord.task().post();
+    static const Task s_shortLived({}, true);
+    s_isEnding = true;
+    return 0;
+}
+
+int endByExit(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    s_lastWord.task().post();
+    s_isEnding = true;
+    std::exit(0);
+}
+
+/** The first task to run ends the process; the others have not had their turn then. */
+int endInRun(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const auto end = [] {
+        s_lastWord.task().post();
+        s_isEnding = true;
+        std::exit(0);
+    };
+    const Task one(end, true);
+    const Task other(end, true);
+    return QCoreApplication::exec();
+}
+
+/** Posted tasks outlive an application object, and the next one serves the queues again. */
+int endAfterAnotherApplication(int argc, char** argv)
+{
+    {
+        const QCoreApplication application(argc, argv);
+        s_lastWord.task().post();
+    }
+    const QCoreApplication application(argc, argv);
+    const Task quits([] { QCoreApplication::quit(); }, true);
+    const int status = QCoreApplication::exec();
+    s_isEnding = true;
+    s_lastWord.task().post();
+    return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QString way = argc > 1 ? QString::fromLatin1(argv[1]) : QString();
+    if (way == QLatin1String("return"))
+        return endByReturning(argc, argv);
+    if (way == QLatin1String("exit"))
+        return endByExit(argc, argv);
+    if (way == QLatin1String("exit-in-run"))
+        return endInRun(argc, argv);
+    if (way == QLatin1String("application-gone"))
+        return endAfterAnotherApplication(argc, argv);
+    std::fprintf(stderr, "Name the way to end: return, exit, exit-in-run, application-gone\n");
+    return 2;
+}
