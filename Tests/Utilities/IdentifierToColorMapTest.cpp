@@ -157,7 +157,7 @@ void IdentifierToColorMapTest::theEmptyTextHasNoColor()
 {
     IdentifierToColorMap map;
     QCOMPARE(map.getColorIndex({}), -1);
-    QCOMPARE(map.getColor({}), QColor(Qt::lightGray));
+    QCOMPARE(map.getColor(std::string()), QColor(Qt::lightGray));
     map.setColorIndex({}, 0);
     map.reassignColor({}, {});
     map.unassignColor({});
@@ -365,11 +365,11 @@ void IdentifierToColorMapTest::colorsStayWhereTheyAre()
 {
     IdentifierToColorMap map;
     const QColor* const first = &map.getColor("a");
-    const QColor* const none = &map.getColor({});
+    const QColor* const none = &map.getColor(std::string());
     fill(map, 1000);
     map.clear();
     QCOMPARE(&map.getColor("b"), first);
-    QCOMPARE(&IdentifierToColorMap().getColor({}), none);
+    QCOMPARE(&IdentifierToColorMap().getColor(std::string()), none);
 }
 
 void IdentifierToColorMapTest::followsThePlainRules()
