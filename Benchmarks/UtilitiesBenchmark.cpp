@@ -1,11 +1,17 @@
 #include "Benchmarks/Support/RatioRow.h"
+#include "Host/Configuration/ColorConfiguration.h"
 #include "Utilities/IdentifierToColorMap.h"
 #include "Utilities/PostEventTask.h"
+#include "Utilities/ReferenceIndicatorDelegate.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QMetaObject>
 #include <QtCore/QString>
 #include <QtCore/QUuid>
+#include <QtGui/QImage>
+#include <QtGui/QPainter>
+#include <QtGui/QStandardItemModel>
+#include <QtWidgets/QStyledItemDelegate>
 
 #include <algorithm>
 #include <array>
@@ -21,6 +27,8 @@ constexpr int s_manyIds = 100'000;
 constexpr int s_fewIds = 10;
 constexpr int s_tasks = 100'000;
 constexpr int s_postsPerTask = 10;
+constexpr int s_cells = 10'000;
+constexpr int s_partColors = 24;
 
 /** Identifiers as designs and parts have them: UUIDs, the same ones in every run. */
 std::vector<std::string> uuids(int count)
@@ -123,6 +131,43 @@ void invokeQueued(benchmark::State& state)
     }
 }
 
+/** A reference column of a large design: all counts, in the colours of a few dozen parts. */
+void fillReferences(QStandardItemModel& model)
+{
+    const auto colors = ColorConfiguration::getRegisteredInstance();
+    for (int id = 0; id < s_partColors; ++id)
+        colors->setColor(id, {float(id) / s_partColors, 0.5F, 0.75F});
+    for (int row = 0; row < s_cells; ++row) {
+        auto* const item = new QStandardItem;
+        item->setData(row % 5, ReferenceIndicatorDelegate::NumberOfReferencesRole);
+        for (int color = 0; color < 3; ++color)
+            item->setData((row + color) % s_partColors,
+                          ReferenceIndicatorDelegate::FirstColorRole + color);
+        model.appendRow(item);
+    }
+}
+
+/** Without texts, which both would draw alike: what is compared is the patch and nothing else. */
+template <typename Delegate>
+void paintCells(benchmark::State& state)
+{
+    QStandardItemModel model;
+    fillReferences(model);
+    const Delegate delegate(nullptr);
+    QImage screen(800, 600, QImage::Format_ARGB32_Premultiplied);
+    screen.fill(Qt::white);
+    QPainter painter(&screen);
+    QStyleOptionViewItem option;
+    option.state = QStyle::State_Enabled | QStyle::State_Active;
+
+    for (auto _ : state) {
+        for (int row = 0; row < s_cells; ++row) {
+            option.rect = QRect(0, row % 30 * 20, 40, 20);
+            delegate.paint(&painter, option, model.index(row, 0));
+        }
+    }
+}
+
 } // namespace
 
 } // namespace Zorvane::Benchmarks
@@ -135,5 +180,7 @@ int main(int argc, char** argv)
                lookUpShownIds<s_fewIds>);
     addTimeRow("colours/10-ids", benchmark::kNanosecond, lookUpShownIds<s_fewIds>, scanForShownIds);
     addTimeRow("tasks/post-and-run", benchmark::kMillisecond, postTasks, invokeQueued);
+    addTimeRow("delegate/paint-10000", benchmark::kMillisecond,
+               paintCells<ReferenceIndicatorDelegate>, paintCells<QStyledItemDelegate>);
     return runRows(argc, argv);
 }

@@ -256,6 +256,24 @@ Sollen sie nach %1 kopiert werden?</translation>
     </message>
 </context>
 <context>
+    <name>ReferenceIndicatorDelegate</name>
+    <message>
+        <source>No references</source>
+        <translation>Keine Verweise</translation>
+    </message>
+    <message>
+        <source>One reference</source>
+        <translation>Ein Verweis</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n references</source>
+        <translation>
+            <numerusform>%n Verweis</numerusform>
+            <numerusform>%n Verweise</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Zorvane::ZVMessageBox</name>
     <message>
         <source>Close</source>

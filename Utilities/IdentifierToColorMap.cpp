@@ -36,6 +36,10 @@ IdentifierToColorMap IdentifierToColorMap::s_identifierToColorMap;
 
 const QColor& IdentifierToColorMap::getColor(const std::string& id)
 {
+    // Views ask this for every row they paint: the way to a known identifier's colour is short.
+    const auto known = m_slots.find(id);
+    if (known != m_slots.end())
+        return palette()[known->second % FreeSlots::Colors];
     return getColor(getColorIndex(id));
 }
 

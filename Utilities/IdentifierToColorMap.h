@@ -2,6 +2,7 @@
 
 #include "UiToolsExport.h"
 #include "Utilities/FreeSlots.h"
+#include "Utilities/IdentifierHash.h"
 
 #include <QtGui/QColor>
 
@@ -59,9 +60,9 @@ private:
     /** Takes the identifier's lowest slot away from it, which leaves that slot not yet free. */
     std::size_t release(const std::string& id);
 
-    std::unordered_map<std::string, std::size_t> m_slots;
+    std::unordered_map<std::string, std::size_t, IdentifierHash> m_slots;
     /** What identifiers hold above their slot in `m_slots`; hardly any do. */
-    std::unordered_map<std::string, std::set<std::size_t>> m_higherSlots;
+    std::unordered_map<std::string, std::set<std::size_t>, IdentifierHash> m_higherSlots;
     FreeSlots m_freeSlots;
 };
 

@@ -30,9 +30,10 @@ bool takeExpected(const QString& message)
 
 void failOnWarning(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    // The offscreen screen says so of every window of a fixed size.
+    // The offscreen screen says so of windows of a fixed size and of tool tips.
     const bool isAboutScreen =
-        message == QLatin1String("This plugin does not support propagateSizeHints()");
+        message == QLatin1String("This plugin does not support propagateSizeHints()") ||
+        message == QLatin1String("This plugin does not support raise()");
     if (isAboutScreen)
         return;
     if (type == QtDebugMsg || type == QtInfoMsg || type == QtFatalMsg) {
