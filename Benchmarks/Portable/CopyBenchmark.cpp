@@ -53,8 +53,13 @@ public:
     void run()
     {
         for (int round = 0; round < m_rounds; ++round) {
+            // Some disks are fast until a budget is used up: neither side may always come first.
+            const bool weGoFirst = round % 2 == 0;
+            if (weGoFirst)
+                m_ours = std::min(m_ours, timeOf([&] { copyByUs(newFolder()); }));
             m_peer = std::min(m_peer, timeOf([&] { copyByCp(newFolder()); }));
-            m_ours = std::min(m_ours, timeOf([&] { copyByUs(newFolder()); }));
+            if (!weGoFirst)
+                m_ours = std::min(m_ours, timeOf([&] { copyByUs(newFolder()); }));
         }
     }
 
@@ -143,6 +148,6 @@ int main(int argc, char** argv)
     constexpr qint64 small = 4096;
     constexpr qint64 large = Q_INT64_C(1) << 30;
     Zorvane::Benchmarks::addContest("copy/one-gib", 1, large, 2);
-    Zorvane::Benchmarks::addContest("copy/10000-small", manyFiles, small, 5);
+    Zorvane::Benchmarks::addContest("copy/10000-small", manyFiles, small, 4);
     return Zorvane::Benchmarks::runRows(argc, argv);
 }
