@@ -72,7 +72,7 @@ void ZVItemDelegateTest::disabledColorsStayApart()
 
 void ZVItemDelegateTest::greyStaysGrey()
 {
-    for (const QColor& grey : {QColor(Qt::black), QColor(Qt::gray), QColor(Qt::white)})
+    for (const QColor& grey : {QColor(Qt::black), QColor(Qt::darkGray), QColor(Qt::white)})
         QVERIFY(qIsGray(OpenDelegate::disabledColor(grey).rgb()));
 }
 
