@@ -4,6 +4,7 @@
 #include "Host/Widgets/ZVTreeViewModel.h"
 #include "Host/Widgets/ZVTreeViewModelBatch.h"
 #include "TreeModel/RowFinder.h"
+#include "TreeModel/RowListSorting.h"
 
 #include <QtCore/QString>
 #include <QtCore/QVariant>
@@ -44,7 +45,7 @@ void ModelItemToZVTreeModelSyncronizer::syncronizeViewModel(ZVTreeViewModel* vie
                                                             std::shared_ptr<ModelRoot> root)
 {
     align(viewModel, *root);
-    sortItemList();
+    sortById(m_itemList);
     m_dataProvider->addDataTo(m_itemList);
     m_itemList.clear();
 }
@@ -55,7 +56,7 @@ void ModelItemToZVTreeModelSyncronizer::syncronizeAndUpdateViewModel(
     align(viewModel, *root);
     m_itemList.clear();
     gatherItemsRecursively(viewModel->rootItem());
-    sortItemList();
+    sortById(m_itemList);
     m_dataProvider->addDataTo(m_itemList);
     m_itemList.clear();
 }
@@ -64,7 +65,7 @@ void ModelItemToZVTreeModelSyncronizer::updateViewModelItems(ZVTreeViewModel* vi
 {
     m_itemList.reserve(countBelow(viewModel->rootItem()));
     gatherItemsRecursively(viewModel->rootItem());
-    sortItemList();
+    sortById(m_itemList);
     m_dataProvider->updateDataOf(m_itemList);
     m_itemList.clear();
 }
@@ -93,25 +94,26 @@ int ModelItemToZVTreeModelSyncronizer::placeRows(ZVTreeViewItem* parent, const I
 {
     const int wanted = static_cast<int>(items.size());
     int count = parent->childCount();
-    RowFinder finder(parent, m_idColumn, m_idRole);
+    RowFinder finder(parent, items, m_idColumn, m_idRole);
     int front = 0;
     for (; front < count && front < wanted; ++front) {
         const ModelItem& item = *items[static_cast<std::size_t>(front)];
-        const int found = finder.find(front, item.getId());
+        ZVTreeViewItem* row = parent->child(front);
+        if (finder.hasId(row, item.getId())) {
+            writeText(row, item);
+            synchronizeChildren(row, item);
+            finder.placed(front, front);
+            continue;
+        }
+        const int found = finder.find(front);
         if (found < 0) {
             parent->insertChild(front, createListedRow(item));
             ++count;
             continue;
         }
-        if (found == front) {
-            ZVTreeViewItem* row = parent->child(front);
-            writeText(row, item);
-            synchronizeChildren(row, item);
-        } else {
-            ZVTreeViewItem* row = parent->takeChild(found);
-            synchronizeChildren(row, item);
-            parent->insertChild(front, row);
-        }
+        row = parent->takeChild(found);
+        synchronizeChildren(row, item);
+        parent->insertChild(front, row);
         finder.placed(front, found);
     }
     return front;
@@ -171,13 +173,6 @@ void ModelItemToZVTreeModelSyncronizer::gatherItemsRecursively(ZVTreeViewItem* p
         if (RowFinder::readId(row, m_idColumn, m_idRole, id))
             m_itemList.emplace_back(id, row);
     }
-}
-
-void ModelItemToZVTreeModelSyncronizer::sortItemList()
-{
-    const auto byId = [](const auto& left, const auto& right) { return left.first < right.first; };
-    if (!std::is_sorted(m_itemList.begin(), m_itemList.end(), byId))
-        std::sort(m_itemList.begin(), m_itemList.end(), byId);
 }
 
 } // namespace Zorvane::GenericTreeViewModelHandling

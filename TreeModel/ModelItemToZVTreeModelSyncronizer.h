@@ -68,7 +68,6 @@ private:
     ZVTreeViewItem* createViewItemTree(const ModelItem& item);
     void writeText(ZVTreeViewItem* row, const ModelItem& item) const;
     void gatherItemsRecursively(ZVTreeViewItem* parent);
-    void sortItemList();
 
     const int m_idColumn = 0;
     const int m_idRole;

@@ -3,19 +3,26 @@
 #include "Host/Widgets/ZVTreeViewItem.h"
 
 #include <QtCore/QVariant>
-#include <QtCore/QtAlgorithms>
 
 #include <algorithm>
+#include <array>
 #include <typeinfo>
 
 namespace Zorvane::GenericTreeViewModelHandling {
 
 namespace {
 
-constexpr std::size_t BitsPerWord = 64;
-
 /** So many rows are walked over rather than indexed. */
 constexpr int ShortList = 24;
+
+/**
+ * So many items are looked up at once: their rows lie scattered in memory, and a short loop waits
+ * for many of them together where the whole refresh would wait for each.
+ */
+constexpr std::size_t LookAhead = 64;
+
+/** So many searches in a row without a run show that the rows really are scattered. */
+constexpr int ManyStrayed = 8;
 
 /** The typed id of a row whose class cannot answer `data()` otherwise. */
 const IDCombiner* typedId(const ZVTreeViewItem* row, int column, int role)
@@ -39,57 +46,21 @@ std::size_t bucketCount(std::size_t rows)
 
 } // namespace
 
-void RowFinder::WaitingRows::reset(std::size_t count)
+RowFinder::Index::Index(std::size_t count)
+    : slots(count)
+    , buckets(bucketCount(count), Bucket{0, None})
+    , waiting(count)
 {
-    m_count = count;
-    m_words.assign(count / BitsPerWord + 1, ~std::uint64_t(0));
-    m_words.back() = (std::uint64_t(1) << (count % BitsPerWord)) - 1;
-    // A Fenwick tree over the words: entry i counts the words (i - lowest bit of i, i].
-    m_tree.assign(m_words.size() + 1, 0);
-    for (std::size_t i = 1; i < m_tree.size(); ++i) {
-        m_tree[i] += std::uint32_t(qPopulationCount(quint64(m_words[i - 1])));
-        const std::size_t above = i + (i & (~i + 1));
-        if (above < m_tree.size())
-            m_tree[above] += m_tree[i];
-    }
 }
 
-bool RowFinder::WaitingRows::contains(std::size_t slot) const
-{
-    return (m_words[slot / BitsPerWord] >> (slot % BitsPerWord)) & 1U;
-}
-
-void RowFinder::WaitingRows::remove(std::size_t slot)
-{
-    m_words[slot / BitsPerWord] &= ~(std::uint64_t(1) << (slot % BitsPerWord));
-    for (std::size_t i = slot / BitsPerWord + 1; i < m_tree.size(); i += i & (~i + 1))
-        --m_tree[i];
-}
-
-std::size_t RowFinder::WaitingRows::countBefore(std::size_t slot) const
-{
-    const std::uint64_t below = (std::uint64_t(1) << (slot % BitsPerWord)) - 1;
-    std::size_t count = qPopulationCount(quint64(m_words[slot / BitsPerWord] & below));
-    for (std::size_t i = slot / BitsPerWord; i > 0; i &= i - 1)
-        count += m_tree[i];
-    return count;
-}
-
-std::size_t RowFinder::WaitingRows::next(std::size_t slot) const
-{
-    std::size_t word = slot / BitsPerWord;
-    std::uint64_t bits = m_words[word] & (~std::uint64_t(0) << (slot % BitsPerWord));
-    while (bits == 0 && ++word < m_words.size())
-        bits = m_words[word];
-    return bits == 0 ? m_count : word * BitsPerWord + qCountTrailingZeroBits(quint64(bits));
-}
-
-RowFinder::RowFinder(const ZVTreeViewItem* parent, int column, int role)
+RowFinder::RowFinder(const ZVTreeViewItem* parent, const Items& items, int column, int role)
     : m_parent(parent)
+    , m_items(items)
     , m_column(column)
     , m_role(role)
     , m_walkAllowance(ShortList + parent->childCount())
-{}
+{
+}
 
 bool RowFinder::readId(const ZVTreeViewItem* row, int column, int role, IDCombiner& id)
 {
@@ -106,119 +77,165 @@ bool RowFinder::readId(const ZVTreeViewItem* row, int column, int role, IDCombin
     return true;
 }
 
-const IDCombiner* RowFinder::idAt(int position, IDCombiner& buffer) const
+const IDCombiner& RowFinder::idOfItem(int item) const
 {
-    const ZVTreeViewItem* row = m_parent->child(position);
+    return m_items[static_cast<std::size_t>(item)]->getId();
+}
+
+const IDCombiner* RowFinder::idOf(const ZVTreeViewItem* row, IDCombiner& buffer) const
+{
     if (const IDCombiner* typed = typedId(row, m_column, m_role))
         return typed;
     return readId(row, m_column, m_role, buffer) ? &buffer : nullptr;
 }
 
-int RowFinder::find(int front, const IDCombiner& id)
+bool RowFinder::hasId(const ZVTreeViewItem* row, const IDCombiner& id) const
 {
-    if (!m_indexed) {
-        IDCombiner buffer;
-        const IDCombiner* first = idAt(front, buffer);
-        if (first && *first == id)
-            return front;
-        if (m_walkAllowance > 0)
-            return scan(front, id);
-        buildIndex(front);
-    }
-    m_firstWaiting = m_waiting.next(m_firstWaiting);
-    const int slot = slotOf(id);
-    if (slot == None)
-        return -1;
-    m_found = static_cast<std::size_t>(slot);
-    return positionOf(front, m_found);
+    if (const IDCombiner* typed = typedId(row, m_column, m_role))
+        return *typed == id;
+    IDCombiner stored;
+    return readId(row, m_column, m_role, stored) && stored == id;
 }
 
-int RowFinder::scan(int front, const IDCombiner& id)
+int RowFinder::find(int front)
 {
-    const int count = m_parent->childCount();
-    IDCombiner buffer;
-    for (int position = front + 1; position < count; ++position) {
-        const IDCombiner* candidate = idAt(position, buffer);
-        if (!candidate || *candidate != id)
-            continue;
-        m_walkAllowance -= position - front;
-        return position;
+    if (!m_index) {
+        if (m_walkAllowance > 0)
+            return scan(front);
+        buildIndex(front);
     }
-    m_walkAllowance -= count - front;
-    return -1;
+    const int slot = slotOf(front);
+    if (slot == None)
+        return -1;
+    m_index->found = static_cast<std::size_t>(slot);
+    return front + static_cast<int>(m_index->waiting.countBefore(m_index->found));
+}
+
+int RowFinder::scan(int front)
+{
+    const IDCombiner& id = idOfItem(front);
+    const int count = m_parent->childCount();
+    int position = front;
+    while (position < count && !hasId(m_parent->child(position), id))
+        ++position;
+    m_walkAllowance -= position - front;
+    return position < count ? position : -1;
 }
 
 void RowFinder::placed(int front, int position)
 {
-    if (!m_indexed)
-        return;
-    m_lastFound = position == front ? m_firstWaiting : m_found;
-    m_waiting.remove(m_lastFound);
-}
-
-int RowFinder::positionOf(int front, std::size_t slot)
-{
-    if (slot == m_firstWaiting)
-        return front;
-    return front + static_cast<int>(m_waiting.countBefore(slot));
+    if (m_index)
+        m_index->waiting.remove(position == front ? m_index->waiting.first() : m_index->found);
 }
 
 void RowFinder::buildIndex(int front)
 {
     const int count = m_parent->childCount();
-    m_slots.resize(static_cast<std::size_t>(count - front));
-    for (std::size_t slot = 0; slot < m_slots.size(); ++slot) {
+    m_index = std::make_unique<Index>(static_cast<std::size_t>(count - front));
+    std::vector<Slot>& slots = m_index->slots;
+    for (std::size_t slot = 0; slot < slots.size(); ++slot) {
         IDCombiner buffer;
-        const IDCombiner* id = idAt(front + static_cast<int>(slot), buffer);
+        const IDCombiner* id = idOf(m_parent->child(front + static_cast<int>(slot)), buffer);
         // An id that was read into the buffer has to outlive it.
-        m_slots[slot] = {id == &buffer ? &m_readIds.emplace_front(buffer) : id, None};
+        slots[slot] = {id == &buffer ? &m_index->readIds.emplace_front(buffer) : id, None};
     }
-    m_buckets.assign(bucketCount(m_slots.size()), {0, None});
-    for (std::size_t slot = m_slots.size(); slot-- > 0;) {
-        if (!m_slots[slot].id)
+    for (std::size_t slot = slots.size(); slot-- > 0;) {
+        if (!slots[slot].id)
             continue;
-        Bucket& bucket = bucketOf(*m_slots[slot].id);
-        m_slots[slot].nextSameId = bucket.slot;
-        m_hasDuplicates = m_hasDuplicates || bucket.slot != None;
-        bucket = {tagOf(*m_slots[slot].id), static_cast<std::int32_t>(slot)};
+        const std::uint32_t tag = tagOf(*slots[slot].id);
+        Bucket& bucket = bucketOf(*slots[slot].id, tag);
+        slots[slot].nextSameId = bucket.slot;
+        m_index->hasDuplicates = m_index->hasDuplicates || bucket.slot != None;
+        bucket = {tag, static_cast<std::int32_t>(slot)};
     }
-    m_waiting.reset(m_slots.size());
-    m_indexed = true;
 }
 
-RowFinder::Bucket& RowFinder::bucketOf(const IDCombiner& id)
+RowFinder::Bucket& RowFinder::bucketOf(const IDCombiner& id, std::uint32_t tag)
 {
-    const std::uint32_t tag = tagOf(id);
-    const std::size_t mask = m_buckets.size() - 1;
-    std::size_t place = tag & mask;
-    while (m_buckets[place].slot != None &&
-           (m_buckets[place].tag != tag ||
-            *m_slots[static_cast<std::size_t>(m_buckets[place].slot)].id != id))
-        place = (place + 1) & mask;
-    return m_buckets[place];
-}
-
-int RowFinder::slotOf(const IDCombiner& id)
-{
-    const auto isAt = [&](std::size_t slot) {
-        return slot < m_slots.size() && m_slots[slot].id && *m_slots[slot].id == id;
+    std::vector<Bucket>& buckets = m_index->buckets;
+    const std::size_t mask = buckets.size() - 1;
+    const auto isOther = [&](const Bucket& bucket) {
+        return bucket.slot != None
+               && (bucket.tag != tag
+                   || *slotAt(bucket.slot).id != id);
     };
-    if (isAt(m_firstWaiting))
-        return static_cast<int>(m_firstWaiting);
-    if (!m_hasDuplicates) {
-        // Rows mostly move in runs: the one behind the last one found is the likely one.
-        const std::size_t next = m_waiting.next(m_lastFound);
-        if (isAt(next))
-            return static_cast<int>(next);
-    }
-    Bucket& bucket = bucketOf(id);
+    std::size_t place = tag & mask;
+    while (isOther(buckets[place]))
+        place = (place + 1) & mask;
+    return buckets[place];
+}
+
+int RowFinder::firstWaitingWith(const IDCombiner& id)
+{
+    Bucket& bucket = bucketOf(id, tagOf(id));
     std::int32_t slot = bucket.slot;
-    while (slot != None && !m_waiting.contains(static_cast<std::size_t>(slot)))
-        slot = m_slots[static_cast<std::size_t>(slot)].nextSameId;
+    while (slot != None && !m_index->waiting.contains(static_cast<std::size_t>(slot)))
+        slot = slotAt(slot).nextSameId;
     // Rows that were placed meanwhile are passed once; the last one stays, to keep its bucket.
     if (slot != None)
         bucket.slot = slot;
     return slot;
+}
+
+/**
+ * The slots of the next items, for rows whose ids differ. Three short loops, so that the waiting
+ * for memory is for many items at once: buckets, then slots, then the rows' ids.
+ */
+void RowFinder::lookAhead(int item)
+{
+    const int end = std::min(item + static_cast<int>(LookAhead), static_cast<int>(m_items.size()));
+    const auto count = static_cast<std::size_t>(end - item);
+    std::array<std::uint32_t, LookAhead> tags;
+    std::array<const IDCombiner*, LookAhead> stored;
+    std::vector<std::int32_t>& ahead = m_index->ahead;
+    ahead.resize(count);
+    m_index->aheadFrom = item;
+    const std::size_t mask = m_index->buckets.size() - 1;
+    for (std::size_t i = 0; i < count; ++i)
+        tags[i] = tagOf(idOfItem(item + static_cast<int>(i)));
+    for (std::size_t i = 0; i < count; ++i)
+        ahead[i] = m_index->buckets[tags[i] & mask].slot;
+    for (std::size_t i = 0; i < count; ++i)
+        stored[i] = ahead[i] == None ? nullptr : slotAt(ahead[i]).id;
+    for (std::size_t i = 0; i < count; ++i) {
+        const IDCombiner& id = idOfItem(item + static_cast<int>(i));
+        if (stored[i] && *stored[i] != id)
+            ahead[i] = bucketOf(id, tags[i]).slot;
+    }
+}
+
+/** The row of an item, by way of looking up those behind it as well. */
+int RowFinder::lookedAhead(int item)
+{
+    const auto place = [this](int other) {
+        return static_cast<std::size_t>(other - m_index->aheadFrom);
+    };
+    if (place(item) >= m_index->ahead.size())
+        lookAhead(item);
+    const std::int32_t slot = m_index->ahead[place(item)];
+    const bool waits = slot != None && m_index->waiting.contains(static_cast<std::size_t>(slot));
+    return waits ? slot : None;
+}
+
+bool RowFinder::waitsAt(std::size_t slot, const IDCombiner& id) const
+{
+    return slot < m_index->slots.size() && m_index->waiting.contains(slot)
+           && m_index->slots[slot].id && *m_index->slots[slot].id == id;
+}
+
+int RowFinder::slotOf(int item)
+{
+    const IDCombiner& id = idOfItem(item);
+    if (m_index->hasDuplicates)
+        return firstWaitingWith(id);
+    // Rows mostly move in runs: a neighbour of the one found last is the likely one.
+    for (const std::size_t slot : {m_index->found + 1, m_index->found - 1}) {
+        if (waitsAt(slot, id)) {
+            m_index->strayed = 0;
+            return static_cast<int>(slot);
+        }
+    }
+    return ++m_index->strayed > ManyStrayed ? lookedAhead(item) : firstWaitingWith(id);
 }
 
 } // namespace Zorvane::GenericTreeViewModelHandling

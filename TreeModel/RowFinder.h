@@ -1,9 +1,12 @@
 #pragma once
 
+#include "Host/Containers/WaitingSlots.h"
 #include "Host/Identifiers/IDCombiner.h"
+#include "TreeModel/ModelItem.h"
 
 #include <cstdint>
 #include <forward_list>
+#include <memory>
 #include <vector>
 
 namespace Zorvane {
@@ -13,46 +16,33 @@ class ZVTreeViewItem;
 namespace Zorvane::GenericTreeViewModelHandling {
 
 /**
- * Finds the rows of one parent by id while the parent's list is put in order from the front.
+ * Finds the rows of one parent that show given items, while the parent's list is put in order from
+ * the front: item by item, each row found is moved to the item's position, or a new one inserted.
  *
- * The rule is plain: of the rows that have not been placed yet, the first with an equal id. Rows
- * in place are found by one comparison. A few searches walk the list; when more are needed, an
- * index of all rows that are left is built, so that no list costs the square of its length.
- *
- * The caller tells each step with `placed`: the row found stands at the front of the rest now. New
- * rows that come to stand there need no telling.
+ * The rule is plain: of the rows that have not been placed yet, the first with an equal id. A few
+ * searches walk the list; when more are needed, an index of all rows that are left is built, so
+ * that no list costs the square of its length. Rows in place are best recognised by `hasId`
+ * before anything is searched for.
  */
 class RowFinder
 {
 public:
-    RowFinder(const ZVTreeViewItem* parent, int column, int role);
+    using Items = std::vector<std::shared_ptr<ModelItem>>;
 
-    /** The position of the first row at `front` or behind that has the id, else -1. */
-    int find(int front, const IDCombiner& id);
-    /** The row found at `position` stands at the front of the rest now, and is settled. */
+    /** The items have to outlive the finder. */
+    RowFinder(const ZVTreeViewItem* parent, const Items& items, int column, int role);
+
+    /** Whether the row carries this id. */
+    bool hasId(const ZVTreeViewItem* row, const IDCombiner& id) const;
+    /** The position of the first row at `front` or behind with the id of item `front`, else -1. */
+    int find(int front);
+    /** The row found stands at `front` now; it may have been there, at `position` == `front`. */
     void placed(int front, int position);
 
     /** A row's id: false when none is stored. One that cannot be read counts as the default id. */
     static bool readId(const ZVTreeViewItem* row, int column, int role, IDCombiner& id);
 
 private:
-    /** How many rows before a given one are still waiting, as rows leave from anywhere. */
-    class WaitingRows
-    {
-    public:
-        void reset(std::size_t count);
-        bool contains(std::size_t slot) const;
-        void remove(std::size_t slot);
-        std::size_t countBefore(std::size_t slot) const;
-        /** The first waiting row at `slot` or behind; the end when there is none. */
-        std::size_t next(std::size_t slot) const;
-
-    private:
-        std::size_t m_count = 0;
-        std::vector<std::uint64_t> m_words;
-        std::vector<std::uint32_t> m_tree;
-    };
-
     struct Slot
     {
         const IDCombiner* id;
@@ -63,30 +53,48 @@ private:
         std::uint32_t tag;
         std::int32_t slot;
     };
+    /** The rows that were left when it was built, by id. */
+    struct Index
+    {
+        explicit Index(std::size_t count);
 
-    const IDCombiner* idAt(int position, IDCombiner& buffer) const;
-    int scan(int front, const IDCombiner& id);
+        std::vector<Slot> slots;
+        std::vector<Bucket> buckets;
+        std::forward_list<IDCombiner> readIds;
+        WaitingSlots waiting;
+        bool hasDuplicates = false;
+        /** The first row of each of the next items, looked up some ahead. */
+        std::vector<std::int32_t> ahead;
+        int aheadFrom = 0;
+        std::size_t found = 0;
+        /** How many searches in a row led far away from the one before. */
+        int strayed = 0;
+    };
+
+    const IDCombiner& idOfItem(int item) const;
+    const IDCombiner* idOf(const ZVTreeViewItem* row, IDCombiner& buffer) const;
+    const Slot& slotAt(std::int32_t slot) const
+    {
+        return m_index->slots[static_cast<std::size_t>(slot)];
+    }
+    int scan(int front);
     void buildIndex(int front);
-    Bucket& bucketOf(const IDCombiner& id);
-    int slotOf(const IDCombiner& id);
-    int positionOf(int front, std::size_t slot);
+    Bucket& bucketOf(const IDCombiner& id, std::uint32_t tag);
+    bool waitsAt(std::size_t slot, const IDCombiner& id) const;
+    int firstWaitingWith(const IDCombiner& id);
+    void lookAhead(int item);
+    int lookedAhead(int item);
+    int slotOf(int item);
 
     static constexpr std::int32_t None = -1;
 
     const ZVTreeViewItem* const m_parent;
+    const Items& m_items;
     const int m_column;
     const int m_role;
     /** How many more rows may be walked over before the index pays. */
-    int m_walkAllowance = 0;
-    bool m_indexed = false;
-    bool m_hasDuplicates = false;
-    std::vector<Slot> m_slots;
-    std::vector<Bucket> m_buckets;
-    std::forward_list<IDCombiner> m_readIds;
-    WaitingRows m_waiting;
-    std::size_t m_firstWaiting = 0;
-    std::size_t m_lastFound = 0;
-    std::size_t m_found = 0;
+    int m_walkAllowance;
+    std::unique_ptr<Index> m_index;
 };
 
 } // namespace Zorvane::GenericTreeViewModelHandling

@@ -52,20 +52,26 @@ bool isSameValue(const QVariant& left, const QVariant& right)
     return left == right;
 }
 
-/** Compares without converting as long as the text is ASCII. */
+/** Converts only a text beyond ASCII that may be equal. */
 bool equalsUtf8(const QString& text, const std::string& utf8)
 {
-    const auto length = static_cast<std::size_t>(text.size());
-    const bool mayBeAscii = length == utf8.size();
+    const std::size_t length = utf8.size();
+    const auto characterCount = static_cast<std::size_t>(text.size());
+    if (characterCount > length)
+        return false;
     const QChar* characters = text.constData();
-    for (std::size_t i = 0; mayBeAscii && i < length; ++i) {
-        const auto byte = static_cast<unsigned char>(utf8[i]);
-        if (byte >= 0x80U)
-            return text == QString::fromStdString(utf8);
-        if (characters[i].unicode() != byte)
-            return false;
+    const auto* bytes = reinterpret_cast<const unsigned char*>(utf8.data());
+    // Without a way out of the loop, so that the compiler takes many characters at once.
+    unsigned differing = length - characterCount != 0 ? 1U : 0U;
+    unsigned bits = 0;
+    for (std::size_t i = 0; i < characterCount; ++i) {
+        differing |= static_cast<unsigned>(characters[i].unicode() ^ bytes[i]);
+        bits |= bytes[i];
     }
-    return mayBeAscii || (length < utf8.size() && text == QString::fromStdString(utf8));
+    if (differing == 0 && bits < 0x80U)
+        return true;
+    const bool ascii = std::all_of(bytes, bytes + length, [](auto byte) { return byte < 0x80U; });
+    return !ascii && text == QString::fromStdString(utf8);
 }
 
 } // namespace
@@ -276,22 +282,39 @@ int ZVTreeViewItem::childCount() const
 
 ZVTreeViewItem* ZVTreeViewItem::child(int index) const
 {
-    return index >= 0 && index < childCount() ? m_children->at(index) : nullptr;
+    return m_children ? m_children->find(index) : nullptr;
 }
 
 bool ZVTreeViewItem::canAdopt(const ZVTreeViewItem* child) const
 {
-    if (!child || child->parent() || child->hasState(IsRoot))
+    if (!child || child == this || child->parent() || child->hasState(IsRoot))
         return false;
-    const ZVTreeViewItem* above = this;
+    const ZVTreeViewItem* above = child->m_children ? parent() : nullptr;
     while (above && above != child)
         above = above->parent();
     return above == nullptr;
 }
 
+bool ZVTreeViewItem::canAdoptAll(const QVector<ZVTreeViewItem*>& added) const
+{
+    int fit = 0;
+    for (; fit < added.size(); ++fit) {
+        ZVTreeViewItem* child = added.at(fit);
+        if (!canAdopt(child) || child->hasState(Counted))
+            break;
+        child->addState(Counted);
+    }
+    std::for_each(added.begin(), added.begin() + fit,
+                  [](ZVTreeViewItem* child) { child->dropState(Counted); });
+    return fit == added.size();
+}
+
 void ZVTreeViewItem::adopt(ZVTreeViewItem* child, bool asShownRow)
 {
-    if (child->hasState(Taken))
+    const bool backInPlace = child->m_parent == this && asShownRow;
+    if (backInPlace && !child->hasState(Fresh | Relocated))
+        child->dropState(Taken);
+    else if (child->hasState(Taken))
         ZVTreeViewModelPrivate::owning(child)->putBack(child, this, asShownRow);
     else if (asShownRow)
         child->addState(Fresh);
@@ -300,17 +323,19 @@ void ZVTreeViewItem::adopt(ZVTreeViewItem* child, bool asShownRow)
 
 void ZVTreeViewItem::orphan(ZVTreeViewItem* child, bool wasShownRow)
 {
-    ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::owning(this);
     if (wasShownRow && !child->hasState(Fresh | Relocated)) {
         child->addState(Taken);
-    } else if (model &&
-               (child->hasState(Relocated) || model->hasRelocated() || model->isPublishing())) {
-        model->hold(child);
-    } else {
-        child->dropState(Fresh);
-        child->m_parent = nullptr;
-        child->m_row = -1;
+        return;
     }
+    ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::owning(this);
+    if (model &&
+        (child->hasState(Relocated) || model->hasRelocated() || model->isPublishing())) {
+        model->hold(child);
+        return;
+    }
+    child->dropState(Fresh);
+    child->m_parent = nullptr;
+    child->m_row = -1;
 }
 
 bool ZVTreeViewItem::insertChild(int index, ZVTreeViewItem* child)
@@ -318,40 +343,30 @@ bool ZVTreeViewItem::insertChild(int index, ZVTreeViewItem* child)
     if (index < 0 || index > childCount() || !canAdopt(child))
         return false;
     ZVTreeViewModelPrivate::prepareMove(child, this);
-    ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::showing(this);
-    const bool announce = model && !model->isGathering();
-    if (announce)
+    ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::announcing(this);
+    if (model)
         model->beginInsert(this, index, 1);
-    else if (model)
-        model->stage(this);
     children().insert(index, child);
-    adopt(child, model && !announce);
-    if (announce)
+    adopt(child, m_children->isStaged());
+    if (model)
         model->endInsert();
     return true;
 }
 
 bool ZVTreeViewItem::appendChildren(const QVector<ZVTreeViewItem*>& added)
 {
-    QVector<ZVTreeViewItem*> distinct = added;
-    std::sort(distinct.begin(), distinct.end());
-    const bool fit = std::adjacent_find(distinct.begin(), distinct.end()) == distinct.end() &&
-                     std::all_of(added.begin(), added.end(),
-                                 [this](const auto* child) { return canAdopt(child); });
+    const bool fit = canAdoptAll(added);
     if (!fit || added.isEmpty())
         return fit;
     for (ZVTreeViewItem* child : added)
         ZVTreeViewModelPrivate::prepareMove(child, this);
-    ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::showing(this);
-    const bool announce = model && !model->isGathering();
-    if (announce)
+    ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::announcing(this);
+    if (model)
         model->beginInsert(this, childCount(), added.size());
-    else if (model)
-        model->stage(this);
     children().append(added);
     for (ZVTreeViewItem* child : added)
-        adopt(child, model && !announce);
-    if (announce)
+        adopt(child, m_children->isStaged());
+    if (model)
         model->endInsert();
     return true;
 }
@@ -360,15 +375,12 @@ ZVTreeViewItem* ZVTreeViewItem::takeChild(int index)
 {
     if (index < 0 || index >= childCount())
         return nullptr;
-    ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::showing(this);
-    const bool announce = model && !model->isGathering();
-    if (announce)
+    ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::announcing(this);
+    if (model)
         model->beginRemove(this, index);
-    else if (model)
-        model->stage(this);
     ZVTreeViewItem* child = m_children->take(index);
-    orphan(child, model && !announce);
-    if (announce)
+    orphan(child, m_children->isStaged());
+    if (model)
         model->endRemove();
     return child;
 }

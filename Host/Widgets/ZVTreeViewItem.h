@@ -108,7 +108,8 @@ private:
         Fresh = 2,     // inserted, with its subtree, and not announced yet
         Taken = 4,     // taken out, but views still see it under `m_parent`
         Relocated = 8, // now under `m_parent`, but views still see it elsewhere
-        Leaving = 16   // about to be announced gone
+        Leaving = 16,  // about to be announced gone
+        Counted = 32   // met already in a list of rows to be added
     };
     static constexpr int NoRole = -1;
 
@@ -123,21 +124,23 @@ private:
     const QVariant* findExtra(int column, int role) const;
     void announceChange(int column, const QVector<int>& roles);
     bool canAdopt(const ZVTreeViewItem* child) const;
+    bool canAdoptAll(const QVector<ZVTreeViewItem*>& added) const;
     void adopt(ZVTreeViewItem* child, bool asShownRow);
     void orphan(ZVTreeViewItem* child, bool wasShownRow);
     void deleteSubtree();
 
+    // In the order of use: what a refresh looks at lies together.
     IDCombiner m_id;
     /** The parent; of a `Taken` row the one it had. */
     ZVTreeViewItem* m_parent = nullptr;
     std::unique_ptr<ZVTreeViewItemChildren> m_children;
-    std::unique_ptr<std::vector<ExtraValue>> m_extra;
-    QString m_text;
     /** The number in the parent's shown list; a claim that the list checks. */
     int m_row = -1;
     int m_idRole = NoRole;
-    quint16 m_flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     quint16 m_state = 0;
+    quint16 m_flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
+    QString m_text;
+    std::unique_ptr<std::vector<ExtraValue>> m_extra;
 };
 
 } // namespace Zorvane

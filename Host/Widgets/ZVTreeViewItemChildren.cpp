@@ -6,25 +6,6 @@ namespace Zorvane {
 
 namespace {
 
-constexpr std::size_t BitsPerWord = 64;
-
-int bitCount(std::uint64_t word)
-{
-    return static_cast<int>(qPopulationCount(quint64(word)));
-}
-
-std::size_t lowestBit(std::uint64_t word)
-{
-    return qCountTrailingZeroBits(quint64(word));
-}
-
-std::size_t nthBit(std::uint64_t word, std::size_t n)
-{
-    while (n-- > 0)
-        word &= word - 1;
-    return lowestBit(word);
-}
-
 std::size_t position(int index)
 {
     return static_cast<std::size_t>(index);
@@ -38,54 +19,6 @@ ZVTreeViewItemChildren::Rows::const_iterator iteratorAt(const ZVTreeViewItemChil
 
 } // namespace
 
-ZVTreeViewItemChildren::Waiting::Waiting(std::size_t count)
-    : m_words((count + BitsPerWord - 1) / BitsPerWord, ~std::uint64_t(0))
-    , m_blockCounts((m_words.size() + WordsPerBlock - 1) / WordsPerBlock,
-                    std::uint32_t(WordsPerBlock * BitsPerWord))
-    , m_count(count)
-{
-    if (count % BitsPerWord != 0)
-        m_words.back() >>= BitsPerWord - count % BitsPerWord;
-    if (count % (WordsPerBlock * BitsPerWord) != 0)
-        m_blockCounts.back() = std::uint32_t(count % (WordsPerBlock * BitsPerWord));
-}
-
-bool ZVTreeViewItemChildren::Waiting::contains(std::size_t slot) const
-{
-    return (m_words[slot / BitsPerWord] >> (slot % BitsPerWord)) & 1U;
-}
-
-void ZVTreeViewItemChildren::Waiting::remove(std::size_t slot)
-{
-    const std::size_t block = slot / BitsPerWord / WordsPerBlock;
-    m_words[slot / BitsPerWord] &= ~(std::uint64_t(1) << (slot % BitsPerWord));
-    --m_blockCounts[block];
-    --m_count;
-    if (block < m_cursorBlock)
-        --m_waitingBeforeCursor;
-}
-
-std::size_t ZVTreeViewItemChildren::Waiting::first()
-{
-    while (m_words[m_firstWord] == 0)
-        ++m_firstWord;
-    return m_firstWord * BitsPerWord + lowestBit(m_words[m_firstWord]);
-}
-
-std::size_t ZVTreeViewItemChildren::Waiting::nth(std::size_t n) const
-{
-    // From the block asked for last: callers mostly ask for neighbours, or for the far end.
-    while (n < m_waitingBeforeCursor)
-        m_waitingBeforeCursor -= m_blockCounts[--m_cursorBlock];
-    while (n >= m_waitingBeforeCursor + m_blockCounts[m_cursorBlock])
-        m_waitingBeforeCursor += m_blockCounts[m_cursorBlock++];
-    std::size_t left = n - m_waitingBeforeCursor;
-    std::size_t word = m_cursorBlock * WordsPerBlock;
-    while (left >= position(bitCount(m_words[word])))
-        left -= position(bitCount(m_words[word++]));
-    return word * BitsPerWord + nthBit(m_words[word], left);
-}
-
 int ZVTreeViewItemChildren::count() const
 {
     const std::size_t size =
@@ -93,14 +26,15 @@ int ZVTreeViewItemChildren::count() const
     return static_cast<int>(size);
 }
 
-ZVTreeViewItem* ZVTreeViewItemChildren::at(int index) const
+ZVTreeViewItem* ZVTreeViewItemChildren::findStaged(std::size_t place) const
 {
-    if (!m_stage)
-        return m_rows[position(index)];
-    const std::size_t placed = m_stage->placed.size();
-    if (position(index) < placed)
-        return m_stage->placed[position(index)];
-    return m_stage->shown[m_stage->waiting.nth(position(index) - placed)];
+    const Rows& placed = m_stage->placed;
+    if (place < placed.size())
+        return placed[place];
+    const std::size_t waiting = place - placed.size();
+    if (waiting >= m_stage->waiting.count())
+        return nullptr;
+    return m_stage->shown[m_stage->waiting.nth(waiting)];
 }
 
 int ZVTreeViewItemChildren::rowIn(const Rows& rows, const ZVTreeViewItem* child,
@@ -149,7 +83,7 @@ void ZVTreeViewItemChildren::insert(int index, ZVTreeViewItem* child)
         return;
     }
     Rows& placed = m_stage->placed;
-    m_stage->dirty = true;
+    m_stage->edit();
     if (position(index) > placed.size())
         placeWaiting(position(index) - placed.size());
     placed.insert(iteratorAt(placed, position(index)), child);
@@ -158,7 +92,7 @@ void ZVTreeViewItemChildren::insert(int index, ZVTreeViewItem* child)
 void ZVTreeViewItemChildren::append(const QVector<ZVTreeViewItem*>& children)
 {
     if (m_stage) {
-        m_stage->dirty = true;
+        m_stage->edit();
         placeWaiting(m_stage->waiting.count());
         m_stage->placed.insert(m_stage->placed.end(), children.begin(), children.end());
         return;
@@ -176,7 +110,7 @@ ZVTreeViewItem* ZVTreeViewItemChildren::take(int index)
 {
     Rows& rows = m_stage ? m_stage->placed : m_rows;
     if (m_stage) {
-        m_stage->dirty = true;
+        m_stage->edit();
         if (position(index) >= rows.size()) {
             const std::size_t slot = m_stage->waiting.nth(position(index) - rows.size());
             m_stage->waiting.remove(slot);
@@ -192,7 +126,7 @@ ZVTreeViewItem* ZVTreeViewItemChildren::take(int index)
 
 void ZVTreeViewItemChildren::placeWaiting(std::size_t count)
 {
-    Waiting& waiting = m_stage->waiting;
+    WaitingSlots& waiting = m_stage->waiting;
     for (; count > 0; --count) {
         const std::size_t slot = waiting.first();
         waiting.remove(slot);
@@ -200,11 +134,11 @@ void ZVTreeViewItemChildren::placeWaiting(std::size_t count)
     }
 }
 
-void ZVTreeViewItemChildren::stage()
+void ZVTreeViewItemChildren::stage(unsigned& edits)
 {
     for (; m_numbered < m_rows.size(); ++m_numbered)
         m_rows[m_numbered]->m_row = static_cast<int>(m_numbered);
-    m_stage = std::make_unique<Stage>(std::move(m_rows));
+    m_stage = std::make_unique<Stage>(std::move(m_rows), edits);
     m_rows.clear();
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "Host/Containers/WaitingSlots.h"
 #include "Host/Widgets/ZVTreeViewItem.h"
 
 #include <QtCore/QVector>
 
-#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -25,7 +25,15 @@ public:
     using Rows = std::vector<ZVTreeViewItem*>;
 
     int count() const;
-    ZVTreeViewItem* at(int index) const;
+    /** Null when the index is out of range. */
+    ZVTreeViewItem* find(int index) const
+    {
+        // A negative index is a very large one here.
+        const auto place = static_cast<std::size_t>(index);
+        if (!m_stage)
+            return place < m_rows.size() ? m_rows[place] : nullptr;
+        return findStaged(place);
+    }
     int rowOf(const ZVTreeViewItem* child) const;
     void insert(int index, ZVTreeViewItem* child);
     void append(const QVector<ZVTreeViewItem*>& children);
@@ -36,8 +44,11 @@ public:
     int shownRowOf(const ZVTreeViewItem* child) const;
 
     bool isStaged() const { return m_stage != nullptr; }
-    /** Freezes what is shown; the rows' numbers stay those of the shown list. */
-    void stage();
+    /**
+     * Freezes what is shown; the rows' numbers stay those of the shown list. Every change until
+     * `unstage()` is counted in `edits`.
+     */
+    void stage(unsigned& edits);
     /** The rows as they are now, in one list; further changes start from it. */
     const Rows& arranged();
     /** What views see changes; the caller announces it. */
@@ -55,28 +66,6 @@ public:
     int changeGroup = -1;
 
 private:
-    /** The shown rows that still wait in place, one bit each, counted block by block. */
-    class Waiting
-    {
-    public:
-        explicit Waiting(std::size_t count);
-        std::size_t count() const { return m_count; }
-        bool contains(std::size_t slot) const;
-        void remove(std::size_t slot);
-        std::size_t first();
-        std::size_t nth(std::size_t n) const;
-
-    private:
-        static constexpr std::size_t WordsPerBlock = 32;
-
-        std::vector<std::uint64_t> m_words;
-        std::vector<std::uint32_t> m_blockCounts;
-        std::size_t m_count;
-        std::size_t m_firstWord = 0;
-        mutable std::size_t m_cursorBlock = 0;
-        mutable std::size_t m_waitingBeforeCursor = 0;
-    };
-
     struct Stage
     {
         explicit Stage(Rows&& rows)
@@ -86,11 +75,14 @@ private:
 
         Rows shown;
         Rows placed;
-        Waiting waiting;
+        /** Those of the shown rows that still are where they were. */
+        WaitingSlots waiting;
         bool dirty = true;
+        unsigned& edits;
     };
 
     const Rows& shown() const { return m_stage ? m_stage->shown : m_rows; }
+    ZVTreeViewItem* findStaged(std::size_t place) const;
     void placeWaiting(std::size_t count);
     static int rowIn(const Rows& rows, const ZVTreeViewItem* child, std::size_t& numbered);
 

@@ -50,6 +50,17 @@ ZVTreeViewModelPrivate* ZVTreeViewModelPrivate::showing(const ZVTreeViewItem* ro
     return nullptr;
 }
 
+ZVTreeViewModelPrivate* ZVTreeViewModelPrivate::announcing(ZVTreeViewItem* row)
+{
+    if (row->m_children && row->m_children->isStaged())
+        return nullptr;
+    ZVTreeViewModelPrivate* model = showing(row);
+    if (!model || !model->isGathering())
+        return model;
+    model->stage(row);
+    return nullptr;
+}
+
 bool ZVTreeViewModelPrivate::isAttached(const ZVTreeViewItem* row)
 {
     while (row && !row->hasState(ZVTreeViewItem::IsRoot))
@@ -59,7 +70,7 @@ bool ZVTreeViewModelPrivate::isAttached(const ZVTreeViewItem* row)
 
 void ZVTreeViewModelPrivate::prepareMove(const ZVTreeViewItem* row, ZVTreeViewItem* newParent)
 {
-    if (!row->hasState(ZVTreeViewItem::Taken))
+    if (!row->hasState(ZVTreeViewItem::Taken) || row->m_parent == newParent)
         return;
     ZVTreeViewModelPrivate* model = owning(row);
     if (model != owning(newParent)) {
@@ -151,10 +162,7 @@ void ZVTreeViewModelPrivate::closeBatch()
 void ZVTreeViewModelPrivate::stage(ZVTreeViewItem* parent)
 {
     ++m_edits;
-    ZVTreeViewItemChildren& children = parent->children();
-    if (children.isStaged())
-        return;
-    children.stage();
+    parent->children().stage(m_edits);
     m_staged.push_back(parent);
 }
 

@@ -33,6 +33,11 @@ public:
     static ZVTreeViewModelPrivate* owning(const ZVTreeViewItem* row);
     /** The model whose views see the row, else null. */
     static ZVTreeViewModelPrivate* showing(const ZVTreeViewItem* row);
+    /**
+     * The model that has to announce a change of the row's children at once, else null. Inside a
+     * batch, the children of a row that views see are staged for the change.
+     */
+    static ZVTreeViewModelPrivate* announcing(ZVTreeViewItem* row);
     /** The parent that views see. */
     static ZVTreeViewItem* shownParent(const ZVTreeViewItem* row);
     /** A row that views of a model still see does not go below a row of another. */

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "Host/Widgets/ZVTreeViewModel.h"
+#include "TreeModel/ModelItemToZVTreeModelSyncronizer.h"
+
+#include <QtCore/QSortFilterProxyModel>
+#include <QtGui/QStandardItemModel>
+#include <QtWidgets/QTreeView>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Zorvane::Benchmarks {
+
+using Items = std::vector<std::shared_ptr<GenericTreeViewModelHandling::ModelItem>>;
+
+/** `fanOuts` children at each level, with scattered ids and names such as "Part 000123". */
+Items makeTree(const std::vector<int>& fanOuts);
+
+/** The tree as one of the cases "same", "label", ... "shuffle" leaves it. */
+Items changedTree(const Items& before, const std::string& change);
+
+std::shared_ptr<GenericTreeViewModelHandling::ModelRoot> rootOf(const Items& items);
+
+/** Something that follows a model: nothing, a view, a proxy. */
+class Attachment
+{
+public:
+    /** `kind`: "none", "view", "proxy", "sorted", or "deep" for a view with every row expanded. */
+    Attachment(const std::string& kind, QAbstractItemModel* model);
+    ~Attachment();
+
+    /** Sets the current row and selects 1 % where there is a view. */
+    void prepare();
+    /** Lets the follower finish what the model's announcements made it put off. */
+    void settle();
+
+private:
+    const std::string m_kind;
+    std::unique_ptr<QSortFilterProxyModel> m_proxy;
+    std::unique_ptr<QTreeView> m_view;
+};
+
+/** Our side: a model that a synchronizer fills, with something attached. */
+class SyncronizedScene
+{
+public:
+    explicit SyncronizedScene(const std::string& attached);
+
+    void show(const Items& items);
+    void prepare() { m_attachment.prepare(); }
+    void refresh(const std::shared_ptr<GenericTreeViewModelHandling::ModelRoot>& root);
+    ZVTreeViewModel& model() { return m_model; }
+
+private:
+    ZVTreeViewModel m_model;
+    GenericTreeViewModelHandling::ModelItemToZVTreeModelSyncronizer m_syncronizer;
+    Attachment m_attachment;
+};
+
+/** The peer: Qt's own model, cleared and filled again. */
+class RebuiltScene
+{
+public:
+    explicit RebuiltScene(const std::string& attached);
+
+    void rebuild(const Items& items);
+    void prepare() { m_attachment.prepare(); }
+
+private:
+    QStandardItemModel m_model;
+    Attachment m_attachment;
+};
+
+} // namespace Zorvane::Benchmarks
