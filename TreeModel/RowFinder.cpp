@@ -50,8 +50,7 @@ RowFinder::Index::Index(std::size_t count)
     : slots(count)
     , buckets(bucketCount(count), Bucket{0, None})
     , waiting(count)
-{
-}
+{}
 
 RowFinder::RowFinder(const ZVTreeViewItem* parent, const Items& items, int column, int role)
     : m_parent(parent)
@@ -59,8 +58,7 @@ RowFinder::RowFinder(const ZVTreeViewItem* parent, const Items& items, int colum
     , m_column(column)
     , m_role(role)
     , m_walkAllowance(ShortList + parent->childCount())
-{
-}
+{}
 
 bool RowFinder::readId(const ZVTreeViewItem* row, int column, int role, IDCombiner& id)
 {
@@ -155,9 +153,7 @@ RowFinder::Bucket& RowFinder::bucketOf(const IDCombiner& id, std::uint32_t tag)
     std::vector<Bucket>& buckets = m_index->buckets;
     const std::size_t mask = buckets.size() - 1;
     const auto isOther = [&](const Bucket& bucket) {
-        return bucket.slot != None
-               && (bucket.tag != tag
-                   || *slotAt(bucket.slot).id != id);
+        return bucket.slot != None && (bucket.tag != tag || *slotAt(bucket.slot).id != id);
     };
     std::size_t place = tag & mask;
     while (isOther(buckets[place]))
@@ -219,8 +215,8 @@ int RowFinder::lookedAhead(int item)
 
 bool RowFinder::waitsAt(std::size_t slot, const IDCombiner& id) const
 {
-    return slot < m_index->slots.size() && m_index->waiting.contains(slot)
-           && m_index->slots[slot].id && *m_index->slots[slot].id == id;
+    return slot < m_index->slots.size() && m_index->waiting.contains(slot) &&
+           m_index->slots[slot].id && *m_index->slots[slot].id == id;
 }
 
 int RowFinder::slotOf(int item)

@@ -74,10 +74,9 @@ void sortById(RowList& rows)
 {
     if (std::is_sorted(rows.begin(), rows.end(), isLess))
         return;
-    const bool byValue = rows.size() >= LongList
-                         && std::all_of(rows.begin(), rows.end(), [](const auto& entry) {
-                                return entry.first.hasIdentifier();
-                            });
+    const bool byValue = rows.size() >= LongList &&
+                         std::all_of(rows.begin(), rows.end(),
+                                     [](const auto& entry) { return entry.first.hasIdentifier(); });
     if (byValue)
         sortByValue(rows);
     // Ids of one value are told apart by their sub-values, which have not been looked at yet.

@@ -64,8 +64,7 @@ class TreeChange
 public:
     explicit TreeChange(const std::string& change)
         : m_change(change)
-    {
-    }
+    {}
 
     Items apply(const Items& before)
     {
@@ -211,8 +210,7 @@ void SyncronizedScene::refresh(const std::shared_ptr<ModelRoot>& root)
 
 RebuiltScene::RebuiltScene(const std::string& attached)
     : m_attachment(attached, &m_model)
-{
-}
+{}
 
 void RebuiltScene::rebuild(const Items& items)
 {

@@ -346,8 +346,9 @@ bool ZVTreeViewItem::insertChild(int index, ZVTreeViewItem* child)
     ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::announcing(this);
     if (model)
         model->beginInsert(this, index, 1);
-    children().insert(index, child);
-    adopt(child, m_children->isStaged());
+    ZVTreeViewItemChildren& list = children();
+    adopt(child, list.isStaged());
+    list.insert(index, child);
     if (model)
         model->endInsert();
     return true;
@@ -363,9 +364,10 @@ bool ZVTreeViewItem::appendChildren(const QVector<ZVTreeViewItem*>& added)
     ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::announcing(this);
     if (model)
         model->beginInsert(this, childCount(), added.size());
-    children().append(added);
+    ZVTreeViewItemChildren& list = children();
     for (ZVTreeViewItem* child : added)
-        adopt(child, m_children->isStaged());
+        adopt(child, list.isStaged());
+    list.append(added);
     if (model)
         model->endInsert();
     return true;

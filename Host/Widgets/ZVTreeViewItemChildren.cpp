@@ -87,6 +87,8 @@ void ZVTreeViewItemChildren::insert(int index, ZVTreeViewItem* child)
     if (position(index) > placed.size())
         placeWaiting(position(index) - placed.size());
     placed.insert(iteratorAt(placed, position(index)), child);
+    std::vector<int>& from = m_stage->placedFrom;
+    from.insert(from.begin() + index, shownRowIfKnown(child));
 }
 
 void ZVTreeViewItemChildren::append(const QVector<ZVTreeViewItem*>& children)
@@ -94,7 +96,10 @@ void ZVTreeViewItemChildren::append(const QVector<ZVTreeViewItem*>& children)
     if (m_stage) {
         m_stage->edit();
         placeWaiting(m_stage->waiting.count());
-        m_stage->placed.insert(m_stage->placed.end(), children.begin(), children.end());
+        for (ZVTreeViewItem* child : children) {
+            m_stage->placed.push_back(child);
+            m_stage->placedFrom.push_back(shownRowIfKnown(child));
+        }
         return;
     }
     m_rows.reserve(m_rows.size() + position(children.size()));
@@ -121,7 +126,17 @@ ZVTreeViewItem* ZVTreeViewItemChildren::take(int index)
     }
     ZVTreeViewItem* child = rows[position(index)];
     rows.erase(iteratorAt(rows, position(index)));
+    if (m_stage)
+        m_stage->placedFrom.erase(m_stage->placedFrom.begin() + index);
     return child;
+}
+
+int ZVTreeViewItemChildren::shownRowIfKnown(const ZVTreeViewItem* child) const
+{
+    if (child->hasState(ZVTreeViewItem::Fresh | ZVTreeViewItem::Relocated))
+        return -1;
+    const int row = rowIn(m_stage->shown, child, m_numbered);
+    return position(row) < m_stage->shown.size() ? row : -1;
 }
 
 void ZVTreeViewItemChildren::placeWaiting(std::size_t count)
@@ -131,6 +146,7 @@ void ZVTreeViewItemChildren::placeWaiting(std::size_t count)
         const std::size_t slot = waiting.first();
         waiting.remove(slot);
         m_stage->placed.push_back(m_stage->shown[slot]);
+        m_stage->placedFrom.push_back(static_cast<int>(slot));
     }
 }
 
@@ -145,6 +161,7 @@ void ZVTreeViewItemChildren::stage(unsigned& edits)
 const ZVTreeViewItemChildren::Rows& ZVTreeViewItemChildren::arranged()
 {
     m_stage->placed.reserve(position(count()));
+    m_stage->placedFrom.reserve(position(count()));
     placeWaiting(m_stage->waiting.count());
     m_stage->dirty = false;
     return m_stage->placed;
@@ -156,6 +173,17 @@ void ZVTreeViewItemChildren::numberShown(std::size_t first)
     for (std::size_t row = first; row < rows.size(); ++row)
         rows[row]->m_row = static_cast<int>(row);
     m_numbered = rows.size();
+}
+
+void ZVTreeViewItemChildren::restage()
+{
+    const Rows& shown = m_stage->shown;
+    for (std::size_t i = 0; i < m_stage->placed.size(); ++i) {
+        const ZVTreeViewItem* row = m_stage->placed[i];
+        const auto claimed = static_cast<std::size_t>(row->m_row);
+        const bool known = claimed < shown.size() && shown[claimed] == row;
+        m_stage->placedFrom[i] = known ? row->m_row : -1;
+    }
 }
 
 void ZVTreeViewItemChildren::unstage()

@@ -51,12 +51,16 @@ public:
     void stage(unsigned& edits);
     /** The rows as they are now, in one list; further changes start from it. */
     const Rows& arranged();
+    /** The shown rows of those above, -1 for rows that views do not know below this parent. */
+    const std::vector<int>& arrangedFrom() const { return m_stage->placedFrom; }
     /** What views see changes; the caller announces it. */
     Rows& editShown() { return m_stage->shown; }
     /** Numbers the shown rows from `first` on. */
     void numberShown(std::size_t first = 0);
     /** Views have been told: what is shown is what is. */
     void unstage();
+    /** Views have been told, but rows have changed meanwhile: further changes are gathered. */
+    void restage();
     /** Changed since `arranged()` was asked for. */
     bool isDirty() const { return m_stage && m_stage->dirty; }
     /** Hands over all children, for good. */
@@ -75,6 +79,8 @@ private:
 
         Rows shown;
         Rows placed;
+        /** Their shown rows, as in `arrangedFrom()`: rows lie scattered, so asking them is slow. */
+        std::vector<int> placedFrom;
         /** Those of the shown rows that still are where they were. */
         WaitingSlots waiting;
         bool dirty = true;
@@ -83,6 +89,7 @@ private:
 
     const Rows& shown() const { return m_stage ? m_stage->shown : m_rows; }
     ZVTreeViewItem* findStaged(std::size_t place) const;
+    int shownRowIfKnown(const ZVTreeViewItem* child) const;
     void placeWaiting(std::size_t count);
     static int rowIn(const Rows& rows, const ZVTreeViewItem* child, std::size_t& numbered);
 

@@ -160,19 +160,17 @@ ZVTreeViewModelPrivate::ListPlan ZVTreeViewModelPrivate::planFor(ZVTreeViewItem*
     const Rows& shown = parent->m_children->editShown();
     std::vector<bool> stays(shown.size(), false);
     int lastRow = -1;
+    const std::vector<int>& from = parent->m_children->arrangedFrom();
     for (std::size_t i = 0; i < list.target.size(); ++i) {
-        ZVTreeViewItem* row = list.target[i];
-        const auto before = static_cast<std::size_t>(row->m_row);
-        const bool known = !row->hasState(ZVTreeViewItem::Fresh | ZVTreeViewItem::Relocated) &&
-                           before < shown.size() && shown[before] == row;
-        if (!known) {
-            list.arriving.push_back(row);
+        const int before = from[i];
+        if (before < 0) {
+            list.arriving.push_back(list.target[i]);
             extend(list.inserted, static_cast<int>(i));
             continue;
         }
-        stays[before] = true;
-        list.reordered = list.reordered || row->m_row < lastRow;
-        lastRow = row->m_row;
+        stays[static_cast<std::size_t>(before)] = true;
+        list.reordered = list.reordered || before < lastRow;
+        lastRow = before;
     }
     for (std::size_t i = 0; i < shown.size(); ++i) {
         if (stays[i])
@@ -395,12 +393,14 @@ void ZVTreeViewModelPrivate::finish(const Plan& plan, bool done)
         m_staged.begin() + static_cast<std::ptrdiff_t>(plan.size()), m_staged.end());
     for (const ListPlan& list : plan) {
         ZVTreeViewItemChildren& children = *list.parent->m_children;
-        if (showing(list.parent) != this)
+        if (showing(list.parent) != this) {
             settle(list.parent);
-        else if (!done || children.isDirty())
-            stillStaged.push_back(list.parent);
-        else
+        } else if (done && !children.isDirty()) {
             children.unstage();
+        } else {
+            children.restage();
+            stillStaged.push_back(list.parent);
+        }
         widenChanges(children);
     }
     m_staged = std::move(stillStaged);

@@ -1,5 +1,5 @@
-#include "Tests/Support/TestCase.h"
 #include "TreeModel/RowListSorting.h"
+#include "Tests/Support/TestCase.h"
 
 #include <rapidcheck.h>
 
@@ -50,9 +50,8 @@ void RowListSortingTest::anyListComesOutSortedWithItsRows()
             rows.emplace_back(anyId(), rowNumber(std::size_t(i)));
         RowList expected = rows;
         sortById(rows);
-        RC_ASSERT(std::is_sorted(rows.begin(), rows.end(), [](const auto& a, const auto& b) {
-            return a.first < b.first;
-        }));
+        RC_ASSERT(std::is_sorted(rows.begin(), rows.end(),
+                                 [](const auto& a, const auto& b) { return a.first < b.first; }));
         std::sort(rows.begin(), rows.end());
         std::sort(expected.begin(), expected.end());
         const bool same = rows == expected;
