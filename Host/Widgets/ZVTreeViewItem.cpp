@@ -328,8 +328,7 @@ void ZVTreeViewItem::orphan(ZVTreeViewItem* child, bool wasShownRow)
         return;
     }
     ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::owning(this);
-    if (model &&
-        (child->hasState(Relocated) || model->hasRelocated() || model->isPublishing())) {
+    if (model && (child->hasState(Relocated) || model->hasRelocated() || model->isPublishing())) {
         model->hold(child);
         return;
     }

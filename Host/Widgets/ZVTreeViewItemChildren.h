@@ -72,10 +72,17 @@ public:
 private:
     struct Stage
     {
-        explicit Stage(Rows&& rows)
+        Stage(Rows&& rows, unsigned& counter)
             : shown(std::move(rows))
             , waiting(shown.size())
+            , edits(counter)
         {}
+
+        void edit()
+        {
+            dirty = true;
+            ++edits;
+        }
 
         Rows shown;
         Rows placed;
