@@ -1,61 +1,23 @@
 #include "Utilities/ReferenceIndicatorDelegate.h"
 
-#include "Host/Configuration/ColorConfiguration.h"
 #include "Host/Widgets/ZVGuiTools.h"
 #include "Tests/Support/TestCase.h"
-#include "Tests/Utilities/ImageComparison.h"
+#include "Tests/Utilities/ReferenceFixtures.h"
 
 #include <QtGui/QAccessible>
 #include <QtGui/QHelpEvent>
 #include <QtGui/QPainter>
-#include <QtGui/QStandardItemModel>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QToolTip>
 #include <QtWidgets/QTreeView>
 
 #include <functional>
-#include <memory>
 
 using namespace Zorvane;
+using namespace Zorvane::Testing;
 using Delegate = ReferenceIndicatorDelegate;
 
 namespace {
-
-enum ColorId
-{
-    Steel = 11,
-    Brass = 12,
-    Green = 13,
-    Black = 14,
-    White = 15,
-    HighlightBlue = 16
-};
-
-constexpr QSize s_cell(40, 20);
-
-/** A model with one item of that many references, and colours as long as the list goes. */
-class References : public QStandardItemModel
-{
-public:
-    explicit References(const QVariant& count, const QVector<QVariant>& colors = {})
-    {
-        auto* const item = new QStandardItem;
-        appendRow(item);
-        item->setData(count, Delegate::NumberOfReferencesRole);
-        for (int i = 0; i < colors.size(); ++i)
-            item->setData(colors.at(i), Delegate::FirstColorRole + i);
-    }
-    QModelIndex index() const { return QStandardItemModel::index(0, 0); }
-
-    /** As models with references do: the text is looked up whenever somebody asks. */
-    QVariant data(const QModelIndex& index, int role) const override
-    {
-        if (role == Qt::AccessibleTextRole)
-            return Delegate::textForReferences(
-                QStandardItemModel::data(index, Delegate::NumberOfReferencesRole).toInt());
-        return QStandardItemModel::data(index, role);
-    }
-};
 
 /** Lets the test see what the delegate makes of an option. */
 class OpenDelegate : public ReferenceIndicatorDelegate
@@ -64,41 +26,6 @@ public:
     using ReferenceIndicatorDelegate::initStyleOption;
     using ReferenceIndicatorDelegate::ReferenceIndicatorDelegate;
 };
-
-QPalette lightPalette()
-{
-    QPalette palette(Qt::black, Qt::white);
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Highlight, QColor(0x30, 0x8c, 0xc6));
-    return palette;
-}
-
-QPalette darkPalette()
-{
-    QPalette palette(Qt::white, QColor(0x2b, 0x2b, 0x2b));
-    palette.setColor(QPalette::Base, QColor(0x23, 0x26, 0x29));
-    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
-    return palette;
-}
-
-QStyleOptionViewItem optionFor(const QPoint& position, const QPalette& palette)
-{
-    QStyleOptionViewItem option;
-    option.rect = QRect(position, s_cell);
-    option.palette = palette;
-    option.state = QStyle::State_Enabled | QStyle::State_Active;
-    option.direction = Qt::LeftToRight;
-    option.showDecorationSelected = true;
-    return option;
-}
-
-QImage blankImage(const QSize& size, qreal scale, const QColor& background)
-{
-    QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(scale);
-    image.fill(background);
-    return image;
-}
 
 /** One cell, drawn by somebody on white. */
 QImage cellImage(const std::function<void(QPainter*, const QStyleOptionViewItem&)>& draw)
@@ -128,46 +55,6 @@ QRect patchOf(const QStyleOptionViewItem& option)
     return option.rect.adjusted(1, 2, -2, -3);
 }
 
-QColor colorOf(int id)
-{
-    const auto color = ColorConfiguration::getRegisteredInstance()->getColor(id);
-    return QColor::fromRgbF(qreal(color.red), qreal(color.green), qreal(color.blue));
-}
-
-void setColor(int id, const QColor& color)
-{
-    ColorConfiguration::getRegisteredInstance()->setColor(
-        id, {float(color.redF()), float(color.greenF()), float(color.blueF())});
-}
-
-/** Every kind of patch in every state: counts downwards, states from left to right, twice. */
-QImage sheetOf(const QPalette& palette, qreal scale)
-{
-    const QVector<QVector<QVariant>> colors{{Steel},        {Brass, Green}, {Steel, Brass, Green},
-                                            {Green, Brass}, {Black},        {White, HighlightBlue},
-                                            {HighlightBlue}};
-    const QVector<int> counts{1, 2, 3, 4, 1, 2, 1};
-    const QVector<QStyle::State> states{QStyle::State_Enabled | QStyle::State_Active,
-                                        QStyle::State_Enabled | QStyle::State_Active |
-                                            QStyle::State_Selected,
-                                        QStyle::State_None, QStyle::State_Selected};
-    const QSize size(2 * states.size() * s_cell.width(), counts.size() * s_cell.height());
-    QImage sheet = blankImage(size, scale, palette.color(QPalette::Base));
-    QPainter painter(&sheet);
-    const Delegate delegate(nullptr);
-    for (int row = 0; row < counts.size(); ++row) {
-        const References model(counts.at(row), colors.at(row));
-        for (int column = 0; column < 2 * states.size(); ++column) {
-            const QPoint position(column * s_cell.width(), row * s_cell.height());
-            QStyleOptionViewItem option = optionFor(position, palette);
-            option.state = states.at(column % states.size());
-            option.direction = column < states.size() ? Qt::LeftToRight : Qt::RightToLeft;
-            delegate.paint(&painter, option, model.index());
-        }
-    }
-    return sheet;
-}
-
 } // namespace
 
 class ReferenceIndicatorDelegateTest : public Testing::TestCase
@@ -192,9 +79,6 @@ private Q_SLOTS:
     void greysADisabledItem_data();
     void greysADisabledItem();
     void followsTheApplicationsStyle();
-    void looksAsKept_data();
-    void looksAsKept();
-    void comparingPicturesFindsDifferences();
     void leavesThePainterAsItWas_data();
     void leavesThePainterAsItWas();
     void showsNoFocus();
@@ -210,12 +94,7 @@ void ReferenceIndicatorDelegateTest::initTestCase()
 {
     TestCase::initTestCase();
     QApplication::setStyle(QStringLiteral("fusion"));
-    setColor(Steel, QColor(0x5f, 0x71, 0x9d));
-    setColor(Brass, QColor(0xaf, 0x89, 0x59));
-    setColor(Green, QColor(0x65, 0x97, 0x68));
-    setColor(Black, Qt::black);
-    setColor(White, Qt::white);
-    setColor(HighlightBlue, lightPalette().color(QPalette::Highlight));
+    fillColors();
 }
 
 void ReferenceIndicatorDelegateTest::cleanup()
@@ -368,50 +247,6 @@ void ReferenceIndicatorDelegateTest::followsTheApplicationsStyle()
     QVERIFY(shaded != flat);
     QCOMPARE(flat.pixelColor(20, 10), colorOf(Steel));
     QCOMPARE(flat.pixelColor(20, 6), colorOf(Steel));
-}
-
-void ReferenceIndicatorDelegateTest::looksAsKept_data()
-{
-    QTest::addColumn<bool>("isDark");
-    QTest::addColumn<qreal>("scale");
-    QTest::newRow("light-100") << false << 1.0;
-    QTest::newRow("light-150") << false << 1.5;
-    QTest::newRow("light-200") << false << 2.0;
-    QTest::newRow("dark-100") << true << 1.0;
-    QTest::newRow("dark-150") << true << 1.5;
-    QTest::newRow("dark-200") << true << 2.0;
-}
-
-void ReferenceIndicatorDelegateTest::looksAsKept()
-{
-    QFETCH(bool, isDark);
-    QFETCH(qreal, scale);
-    const QImage sheet = sheetOf(isDark ? darkPalette() : lightPalette(), scale);
-    QString message;
-    QVERIFY2(
-        Testing::isReferenceImage(sheet, QString::fromLatin1(QTest::currentDataTag()), message),
-        qPrintable(message));
-}
-
-void ReferenceIndicatorDelegateTest::comparingPicturesFindsDifferences()
-{
-    const QImage sheet = sheetOf(lightPalette(), 1.0);
-    QVERIFY(Testing::differenceOf(sheet, sheet).isTolerable());
-    QVERIFY(!Testing::differenceOf(sheet, sheetOf(lightPalette(), 2.0)).isTolerable());
-    QVERIFY(!Testing::differenceOf(sheet, sheetOf(darkPalette(), 1.0)).isTolerable());
-    QVERIFY(!Testing::differenceOf({}, {}).isTolerable());
-
-    // One patch of the sheet without its points, then every patch a pixel to the side.
-    QImage other = sheet;
-    QPainter painter(&other);
-    ZVGuiTools::drawBeautifiedTwoColorPatchDiagonal(&painter, QRect(1, 62, 37, 15), colorOf(Green),
-                                                    colorOf(Brass), 0, false);
-    painter.end();
-    QVERIFY(other != sheet);
-    QVERIFY(
-        !Testing::differenceOf(other.copy(0, 60, 40, 20), sheet.copy(0, 60, 40, 20)).isTolerable());
-    QVERIFY(!Testing::differenceOf(sheet.copy(0, 0, 300, 140), sheet.copy(1, 0, 300, 140))
-                 .isTolerable());
 }
 
 void ReferenceIndicatorDelegateTest::leavesThePainterAsItWas_data()
