@@ -127,6 +127,7 @@ private:
     bool announceInserted(ListPlan& list);
     bool announceByLayout(Plan& plan);
     bool appendArriving(ListPlan& list);
+    bool appendGuard(ListPlan& list);
     bool changeLayout(Plan& plan);
     bool removeLeaving(const ListPlan& list);
     bool isAsPlanned() const { return m_edits == m_plannedEdits && m_resets == m_plannedResets; }
@@ -137,6 +138,7 @@ private:
     /** Views no longer see the row; one that a slot has put back meanwhile is new to them. */
     void leaveViews(ZVTreeViewItem* row);
     void finish(const Plan& plan, bool done);
+    void forgetHome(ZVTreeViewItem* parent);
     void widenChanges(const ZVTreeViewItemChildren& children);
     /** Makes the children of a row that no view sees, or will see anew, what they are. */
     void settle(ZVTreeViewItem* parent);

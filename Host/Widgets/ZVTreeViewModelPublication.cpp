@@ -18,8 +18,9 @@ namespace {
 constexpr std::size_t MostExactRanges = 8;
 
 /**
- * A list of more cells than this keeps its row count during a change of layout: selection models
- * take a selection of all of it for "everything" and would select what is new, too.
+ * A list of more cells than this keeps its row count during a change of layout, or has a guard:
+ * selection models take a selection of all of it for "everything" and would select what is new,
+ * too, or forget all when the list gets shorter.
  */
 constexpr int MostCellsOfVaryingList = 1000;
 
@@ -259,9 +260,11 @@ bool ZVTreeViewModelPrivate::announceByLayout(Plan& plan)
     // A row that changes its parent cannot be shown twice meanwhile, so then all counts vary.
     for (ListPlan& list : plan) {
         const auto rows = std::max(list.target.size(), list.parent->m_children->editShown().size());
-        list.keepsCount =
-            m_relocated.empty() && static_cast<int>(rows) * headers.size() > MostCellsOfVaryingList;
-        if (list.attached && list.keepsCount && !appendArriving(list))
+        const bool isLong = static_cast<int>(rows) * headers.size() > MostCellsOfVaryingList;
+        list.keepsCount = isLong && m_relocated.empty();
+        if (!list.attached || !isLong)
+            continue;
+        if (!(list.keepsCount ? appendArriving(list) : appendGuard(list)))
             return false;
     }
     if (!changeLayout(plan))
@@ -286,6 +289,25 @@ bool ZVTreeViewModelPrivate::appendArriving(ListPlan& list)
     for (ZVTreeViewItem* row : list.arriving)
         row->dropState(ZVTreeViewItem::Fresh);
     children.numberShown(static_cast<std::size_t>(first));
+    q->endInsertRows();
+    return isAsPlanned();
+}
+
+bool ZVTreeViewModelPrivate::appendGuard(ListPlan& list)
+{
+    // With a further row, selected by nobody, no selection is taken for "everything".
+    auto guard = std::make_unique<ZVTreeViewItem>();
+    ZVTreeViewItemChildren& children = *list.parent->m_children;
+    const int row = children.shownCount();
+    q->beginInsertRows(shownIndex(list.parent), row, row);
+    if (!canInsert())
+        return false;
+    guard->addState(ZVTreeViewItem::Taken);
+    guard->m_parent = list.parent;
+    children.editShown().push_back(guard.get());
+    children.numberShown(static_cast<std::size_t>(row));
+    list.leaving.push_back(guard.get());
+    retire(guard.release());
     q->endInsertRows();
     return isAsPlanned();
 }
@@ -394,6 +416,7 @@ void ZVTreeViewModelPrivate::finish(const Plan& plan, bool done)
     for (const ListPlan& list : plan) {
         ZVTreeViewItemChildren& children = *list.parent->m_children;
         if (showing(list.parent) != this) {
+            forgetHome(list.parent);
             settle(list.parent);
         } else if (done && !children.isDirty()) {
             children.unstage();
@@ -409,6 +432,16 @@ void ZVTreeViewModelPrivate::finish(const Plan& plan, bool done)
             continue;
         group.parent->m_children->changeGroup = -1;
         group.parent = nullptr;
+    }
+}
+
+void ZVTreeViewModelPrivate::forgetHome(ZVTreeViewItem* parent)
+{
+    // A slot has moved these out of what views no longer see: they are new where they are.
+    for (ZVTreeViewItem* row : parent->m_children->editShown()) {
+        const auto home = m_relocated.find(row);
+        if (home != m_relocated.end() && home->second == parent)
+            leaveViews(row);
     }
 }
 

@@ -9,6 +9,7 @@
 #include <rapidcheck.h>
 
 #include <map>
+#include <optional>
 #include <random>
 #include <vector>
 
@@ -72,6 +73,10 @@ public:
         plain.setSourceModel(&model);
         sorted.setSourceModel(&model);
         sorted.sort(0);
+        chained.setRecursiveFilteringEnabled(true);
+        chained.setFilterRegularExpression(QStringLiteral("[1-4]"));
+        chained.setSourceModel(&sorted);
+        chainMirror.emplace(&chained);
         descendants.setSourceModel(&model);
         view.setModel(&model);
         proxyView.setModel(&sorted);
@@ -243,6 +248,30 @@ public:
         RC_ASSERT(descendants.rowCount() == int(rowsBelow(model.rootItem()).size()));
         checkProxy(plain, QModelIndex(), false);
         checkProxy(sorted, QModelIndex(), true);
+        RC_ASSERT(chainMirror->difference().toStdString() == std::string());
+        RC_ASSERT(countBelow(chained, {}) == acceptedBelow(sorted, {}));
+    }
+
+    static int countBelow(const QAbstractItemModel& counted, const QModelIndex& parent)
+    {
+        int count = counted.rowCount(parent);
+        for (int row = 0; row < counted.rowCount(parent); ++row)
+            count += countBelow(counted, counted.index(row, 0, parent));
+        return count;
+    }
+
+    /** The rows that the chained proxy has to show: those that match, and all above them. */
+    int acceptedBelow(const QAbstractItemModel& source, const QModelIndex& parent) const
+    {
+        int count = 0;
+        for (int row = 0; row < source.rowCount(parent); ++row) {
+            const QModelIndex index = source.index(row, 0, parent);
+            const int below = acceptedBelow(source, index);
+            const bool matches =
+                chained.filterRegularExpression().match(index.data().toString()).hasMatch();
+            count += below + (matches || below > 0 ? 1 : 0);
+        }
+        return count;
     }
 
     void checkProxy(const QSortFilterProxyModel& proxy, const QModelIndex& parent,
@@ -266,6 +295,8 @@ public:
     Testing::ModelMirror mirror;
     QSortFilterProxyModel plain;
     QSortFilterProxyModel sorted;
+    QSortFilterProxyModel chained;
+    std::optional<Testing::ModelMirror> chainMirror;
     KDescendantsProxyModel descendants;
     QTreeView view;
     QTreeView proxyView;

@@ -194,7 +194,7 @@ void ZVTreeViewModelBatchSlotsTest::act(Deed deed)
 
 void ZVTreeViewModelBatchSlotsTest::change(Kind kind)
 {
-    appendNumbered(root(), kind == LongLayout ? 1200 : 12);
+    appendNumbered(root(), kind == LongLayout ? 1010 : 12);
     for (int row = 0; row < 12; ++row)
         appendRows(root()->child(row), "x y z");
     appendRows(root()->child(root()->childCount() - 1), "u v w");

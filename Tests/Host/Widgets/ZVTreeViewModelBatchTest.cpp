@@ -97,6 +97,7 @@ private Q_SLOTS:
     void viewsKeepTheirPlaces_data();
     void viewsKeepTheirPlaces();
     void selectionOfEverythingDoesNotGrow();
+    void selectionOfEverythingFollowsBetweenParents();
     void nothingIsLostInADeepTree();
 
 private:
@@ -654,6 +655,31 @@ void ZVTreeViewModelBatchTest::selectionOfEverythingDoesNotGrow()
     QCOMPARE(selection.selectedRows().size(), LongList - 1);
     for (int row = 0; row < m_tree->model.rowCount(); ++row)
         QCOMPARE(selection.isSelected(m_tree->model.index(row, 0)), row != 0 && row != 600);
+}
+
+void ZVTreeViewModelBatchTest::selectionOfEverythingFollowsBetweenParents()
+{
+    appendRows(root(), "a b");
+    for (int i = 0; i < 2; ++i)
+        appendNumbered(root()->child(i), LongList);
+    const ZVTreeViewModel& model = m_tree->model;
+    const QModelIndex a = model.index(0, 0);
+    QItemSelectionModel selection(&m_tree->model);
+    selection.select({model.index(0, 0, a), model.index(LongList - 1, 0, a)},
+                     QItemSelectionModel::Select);
+    const ZVTreeViewItem* moved = root()->child(0)->child(5);
+    const ZVTreeViewItem* fresh = nullptr;
+    inBatch([&] {
+        moveRow(root()->child(0), 5, root()->child(1), 0);
+        moveRow(root()->child(1), 7, root()->child(0), 9);
+        appendRows(root()->child(0), "new");
+        fresh = root()->child(0)->child(LongList);
+        moveRow(root()->child(0), LongList, root()->child(0), 0);
+        root()->child(0)->deleteChild(3);
+    });
+    QCOMPARE(selection.selectedRows().size(), LongList - 1);
+    QVERIFY(selection.isSelected(model.indexFromItem(moved)));
+    QVERIFY(!selection.isSelected(model.indexFromItem(fresh)));
 }
 
 void ZVTreeViewModelBatchTest::nothingIsLostInADeepTree()
