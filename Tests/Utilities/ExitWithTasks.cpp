@@ -33,14 +33,18 @@ private:
     std::function<void()> m_work;
 };
 
-// Lives longer than the queues, which come with the first post.
+// Lives longer than the queues, which come with the first post, and has the program fail if a task
+// is still in one of them or ran when it was too late.
 class LastWord
 {
 public:
     ~LastWord()
     {
         const bool isIdle = !m_task.isPosted() && !m_task.unpost() && !m_task.post();
-        std::puts(isIdle && !s_ranLate ? "nothing ran late" : "a task was still in a queue");
+        if (isIdle && !s_ranLate)
+            return;
+        std::fputs(isIdle ? "a task ran late\n" : "a task is still in a queue\n", stderr);
+        std::_Exit(1);
     }
     Task& task() { return m_task; }
 
@@ -90,6 +94,8 @@ int endAfterAnotherApplication(int argc, char** argv)
     const QCoreApplication application(argc, argv);
     const Task quits([] { QCoreApplication::quit(); }, true);
     const int status = QCoreApplication::exec();
+    if (s_lastWord.task().isPosted())
+        return 1;
     s_isEnding = true;
     s_lastWord.task().post();
     return status;
