@@ -2,6 +2,7 @@
 
 #include "Workbench/MeshView/MeshView.h"
 #include "Workbench/Meshes/MeshWriter.h"
+#include "Workbench/Stress/StressWindow.h"
 #include "Workbench/Tour/BrokenInputs.h"
 #include "Workbench/Tour/GeneratedMeshes.h"
 #include "Workbench/Window/Appearance.h"
@@ -11,6 +12,7 @@
 #include "Workbench/Window/ProblemsPanel.h"
 #include "Workbench/Window/ReadingProgress.h"
 #include "Workbench/Window/SampleDesigns.h"
+#include "Workbench/Window/WindowActions.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
@@ -20,6 +22,7 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QSaveFile>
+#include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -33,10 +36,13 @@ namespace Zorvane::Workbench {
 namespace {
 
 constexpr QSize s_windowSize(1360, 820);
+constexpr QSize s_stressWindowSize(1040, 720);
 constexpr int s_manyFiles = 500;
 constexpr int s_filesReadBeforeCancel = 25;
 constexpr int s_manyTriangles = 100'000;
 constexpr int s_redraws = 20;
+constexpr int s_stressedRows = 10'000;
+constexpr int s_stressSteps = 120;
 
 QString text(const char* literal)
 {
@@ -117,6 +123,7 @@ QStringList Tour::perform(const QStringList& paths)
     keepTheScrollPosition();
     surviveBrokenInputs();
     redrawManyTriangles();
+    stressATree();
     goDark();
     walkByTab();
     if (!paths.isEmpty())
@@ -432,6 +439,39 @@ void Tour::redrawManyTriangles()
                          .arg(double(timer.elapsed()) / s_redraws, 0, 'f', 1));
     m_window.meshView().fit();
     picture(text("100000-triangles"));
+}
+
+void Tour::stressATree()
+{
+    m_report.beginStep(text("A tree under stress"),
+                       text("A tree of 10,000 rows, refreshed over and over with edits at random "
+                            "places: few announcements, and every row keeps its place."));
+    (*m_window.findChild<WindowActions*>())[WindowActions::StressTree]->trigger();
+    auto* stress = m_window.findChild<StressWindow*>();
+    m_report.expect(stress && stress->isVisible(), text("the window of the menu Tools"));
+    if (!stress)
+        return;
+    stress->resize(s_stressWindowSize);
+    m_driver.settle();
+    stress->fill(StressShape::Deep, s_stressedRows);
+    for (int step = 0; step < s_stressSteps; ++step) {
+        stress->step();
+        m_driver.settle();
+    }
+    const PlaceKept& kept = stress->lastKept();
+    m_report.expect(kept.selection.expected > 0 && kept.expansion.expected > 0,
+                    QStringLiteral("%1 selected and %2 expanded rows")
+                        .arg(kept.selection.expected)
+                        .arg(kept.expansion.expected));
+    m_report.expect(stress->totals().lost == 0,
+                    QStringLiteral("no place lost in %1 refreshes").arg(stress->totals().steps));
+    m_report.addNote(QStringLiteral("the last refresh took %1 ms on this machine")
+                         .arg(stress->lastFacts().milliseconds, 0, 'f', 2));
+    m_report.addPicture(text("a-tree-under-stress"), stress->grab().toImage());
+    delete stress;
+    m_window.activateWindow();
+    m_report.expect(m_driver.waitFor([this] { return m_window.isActiveWindow(); }),
+                    text("the main window again"));
 }
 
 void Tour::goDark()

@@ -39,6 +39,7 @@ private:
     void keepTheScrollPosition();
     void surviveBrokenInputs();
     void redrawManyTriangles();
+    void stressATree();
     void goDark();
     void walkByTab();
     void openPathsOfUser(const QStringList& paths);

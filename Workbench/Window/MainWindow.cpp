@@ -3,6 +3,7 @@
 #include "Host/Widgets/ZVMessageBox.h"
 #include "Workbench/MeshView/MeshView.h"
 #include "Workbench/Meshes/MeshReader.h"
+#include "Workbench/Stress/StressWindow.h"
 #include "Workbench/Window/DetailsPanel.h"
 #include "Workbench/Window/FactsReader.h"
 #include "Workbench/Window/FilterBar.h"
@@ -168,6 +169,7 @@ void MainWindow::fillMenus()
     m_actions->addTo(*menuBar()->addMenu(tr("&Edit")),
                      {WindowActions::Rename, WindowActions::Find});
     fillViewMenu();
+    m_actions->addTo(*menuBar()->addMenu(tr("&Tools")), {WindowActions::StressTree});
     m_actions->addTo(*menuBar()->addMenu(tr("&Help")),
                      {WindowActions::About, WindowActions::AboutQt});
 }
@@ -270,6 +272,7 @@ void MainWindow::connectActions()
     on(WindowActions::Find, [this] { m_filterBar->focusText(); });
     on(WindowActions::ExpandAll, [this] { m_tree->expandAll(); });
     on(WindowActions::CollapseAll, [this] { m_tree->collapseAll(); });
+    on(WindowActions::StressTree, &MainWindow::showStress);
     on(WindowActions::About, &MainWindow::about);
     on(WindowActions::AboutQt, [] { QApplication::aboutQt(); });
 }
@@ -489,6 +492,16 @@ void MainWindow::rename()
 {
     m_treeView->setFocus();
     m_tree->editCurrent();
+}
+
+void MainWindow::showStress()
+{
+    if (m_stress)
+        m_stress->raise();
+    else
+        m_stress = new StressWindow(this);
+    m_stress->show();
+    m_stress->activateWindow();
 }
 
 void MainWindow::about()

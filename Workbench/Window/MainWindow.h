@@ -5,6 +5,7 @@
 #include "Workbench/Tree/DesignTree.h"
 #include "Workbench/Window/Appearance.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QMainWindow>
 
 QT_BEGIN_NAMESPACE
@@ -23,6 +24,7 @@ class MeshView;
 class MessageBar;
 class ProblemsPanel;
 class ReadingProgress;
+class StressWindow;
 class WindowActions;
 
 /**
@@ -85,6 +87,7 @@ private:
     bool mayDropChanges();
     void closeAll();
     void rename();
+    void showStress();
     void about();
 
     void showCurrent();
@@ -108,6 +111,7 @@ private:
     MessageBar* m_messageBar;
     ReadingProgress* m_progress;
     QLabel* m_counts;
+    QPointer<StressWindow> m_stress;
     QSplitter* m_sides = nullptr;
     QSplitter* m_meshAndDetails = nullptr;
     QSplitter* m_allAndProblems = nullptr;

@@ -40,6 +40,7 @@ public:
         ViewRight,
         ExpandAll,
         CollapseAll,
+        StressTree,
         About,
         AboutQt
     };
