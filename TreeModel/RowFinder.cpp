@@ -122,8 +122,12 @@ int RowFinder::scan(int front)
 
 void RowFinder::placed(int front, int position)
 {
-    if (m_index)
-        m_index->waiting.remove(position == front ? m_index->waiting.first() : m_index->found);
+    if (!m_index)
+        return;
+    if (position == front)
+        m_index->waiting.takeFirst();
+    else
+        m_index->waiting.take(m_index->found);
 }
 
 void RowFinder::buildIndex(int front)

@@ -11,7 +11,7 @@ namespace Zorvane {
 /**
  * The slots of a list that have not been taken yet: tells how many wait before a given one and
  * which is the n-th, while slots are taken in any order. Each answer costs the logarithm of the
- * list's length, the first slot and a neighbour of the one asked for last less.
+ * list's length; taking the first slot, or asking for a neighbour of the one asked for last, less.
  *
  * Not supported: putting a slot back, asking for a slot or number that is not there.
  */
@@ -22,7 +22,6 @@ public:
         : m_words(count / BitsPerWord + 1, ~std::uint64_t(0))
         , m_sums(m_words.size() + 1, std::uint32_t(BitsPerWord))
         , m_count(count)
-        , m_end(count)
     {
         m_words.back() = bitsBelow(count);
         m_sums.back() = std::uint32_t(count % BitsPerWord);
@@ -33,29 +32,24 @@ public:
     }
 
     std::size_t count() const { return m_count; }
-    bool contains(std::size_t slot) const
+    bool contains(std::size_t slot) const { return slot >= m_begin && hasBit(slot); }
+    std::size_t first() const { return m_begin == 0 && hasBit(0) ? 0 : next(m_begin - 1); }
+
+    void takeFirst()
     {
-        return (m_words[slot / BitsPerWord] >> (slot % BitsPerWord)) & 1U;
+        // The bit stays: what lies before the beginning is left out of every count instead.
+        const std::size_t slot = first();
+        m_begin = slot + 1;
+        ++m_passed;
+        forget(slot);
     }
 
-    void remove(std::size_t slot)
+    void take(std::size_t slot)
     {
         m_words[slot / BitsPerWord] &= ~(std::uint64_t(1) << (slot % BitsPerWord));
         for (std::size_t i = slot / BitsPerWord + 1; i < m_sums.size(); i += lowestBitOf(i))
             --m_sums[i];
-        --m_count;
-        if (slot < m_lastSlot)
-            --m_lastNumber;
-    }
-
-    /** The end, one behind all slots, when none waits. */
-    std::size_t first() const
-    {
-        while (m_firstWord < m_words.size() && m_words[m_firstWord] == 0)
-            ++m_firstWord;
-        return m_firstWord == m_words.size()
-                   ? m_end
-                   : m_firstWord * BitsPerWord + qCountTrailingZeroBits(m_words[m_firstWord]);
+        forget(slot);
     }
 
     std::size_t countBefore(std::size_t slot) const
@@ -63,7 +57,7 @@ public:
         std::size_t count = bitCount(m_words[slot / BitsPerWord] & bitsBelow(slot));
         for (std::size_t i = slot / BitsPerWord; i > 0; i -= lowestBitOf(i))
             count += m_sums[i];
-        return count;
+        return count - m_passed;
     }
 
     /** The slot before which `number` others wait. */
@@ -77,7 +71,7 @@ public:
         else if (number == m_lastNumber + lastStillThere)
             m_lastSlot = next(m_lastSlot);
         else if (number != m_lastNumber)
-            m_lastSlot = search(number);
+            m_lastSlot = search(number + m_passed);
         m_lastNumber = number;
         return m_lastSlot;
     }
@@ -90,19 +84,48 @@ private:
         return (std::uint64_t(1) << (slot % BitsPerWord)) - 1;
     }
     static std::size_t lowestBitOf(std::size_t number) { return number & (~number + 1); }
-    static std::size_t bitCount(std::uint64_t word)
+
+    /** The bits of each byte: processors that count bits cannot be taken for granted. */
+    static std::uint64_t byteCounts(std::uint64_t word)
     {
-        // In pairs, nibbles, bytes: processors that count bits cannot be taken for granted.
         word -= (word >> 1U) & 0x5555555555555555U;
         word = (word & 0x3333333333333333U) + ((word >> 2U) & 0x3333333333333333U);
-        word = (word + (word >> 4U)) & 0x0f0f0f0f0f0f0f0fU;
-        return static_cast<std::size_t>((word * 0x0101010101010101U) >> 56U);
+        return (word + (word >> 4U)) & 0x0f0f0f0f0f0f0f0fU;
+    }
+    static std::size_t bitCount(std::uint64_t word)
+    {
+        return static_cast<std::size_t>((byteCounts(word) * 0x0101010101010101U) >> 56U);
+    }
+    static std::size_t nthBit(std::uint64_t word, std::size_t number)
+    {
+        // Whole bytes first, then bit by bit.
+        std::uint64_t counts = byteCounts(word);
+        std::size_t shift = 0;
+        for (; number >= (counts & 0xffU); counts >>= 8U, shift += 8)
+            number -= counts & 0xffU;
+        word >>= shift;
+        for (; number > 0; --number)
+            word &= word - 1;
+        return shift + qCountTrailingZeroBits(word);
+    }
+
+    bool hasBit(std::size_t slot) const
+    {
+        return (m_words[slot / BitsPerWord] >> (slot % BitsPerWord)) & 1U;
+    }
+
+    void forget(std::size_t slot)
+    {
+        --m_count;
+        if (slot < m_lastSlot)
+            --m_lastNumber;
     }
 
     std::size_t next(std::size_t slot) const
     {
-        std::size_t word = slot / BitsPerWord;
-        std::uint64_t bits = m_words[word] & (~std::uint64_t(1) << (slot % BitsPerWord));
+        const std::size_t from = slot + 1;
+        std::size_t word = from / BitsPerWord;
+        std::uint64_t bits = m_words[word] & ~bitsBelow(from);
         while (bits == 0)
             bits = m_words[++word];
         return word * BitsPerWord + qCountTrailingZeroBits(bits);
@@ -129,10 +152,7 @@ private:
                 number -= m_sums[word];
             }
         }
-        std::uint64_t bits = m_words[word];
-        for (; number > 0; --number)
-            bits &= bits - 1;
-        return word * BitsPerWord + qCountTrailingZeroBits(bits);
+        return word * BitsPerWord + nthBit(m_words[word], number);
     }
 
     /** One bit a slot. */
@@ -140,8 +160,9 @@ private:
     /** A Fenwick tree: entry i counts the bits of the words (i - lowest bit of i, i]. */
     std::vector<std::uint32_t> m_sums;
     std::size_t m_count;
-    std::size_t m_end;
-    mutable std::size_t m_firstWord = 0;
+    /** Nothing waits before this slot, though some bits are left there, so many. */
+    std::size_t m_begin = 0;
+    std::size_t m_passed = 0;
     /** The slot asked for last, which may be taken since, and how many wait before it. */
     mutable std::size_t m_lastSlot = 0;
     mutable std::size_t m_lastNumber = 0;

@@ -6,6 +6,8 @@
 #include <QtGui/QIcon>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 namespace Zorvane {
 
@@ -52,25 +54,48 @@ bool isSameValue(const QVariant& left, const QVariant& right)
     return left == right;
 }
 
-/** Converts only a text beyond ASCII that may be equal. */
-bool equalsUtf8(const QString& text, const std::string& utf8)
+/** Four bytes as four 16-bit characters, in the same order. */
+std::uint64_t widened(std::uint32_t bytes)
 {
-    const std::size_t length = utf8.size();
-    const auto characterCount = static_cast<std::size_t>(text.size());
-    if (characterCount > length)
+    std::uint64_t wide = bytes;
+    wide = (wide | (wide << 16U)) & 0x0000ffff0000ffffU;
+    return (wide | (wide << 8U)) & 0x00ff00ff00ff00ffU;
+}
+
+/** Whether an ASCII text says the same; false for any other. Four characters at a time. */
+bool equalsAscii(const QString& text, const std::string& bytes)
+{
+    const std::size_t length = bytes.size();
+    if (static_cast<std::size_t>(text.size()) != length)
         return false;
     const QChar* characters = text.constData();
-    const auto* bytes = reinterpret_cast<const unsigned char*>(utf8.data());
-    // Without a way out of the loop, so that the compiler takes many characters at once.
-    unsigned differing = length - characterCount != 0 ? 1U : 0U;
-    unsigned bits = 0;
-    for (std::size_t i = 0; i < characterCount; ++i) {
-        differing |= static_cast<unsigned>(characters[i].unicode() ^ bytes[i]);
-        bits |= bytes[i];
+    std::uint64_t differing = 0;
+    std::uint32_t beyondAscii = 0;
+    std::size_t i = 0;
+    for (; i + 4 <= length; i += 4) {
+        std::uint32_t four = 0;
+        std::uint64_t wide = 0;
+        std::memcpy(&four, bytes.data() + i, sizeof four);
+        std::memcpy(&wide, characters + i, sizeof wide);
+        differing |= wide ^ widened(four);
+        beyondAscii |= four & 0x80808080U;
     }
-    if (differing == 0 && bits < 0x80U)
+    for (; i < length; ++i) {
+        const auto byte = static_cast<unsigned char>(bytes[i]);
+        differing |= static_cast<std::uint64_t>(characters[i].unicode() ^ byte);
+        beyondAscii |= byte & 0x80U;
+    }
+    return differing == 0 && beyondAscii == 0;
+}
+
+/** Converts only a text beyond ASCII. */
+bool equalsUtf8(const QString& text, const std::string& utf8)
+{
+    if (equalsAscii(text, utf8))
         return true;
-    const bool ascii = std::all_of(bytes, bytes + length, [](auto byte) { return byte < 0x80U; });
+    const bool ascii = std::all_of(utf8.begin(), utf8.end(), [](char character) {
+        return static_cast<signed char>(character) >= 0;
+    });
     return !ascii && text == QString::fromStdString(utf8);
 }
 

@@ -118,7 +118,7 @@ ZVTreeViewItem* ZVTreeViewItemChildren::take(int index)
         m_stage->edit();
         if (position(index) >= rows.size()) {
             const std::size_t slot = m_stage->waiting.nth(position(index) - rows.size());
-            m_stage->waiting.remove(slot);
+            m_stage->waiting.take(slot);
             return m_stage->shown[slot];
         }
     } else {
@@ -144,7 +144,7 @@ void ZVTreeViewItemChildren::placeWaiting(std::size_t count)
     WaitingSlots& waiting = m_stage->waiting;
     for (; count > 0; --count) {
         const std::size_t slot = waiting.first();
-        waiting.remove(slot);
+        waiting.takeFirst();
         m_stage->placed.push_back(m_stage->shown[slot]);
         m_stage->placedFrom.push_back(static_cast<int>(slot));
     }
