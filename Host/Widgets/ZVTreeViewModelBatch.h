@@ -13,8 +13,9 @@ namespace Zorvane {
  * from the state announced last; a view's place (expansion, selection, current row) survives
  * for every row that is still there at the end, wherever it went meanwhile.
  *
- * What is announced is the minimum: changed values first, as ranges in the old structure, then a
- * few exact removed and inserted ranges or, where there would be many, one change of layout.
+ * What is announced is the minimum: changed values first, in the old structure and as one range a
+ * parent (a sorted proxy must not meet a changed value that it has not been told of), then a few
+ * exact removed and inserted ranges or, where there would be many, one change of layout.
  * Slots may change rows and open batches while it is announced; what they do is announced after
  * it. A slot that throws is reported as a warning, and views start over.
  *

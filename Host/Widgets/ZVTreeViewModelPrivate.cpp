@@ -210,72 +210,30 @@ void ZVTreeViewModelPrivate::valueChanged(ZVTreeViewItem* row, int column,
     if (column >= headers.size())
         return;
     ZVTreeViewItem* parent = shownParent(row);
+    const int shownRow = parent->m_children->shownRowOf(row);
     int& group = parent->m_children->changeGroup;
     if (group < 0) {
         group = static_cast<int>(m_changes.size());
-        m_changes.push_back({parent, {}});
+        m_changes.push_back({parent, shownRow, shownRow, column, column, roles});
     }
-    record(m_changes[static_cast<std::size_t>(group)], parent->m_children->shownRowOf(row), column,
-           roles);
+    record(m_changes[static_cast<std::size_t>(group)], shownRow, column, roles);
 }
 
 void ZVTreeViewModelPrivate::record(ChangeGroup& group, int row, int column,
                                     const QVector<int>& roles)
 {
-    constexpr std::size_t mostRanges = 8;
-    for (auto range = group.ranges.rbegin(); range != group.ranges.rend(); ++range) {
-        const bool sameCells =
-            range->firstColumn <= column && column <= range->lastColumn && range->roles == roles;
-        if (!sameCells || row < range->firstRow - 1 || row > range->lastRow + 1)
-            continue;
-        range->firstRow = std::min(range->firstRow, row);
-        range->lastRow = std::max(range->lastRow, row);
+    group.firstRow = std::min(group.firstRow, row);
+    group.lastRow = std::max(group.lastRow, row);
+    group.firstColumn = std::min(group.firstColumn, column);
+    group.lastColumn = std::max(group.lastColumn, column);
+    if (group.roles == roles)
         return;
+    if (roles.isEmpty())
+        group.roles.clear();
+    for (int role : roles) {
+        if (!group.roles.isEmpty() && !group.roles.contains(role))
+            group.roles.append(role);
     }
-    group.ranges.push_back({row, row, column, column, roles});
-    if (group.ranges.size() > mostRanges)
-        mergeRanges(group);
-}
-
-void ZVTreeViewModelPrivate::joinNeighbours(ChangeGroup& group)
-{
-    auto& ranges = group.ranges;
-    for (auto range = ranges.begin(); range != ranges.end();) {
-        const auto touches = [range](const ValueRange& other) {
-            return other.firstColumn == range->firstColumn &&
-                   other.lastColumn == range->lastColumn && other.roles == range->roles &&
-                   other.firstRow <= range->lastRow + 1 && range->firstRow <= other.lastRow + 1;
-        };
-        const auto other = std::find_if(ranges.begin(), range, touches);
-        if (other == range) {
-            ++range;
-            continue;
-        }
-        other->firstRow = std::min(other->firstRow, range->firstRow);
-        other->lastRow = std::max(other->lastRow, range->lastRow);
-        // Grown, it may touch others in turn.
-        ranges.erase(range);
-        range = ranges.begin();
-    }
-}
-
-void ZVTreeViewModelPrivate::mergeRanges(ChangeGroup& group)
-{
-    ValueRange merged = group.ranges.front();
-    for (const ValueRange& range : group.ranges) {
-        merged.firstRow = std::min(merged.firstRow, range.firstRow);
-        merged.lastRow = std::max(merged.lastRow, range.lastRow);
-        merged.firstColumn = std::min(merged.firstColumn, range.firstColumn);
-        merged.lastColumn = std::max(merged.lastColumn, range.lastColumn);
-        // No roles at all means every role, and stays so.
-        if (range.roles.isEmpty())
-            merged.roles.clear();
-        for (int role : range.roles) {
-            if (!merged.roles.isEmpty() && !merged.roles.contains(role))
-                merged.roles.append(role);
-        }
-    }
-    group.ranges.assign(1, merged);
 }
 
 void ZVTreeViewModelPrivate::deleteRetired()

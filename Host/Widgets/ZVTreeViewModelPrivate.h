@@ -76,18 +76,20 @@ public:
 private:
     using Rows = ZVTreeViewItemChildren::Rows;
 
-    struct ValueRange
+    /**
+     * The changed values among the children of one row: one range around all of them. A sorted
+     * proxy looks a row's place up among its siblings, so it must not meet a changed value that
+     * has not been announced yet.
+     */
+    struct ChangeGroup
     {
+        ZVTreeViewItem* parent;
         int firstRow;
         int lastRow;
         int firstColumn;
         int lastColumn;
+        /** None at all means every role. */
         QVector<int> roles;
-    };
-    struct ChangeGroup
-    {
-        ZVTreeViewItem* parent;
-        std::vector<ValueRange> ranges;
     };
     struct RowRange
     {
@@ -110,14 +112,12 @@ private:
     using Plan = std::vector<ListPlan>;
 
     static void record(ChangeGroup& group, int row, int column, const QVector<int>& roles);
-    static void joinNeighbours(ChangeGroup& group);
-    static void mergeRanges(ChangeGroup& group);
     bool hasGathered() const { return !m_changes.empty() || !m_staged.empty(); }
     void dropUnchanged();
     void publishGathered();
     void publishRounds();
     void announceValues();
-    void announceRange(const ZVTreeViewItemChildren& children, const ValueRange& range);
+    void announceGroup(const ChangeGroup& group);
     ListPlan planFor(ZVTreeViewItem* parent) const;
     Plan makePlan() const;
     bool isExact(const Plan& plan) const;

@@ -101,40 +101,33 @@ void ZVTreeViewModelPrivate::publishRounds()
 
 void ZVTreeViewModelPrivate::announceValues()
 {
-    std::vector<ChangeGroup> changes = std::exchange(m_changes, {});
-    for (ChangeGroup& group : changes) {
-        joinNeighbours(group);
+    const std::vector<ChangeGroup> changes = std::exchange(m_changes, {});
+    for (const ChangeGroup& group : changes) {
         if (group.parent)
             group.parent->m_children->changeGroup = -1;
     }
     const unsigned resets = m_resets;
     for (const ChangeGroup& group : changes) {
-        if (!group.parent || !isAttached(group.parent))
-            continue;
-        for (const ValueRange& range : group.ranges) {
-            announceRange(*group.parent->m_children, range);
-            if (resets != m_resets)
-                return;
-        }
+        if (group.parent && isAttached(group.parent))
+            announceGroup(group);
+        if (resets != m_resets)
+            return;
     }
 }
 
-void ZVTreeViewModelPrivate::announceRange(const ZVTreeViewItemChildren& children,
-                                           const ValueRange& range)
+void ZVTreeViewModelPrivate::announceGroup(const ChangeGroup& group)
 {
-    int firstRow = range.firstRow;
-    int lastRow = range.lastRow;
-    // Rows about to be announced gone need no values any more.
-    while (firstRow <= lastRow && !isAttached(children.shownAt(firstRow)))
-        ++firstRow;
-    while (firstRow < lastRow && !isAttached(children.shownAt(lastRow)))
-        --lastRow;
-    const int lastColumn = std::min(range.lastColumn, headers.size() - 1);
-    if (firstRow > lastRow || range.firstColumn > lastColumn)
+    const ZVTreeViewItemChildren& children = *group.parent->m_children;
+    // Where all of them are about to be announced gone, nobody needs their values any more.
+    int staying = group.firstRow;
+    while (staying <= group.lastRow && !isAttached(children.shownAt(staying)))
+        ++staying;
+    const int lastColumn = std::min(group.lastColumn, headers.size() - 1);
+    if (staying > group.lastRow || group.firstColumn > lastColumn)
         return;
-    Q_EMIT q->dataChanged(q->createIndex(firstRow, range.firstColumn, children.shownAt(firstRow)),
-                          q->createIndex(lastRow, lastColumn, children.shownAt(lastRow)),
-                          range.roles);
+    Q_EMIT q->dataChanged(
+        q->createIndex(group.firstRow, group.firstColumn, children.shownAt(group.firstRow)),
+        q->createIndex(group.lastRow, lastColumn, children.shownAt(group.lastRow)), group.roles);
 }
 
 ZVTreeViewModelPrivate::Plan ZVTreeViewModelPrivate::makePlan() const
@@ -451,12 +444,8 @@ void ZVTreeViewModelPrivate::widenChanges(const ZVTreeViewItemChildren& children
         return;
     // Slots have told these while the rows were moving: any row of the list may be meant.
     ChangeGroup& group = m_changes[static_cast<std::size_t>(children.changeGroup)];
-    if (!group.ranges.empty())
-        mergeRanges(group);
-    for (ValueRange& range : group.ranges) {
-        range.firstRow = 0;
-        range.lastRow = children.shownCount() - 1;
-    }
+    group.firstRow = 0;
+    group.lastRow = children.shownCount() - 1;
 }
 
 void ZVTreeViewModelPrivate::settle(ZVTreeViewItem* parent)

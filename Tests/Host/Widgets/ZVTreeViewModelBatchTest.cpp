@@ -73,11 +73,6 @@ private Q_SLOTS:
     void rowThatGoesElsewhereIsAChangeOfLayout();
     void subtreeComesAndGoesWithItsTop();
     // Values
-    void valuesComeFirstAndInRanges();
-    void valuesOfDifferentRolesAreToldApart();
-    void manyScatteredValuesAreOneRange();
-    void valuesOfRemovedRowsAreNotAnnounced();
-    void valuesOfNewRowsAreNotAnnounced();
     void valueChangedBackIsToldAtMostOnce();
     void valueInAColumnThatIsTakenAwayIsNotAnnounced();
     // Nesting and closing
@@ -300,67 +295,6 @@ void ZVTreeViewModelBatchTest::subtreeComesAndGoesWithItsTop()
              }),
              linesOf("rowsRemoved / 0 0; rowsInserted / 1 1"));
     QCOMPARE(textsOf(m_tree->model), QStringLiteral("b c(e)"));
-}
-
-void ZVTreeViewModelBatchTest::valuesComeFirstAndInRanges()
-{
-    m_tree->model.setColumnCount(2);
-    appendRows(root(), "a b c d e");
-    appendRows(root()->child(4), "x");
-    QCOMPARE(inBatch([this] {
-                 root()->deleteChild(0);
-                 for (int row : {0, 2, 1})
-                     root()->child(row)->setText("t");
-                 root()->child(3)->child(0)->setData(1, Qt::ToolTipRole, 1);
-             }),
-             linesOf("dataChanged / 1:0 3:0 [0 2]; dataChanged e 0:1 0:1 [3]; rowsRemoved / 0 0"));
-}
-
-void ZVTreeViewModelBatchTest::valuesOfDifferentRolesAreToldApart()
-{
-    appendRows(root(), "a b");
-    QCOMPARE(inBatch([this] {
-                 root()->child(0)->setData(0, Qt::ToolTipRole, 1);
-                 root()->child(1)->setText("B");
-                 root()->child(1)->setData(0, Qt::ToolTipRole, 1);
-             }),
-             linesOf("dataChanged / 0:0 1:0 [3]; dataChanged / 1:0 1:0 [0 2]"));
-}
-
-void ZVTreeViewModelBatchTest::manyScatteredValuesAreOneRange()
-{
-    appendNumbered(root(), 100);
-    QCOMPARE(inBatch([this] {
-                 for (int row = 1; row < 100; row += 3)
-                     root()->child(row)->setText("t");
-             }),
-             linesOf("dataChanged / 1:0 97:0 [0 2]"));
-}
-
-void ZVTreeViewModelBatchTest::valuesOfRemovedRowsAreNotAnnounced()
-{
-    appendRows(root(), "a b c d");
-    appendRows(root()->child(0), "x");
-    QCOMPARE(inBatch([this] {
-                 root()->child(0)->child(0)->setText("X");
-                 for (int row : {0, 1, 2})
-                     root()->child(row)->setText("t");
-                 root()->deleteChild(2);
-                 root()->deleteChild(0);
-             }),
-             linesOf("dataChanged / 1:0 1:0 [0 2]; rowsRemoved / 2 2; rowsRemoved / 0 0"));
-}
-
-void ZVTreeViewModelBatchTest::valuesOfNewRowsAreNotAnnounced()
-{
-    QCOMPARE(inBatch([this] {
-                 appendRows(root(), "a");
-                 root()->child(0)->setText("A");
-                 appendRows(root()->child(0), "b");
-                 root()->child(0)->child(0)->setText("B");
-             }),
-             linesOf("rowsInserted / 0 0"));
-    QCOMPARE(textsOf(m_tree->model), QStringLiteral("A(B)"));
 }
 
 void ZVTreeViewModelBatchTest::valueChangedBackIsToldAtMostOnce()
