@@ -1,13 +1,13 @@
 #include "Workbench/Tree/DesignTree.h"
 
 #include "Host/Widgets/ZVTreeViewModelBatch.h"
+#include "Host/Widgets/ZVTreeViewPlaceKeeper.h"
 #include "TreeModel/ModelItemFilterCombiner.h"
 #include "TreeModel/ZVTreeItemDataProviderManager.h"
 #include "Workbench/Design/DesignSession.h"
 #include "Workbench/Tree/DesignTreeDelegate.h"
 #include "Workbench/Tree/KindFilter.h"
 #include "Workbench/Tree/NameFilter.h"
-#include "Workbench/Tree/ScrollKeeper.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QHeaderView>
@@ -88,7 +88,9 @@ void DesignTree::attach(QTreeView* view)
     view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::DoubleClicked);
     view->setAllColumnsShowFocus(true);
-    m_scrollKeeper = new ScrollKeeper(view, &m_model, view);
+    // Before the keeper hears of it: what is expanded above moves the rows in sight.
+    connect(&m_model, &ZVTreeViewModel::published, this, &DesignTree::expandNewRows);
+    new ZVTreeViewPlaceKeeper(view);
     connect(view, &QTreeView::expanded, this,
             [this](const QModelIndex& index) { noteExpansion(index, true); });
     connect(view, &QTreeView::collapsed, this,
@@ -199,13 +201,18 @@ void DesignTree::refreshNow()
             m_synchronizer.updateViewModelItems(&m_model);
         }
     }
-    if (m_view) {
-        if (m_structureChanged)
-            applyExpansion({});
-        m_scrollKeeper->restore();
-    }
-    m_structureChanged = false;
+    // There may have been nothing to announce, and yet another filter.
+    expandNewRows();
     Q_EMIT refreshed();
+}
+
+void DesignTree::expandNewRows()
+{
+    // Others' batches are none of a refresh that is yet to come.
+    if (!m_busy || !m_structureChanged)
+        return;
+    applyExpansion({});
+    m_structureChanged = false;
 }
 
 void DesignTree::applyExpansion(const QModelIndex& parent)

@@ -22,7 +22,6 @@ namespace Zorvane::Workbench {
 class DesignSession;
 class KindFilter;
 class NameFilter;
-class ScrollKeeper;
 
 /**
  * Shows a session in a tree view and keeps it in step: whatever changes in the session or the
@@ -92,6 +91,7 @@ private:
     };
 
     void schedule(Scope scope, When when);
+    void expandNewRows();
     void applyExpansion(const QModelIndex& parent);
     void noteExpansion(const QModelIndex& index, bool expanded);
     void takeOverName(const QModelIndex& index, const QVariant& value, int role);
@@ -105,7 +105,6 @@ private:
     ZVTreeViewModel m_model;
     GenericTreeViewModelHandling::ModelItemToZVTreeModelSyncronizer m_synchronizer;
     QPointer<QTreeView> m_view;
-    ScrollKeeper* m_scrollKeeper = nullptr;
     std::set<IDCombiner> m_collapsed;
     QTimer m_soon;
     bool m_queued = false;
