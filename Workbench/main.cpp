@@ -7,6 +7,7 @@
 #include <QtCore/QLocale>
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
@@ -39,6 +40,10 @@ int takeTour(QApplication& application, const QString& folder, const QStringList
 
 int openWindow(QApplication& application, QStringList paths)
 {
+    QTranslator texts;
+    if (texts.load(QLocale(), QStringLiteral("zorvane"), QStringLiteral("_"),
+                   QStringLiteral(":/Zorvane/Translations")))
+        QCoreApplication::installTranslator(&texts);
     applyAppearance(application, storedAppearance());
     MainWindow window;
     window.keepLayout();

@@ -1,5 +1,6 @@
 #include "Workbench/Design/DesignSession.h"
 
+#include "Workbench/Design/FileAdditions.h"
 #include "Workbench/Meshes/MeshReader.h"
 
 #include <QtCore/QDir>
@@ -183,6 +184,37 @@ QString DesignSession::rename(const GUIdentifier& objectId, const QString& name)
     if (obstacle.isEmpty() && m_store.rename(objectId, trimmed))
         Q_EMIT changed();
     return obstacle;
+}
+
+Problems DesignSession::addFiles(const GUIdentifier& designId, const QStringList& files)
+{
+    const Design* design = findDesign(designId);
+    if (design == nullptr)
+        return {{{}, {}, tr("the design is no longer open")}};
+    Problems obstacles;
+    for (const QString& file : files)
+        if (const std::optional<Problem> obstacle = FileAdditions::obstacle(*design, file))
+            obstacles.push_back(*obstacle);
+    if (!obstacles.empty())
+        return obstacles;
+    if (m_store.addFiles(designId, files)) {
+        watch();
+        Q_EMIT changed();
+    }
+    return {};
+}
+
+GUIdentifier DesignSession::findObject(const GUIdentifier& designId, const QString& file) const
+{
+    const Design* design = findDesign(designId);
+    const FileReference* reference =
+        design == nullptr ? nullptr : FileAdditions::find(*design, file);
+    if (reference == nullptr)
+        return {};
+    for (const Part& part : design->parts)
+        if (part.geometry == reference->id)
+            return part.id;
+    return reference->id;
 }
 
 bool DesignSession::isModified(const GUIdentifier& objectId) const

@@ -22,7 +22,7 @@ namespace Zorvane::Workbench {
  * Lives in one thread with an event loop. References and pointers into designs are valid until the
  * next `changed`.
  *
- * Not supported: adding and removing objects; undo.
+ * Not supported: removing objects, adding any but files and their parts; undo.
  */
 class DesignSession : public QObject
 {
@@ -76,6 +76,18 @@ public:
      * changed then. Empty when done. The same name again changes nothing.
      */
     QString rename(const GUIdentifier& objectId, const QString& name);
+
+    /**
+     * Has a design refer to files in its folder, kinds told by their endings; a mesh file becomes a
+     * part as well. Files that the design refers to already are not added again. If any file
+     * cannot be added nothing changes, and the result tells why; it is empty when all went well.
+     */
+    Problems addFiles(const GUIdentifier& designId, const QStringList& files);
+    /**
+     * The first part of the design that shows the file, else its reference to the file; null if it
+     * doesn't refer to it.
+     */
+    GUIdentifier findObject(const GUIdentifier& designId, const QString& file) const;
 
     bool isModified() const { return m_store.isModified(); }
     /** Whether the object itself, not what it contains, was changed since it was read or saved. */

@@ -1,6 +1,7 @@
 #include "Workbench/Design/DesignStore.h"
 
 #include "Workbench/Design/DesignWriter.h"
+#include "Workbench/Design/FileAdditions.h"
 #include "Workbench/Design/FileReferences.h"
 
 #include <QtCore/QFileInfo>
@@ -92,7 +93,7 @@ void DesignStore::arrange()
         placeOpened(file, pool);
     for (const auto& [file, record] : m_records) {
         // No longer referred to, but with changes that only we have.
-        if (record.savedNames.empty() || contains(m_designs, file))
+        if (!record.isModified() || contains(m_designs, file))
             continue;
         m_opened.append(file);
         placeOpened(file, pool);
@@ -198,7 +199,7 @@ DesignStore::Outcome DesignStore::follow(const QString& file)
         record.conflict = false;
         return different ? Outcome::Changed : Outcome::Nothing;
     }
-    if (design != nullptr && reading.design && !record.savedNames.empty()) {
+    if (design != nullptr && reading.design && record.isModified()) {
         const bool known = record.conflict;
         noteConflict(record, file);
         return known ? Outcome::Nothing : Outcome::Conflict;
@@ -257,16 +258,34 @@ bool DesignStore::rename(const GUIdentifier& objectId, const QString& name)
     return false;
 }
 
+bool DesignStore::addFiles(const GUIdentifier& designId, const QStringList& files)
+{
+    const Design* const found = find(designId);
+    Design* const design = found == nullptr ? nullptr : findByFile(found->file);
+    if (design == nullptr)
+        return false;
+    std::vector<GUIdentifier> added;
+    for (const QString& file : files) {
+        const std::vector<GUIdentifier> objects = FileAdditions::add(*design, file);
+        added.insert(added.end(), objects.begin(), objects.end());
+    }
+    m_records[design->file].added.insert(added.begin(), added.end());
+    if (!added.empty())
+        arrange();
+    return !added.empty();
+}
+
 bool DesignStore::isModified() const
 {
     return std::any_of(m_records.begin(), m_records.end(),
-                       [](const auto& entry) { return !entry.second.savedNames.empty(); });
+                       [](const auto& entry) { return entry.second.isModified(); });
 }
 
 bool DesignStore::isModified(const GUIdentifier& objectId) const
 {
     const Record* record = recordOf(objectId);
-    return record != nullptr && record->savedNames.count(objectId) != 0;
+    return record != nullptr &&
+           (record->savedNames.count(objectId) != 0 || record->added.count(objectId) != 0);
 }
 
 bool DesignStore::hasConflict(const GUIdentifier& designId) const
@@ -280,7 +299,7 @@ Problems DesignStore::save(bool overwriteConflicts)
     Problems failures;
     for (Design& design : m_designs) {
         Record& record = m_records[design.file];
-        if (record.savedNames.empty())
+        if (!record.isModified())
             continue;
         if (const auto failure = saveOne(design, record, overwriteConflicts))
             failures.push_back(*failure);

@@ -12,6 +12,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <vector>
 
 namespace Zorvane::Workbench {
@@ -55,6 +56,8 @@ public:
 
     /** The object must belong to a design. True if that changes the name. */
     bool rename(const GUIdentifier& objectId, const QString& name);
+    /** Adds what the design, which must be open, doesn't refer to yet. True if anything is new. */
+    bool addFiles(const GUIdentifier& designId, const QStringList& files);
     bool isModified() const;
     bool isModified(const GUIdentifier& objectId) const;
     bool hasConflict(const GUIdentifier& designId) const;
@@ -75,6 +78,10 @@ private:
         bool conflict = false;
         /** Names as in the file, of the objects that have another one now. */
         std::map<GUIdentifier, QString> savedNames;
+        /** Objects that the file doesn't have yet. */
+        std::set<GUIdentifier> added;
+
+        bool isModified() const { return !savedNames.empty() || !added.empty(); }
     };
     using Pool = std::map<QString, Design>;
 

@@ -32,6 +32,10 @@ private:
     void refuseAName();
     void followAnotherProgram();
     void missFile();
+    void importAndExport();
+    void importFiles();
+    void cancelAnImport();
+    void exportTheSelection();
     void openDoor();
     void openManyFiles();
     void lookAndCancel();

@@ -6,6 +6,7 @@
 #include <QtCore/QTimer>
 #include <QtGui/QAccessible>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTreeView>
@@ -122,10 +123,12 @@ QWidget* WindowDriver::nameEditor() const
 
 QStringList WindowDriver::tabStops() const
 {
-    m_window.activateWindow();
-    m_window.treeView().setFocus();
-    QStringList names;
     QWidget* const first = &m_window.treeView();
+    // A dialog that has gone may still be the active window.
+    m_window.activateWindow();
+    first->setFocus();
+    waitFor([first] { return QApplication::focusWidget() == first; });
+    QStringList names;
     QWidget* now = first;
     do {
         names << accessibleName(now);
@@ -139,6 +142,22 @@ QImage WindowDriver::picture() const
 {
     settle();
     return m_window.grab().toImage();
+}
+
+QImage WindowDriver::pictureWith(QWidget& dialog) const
+{
+    QImage whole = m_window.grab().toImage();
+    const QImage inner = dialog.grab().toImage();
+    const int titleHeight = 2 * m_window.fontMetrics().height();
+    QRect frame(0, 0, inner.width() + 2, inner.height() + titleHeight + 1);
+    frame.moveCenter(whole.rect().center());
+    QPainter painter(&whole);
+    painter.fillRect(frame, m_window.palette().color(QPalette::Highlight));
+    painter.setPen(m_window.palette().color(QPalette::HighlightedText));
+    painter.drawText(QRect(frame.topLeft(), QSize(frame.width(), titleHeight)), Qt::AlignCenter,
+                     dialog.windowTitle());
+    painter.drawImage(frame.topLeft() + QPoint(1, titleHeight), inner);
+    return whole;
 }
 
 } // namespace Zorvane::Workbench

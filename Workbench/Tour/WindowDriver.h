@@ -48,6 +48,8 @@ public:
     QStringList tabStops() const;
 
     QImage picture() const;
+    /** The window with a dialog over it, under its title. */
+    QImage pictureWith(QWidget& dialog) const;
 
 private:
     void addVisibleNames(const QModelIndex& parent, QStringList& names) const;

@@ -1,6 +1,7 @@
 #include "Workbench/Window/MainWindow.h"
 
 #include "Host/Widgets/ZVMessageBox.h"
+#include "Workbench/Import/FileExchange.h"
 #include "Workbench/MeshView/MeshView.h"
 #include "Workbench/Meshes/MeshReader.h"
 #include "Workbench/Stress/StressWindow.h"
@@ -51,6 +52,7 @@ namespace {
 const QString s_geometryKey = QStringLiteral("Workbench/Geometry");
 const QString s_stateKey = QStringLiteral("Workbench/State");
 const QString s_sidesKey = QStringLiteral("Workbench/Sides");
+constexpr int s_noticeMilliseconds = 8000;
 
 QStringList localPaths(const QMimeData& data)
 {
@@ -68,6 +70,8 @@ MainWindow::MainWindow(QWidget* parent)
     , m_tree((initializeResources(), new DesignTree(m_session, m_loader, this)))
     , m_actions(new WindowActions(this))
     , m_factsReader(new FactsReader(m_session, m_loader, this))
+    , m_designView(new BaseView(this))
+    , m_exchange(new FileExchange(m_session, m_designView, this))
     , m_filterBar(new FilterBar(this))
     , m_treeView(new QTreeView(this))
     , m_meshView(new MeshView(this))
@@ -107,13 +111,12 @@ void MainWindow::layOut()
     m_problemsPanel->hide();
     for (QSplitter* splitter : {m_sides, m_meshAndDetails, m_allAndProblems})
         splitter->setChildrenCollapsible(false);
-    auto* middle = new QWidget(this);
-    auto* layout = new QVBoxLayout(middle);
+    auto* layout = new QVBoxLayout(m_designView);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_messageBar);
     layout->addWidget(m_allAndProblems, 1);
-    setCentralWidget(middle);
+    setCentralWidget(m_designView);
     const double unit = digitWidth();
     const QSize available = QGuiApplication::primaryScreen()->availableSize();
     resizeAndDivide(QSize(int(170 * unit), int(102 * unit)).boundedTo(available));
@@ -185,6 +188,8 @@ void MainWindow::fillFileMenu()
         connect(samples->addAction(sample.name), &QAction::triggered, this,
                 [this, folder = sample.folder] { open({folder}); });
     samples->setEnabled(!samples->isEmpty());
+    file->addSeparator();
+    m_actions->addTo(*file, {WindowActions::Import, WindowActions::Export});
     file->addSeparator();
     m_actions->addTo(*file, {WindowActions::Save, WindowActions::Reload, WindowActions::CloseAll});
     file->addSeparator();
@@ -264,6 +269,8 @@ void MainWindow::connectActions()
     };
     on(WindowActions::OpenFiles, &MainWindow::askForFiles);
     on(WindowActions::OpenFolder, &MainWindow::askForFolder);
+    on(WindowActions::Import, &MainWindow::importFiles);
+    on(WindowActions::Export, &MainWindow::exportFiles);
     on(WindowActions::Save, &MainWindow::saveAll);
     on(WindowActions::Reload, &MainWindow::reload);
     on(WindowActions::CloseAll, &MainWindow::closeAll);
@@ -313,6 +320,13 @@ void MainWindow::connectParts()
             m_messageBar->hide();
     });
     connect(&m_session, &DesignSession::conflictFound, this, &MainWindow::tellConflict);
+    connect(m_exchange, &FileExchange::failed, m_messageBar, &MessageBar::say);
+    connect(m_exchange, &FileExchange::done, this,
+            [this](const QString& text) { statusBar()->showMessage(text, s_noticeMilliseconds); });
+    connect(m_exchange, &FileExchange::imported, this, [this](const GUIdentifier& object) {
+        m_tree->refreshNow();
+        m_tree->select(object);
+    });
     connect(m_progress, &ReadingProgress::cancelled, m_factsReader, &FactsReader::cancel);
     connect(m_problemsPanel, &ProblemsPanel::activated, this, [this](const Problem& problem) {
         if (const std::optional<IDCombiner> id = m_tree->catalog().findByFile(problem.file))
@@ -354,6 +368,7 @@ void MainWindow::showCurrent()
     m_details->show(m_tree->catalog(), m_tree->currentId());
     const GUIdentifier object = m_tree->currentId().getCombinedPart();
     (*m_actions)[WindowActions::Rename]->setEnabled(m_session.canRename(object));
+    (*m_actions)[WindowActions::Export]->setEnabled(m_exchange->canExport(object));
 }
 
 void MainWindow::showSession()
@@ -369,6 +384,7 @@ void MainWindow::showSession()
     setWindowModified(!subject.isEmpty() && m_session.isModified());
     (*m_actions)[WindowActions::Save]->setEnabled(m_session.isModified());
     const bool something = !designs.empty() || !m_session.looseParts().empty();
+    (*m_actions)[WindowActions::Import]->setEnabled(!designs.empty());
     (*m_actions)[WindowActions::Reload]->setEnabled(something);
     (*m_actions)[WindowActions::CloseAll]->setEnabled(something || !m_session.problems().empty());
 }
@@ -486,6 +502,18 @@ void MainWindow::closeAll()
     m_messageBar->hide();
     m_loader.cancel();
     m_session.close();
+}
+
+void MainWindow::importFiles()
+{
+    m_messageBar->hide();
+    m_exchange->importFiles(m_exchange->targetFor(m_tree->currentId().getCombinedPart()));
+}
+
+void MainWindow::exportFiles()
+{
+    m_messageBar->hide();
+    m_exchange->exportFiles(m_tree->currentId().getCombinedPart());
 }
 
 void MainWindow::rename()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Host/Widgets/BaseView.h"
 #include "Workbench/Design/DesignSession.h"
 #include "Workbench/Meshes/MeshLoader.h"
 #include "Workbench/Tree/DesignTree.h"
@@ -18,6 +19,7 @@ namespace Zorvane::Workbench {
 
 class DetailsPanel;
 class FactsReader;
+class FileExchange;
 class FilterBar;
 class MeshPresenter;
 class MeshView;
@@ -45,6 +47,10 @@ public:
     void resizeAndDivide(const QSize& size);
     /** Reads everything again, once the user has agreed to drop unsaved changes. */
     void reload();
+    /** Asks for files, and brings them into the selected design, else the first one. */
+    void importFiles();
+    /** Asks for a folder, and copies the files of what is selected to it. */
+    void exportFiles();
     /** The window as it was left last; stores it again when it closes. */
     void keepLayout();
 
@@ -54,6 +60,7 @@ public:
     DesignTree& tree() { return *m_tree; }
     QTreeView& treeView() { return *m_treeView; }
     MeshView& meshView() { return *m_meshView; }
+    FileExchange& fileExchange() { return *m_exchange; }
     FilterBar& filterBar() { return *m_filterBar; }
     const ProblemsPanel& problemsPanel() const { return *m_problemsPanel; }
     const MessageBar& messageBar() const { return *m_messageBar; }
@@ -102,6 +109,8 @@ private:
     DesignTree* m_tree;
     WindowActions* m_actions;
     FactsReader* m_factsReader;
+    BaseView* m_designView;
+    FileExchange* m_exchange;
     FilterBar* m_filterBar;
     QTreeView* m_treeView;
     MeshView* m_meshView;

@@ -21,6 +21,8 @@ struct ActionRow
 constexpr ActionRow s_actions[] = {
     {WindowActions::OpenFiles,     QT_TR_NOOP("&Open Files…"),         "Ctrl+O",       ""},
     {WindowActions::OpenFolder,    QT_TR_NOOP("Open &Folder…"),        "Ctrl+Shift+O", "open"},
+    {WindowActions::Import,        QT_TR_NOOP("&Import…"),             "Ctrl+I",       ""},
+    {WindowActions::Export,        QT_TR_NOOP("&Export…"),             "Ctrl+E",       ""},
     {WindowActions::Save,          QT_TR_NOOP("&Save"),                "Ctrl+S",       "save"},
     {WindowActions::Reload,        QT_TR_NOOP("&Reload"),              "F5",           "reload"},
     {WindowActions::CloseAll,      QT_TR_NOOP("&Close All"),           "Ctrl+W",       ""},

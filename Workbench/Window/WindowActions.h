@@ -22,6 +22,8 @@ public:
     {
         OpenFiles,
         OpenFolder,
+        Import,
+        Export,
         Save,
         Reload,
         CloseAll,

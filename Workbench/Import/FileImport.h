@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Host/Identifiers/GUIdentifier.h"
+#include "Host/Widgets/BaseView.h"
+#include "Workbench/Design/Problem.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
+#include <QtCore/QStringList>
+
+namespace Zorvane::Workbench {
+
+class DesignSession;
+
+struct ImportOutcome
+{
+    /** Those in the design's folder that the design refers to now. */
+    QStringList files;
+    /** Why nothing was imported. Empty as well if the user gave the import up. */
+    Problems problems;
+};
+
+/**
+ * Brings files into an open design. Files outside of the design's folder are offered for copying
+ * next to the design; then the design refers to all of them, which is an unsaved change. Files in
+ * sub-folders of the design are used where they lie.
+ *
+ * A file that cannot be imported keeps all of them from it. Giving up at a question changes
+ * nothing; what a cancelled copy has completed stays and is imported.
+ */
+class FileImport
+{
+    Q_DECLARE_TR_FUNCTIONS(Zorvane::Workbench::FileImport)
+
+public:
+    /** The session must outlive this; the view, the parent of questions, may be null. */
+    FileImport(DesignSession& session, BaseView* view);
+
+    ImportOutcome run(const GUIdentifier& designId, const QStringList& files);
+
+private:
+    DesignSession& m_session;
+    QPointer<BaseView> m_view;
+};
+
+} // namespace Zorvane::Workbench
