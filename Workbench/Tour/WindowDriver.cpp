@@ -148,14 +148,17 @@ QImage WindowDriver::pictureWith(QWidget& dialog) const
 {
     QImage whole = m_window.grab().toImage();
     const QImage inner = dialog.grab().toImage();
-    const int titleHeight = 2 * m_window.fontMetrics().height();
+    // A frameless window draws its title itself.
+    const bool hasTitle = !dialog.windowFlags().testFlag(Qt::FramelessWindowHint);
+    const int titleHeight = hasTitle ? 2 * m_window.fontMetrics().height() : 1;
     QRect frame(0, 0, inner.width() + 2, inner.height() + titleHeight + 1);
     frame.moveCenter(whole.rect().center());
     QPainter painter(&whole);
     painter.fillRect(frame, m_window.palette().color(QPalette::Highlight));
     painter.setPen(m_window.palette().color(QPalette::HighlightedText));
-    painter.drawText(QRect(frame.topLeft(), QSize(frame.width(), titleHeight)), Qt::AlignCenter,
-                     dialog.windowTitle());
+    if (hasTitle)
+        painter.drawText(QRect(frame.topLeft(), QSize(frame.width(), titleHeight)), Qt::AlignCenter,
+                         dialog.windowTitle());
     painter.drawImage(frame.topLeft() + QPoint(1, titleHeight), inner);
     return whole;
 }

@@ -336,7 +336,7 @@ void MainWindow::connectParts()
 
 void MainWindow::open(const QStringList& paths)
 {
-    m_messageBar->hide();
+    hideMessages();
     QStringList absolute;
     for (const QString& path : paths) {
         absolute << QFileInfo(path).absoluteFilePath();
@@ -499,20 +499,26 @@ void MainWindow::closeAll()
 {
     if (!mayDropChanges())
         return;
-    m_messageBar->hide();
+    hideMessages();
     m_loader.cancel();
     m_session.close();
 }
 
-void MainWindow::importFiles()
+void MainWindow::hideMessages()
 {
     m_messageBar->hide();
+    statusBar()->clearMessage();
+}
+
+void MainWindow::importFiles()
+{
+    hideMessages();
     m_exchange->importFiles(m_exchange->targetFor(m_tree->currentId().getCombinedPart()));
 }
 
 void MainWindow::exportFiles()
 {
-    m_messageBar->hide();
+    hideMessages();
     m_exchange->exportFiles(m_tree->currentId().getCombinedPart());
 }
 

@@ -95,6 +95,7 @@ private:
     void closeAll();
     void rename();
     void showStress();
+    void hideMessages();
     void about();
 
     void showCurrent();
