@@ -72,10 +72,6 @@ private Q_SLOTS:
     void loosePartsAreNamedByTheirFiles();
     void renamesInDesignReferredTo();
     void failedSaveStaysModified();
-    void addsFilesAndSaves();
-    void addsAllFilesOrNone();
-    void addedObjectsMayBeRenamed();
-    void keepsAddedFilesOnConflict();
 
     void followsRewritingInPlace();
     void followsReplacementByRename();
@@ -452,76 +448,6 @@ void DesignSessionTest::failedSaveStaysModified()
     QVERIFY(QDir().mkdir(path("d")));
     QVERIFY(m_session->save().empty());
     QVERIFY(readFile(file).contains("Other"));
-}
-
-void DesignSessionTest::addsFilesAndSaves()
-{
-    const QString file = openSmallDesign();
-    const QString mesh = writeFile(path("geometry/new.stl"), "solid");
-    const QString table = writeFile(path("forces.csv"), "1");
-    const QSignalSpy changed(m_session.get(), &DesignSession::changed);
-    QVERIFY(m_session->addFiles(id(1), {mesh, table}).empty());
-    QCOMPARE(changed.count(), 1);
-    const Design& design = m_session->designs().at(0);
-    QCOMPARE(design.files.size(), std::size_t(4));
-    QCOMPARE(design.files.at(2).path, QStringLiteral("geometry/new.stl"));
-    QCOMPARE(design.files.at(3).kind, FileKind::Result);
-    QCOMPARE(design.parts.back().geometry, design.files.at(2).id);
-    QVERIFY(m_session->isModified(design.files.at(3).id));
-    QVERIFY(!m_session->isModified(id(40)));
-    QCOMPARE(readFile(file), toText(smallDesign()));
-    QVERIFY(m_session->save().empty());
-    QVERIFY(!m_session->isModified());
-    DesignSession other;
-    other.open({file});
-    QCOMPARE(other.designs().at(0).files.at(3).id, design.files.at(3).id);
-    QCOMPARE(other.findObject(id(1), mesh), design.parts.back().id);
-    QCOMPARE(other.findObject(id(1), table), design.files.at(3).id);
-    QVERIFY(other.findObject(id(1), path("nowhere.csv")).isNull());
-}
-
-void DesignSessionTest::addsAllFilesOrNone()
-{
-    openSmallDesign();
-    const QString table = writeFile(path("forces.csv"), "1");
-    const QTemporaryDir elsewhere;
-    const QString outside = writeFile(elsewhere.filePath(QStringLiteral("a.csv")), "1");
-    const QSignalSpy changed(m_session.get(), &DesignSession::changed);
-    const Problems problems = m_session->addFiles(id(1), {table, outside, path("missing.csv")});
-    QCOMPARE(problems.size(), std::size_t(2));
-    QCOMPARE(problems.at(0).file, outside);
-    QCOMPARE(problems.at(1).file, path("missing.csv"));
-    QCOMPARE(changed.count(), 0);
-    QVERIFY(!m_session->isModified());
-    QCOMPARE(m_session->designs().at(0).files.size(), std::size_t(2));
-    QCOMPARE(m_session->addFiles(id(99), {table}).size(), std::size_t(1));
-}
-
-void DesignSessionTest::addedObjectsMayBeRenamed()
-{
-    const QString file = openSmallDesign();
-    const QString table = writeFile(path("forces.csv"), "1");
-    m_session->addFiles(id(1), {table});
-    const GUIdentifier added = m_session->findObject(id(1), table);
-    QCOMPARE(m_session->rename(added, QStringLiteral("Other")), QString());
-    QCOMPARE(m_session->rename(added, QStringLiteral("forces")), QString());
-    QVERIFY(m_session->isModified(added));
-    m_session->revert(id(1));
-    QVERIFY(!m_session->isModified());
-    QVERIFY(m_session->findObject(id(1), table).isNull());
-    QCOMPARE(readFile(file), toText(smallDesign()));
-}
-
-void DesignSessionTest::keepsAddedFilesOnConflict()
-{
-    const QString file = openSmallDesign();
-    const QString table = writeFile(path("forces.csv"), "1");
-    m_session->addFiles(id(1), {table});
-    replaceFile(file, namedDesign(QStringLiteral("Theirs")));
-    QTRY_VERIFY_WITH_TIMEOUT(m_session->hasConflict(id(1)), patience);
-    QVERIFY(!m_session->findObject(id(1), table).isNull());
-    QCOMPARE(m_session->save().size(), std::size_t(1));
-    QVERIFY(readFile(file).contains("Theirs"));
 }
 
 void DesignSessionTest::followsRewritingInPlace()
