@@ -3,8 +3,6 @@
 #include "Benchmarks/Support/RatioRow.h"
 #include "Benchmarks/Support/TreeScenes.h"
 
-#include <cmath>
-#include <ctime>
 #include <map>
 
 using namespace Zorvane;

@@ -113,21 +113,32 @@ void ZVTreeViewItemChildren::append(const QVector<ZVTreeViewItem*>& children)
 
 ZVTreeViewItem* ZVTreeViewItemChildren::take(int index)
 {
-    Rows& rows = m_stage ? m_stage->placed : m_rows;
-    if (m_stage) {
-        m_stage->edit();
-        if (position(index) >= rows.size()) {
-            const std::size_t slot = m_stage->waiting.nth(position(index) - rows.size());
-            m_stage->waiting.take(slot);
-            return m_stage->shown[slot];
-        }
-    } else {
-        m_numbered = std::min(m_numbered, position(index));
-    }
-    ZVTreeViewItem* child = rows[position(index)];
-    rows.erase(iteratorAt(rows, position(index)));
     if (m_stage)
-        m_stage->placedFrom.erase(m_stage->placedFrom.begin() + index);
+        return takeStaged(position(index));
+    m_numbered = std::min(m_numbered, position(index));
+    ZVTreeViewItem* child = m_rows[position(index)];
+    m_rows.erase(iteratorAt(m_rows, position(index)));
+    return child;
+}
+
+ZVTreeViewItem* ZVTreeViewItemChildren::takeStaged(std::size_t index)
+{
+    Rows& placed = m_stage->placed;
+    std::vector<int>& from = m_stage->placedFrom;
+    ZVTreeViewItem* child = nullptr;
+    m_stage->edit();
+    if (index < placed.size()) {
+        child = placed[index];
+        m_stage->lastTakenFrom = from[index];
+        placed.erase(iteratorAt(placed, index));
+        from.erase(from.begin() + static_cast<std::ptrdiff_t>(index));
+    } else {
+        const std::size_t slot = m_stage->waiting.nth(index - placed.size());
+        child = m_stage->shown[slot];
+        m_stage->lastTakenFrom = static_cast<int>(slot);
+        m_stage->waiting.take(slot);
+    }
+    m_stage->lastTaken = child;
     return child;
 }
 
@@ -135,6 +146,8 @@ int ZVTreeViewItemChildren::shownRowIfKnown(const ZVTreeViewItem* child) const
 {
     if (child->hasState(ZVTreeViewItem::Fresh | ZVTreeViewItem::Relocated))
         return -1;
+    if (child == m_stage->lastTaken)
+        return m_stage->lastTakenFrom;
     const int row = rowIn(m_stage->shown, child, m_numbered);
     return position(row) < m_stage->shown.size() ? row : -1;
 }
@@ -152,8 +165,6 @@ void ZVTreeViewItemChildren::placeWaiting(std::size_t count)
 
 void ZVTreeViewItemChildren::stage(unsigned& edits)
 {
-    for (; m_numbered < m_rows.size(); ++m_numbered)
-        m_rows[m_numbered]->m_row = static_cast<int>(m_numbered);
     m_stage = std::make_unique<Stage>(std::move(m_rows), edits);
     m_rows.clear();
 }
@@ -167,17 +178,17 @@ const ZVTreeViewItemChildren::Rows& ZVTreeViewItemChildren::arranged()
     return m_stage->placed;
 }
 
-void ZVTreeViewItemChildren::numberShown(std::size_t first)
+void ZVTreeViewItemChildren::renumberShown(std::size_t first)
 {
-    const Rows& rows = m_stage->shown;
-    for (std::size_t row = first; row < rows.size(); ++row)
-        rows[row]->m_row = static_cast<int>(row);
-    m_numbered = rows.size();
+    m_numbered = std::min(m_numbered, first);
 }
 
 void ZVTreeViewItemChildren::restage()
 {
     const Rows& shown = m_stage->shown;
+    for (; m_numbered < shown.size(); ++m_numbered)
+        shown[m_numbered]->m_row = static_cast<int>(m_numbered);
+    m_stage->lastTaken = nullptr;
     for (std::size_t i = 0; i < m_stage->placed.size(); ++i) {
         const ZVTreeViewItem* row = m_stage->placed[i];
         const auto claimed = static_cast<std::size_t>(row->m_row);

@@ -55,8 +55,8 @@ public:
     const std::vector<int>& arrangedFrom() const { return m_stage->placedFrom; }
     /** What views see changes; the caller announces it. */
     Rows& editShown() { return m_stage->shown; }
-    /** Numbers the shown rows from `first` on. */
-    void numberShown(std::size_t first = 0);
+    /** The shown rows from `first` on have other numbers now; they get them when asked for. */
+    void renumberShown(std::size_t first = 0);
     /** Views have been told: what is shown is what is. */
     void unstage();
     /** Views have been told, but rows have changed meanwhile: further changes are gathered. */
@@ -90,12 +90,16 @@ private:
         std::vector<int> placedFrom;
         /** Those of the shown rows that still are where they were. */
         WaitingSlots waiting;
+        /** The row taken last mostly is the one put back next. */
+        const ZVTreeViewItem* lastTaken = nullptr;
+        int lastTakenFrom = -1;
         bool dirty = true;
         unsigned& edits;
     };
 
     const Rows& shown() const { return m_stage ? m_stage->shown : m_rows; }
     ZVTreeViewItem* findStaged(std::size_t place) const;
+    ZVTreeViewItem* takeStaged(std::size_t index);
     int shownRowIfKnown(const ZVTreeViewItem* child) const;
     void placeWaiting(std::size_t count);
     static int rowIn(const Rows& rows, const ZVTreeViewItem* child, std::size_t& numbered);

@@ -209,7 +209,7 @@ bool ZVTreeViewModelPrivate::announceRemoved(ListPlan& list)
         const auto first = shown.begin() + range->first;
         std::for_each(first, first + range->count, [this](auto* row) { leaveViews(row); });
         shown.erase(first, first + range->count);
-        children.numberShown(static_cast<std::size_t>(range->first));
+        children.renumberShown(static_cast<std::size_t>(range->first));
         q->endRemoveRows();
         if (!isAsPlanned())
             return false;
@@ -230,7 +230,7 @@ bool ZVTreeViewModelPrivate::announceInserted(ListPlan& list)
         shown.insert(shown.begin() + range.first, source, source + range.count);
         std::for_each(source, source + range.count,
                       [](auto* row) { row->dropState(ZVTreeViewItem::Fresh); });
-        children.numberShown(static_cast<std::size_t>(range.first));
+        children.renumberShown(static_cast<std::size_t>(range.first));
         q->endInsertRows();
         if (!isAsPlanned())
             return false;
@@ -281,7 +281,7 @@ bool ZVTreeViewModelPrivate::appendArriving(ListPlan& list)
     shown.insert(shown.end(), list.arriving.begin(), list.arriving.end());
     for (ZVTreeViewItem* row : list.arriving)
         row->dropState(ZVTreeViewItem::Fresh);
-    children.numberShown(static_cast<std::size_t>(first));
+    children.renumberShown(static_cast<std::size_t>(first));
     q->endInsertRows();
     return isAsPlanned();
 }
@@ -298,7 +298,7 @@ bool ZVTreeViewModelPrivate::appendGuard(ListPlan& list)
     guard->addState(ZVTreeViewItem::Taken);
     guard->m_parent = list.parent;
     children.editShown().push_back(guard.get());
-    children.numberShown(static_cast<std::size_t>(row));
+    children.renumberShown(static_cast<std::size_t>(row));
     list.leaving.push_back(guard.get());
     retire(guard.release());
     q->endInsertRows();
@@ -372,7 +372,7 @@ void ZVTreeViewModelPrivate::showTarget(ListPlan& list) const
         row->dropState(ZVTreeViewItem::Fresh);
     if (list.keepsCount)
         shown.insert(shown.end(), list.leaving.begin(), list.leaving.end());
-    list.parent->m_children->numberShown();
+    list.parent->m_children->renumberShown();
 }
 
 void ZVTreeViewModelPrivate::leaveWithLayout(const ListPlan& list)
@@ -457,7 +457,7 @@ void ZVTreeViewModelPrivate::settle(ZVTreeViewItem* parent)
             leaveViews(row);
     }
     children.editShown() = arranged;
-    children.numberShown();
+    children.renumberShown();
     for (ZVTreeViewItem* row : arranged)
         row->dropState(ZVTreeViewItem::Fresh);
     children.unstage();
