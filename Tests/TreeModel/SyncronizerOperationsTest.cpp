@@ -173,7 +173,7 @@ private Q_SLOTS:
 void SyncronizerOperationsTest::initTestCase()
 {
     if (!qEnvironmentVariableIsSet("RC_PARAMS"))
-        qputenv("RC_PARAMS", "max_success=20000");
+        qputenv("RC_PARAMS", "max_success=" + QByteArray::number(ZORVANE_RANDOM_CASES));
 }
 
 void SyncronizerOperationsTest::operationsComeInTheOrderOfThePlainRules()

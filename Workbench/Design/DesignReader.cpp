@@ -256,9 +256,11 @@ std::optional<QByteArray> contentOf(const QString& path, QString& reason)
         reason = DesignReader::tr("cannot be opened: %1").arg(file.errorString());
         return std::nullopt;
     }
-    const QByteArray content = info.size() > DesignReader::largestFile
-                                   ? QByteArray()
-                                   : file.read(DesignReader::largestFile + 1);
+    // Reading takes memory for all that is asked for, so no more than there is.
+    const QByteArray content =
+        info.size() > DesignReader::largestFile
+            ? QByteArray()
+            : file.read(std::min(file.size(), DesignReader::largestFile + 1));
     if (file.error() != QFileDevice::NoError) {
         reason = DesignReader::tr("cannot be read: %1").arg(file.errorString());
         return std::nullopt;

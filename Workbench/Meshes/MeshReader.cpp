@@ -177,7 +177,8 @@ std::optional<QByteArray> contentOf(const QString& path, QString& reason)
         reason = MeshReader::tr("cannot be opened: %1").arg(file.errorString());
         return std::nullopt;
     }
-    const QByteArray content = file.read(MeshReader::largestFile);
+    // Reading takes memory for all that is asked for, so no more than there is.
+    const QByteArray content = file.read(std::min(file.size(), MeshReader::largestFile));
     if (file.error() != QFileDevice::NoError) {
         reason = MeshReader::tr("cannot be read: %1").arg(file.errorString());
         return std::nullopt;
