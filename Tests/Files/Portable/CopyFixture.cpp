@@ -7,7 +7,7 @@
 #include <dirent.h>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <sys/stat.h>
 
 namespace Zorvane::Testing {
@@ -91,8 +91,10 @@ FolderContent contentOf(const std::string& folder)
             content[name] = S_ISDIR(status.st_mode) ? "<folder>" : "<special>";
             continue;
         }
-        std::ifstream file(path, std::ios::binary);
-        content[name] = std::string(std::istreambuf_iterator<char>(file), {});
+        // By blocks: letter by letter takes most of a test's time.
+        std::ostringstream text;
+        text << std::ifstream(path, std::ios::binary).rdbuf();
+        content[name] = text.str();
     }
     closedir(stream);
     return content;

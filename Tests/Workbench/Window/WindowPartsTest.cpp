@@ -1,4 +1,5 @@
 #include "Tests/Support/TestCase.h"
+#include "Tests/Workbench/Design/DesignFiles.h"
 #include "Workbench/Window/Appearance.h"
 #include "Workbench/Window/FilterBar.h"
 #include "Workbench/Window/MessageBar.h"
@@ -13,6 +14,24 @@
 #include <QtWidgets/QTreeWidget>
 
 namespace Zorvane::Workbench {
+
+namespace {
+
+/**
+ * Qt fades in and out the button that clears a line, and never deletes a fade whose line goes
+ * first. True when the button has got there.
+ */
+bool waitForClearButton(const FilterBar& bar, bool visible)
+{
+    const auto* button = bar.findChild<QLineEdit*>()->findChild<QToolButton*>();
+    return QTest::qWaitFor(
+        [&] {
+            return qFuzzyCompare(1 + button->property("opacity").toReal(), visible ? 2.0 : 1.0);
+        },
+        Testing::patience);
+}
+
+} // namespace
 
 class WindowPartsTest : public Testing::TestCase
 {
@@ -85,6 +104,7 @@ void WindowPartsTest::theFilterBarTellsTextsAndKinds()
     bar.showAllKinds();
     QCOMPARE(toggles, 2);
     QCOMPARE(kinds->text(), before);
+    QVERIFY(waitForClearButton(bar, true));
 }
 
 void WindowPartsTest::escapeClearsTheFilterText()
@@ -96,8 +116,10 @@ void WindowPartsTest::escapeClearsTheFilterText()
     bar.focusText();
     auto* text = bar.findChild<QLineEdit*>();
     QTRY_VERIFY(text->hasFocus());
+    QVERIFY(waitForClearButton(bar, true));
     QTest::keyClick(text, Qt::Key_Escape);
     QCOMPARE(text->text(), QString());
+    QVERIFY(waitForClearButton(bar, false));
 }
 
 void WindowPartsTest::theMessageBarTellsTheNewestAndCloses()
