@@ -31,6 +31,7 @@ std::size_t countBelow(const ZVTreeViewItem* row)
 
 ModelItemToZVTreeModelSyncronizer::ModelItemToZVTreeModelSyncronizer(int idRole)
     : m_idRole(idRole)
+    , m_spareIndexes(std::make_unique<RowFinder::SpareIndexes>())
 {}
 
 ModelItemToZVTreeModelSyncronizer::~ModelItemToZVTreeModelSyncronizer() = default;
@@ -94,7 +95,7 @@ int ModelItemToZVTreeModelSyncronizer::placeRows(ZVTreeViewItem* parent, const I
 {
     const int wanted = static_cast<int>(items.size());
     int count = parent->childCount();
-    RowFinder finder(parent, items, m_idColumn, m_idRole);
+    RowFinder finder(parent, items, {m_idColumn, m_idRole}, *m_spareIndexes);
     int front = 0;
     for (; front < count && front < wanted; ++front) {
         const ModelItem& item = *items[static_cast<std::size_t>(front)];
@@ -170,7 +171,7 @@ void ModelItemToZVTreeModelSyncronizer::gatherItemsRecursively(ZVTreeViewItem* p
         if (row->childCount() > 0)
             gatherItemsRecursively(row);
         IDCombiner id;
-        if (RowFinder::readId(row, m_idColumn, m_idRole, id))
+        if (RowFinder::readId(row, {m_idColumn, m_idRole}, id))
             m_itemList.emplace_back(id, row);
     }
 }

@@ -3,6 +3,7 @@
 #include "Host/Identifiers/IDCombiner.h"
 #include "TreeModel/ModelItem.h"
 #include "TreeModel/ModelRoot.h"
+#include "TreeModel/RowFinder.h"
 #include "TreeModel/ZVTreeItemDataProviderInterface.h"
 #include "UiToolsExport.h"
 
@@ -77,6 +78,8 @@ private:
     /** Empty between calls. */
     ZVTreeItemDataProviderInterface::RowList m_itemList;
     Qt::ItemFlags m_newItemFlags;
+    /** Memory of earlier searches, as much as the longest list needed. */
+    std::unique_ptr<RowFinder::SpareIndexes> m_spareIndexes;
 };
 
 } // namespace Zorvane::GenericTreeViewModelHandling

@@ -25,9 +25,10 @@ constexpr std::size_t LookAhead = 64;
 constexpr int ManyStrayed = 8;
 
 /** The typed id of a row whose class cannot answer `data()` otherwise. */
-const IDCombiner* typedId(const ZVTreeViewItem* row, int column, int role)
+const IDCombiner* typedId(const ZVTreeViewItem* row, RowFinder::IdPlace place)
 {
-    return column == 0 && typeid(*row) == typeid(ZVTreeViewItem) ? row->id(role) : nullptr;
+    const bool plain = place.column == 0 && typeid(*row) == typeid(ZVTreeViewItem);
+    return plain ? row->id(place.role) : nullptr;
 }
 
 std::uint32_t tagOf(const IDCombiner& id)
@@ -46,27 +47,41 @@ std::size_t bucketCount(std::size_t rows)
 
 } // namespace
 
-RowFinder::Index::Index(std::size_t count)
-    : slots(count)
-    , buckets(bucketCount(count), Bucket{0, None})
-    , waiting(count)
-{}
+void RowFinder::Index::reset(std::size_t rows)
+{
+    slots.resize(rows);
+    buckets.assign(bucketCount(rows), None);
+    readIds.clear();
+    waiting = WaitingSlots(rows);
+    hasDuplicates = false;
+    ahead.clear();
+    aheadFrom = 0;
+    found = 0;
+    strayed = 0;
+}
 
-RowFinder::RowFinder(const ZVTreeViewItem* parent, const Items& items, int column, int role)
+RowFinder::RowFinder(const ZVTreeViewItem* parent, const Items& items, IdPlace place,
+                     SpareIndexes& spareIndexes)
     : m_parent(parent)
     , m_items(items)
-    , m_column(column)
-    , m_role(role)
+    , m_place(place)
+    , m_spareIndexes(spareIndexes)
     , m_walkAllowance(ShortList + parent->childCount())
 {}
 
-bool RowFinder::readId(const ZVTreeViewItem* row, int column, int role, IDCombiner& id)
+RowFinder::~RowFinder()
 {
-    if (const IDCombiner* typed = typedId(row, column, role)) {
+    if (m_index)
+        m_spareIndexes.push_back(std::move(m_index));
+}
+
+bool RowFinder::readId(const ZVTreeViewItem* row, IdPlace place, IDCombiner& id)
+{
+    if (const IDCombiner* typed = typedId(row, place)) {
         id = *typed;
         return true;
     }
-    QVariant value = row->data(column, role);
+    QVariant value = row->data(place.column, place.role);
     if (!value.isValid())
         return false;
     const int type = qMetaTypeId<IDCombiner>();
@@ -82,17 +97,17 @@ const IDCombiner& RowFinder::idOfItem(int item) const
 
 const IDCombiner* RowFinder::idOf(const ZVTreeViewItem* row, IDCombiner& buffer) const
 {
-    if (const IDCombiner* typed = typedId(row, m_column, m_role))
+    if (const IDCombiner* typed = typedId(row, m_place))
         return typed;
-    return readId(row, m_column, m_role, buffer) ? &buffer : nullptr;
+    return readId(row, m_place, buffer) ? &buffer : nullptr;
 }
 
 bool RowFinder::hasId(const ZVTreeViewItem* row, const IDCombiner& id) const
 {
-    if (const IDCombiner* typed = typedId(row, m_column, m_role))
+    if (const IDCombiner* typed = typedId(row, m_place))
         return *typed == id;
     IDCombiner stored;
-    return readId(row, m_column, m_role, stored) && stored == id;
+    return readId(row, m_place, stored) && stored == id;
 }
 
 int RowFinder::find(int front)
@@ -103,7 +118,7 @@ int RowFinder::find(int front)
         buildIndex(front);
     }
     const int slot = slotOf(front);
-    if (slot == None)
+    if (slot == Index::None)
         return -1;
     m_index->found = static_cast<std::size_t>(slot);
     return front + static_cast<int>(m_index->waiting.countBefore(m_index->found));
@@ -132,32 +147,40 @@ void RowFinder::placed(int front, int position)
 
 void RowFinder::buildIndex(int front)
 {
-    const int count = m_parent->childCount();
-    m_index = std::make_unique<Index>(static_cast<std::size_t>(count - front));
-    std::vector<Slot>& slots = m_index->slots;
+    if (m_spareIndexes.empty())
+        m_spareIndexes.push_back(std::make_unique<Index>());
+    m_index = std::move(m_spareIndexes.back());
+    m_spareIndexes.pop_back();
+    m_index->reset(static_cast<std::size_t>(m_parent->childCount() - front));
+    std::vector<Index::Slot>& slots = m_index->slots;
     for (std::size_t slot = 0; slot < slots.size(); ++slot) {
         IDCombiner buffer;
         const IDCombiner* id = idOf(m_parent->child(front + static_cast<int>(slot)), buffer);
         // An id that was read into the buffer has to outlive it.
-        slots[slot] = {id == &buffer ? &m_index->readIds.emplace_front(buffer) : id, None};
+        if (id == &buffer)
+            id = &m_index->readIds.emplace_front(buffer);
+        slots[slot] = {id, id ? tagOf(*id) : 0, Index::None};
     }
     for (std::size_t slot = slots.size(); slot-- > 0;) {
         if (!slots[slot].id)
             continue;
-        const std::uint32_t tag = tagOf(*slots[slot].id);
-        Bucket& bucket = bucketOf(*slots[slot].id, tag);
-        slots[slot].nextSameId = bucket.slot;
-        m_index->hasDuplicates = m_index->hasDuplicates || bucket.slot != None;
-        bucket = {tag, static_cast<std::int32_t>(slot)};
+        std::int32_t& first = bucketOf(*slots[slot].id, slots[slot].tag);
+        slots[slot].nextSameId = first;
+        m_index->hasDuplicates = m_index->hasDuplicates || first != Index::None;
+        first = static_cast<std::int32_t>(slot);
     }
 }
 
-RowFinder::Bucket& RowFinder::bucketOf(const IDCombiner& id, std::uint32_t tag)
+/** The first slot of the id as far as it is known yet, to be read or written. */
+std::int32_t& RowFinder::bucketOf(const IDCombiner& id, std::uint32_t tag)
 {
-    std::vector<Bucket>& buckets = m_index->buckets;
+    std::vector<std::int32_t>& buckets = m_index->buckets;
     const std::size_t mask = buckets.size() - 1;
-    const auto isOther = [&](const Bucket& bucket) {
-        return bucket.slot != None && (bucket.tag != tag || *slotAt(bucket.slot).id != id);
+    const auto isOther = [&](std::int32_t first) {
+        if (first == Index::None)
+            return false;
+        const Index::Slot& slot = m_index->slotAt(first);
+        return slot.tag != tag || *slot.id != id;
     };
     std::size_t place = tag & mask;
     while (isOther(buckets[place]))
@@ -167,13 +190,13 @@ RowFinder::Bucket& RowFinder::bucketOf(const IDCombiner& id, std::uint32_t tag)
 
 int RowFinder::firstWaitingWith(const IDCombiner& id)
 {
-    Bucket& bucket = bucketOf(id, tagOf(id));
-    std::int32_t slot = bucket.slot;
-    while (slot != None && !m_index->waiting.contains(static_cast<std::size_t>(slot)))
-        slot = slotAt(slot).nextSameId;
+    std::int32_t& first = bucketOf(id, tagOf(id));
+    std::int32_t slot = first;
+    while (slot != Index::None && !m_index->waiting.contains(static_cast<std::size_t>(slot)))
+        slot = m_index->slotAt(slot).nextSameId;
     // Rows that were placed meanwhile are passed once; the last one stays, to keep its bucket.
-    if (slot != None)
-        bucket.slot = slot;
+    if (slot != Index::None)
+        first = slot;
     return slot;
 }
 
@@ -194,13 +217,13 @@ void RowFinder::lookAhead(int item)
     for (std::size_t i = 0; i < count; ++i)
         tags[i] = tagOf(idOfItem(item + static_cast<int>(i)));
     for (std::size_t i = 0; i < count; ++i)
-        ahead[i] = m_index->buckets[tags[i] & mask].slot;
+        ahead[i] = m_index->buckets[tags[i] & mask];
     for (std::size_t i = 0; i < count; ++i)
-        stored[i] = ahead[i] == None ? nullptr : slotAt(ahead[i]).id;
+        stored[i] = ahead[i] == Index::None ? nullptr : m_index->slotAt(ahead[i]).id;
     for (std::size_t i = 0; i < count; ++i) {
         const IDCombiner& id = idOfItem(item + static_cast<int>(i));
         if (stored[i] && *stored[i] != id)
-            ahead[i] = bucketOf(id, tags[i]).slot;
+            ahead[i] = bucketOf(id, tags[i]);
     }
 }
 
@@ -213,8 +236,9 @@ int RowFinder::lookedAhead(int item)
     if (place(item) >= m_index->ahead.size())
         lookAhead(item);
     const std::int32_t slot = m_index->ahead[place(item)];
-    const bool waits = slot != None && m_index->waiting.contains(static_cast<std::size_t>(slot));
-    return waits ? slot : None;
+    const bool waits =
+        slot != Index::None && m_index->waiting.contains(static_cast<std::size_t>(slot));
+    return waits ? slot : Index::None;
 }
 
 bool RowFinder::waitsAt(std::size_t slot, const IDCombiner& id) const

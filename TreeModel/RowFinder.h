@@ -28,9 +28,23 @@ class RowFinder
 {
 public:
     using Items = std::vector<std::shared_ptr<ModelItem>>;
+    struct Index;
+    /** Indexes that are not in use, kept for their memory: asking for it anew costs more. */
+    using SpareIndexes = std::vector<std::unique_ptr<Index>>;
 
-    /** The items have to outlive the finder. */
-    RowFinder(const ZVTreeViewItem* parent, const Items& items, int column, int role);
+    /** Where rows carry their id. */
+    struct IdPlace
+    {
+        int column;
+        int role;
+    };
+
+    /** Items and spare indexes have to outlive the finder. */
+    RowFinder(const ZVTreeViewItem* parent, const Items& items, IdPlace place,
+              SpareIndexes& spareIndexes);
+    RowFinder(const RowFinder&) = delete;
+    RowFinder& operator=(const RowFinder&) = delete;
+    ~RowFinder();
 
     /** Whether the row carries this id. */
     bool hasId(const ZVTreeViewItem* row, const IDCombiner& id) const;
@@ -40,61 +54,57 @@ public:
     void placed(int front, int position);
 
     /** A row's id: false when none is stored. One that cannot be read counts as the default id. */
-    static bool readId(const ZVTreeViewItem* row, int column, int role, IDCombiner& id);
+    static bool readId(const ZVTreeViewItem* row, IdPlace place, IDCombiner& id);
 
 private:
-    struct Slot
-    {
-        const IDCombiner* id;
-        std::int32_t nextSameId;
-    };
-    struct Bucket
-    {
-        std::uint32_t tag;
-        std::int32_t slot;
-    };
-    /** The rows that were left when it was built, by id. */
-    struct Index
-    {
-        explicit Index(std::size_t count);
-
-        std::vector<Slot> slots;
-        std::vector<Bucket> buckets;
-        std::forward_list<IDCombiner> readIds;
-        WaitingSlots waiting;
-        bool hasDuplicates = false;
-        /** The first row of each of the next items, looked up some ahead. */
-        std::vector<std::int32_t> ahead;
-        int aheadFrom = 0;
-        std::size_t found = 0;
-        /** How many searches in a row led far away from the one before. */
-        int strayed = 0;
-    };
-
     const IDCombiner& idOfItem(int item) const;
     const IDCombiner* idOf(const ZVTreeViewItem* row, IDCombiner& buffer) const;
-    const Slot& slotAt(std::int32_t slot) const
-    {
-        return m_index->slots[static_cast<std::size_t>(slot)];
-    }
     int scan(int front);
     void buildIndex(int front);
-    Bucket& bucketOf(const IDCombiner& id, std::uint32_t tag);
+    std::int32_t& bucketOf(const IDCombiner& id, std::uint32_t tag);
     bool waitsAt(std::size_t slot, const IDCombiner& id) const;
     int firstWaitingWith(const IDCombiner& id);
     void lookAhead(int item);
     int lookedAhead(int item);
     int slotOf(int item);
 
-    static constexpr std::int32_t None = -1;
-
     const ZVTreeViewItem* const m_parent;
     const Items& m_items;
-    const int m_column;
-    const int m_role;
+    const IdPlace m_place;
+    SpareIndexes& m_spareIndexes;
     /** How many more rows may be walked over before the index pays. */
     int m_walkAllowance;
     std::unique_ptr<Index> m_index;
+};
+
+/** The rows that were left when it was built, by id. */
+struct RowFinder::Index
+{
+    static constexpr std::int32_t None = -1;
+
+    struct Slot
+    {
+        const IDCombiner* id;
+        std::uint32_t tag;
+        std::int32_t nextSameId;
+    };
+
+    /** Forgets everything but the memory it has. */
+    void reset(std::size_t rows);
+    const Slot& slotAt(std::int32_t slot) const { return slots[static_cast<std::size_t>(slot)]; }
+
+    std::vector<Slot> slots;
+    /** A hash table: the first slot of an id each. */
+    std::vector<std::int32_t> buckets;
+    std::forward_list<IDCombiner> readIds;
+    WaitingSlots waiting;
+    bool hasDuplicates = false;
+    /** The first row of each of the next items, looked up some ahead. */
+    std::vector<std::int32_t> ahead;
+    int aheadFrom = 0;
+    std::size_t found = 0;
+    /** How many searches in a row led far away from the one before. */
+    int strayed = 0;
 };
 
 } // namespace Zorvane::GenericTreeViewModelHandling
