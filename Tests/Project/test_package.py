@@ -3,6 +3,7 @@
 Takes the build folder to install from, and a folder for what comes of it.
 """
 
+import os
 import pathlib
 import shutil
 import subprocess
@@ -14,9 +15,13 @@ BUILD, WORK = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
 PREFIX = WORK / "prefix"
 
 
+# A compiler cache may answer with the file names of another build.
+ENVIRONMENT = {**os.environ, "CCACHE_DISABLE": "1"}
+
+
 def run(*command):
     result = subprocess.run(list(map(str, command)), text=True, stdout=subprocess.PIPE,
-                            stderr=subprocess.STDOUT, check=False)
+                            stderr=subprocess.STDOUT, env=ENVIRONMENT, check=False)
     if result.returncode != 0:
         raise AssertionError(f"{command[:3]} ended with {result.returncode}:\n{result.stdout}")
     return result.stdout
