@@ -22,6 +22,8 @@ namespace Zorvane {
  * Deleting a row that views still know, other than by `ZVTreeViewItem::deleteChild`, or handing
  * it to a tree outside of the model, announces what has been gathered so far at that moment; by a
  * slot while a batch is announced it makes views start over.
+ *
+ * Not supported: slots that move rows from one parent to another while a batch is announced.
  */
 class ZORVANE_HOST_EXPORT ZVTreeViewModelBatch
 {
