@@ -45,39 +45,45 @@ void ModelItemToZVTreeModelSyncronizer::setDataProvider(
 void ModelItemToZVTreeModelSyncronizer::syncronizeViewModel(ZVTreeViewModel* viewModel,
                                                             std::shared_ptr<ModelRoot> root)
 {
-    align(viewModel, *root);
-    sortById(m_itemList);
-    m_dataProvider->addDataTo(m_itemList);
-    m_itemList.clear();
+    RowList created = align(viewModel, *root);
+    sortById(created);
+    m_dataProvider->addDataTo(created);
 }
 
 void ModelItemToZVTreeModelSyncronizer::syncronizeAndUpdateViewModel(
     ZVTreeViewModel* viewModel, std::shared_ptr<ModelRoot> root)
 {
     align(viewModel, *root);
-    m_itemList.clear();
-    gatherItemsRecursively(viewModel->rootItem());
-    sortById(m_itemList);
-    m_dataProvider->addDataTo(m_itemList);
-    m_itemList.clear();
+    m_dataProvider->addDataTo(identifiedRows(viewModel));
 }
 
 void ModelItemToZVTreeModelSyncronizer::updateViewModelItems(ZVTreeViewModel* viewModel)
 {
-    m_itemList.reserve(countBelow(viewModel->rootItem()));
-    gatherItemsRecursively(viewModel->rootItem());
-    sortById(m_itemList);
-    m_dataProvider->updateDataOf(m_itemList);
-    m_itemList.clear();
+    m_dataProvider->updateDataOf(identifiedRows(viewModel));
 }
 
-void ModelItemToZVTreeModelSyncronizer::align(ZVTreeViewModel* viewModel, const ModelRoot& root)
+/** Returns the rows that were made, in no order. */
+ModelItemToZVTreeModelSyncronizer::RowList
+ModelItemToZVTreeModelSyncronizer::align(ZVTreeViewModel* viewModel, const ModelRoot& root)
 {
+    m_itemList.clear();
     m_itemList.reserve(root.totalItemCount());
     m_viewModel = viewModel;
     m_newItemFlags = m_dataProvider->getItemFlags();
     const ZVTreeViewModelBatch batch(viewModel);
     synchronize(viewModel->rootItem(), root.getTopLevelItems());
+    // Out of the way before views are told: a slot of theirs may come back to this synchronizer.
+    return std::exchange(m_itemList, {});
+}
+
+ModelItemToZVTreeModelSyncronizer::RowList
+ModelItemToZVTreeModelSyncronizer::identifiedRows(ZVTreeViewModel* viewModel)
+{
+    m_itemList.clear();
+    m_itemList.reserve(countBelow(viewModel->rootItem()));
+    gatherItemsRecursively(viewModel->rootItem());
+    sortById(m_itemList);
+    return std::exchange(m_itemList, {});
 }
 
 void ModelItemToZVTreeModelSyncronizer::synchronize(ZVTreeViewItem* parent, const Items& items)

@@ -59,8 +59,10 @@ public:
 
 private:
     using Items = std::vector<std::shared_ptr<ModelItem>>;
+    using RowList = ZVTreeItemDataProviderInterface::RowList;
 
-    void align(ZVTreeViewModel* viewModel, const ModelRoot& root);
+    RowList align(ZVTreeViewModel* viewModel, const ModelRoot& root);
+    RowList identifiedRows(ZVTreeViewModel* viewModel);
     void synchronize(ZVTreeViewItem* parent, const Items& items);
     void synchronizeChildren(ZVTreeViewItem* row, const ModelItem& item);
     int placeRows(ZVTreeViewItem* parent, const Items& items);
@@ -75,8 +77,8 @@ private:
     const int m_textColumn = 0;
     ZVTreeViewModel* m_viewModel = nullptr;
     std::shared_ptr<ZVTreeItemDataProviderInterface> m_dataProvider;
-    /** Empty between calls. */
-    ZVTreeItemDataProviderInterface::RowList m_itemList;
+    /** Rows for the data provider while they are gathered; empty between calls. */
+    RowList m_itemList;
     Qt::ItemFlags m_newItemFlags;
     /** Memory of earlier searches, as much as the longest list needed. */
     std::unique_ptr<RowFinder::SpareIndexes> m_spareIndexes;

@@ -7,6 +7,8 @@
 #include <QtCore/QSortFilterProxyModel>
 #include <QtWidgets/QTreeView>
 
+#include <stdexcept>
+
 using namespace Zorvane;
 using namespace Zorvane::GenericTreeViewModelHandling;
 
@@ -144,6 +146,8 @@ private Q_SLOTS:
     void manyChangesTakeFewAnnouncements_data();
     void manyChangesTakeFewAnnouncements();
     void viewsKnowAllRowsBeforeTheProviderWrites();
+    void aProviderThatThrowsLeavesNothingBehind();
+    void slotsMayUseTheSynchronizerAgain();
     void selectionExpansionAndCurrentRowSurvive();
 };
 
@@ -417,8 +421,12 @@ void ModelItemToZVTreeModelSyncronizerTest::manyChangesTakeFewAnnouncements()
     if (reversed)
         std::reverse(part.begin(), part.end());
     Scene scene(fromFull ? full : part);
-    scene.show(fromFull ? part : full);
+    const Items& wanted = fromFull ? part : full;
+    scene.show(wanted);
     QVERIFY(scene.signalLines.lines().size() <= 3);
+    QCOMPARE(scene.model.rowCount(), int(wanted.size()));
+    for (int row = 0; row < scene.model.rowCount(); ++row)
+        QVERIFY(*scene.row(row)->id(IdRole) == wanted[std::size_t(row)]->getId());
 }
 
 void ModelItemToZVTreeModelSyncronizerTest::viewsKnowAllRowsBeforeTheProviderWrites()
@@ -442,6 +450,35 @@ void ModelItemToZVTreeModelSyncronizerTest::viewsKnowAllRowsBeforeTheProviderWri
     scene.syncronizer.setDataProvider(provider);
     scene.show({item("Z", {item("Y")}), item("K", {item("L")})});
     QVERIFY(provider->allShown);
+}
+
+void ModelItemToZVTreeModelSyncronizerTest::aProviderThatThrowsLeavesNothingBehind()
+{
+    class Provider : public RecordingProvider
+    {
+    public:
+        void addDataTo(const RowList&) override { throw std::runtime_error("no data"); }
+    };
+    Scene scene;
+    const auto provider = std::make_shared<Provider>();
+    scene.syncronizer.setDataProvider(provider);
+    const auto root = rootOf({item("K"), item("L")});
+    QVERIFY_EXCEPTION_THROWN(scene.syncronizer.syncronizeViewModel(&scene.model, root),
+                             std::runtime_error);
+    QCOMPARE(scene.told(), QStringLiteral("K L"));
+    QVERIFY(scene.model.rootItem()->deleteChild(0));
+    scene.syncronizer.updateViewModelItems(&scene.model);
+    QCOMPARE(provider->updated, QStringList{QStringLiteral("L")});
+}
+
+void ModelItemToZVTreeModelSyncronizerTest::slotsMayUseTheSynchronizerAgain()
+{
+    Scene scene({item("K")});
+    connect(&scene.model, &QAbstractItemModel::rowsInserted, this,
+            [&scene] { scene.syncronizer.updateViewModelItems(&scene.model); });
+    scene.show({item("K"), item("L"), item("M")});
+    QCOMPARE(scene.provider->updated, QStringList{QStringLiteral("KLM")});
+    QCOMPARE(scene.provider->added, QStringList{QStringLiteral("LM")});
 }
 
 void ModelItemToZVTreeModelSyncronizerTest::selectionExpansionAndCurrentRowSurvive()

@@ -19,7 +19,6 @@ namespace {
 
 using namespace GenericTreeViewModelHandling;
 
-constexpr int s_idRole = 3394;
 /** Facts of many meshes come faster than anybody reads; each refresh looks at every row. */
 constexpr int s_soonMilliseconds = 60;
 
@@ -37,7 +36,7 @@ QModelIndex findRow(const QAbstractItemModel& model, const IDCombiner& id,
 {
     for (int row = 0; row < model.rowCount(parent); ++row) {
         const QModelIndex index = model.index(row, TreeColumn::Name, parent);
-        if (index.data(s_idRole).value<IDCombiner>() == id)
+        if (index.data(ModelItemToZVTreeModelSyncronizer::DefaultIdRole).value<IDCombiner>() == id)
             return index;
         const QModelIndex below = findRow(model, id, index);
         if (below.isValid())
@@ -57,7 +56,6 @@ DesignTree::DesignTree(DesignSession& session, MeshLoader& loader, QObject* pare
     , m_pipeline(session, combined({m_kindFilter, m_nameFilter}),
                  [this] { schedule(Scope::Rows, When::Next); })
     , m_decoration(session, m_catalog, m_pipeline)
-    , m_synchronizer(s_idRole)
 {
     m_model.setHorizontalHeaderLabels(treeColumnTitles());
     for (int column = 0; column < m_model.columnCount(); ++column)
@@ -67,9 +65,17 @@ DesignTree::DesignTree(DesignSession& session, MeshLoader& loader, QObject* pare
     const std::shared_ptr<ZVTreeItemDataProviderInterface> rows = m_decoration.provider();
     rows->registerUpdateCallback([this] { schedule(Scope::Values, When::Soon); });
     connect(&session, &DesignSession::changed, this, [this] { schedule(Scope::Rows, When::Next); });
-    connect(&loader, &MeshLoader::loaded, this, [this] { m_decoration.factsChanged(); });
-    // A file that cannot be read changes the row's state too, which only a full refresh rewrites.
-    connect(&loader, &MeshLoader::failed, this, [this] { schedule(Scope::Rows, When::Soon); });
+    // A file that cannot be read, or can again, changes the row's state too, which only a full
+    // refresh rewrites.
+    connect(&loader, &MeshLoader::loaded, this, [this](const QString& path) {
+        m_decoration.factsChanged();
+        if (m_unreadable.remove(path))
+            schedule(Scope::Rows, When::Soon);
+    });
+    connect(&loader, &MeshLoader::failed, this, [this](const QString& path) {
+        m_unreadable.insert(path);
+        schedule(Scope::Rows, When::Soon);
+    });
     connect(&m_model, &ZVTreeViewModel::edited, this, &DesignTree::takeOverName);
     m_soon.setSingleShot(true);
     m_soon.setInterval(s_soonMilliseconds);
@@ -116,7 +122,9 @@ bool DesignTree::isFiltered() const
 
 IDCombiner DesignTree::idAt(const QModelIndex& index) const
 {
-    return index.sibling(index.row(), TreeColumn::Name).data(s_idRole).value<IDCombiner>();
+    return index.sibling(index.row(), TreeColumn::Name)
+        .data(ModelItemToZVTreeModelSyncronizer::DefaultIdRole)
+        .value<IDCombiner>();
 }
 
 QModelIndex DesignTree::indexOf(const IDCombiner& id) const

@@ -8,6 +8,7 @@
 
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
+#include <QtCore/QSet>
 #include <QtCore/QTimer>
 
 #include <memory>
@@ -107,6 +108,8 @@ private:
     QPointer<QTreeView> m_view;
     std::set<IDCombiner> m_collapsed;
     QTimer m_soon;
+    /** Files that could not be read last time. */
+    QSet<QString> m_unreadable;
     bool m_queued = false;
     bool m_scheduled = false;
     bool m_structureChanged = false;

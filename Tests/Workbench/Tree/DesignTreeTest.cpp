@@ -35,6 +35,7 @@ private Q_SLOTS:
     void expandAndCollapseAll();
     void selectingWhatIsNotShown();
     void missingFilesAreMarked();
+    void unreadableFilesAreMarkedUntilTheyAreMended();
 
 private:
     QModelIndex at(int number) const { return m_tree->indexOf(objectId(number)); }
@@ -259,6 +260,18 @@ void DesignTreeTest::missingFilesAreMarked()
     QTRY_COMPARE(text(21, TreeColumn::State), QStringLiteral("File missing"));
     QVERIFY(at(21).data(s_statiRole).toInt() & ZVWidgetStatus::Missing);
     QCOMPARE(text(22, TreeColumn::State), QString());
+}
+
+void DesignTreeTest::unreadableFilesAreMarkedUntilTheyAreMended()
+{
+    const QString path = m_opened->path(QStringLiteral("geometry/die.stl"));
+    const QByteArray good = Testing::binaryStl(Testing::cube());
+    Testing::writeFile(path, good.left(good.size() / 2));
+    m_opened->loader.requestAnew(path);
+    QTRY_VERIFY(at(21).data(s_statiRole).toInt() & ZVWidgetStatus::Error);
+    Testing::writeFile(path, good);
+    m_opened->loader.requestAnew(path);
+    QTRY_VERIFY(!(at(21).data(s_statiRole).toInt() & ZVWidgetStatus::Error));
 }
 
 } // namespace Zorvane::Workbench
