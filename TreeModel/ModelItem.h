@@ -13,8 +13,8 @@ namespace Zorvane::GenericTreeViewModelHandling {
  * One node of a view-independent tree: an identity, a text and children in display order.
  *
  * Items are held by shared pointer, and one item may stand in several trees at once; nothing here
- * copies an item deeply. Whoever has handed a tree on
- * must not change it any more. Trees may be of any depth, also when they go away.
+ * copies an item deeply. Whoever has handed a tree on must not change it any more. Trees may be of
+ * any depth, also when they go away.
  *
  * Not supported: cycles (nothing looks for them), null children, changing id or name.
  */
