@@ -55,9 +55,10 @@ void measureChange(benchmark::State& state, const Setting& setting, const std::s
     }
 }
 
-void measureRebuild(benchmark::State& state, const Setting& setting)
+/** The peer is given the same tree to show. */
+void measureRebuild(benchmark::State& state, const Setting& setting, const std::string& change)
 {
-    const Items& items = treeOf(setting);
+    const Items items = changedTree(treeOf(setting), change);
     RebuiltScene scene(setting.attached);
     scene.rebuild(items);
     for (auto _ : state) {
@@ -80,7 +81,9 @@ void addTimeRows()
                 [&setting, change](benchmark::State& state) {
                     measureChange(state, setting, change);
                 },
-                [&setting](benchmark::State& state) { measureRebuild(state, setting); });
+                [&setting, change](benchmark::State& state) {
+                    measureRebuild(state, setting, change);
+                });
         }
     }
 }
