@@ -28,6 +28,7 @@ public:
      */
     static DesignPathProvider* getInstance(const GUIdentifier& design, const FileName& designFile);
 
+    /** What this design used last comes as it was given: file or folder, there or gone. */
     QString getPathFromScope(const QString& scope) override;
     void setPathToScope(const QString& path, const QString& scope) override;
 

@@ -118,6 +118,7 @@ void DesignPathProviderTest::rememberedPathIsReturnedAsItIs()
     const QString file = m_folders.makeFile("imports/door.stl");
     provider.setPathToScope(file, m_import);
     QCOMPARE(provider.getPathFromScope(m_import), file);
+    QCOMPARE(provider.getLastPathFromScope(m_import), m_folders.path("imports"));
     const QString gone = QStringLiteral("gone/../with\\any/separators");
     provider.setPathToScope(gone, m_import);
     QCOMPARE(provider.getPathFromScope(m_import), gone);
