@@ -1,0 +1,144 @@
+#include "Files/Windows/ShellCopy.h"
+
+#include "Files/Windows/ShellPath.h"
+#include "Files/Windows/TaskMemory.h"
+
+#include <new>
+#include <vector>
+
+namespace Zorvane {
+
+namespace {
+
+using Info = FileCopyUtility::FileCopyInfo;
+
+bool isSameItem(IShellItem* one, IShellItem* other)
+{
+    int order = 0;
+    return one && other && one->Compare(other, SICHINT_ALLFIELDS, &order) == S_OK && order == 0;
+}
+
+FileCopyUtility::Status statusOf(IShellItem* source, const FileOpCopySink::Record& record)
+{
+    if (record.result != S_OK || !record.created)
+        return FileCopyUtility::NotCopied;
+    const bool isRenamed = nameOfItem(source, SIGDN_NORMALDISPLAY) !=
+                           nameOfItem(record.created.get(), SIGDN_NORMALDISPLAY);
+    return isRenamed ? FileCopyUtility::CopiedUnderOtherName : FileCopyUtility::Copied;
+}
+
+Info infoOf(IShellItem* source, const FileOpCopySink::Record& record)
+{
+    return {nameOfItem(source, SIGDN_DESKTOPABSOLUTEPARSING),
+            nameOfItem(record.created.get(), SIGDN_DESKTOPABSOLUTEPARSING),
+            statusOf(source, record)};
+}
+
+/** Keeps a sink at the operation for the time of one run. */
+class AdvisedSink
+{
+public:
+    AdvisedSink(IFileOperation* operation, FileOpCopySink& sink)
+        : m_operation(operation)
+        , m_result(operation->Advise(&sink, &m_cookie))
+    {}
+    ~AdvisedSink()
+    {
+        if (SUCCEEDED(m_result))
+            m_operation->Unadvise(m_cookie);
+    }
+
+    AdvisedSink(const AdvisedSink&) = delete;
+    AdvisedSink& operator=(const AdvisedSink&) = delete;
+
+    HRESULT result() const { return m_result; }
+
+private:
+    IFileOperation* m_operation;
+    DWORD m_cookie = 0;
+    HRESULT m_result;
+};
+
+} // namespace
+
+ShellCopy::ShellCopy(const ShellFunctions& shell, HWND owner)
+    : m_shell(shell)
+    , m_owner(owner)
+{}
+
+HRESULT ShellCopy::run(const QStringList& sources, const QString& targetFolder,
+                       QList<Info>& records)
+{
+    records.clear();
+    HRESULT result = createOperation();
+    if (SUCCEEDED(result))
+        result = createFolder(targetFolder);
+    if (SUCCEEDED(result))
+        result = createSources(sources);
+    if (SUCCEEDED(result))
+        result = m_operation->CopyItems(m_sources.get(), m_folder.get());
+    if (FAILED(result))
+        return result;
+    const auto sink = ComPointer<FileOpCopySink>::adopt(new (std::nothrow) FileOpCopySink);
+    if (!sink)
+        return E_OUTOFMEMORY;
+    result = perform(*sink.get());
+    return SUCCEEDED(result) ? collect(*sink.get(), records) : result;
+}
+
+HRESULT ShellCopy::createOperation()
+{
+    HRESULT result =
+        CoCreateInstance(CLSID_FileOperation, nullptr, CLSCTX_ALL, IID_PPV_ARGS(m_operation.put()));
+    if (SUCCEEDED(result))
+        result = m_operation->SetOwnerWindow(m_owner);
+    // Nothing that would keep the shell from showing its progress and from asking the user.
+    if (SUCCEEDED(result))
+        result = m_operation->SetOperationFlags(FOF_MULTIDESTFILES);
+    return result;
+}
+
+HRESULT ShellCopy::createFolder(const QString& targetFolder)
+{
+    return m_shell.createItem(wide(shellPath(targetFolder)), nullptr, IID_PPV_ARGS(m_folder.put()));
+}
+
+HRESULT ShellCopy::createSources(const QStringList& sources)
+{
+    std::vector<TaskIdList> owned;
+    std::vector<const ITEMIDLIST*> lists;
+    for (const QString& source : sources) {
+        ITEMIDLIST* list = nullptr;
+        if (FAILED(m_shell.parseName(wide(shellPath(source)), nullptr, &list, 0, nullptr)))
+            list = nullptr;
+        owned.emplace_back(list);
+        lists.push_back(list);
+    }
+    return m_shell.createArray(UINT(lists.size()), lists.data(), m_sources.put());
+}
+
+HRESULT ShellCopy::perform(FileOpCopySink& sink)
+{
+    const AdvisedSink advised(m_operation.get(), sink);
+    return SUCCEEDED(advised.result()) ? m_operation->PerformOperations() : advised.result();
+}
+
+HRESULT ShellCopy::collect(const FileOpCopySink& sink, QList<Info>& records)
+{
+    DWORD count = 0;
+    const HRESULT result = m_sources->GetCount(&count);
+    if (FAILED(result))
+        return result;
+    for (DWORD i = 0; i < count; ++i) {
+        ComPointer<IShellItem> source;
+        if (FAILED(m_sources->GetItemAt(i, source.put())))
+            continue;
+        for (const FileOpCopySink::Record& record : sink.records()) {
+            if (isSameItem(source.get(), record.source.get()))
+                records.append(infoOf(source.get(), record));
+        }
+    }
+    return S_OK;
+}
+
+} // namespace Zorvane

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Files/Windows/SystemLibrary.h"
+#include "UiToolsExport.h"
+
+#include <windows.h>
+
+#include <shlobj.h>
+#include <shobjidl.h>
+
+namespace Zorvane {
+
+/** The functions of the shell that we need, looked up at run time; those missing are null. */
+class ZORVANE_UITOOLS_EXPORT ShellFunctions
+{
+private:
+    SystemLibrary m_library;
+
+public:
+    explicit ShellFunctions(const wchar_t* library = L"shell32.dll");
+
+    decltype(&SHCreateItemFromParsingName) const createItem;
+    decltype(&SHParseDisplayName) const parseName;
+    decltype(&SHCreateShellItemArrayFromIDLists) const createArray;
+
+    /** Whether a copy can be made with what there is. */
+    bool sufficeForCopying() const { return createItem && parseName && createArray; }
+};
+
+} // namespace Zorvane

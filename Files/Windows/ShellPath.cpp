@@ -1,0 +1,29 @@
+#include "Files/Windows/ShellPath.h"
+
+#include "Files/Windows/TaskMemory.h"
+
+#include <QtCore/QDir>
+
+namespace Zorvane {
+
+QString shellPath(const QString& path)
+{
+    return QDir::toNativeSeparators(path);
+}
+
+const wchar_t* wide(const QString& text)
+{
+    static_assert(sizeof(wchar_t) == sizeof(ushort), "the system's text is UTF-16, as Qt's");
+    return reinterpret_cast<const wchar_t*>(text.utf16());
+}
+
+QString nameOfItem(IShellItem* item, SIGDN form)
+{
+    wchar_t* text = nullptr;
+    if (!item || FAILED(item->GetDisplayName(form, &text)))
+        return {};
+    const TaskText owned(text);
+    return QString::fromWCharArray(owned.get());
+}
+
+} // namespace Zorvane
