@@ -60,6 +60,28 @@ GUIdentifier geometryOf(const Other&)
     return {};
 }
 
+double* quantityOf(Blank& blank, Quantity quantity)
+{
+    return quantity == Quantity::Thickness ? &blank.thickness : nullptr;
+}
+double* quantityOf(Part& part, Quantity quantity)
+{
+    return quantity == Quantity::Thickness ? &part.thickness : &part.force;
+}
+double* quantityOf(Operation& operation, Quantity quantity)
+{
+    return quantity == Quantity::Force ? &operation.force : nullptr;
+}
+double* quantityOf(Tool& tool, Quantity quantity)
+{
+    return quantity == Quantity::Force ? &tool.force : nullptr;
+}
+template <typename Other>
+double* quantityOf(Other&, Quantity)
+{
+    return nullptr;
+}
+
 } // namespace
 
 QString Design::folder() const
@@ -107,6 +129,23 @@ const QString* Design::findName(const GUIdentifier& objectId) const
         return found != nullptr;
     });
     return found;
+}
+
+double* Design::findQuantity(const GUIdentifier& objectId, Quantity quantity)
+{
+    double* found = nullptr;
+    visitObjects(*this, [&](auto& object) {
+        if (object.id != objectId)
+            return false;
+        found = quantityOf(object, quantity);
+        return true;
+    });
+    return found;
+}
+
+const double* Design::findQuantity(const GUIdentifier& objectId, Quantity quantity) const
+{
+    return const_cast<Design*>(this)->findQuantity(objectId, quantity);
 }
 
 std::vector<GUIdentifier> Design::allIds() const

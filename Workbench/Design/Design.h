@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Host/Identifiers/GUIdentifier.h"
+#include "Workbench/Design/Quantity.h"
 
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
@@ -68,6 +69,8 @@ struct Tool
     QString kind;
     /** The file reference with the mesh; may be null. */
     GUIdentifier geometry;
+    /** With which it presses or holds, in newtons; 0 when not told. */
+    double force = 0;
     QJsonObject source;
 };
 
@@ -77,6 +80,8 @@ struct Operation
     QString name;
     /** "draw", "trim", "flange" and the like; other words are kept. */
     QString kind;
+    /** Of the press, in newtons; 0 when not told. */
+    double force = 0;
     std::vector<Tool> tools;
     UnreadEntries unreadTools;
     QJsonObject source;
@@ -102,6 +107,10 @@ struct Part
     QString name;
     /** The file reference with the mesh; null for a mesh file opened by itself. */
     GUIdentifier geometry;
+    /** Of its sheet, in millimetres; 0 when not told. */
+    double thickness = 0;
+    /** That forming it takes, in newtons; 0 when not told. */
+    double force = 0;
     /** Absolute path of a mesh file opened by itself; empty for a part of a design. */
     QString file;
     /** Of a mesh file opened by itself. */
@@ -137,6 +146,9 @@ struct Design
     /** The name of the design or of an object of it, to read or to change; null if not its own. */
     QString* findName(const GUIdentifier& objectId);
     const QString* findName(const GUIdentifier& objectId) const;
+    /** The value to read or to change; null if no object of the design with this id has it. */
+    double* findQuantity(const GUIdentifier& objectId, Quantity quantity);
+    const double* findQuantity(const GUIdentifier& objectId, Quantity quantity) const;
     /** Of the design itself and of every object in it, in the order of the file. */
     std::vector<GUIdentifier> allIds() const;
 };

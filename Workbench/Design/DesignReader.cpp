@@ -110,8 +110,11 @@ GUIdentifier PieceReader::link(const JsonFields& fields, const QString& key)
 std::optional<Part> PieceReader::part(const JsonFields& fields)
 {
     std::optional<Part> part = piece<Part>(fields);
-    if (part)
+    if (part) {
         part->geometry = link(fields, QStringLiteral("geometry"));
+        part->thickness = fields.size(QStringLiteral("thickness"));
+        part->force = fields.size(QStringLiteral("force"));
+    }
     return part;
 }
 
@@ -121,6 +124,7 @@ std::optional<Tool> PieceReader::tool(const JsonFields& fields)
     if (tool) {
         tool->kind = fields.text(QStringLiteral("kind"));
         tool->geometry = link(fields, QStringLiteral("geometry"));
+        tool->force = fields.size(QStringLiteral("force"));
     }
     return tool;
 }
@@ -130,6 +134,7 @@ std::optional<Operation> PieceReader::operation(const JsonFields& fields)
     std::optional<Operation> operation = piece<Operation>(fields);
     if (operation) {
         operation->kind = fields.text(QStringLiteral("kind"));
+        operation->force = fields.size(QStringLiteral("force"));
         operation->tools =
             list(fields, QStringLiteral("tools"), operation->unreadTools, &PieceReader::tool);
     }

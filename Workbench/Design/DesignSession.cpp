@@ -7,6 +7,7 @@
 #include <QtCore/QFileInfo>
 
 #include <algorithm>
+#include <limits>
 
 namespace Zorvane::Workbench {
 
@@ -184,6 +185,25 @@ QString DesignSession::rename(const GUIdentifier& objectId, const QString& name)
     if (obstacle.isEmpty() && m_store.rename(objectId, trimmed))
         Q_EMIT changed();
     return obstacle;
+}
+
+std::optional<double> DesignSession::quantity(const GUIdentifier& objectId, Quantity quantity) const
+{
+    const Design* design = findDesign(objectId);
+    const double* value = design == nullptr ? nullptr : design->findQuantity(objectId, quantity);
+    return value == nullptr ? std::nullopt : std::optional<double>(*value);
+}
+
+QString DesignSession::setQuantity(const GUIdentifier& objectId, Quantity quantity, double value)
+{
+    if (!this->quantity(objectId, quantity))
+        return tr("The object has no such value.");
+    // Numbers from there on are how the suite tells that nothing was measured.
+    if (!(value >= 0 && value < std::numeric_limits<float>::max()))
+        return tr("A value must be a number from 0 on.");
+    if (m_store.setQuantity(objectId, quantity, value))
+        Q_EMIT changed();
+    return {};
 }
 
 Problems DesignSession::addFiles(const GUIdentifier& designId, const QStringList& files)

@@ -9,6 +9,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
 
+#include <optional>
 #include <vector>
 
 namespace Zorvane::Workbench {
@@ -22,6 +23,7 @@ namespace Zorvane::Workbench {
  * Lives in one thread with an event loop. References and pointers into designs are valid until the
  * next `changed`.
  *
+ * Edits are `rename`, `setQuantity` and `addFiles`; the first two undo themselves with the value before.
  * Not supported: removing objects, adding any but files and their parts; undo.
  */
 class DesignSession : public QObject
@@ -76,6 +78,16 @@ public:
      * changed then. Empty when done. The same name again changes nothing.
      */
     QString rename(const GUIdentifier& objectId, const QString& name);
+
+    /** What an object measures; 0 when it is not told, nothing when it never has such a value. */
+    std::optional<double> quantity(const GUIdentifier& objectId, Quantity quantity) const;
+    /**
+     * Gives an object the value, 0 to have it not told. Returns why not, translated, when the value
+     * is no number from 0 up to the largest float, or the object has no such value; nothing has
+     * changed then. Empty when done. The same value again changes nothing, and the value as it was
+     * read or saved takes the object's modification back.
+     */
+    QString setQuantity(const GUIdentifier& objectId, Quantity quantity, double value);
 
     /**
      * Has a design refer to files in its folder, kinds told by their endings; a mesh file becomes a

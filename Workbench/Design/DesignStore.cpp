@@ -258,6 +258,24 @@ bool DesignStore::rename(const GUIdentifier& objectId, const QString& name)
     return false;
 }
 
+bool DesignStore::setQuantity(const GUIdentifier& objectId, Quantity quantity, double value)
+{
+    for (Design& design : m_designs) {
+        double* const present = design.findQuantity(objectId, quantity);
+        if (present == nullptr)
+            continue;
+        if (*present == value)
+            return false;
+        auto& saved = m_records[design.file].savedQuantities;
+        const auto first = saved.emplace(std::pair(objectId, quantity), *present).first;
+        if (first->second == value)
+            saved.erase(first);
+        *present = value;
+        return true;
+    }
+    return false;
+}
+
 bool DesignStore::addFiles(const GUIdentifier& designId, const QStringList& files)
 {
     const Design* const found = find(designId);
@@ -284,8 +302,16 @@ bool DesignStore::isModified() const
 bool DesignStore::isModified(const GUIdentifier& objectId) const
 {
     const Record* record = recordOf(objectId);
-    return record != nullptr &&
-           (record->savedNames.count(objectId) != 0 || record->added.count(objectId) != 0);
+    return record != nullptr && record->isModified(objectId);
+}
+
+bool DesignStore::Record::isModified(const GUIdentifier& objectId) const
+{
+    const auto hasOtherValue = [&](Quantity quantity) {
+        return savedQuantities.count({objectId, quantity}) != 0;
+    };
+    return savedNames.count(objectId) != 0 || added.count(objectId) != 0 ||
+           std::any_of(std::begin(s_quantities), std::end(s_quantities), hasOtherValue);
 }
 
 bool DesignStore::hasConflict(const GUIdentifier& designId) const

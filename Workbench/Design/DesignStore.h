@@ -13,6 +13,7 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace Zorvane::Workbench {
@@ -56,6 +57,8 @@ public:
 
     /** The object must belong to a design. True if that changes the name. */
     bool rename(const GUIdentifier& objectId, const QString& name);
+    /** The object must have the value. True if that changes it. */
+    bool setQuantity(const GUIdentifier& objectId, Quantity quantity, double value);
     /** Adds what the design, which must be open, doesn't refer to yet. True if anything is new. */
     bool addFiles(const GUIdentifier& designId, const QStringList& files);
     bool isModified() const;
@@ -78,10 +81,16 @@ private:
         bool conflict = false;
         /** Names as in the file, of the objects that have another one now. */
         std::map<GUIdentifier, QString> savedNames;
+        /** Values as in the file, of the objects that have another one now. */
+        std::map<std::pair<GUIdentifier, Quantity>, double> savedQuantities;
         /** Objects that the file doesn't have yet. */
         std::set<GUIdentifier> added;
 
-        bool isModified() const { return !savedNames.empty() || !added.empty(); }
+        bool isModified() const
+        {
+            return !savedNames.empty() || !savedQuantities.empty() || !added.empty();
+        }
+        bool isModified(const GUIdentifier& objectId) const;
     };
     using Pool = std::map<QString, Design>;
 

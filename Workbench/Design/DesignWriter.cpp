@@ -50,6 +50,8 @@ QJsonObject toObject(const Part& part)
 {
     QJsonObject object = common(part);
     putId(object, QStringLiteral("geometry"), part.geometry);
+    putNumber(object, QStringLiteral("thickness"), part.thickness);
+    putNumber(object, QStringLiteral("force"), part.force);
     return object;
 }
 
@@ -58,6 +60,7 @@ QJsonObject toObject(const Tool& tool)
     QJsonObject object = common(tool);
     putText(object, QStringLiteral("kind"), tool.kind);
     putId(object, QStringLiteral("geometry"), tool.geometry);
+    putNumber(object, QStringLiteral("force"), tool.force);
     return object;
 }
 
@@ -117,6 +120,7 @@ QJsonObject toObject(const Operation& operation)
 {
     QJsonObject object = common(operation);
     putText(object, QStringLiteral("kind"), operation.kind);
+    putNumber(object, QStringLiteral("force"), operation.force);
     putList(object, QStringLiteral("tools"), operation.tools, operation.unreadTools);
     return object;
 }

@@ -122,11 +122,12 @@ void DesignWriterTest::writesDesignThatWasNeverRead()
     Operation draw;
     draw.id = GUIdentifier::create();
     draw.name = QStringLiteral("Draw");
-    draw.tools.push_back({GUIdentifier::create(), QStringLiteral("Die"), {}, {}, {}});
+    draw.tools.push_back({GUIdentifier::create(), QStringLiteral("Die"), {}, {}, 250e3, {}});
     design.operations.push_back(draw);
     const Design again = parsed(DesignWriter::toJson(design));
     QVERIFY(again.id == design.id);
     QVERIFY(again.operations[0].tools[0].id == design.operations[0].tools[0].id);
+    QCOMPARE(again.operations[0].tools[0].force, 250e3);
 }
 
 void DesignWriterTest::leavesTheOldFileWhenItCannotWrite()
