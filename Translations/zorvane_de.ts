@@ -274,10 +274,191 @@ Sollen sie nach %1 kopiert werden?</translation>
     </message>
 </context>
 <context>
+    <name>ZVSaveDialog</name>
+    <message>
+        <source>!</source>
+        <translation>!</translation>
+    </message>
+    <message>
+        <source>The current design has not been saved since the last change.</source>
+        <translation>Das aktuelle Design wurde seit der letzten Änderung nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>The current design contains simulation results.</source>
+        <translation>Das aktuelle Design enthält Simulationsergebnisse.</translation>
+    </message>
+    <message>
+        <source>The current design has not been saved since the last change and contains simulation results.</source>
+        <translation>Das aktuelle Design wurde seit der letzten Änderung nicht gespeichert und enthält Simulationsergebnisse.</translation>
+    </message>
+    <message>
+        <source>The current design is still running a simulation.</source>
+        <translation>Für das aktuelle Design läuft noch eine Simulation.</translation>
+    </message>
+    <message>
+        <source>The current design has not been saved since the last change and is still running a simulation.</source>
+        <translation>Das aktuelle Design wurde seit der letzten Änderung nicht gespeichert, und es läuft noch eine Simulation dafür.</translation>
+    </message>
+    <message>
+        <source>The current design was created with a previous version.</source>
+        <translation>Das aktuelle Design wurde mit einer früheren Version erstellt.</translation>
+    </message>
+    <message>
+        <source>The current design has not been saved since the last change and was created with a previous version.</source>
+        <translation>Das aktuelle Design wurde seit der letzten Änderung nicht gespeichert und mit einer früheren Version erstellt.</translation>
+    </message>
+    <message>
+        <source>The current design contains simulation results and was created with a previous version.</source>
+        <translation>Das aktuelle Design enthält Simulationsergebnisse und wurde mit einer früheren Version erstellt.</translation>
+    </message>
+    <message>
+        <source>The current design has not been saved since the last change, contains simulation results and was created with a previous version.</source>
+        <translation>Das aktuelle Design wurde seit der letzten Änderung nicht gespeichert, enthält Simulationsergebnisse und wurde mit einer früheren Version erstellt.</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
+    <message>
+        <source>�</source>
+        <translation>�</translation>
+    </message>
+    <message>
+        <source>Evaluation Data has changed. Would you like to continue closing the document &quot;%1&quot;?</source>
+        <translation>Auswertungsdaten wurden geändert. Möchten Sie das Dokument „%1“ trotzdem schließen?</translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes to a new file prior to closing?</source>
+        <translation>Möchten Sie die Änderungen vor dem Schließen in einer neuen Datei speichern?</translation>
+    </message>
+    <message>
+        <source>Do you want to save the changes to &quot;%1&quot; prior to closing?</source>
+        <translation>Möchten Sie die Änderungen vor dem Schließen in „%1“ speichern?</translation>
+    </message>
+    <message>
+        <source>Saving is not allowed. Either kill simulation first or save to another file.</source>
+        <translation>Speichern ist nicht erlaubt. Brechen Sie erst die Simulation ab, oder speichern Sie in einer anderen Datei.</translation>
+    </message>
+    <message>
+        <source>Starting is not allowed. Kill simulation first.</source>
+        <translation>Starten ist nicht erlaubt. Brechen Sie erst die Simulation ab.</translation>
+    </message>
+    <message>
+        <source>Saving is not allowed, because the current design is still running a simulation.</source>
+        <translation>Speichern ist nicht erlaubt, weil für das aktuelle Design noch eine Simulation läuft.</translation>
+    </message>
+    <message>
+        <source>If you confirm this action the consequences will be</source>
+        <translation>Wenn Sie fortfahren, hat das folgende Auswirkungen:</translation>
+    </message>
+    <message>
+        <source>Delete:</source>
+        <translation>Löschen:</translation>
+    </message>
+    <message>
+        <source>The simulation results are deleted from the file.</source>
+        <translation>Die Simulationsergebnisse werden aus der Datei gelöscht.</translation>
+    </message>
+    <message>
+        <source>Convert:</source>
+        <translation>Konvertieren:</translation>
+    </message>
+    <message>
+        <source>The design will be converted to the current version.</source>
+        <translation>Das Design wird in die aktuelle Version konvertiert.</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::ZVConverterDialog</name>
+    <message>
+        <source>Input file</source>
+        <translation>Eingabedatei</translation>
+    </message>
+    <message>
+        <source>Output folder</source>
+        <translation>Ausgabeordner</translation>
+    </message>
+    <message>
+        <source>Choose &amp;File...</source>
+        <translation>&amp;Datei wählen...</translation>
+    </message>
+    <message>
+        <source>Choose F&amp;older...</source>
+        <translation>&amp;Ordner wählen...</translation>
+    </message>
+    <message>
+        <source>&amp;Convert</source>
+        <translation>&amp;Konvertieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Log</source>
+        <translation>&amp;Protokoll kopieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Converting...</source>
+        <translation>Wird konvertiert...</translation>
+    </message>
+    <message>
+        <source>The file was converted.</source>
+        <translation>Die Datei wurde konvertiert.</translation>
+    </message>
+    <message>
+        <source>The input file could not be converted.</source>
+        <translation>Die Eingabedatei konnte nicht konvertiert werden.</translation>
+    </message>
+    <message>
+        <source>The output could not be written.</source>
+        <translation>Die Ausgabe konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Choose the file to convert.</source>
+        <translation>Wählen Sie die Datei, die konvertiert werden soll.</translation>
+    </message>
+    <message>
+        <source>Choose the folder for the output.</source>
+        <translation>Wählen Sie den Ordner für die Ausgabe.</translation>
+    </message>
+    <message>
+        <source>Ready to convert.</source>
+        <translation>Bereit zum Konvertieren.</translation>
+    </message>
+</context>
+<context>
     <name>Zorvane::ZVMessageBox</name>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::ZVSaveDialog</name>
+    <message>
+        <source>Start</source>
+        <translation>&amp;Starten</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Save</source>
+        <translation>&amp;Nicht speichern</translation>
+    </message>
+    <message>
+        <source>Save As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
     </message>
 </context>
 <context>

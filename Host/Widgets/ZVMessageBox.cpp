@@ -7,6 +7,7 @@
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLayout>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOptionFrame>
 #include <QtWidgets/QStylePainter>
@@ -70,11 +71,23 @@ void ZVMessageBox::setMaximumWidth(int width)
 
 bool ZVMessageBox::mayBeClosed() const
 {
+    return isTitleCloseButtonVisible() || m_wayOut || !hasPressableButton();
+}
+
+bool ZVMessageBox::hasPressableButton() const
+{
     const QList<QAbstractButton*> all = buttons();
-    const auto canBePressed = [](const QAbstractButton* button) {
+    return std::any_of(all.begin(), all.end(), [](const QAbstractButton* button) {
         return !button->isHidden() && button->isEnabled();
-    };
-    return isTitleCloseButtonVisible() || std::none_of(all.begin(), all.end(), canBePressed);
+    });
+}
+
+void ZVMessageBox::addWayOut()
+{
+    QPushButton* okay = addButton(Ok);
+    m_wayOut = okay;
+    setDefaultButton(okay);
+    setEscapeButton(okay);
 }
 
 bool ZVMessageBox::event(QEvent* event)
@@ -124,6 +137,8 @@ void ZVMessageBox::resizeEvent(QResizeEvent* event)
 
 void ZVMessageBox::showEvent(QShowEvent* event)
 {
+    if (!hasPressableButton())
+        addWayOut();
     QMessageBox::showEvent(event);
     fitToMaximumWidth();
 }

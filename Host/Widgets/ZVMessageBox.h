@@ -9,12 +9,14 @@ namespace Zorvane {
 class MessageBoxTitleBar;
 
 /**
- * The suite's message box. Everything of `QMessageBox` holds, with three differences:
+ * The suite's message box. Everything of `QMessageBox` holds, with four differences:
  * - The window flags are taken as they are given. A box without a system frame
  *   (`Qt::FramelessWindowHint`) draws a title bar of its own, which moves the box.
  * - The close button of the title can be taken away. Then Escape and the window system's close
  *   request do nothing either, as long as one button can be pressed. While the close button is
  *   there, closing always works; without an escape button `exec` returns 0 (no button).
+ * - A box that is shown without any button that can be pressed, since all are hidden or disabled,
+ *   gets an OK button, so that nobody is caught in it. It can always be closed.
  * - A maximum width is kept: the text wraps. Set it before the box is shown.
  */
 class ZORVANE_HOST_EXPORT ZVMessageBox : public QMessageBox
@@ -58,10 +60,14 @@ protected:
 
 private:
     bool mayBeClosed() const;
+    bool hasPressableButton() const;
+    void addWayOut();
     void fitToMaximumWidth();
 
     // Only in boxes without a system frame; owned as a child widget.
     MessageBoxTitleBar* m_titleBar = nullptr;
+    // The OK button of a box that would have none; owned as a child widget.
+    QAbstractButton* m_wayOut = nullptr;
     int m_maximumWidth = QWIDGETSIZE_MAX;
 };
 

@@ -1,0 +1,11 @@
+#include "Dialogs/FileConverterLogInterface.h"
+
+namespace Zorvane {
+
+FileConverterLogInterface::FileConverterLogInterface() = default;
+FileConverterLogInterface::FileConverterLogInterface(const FileConverterLogInterface&) = default;
+FileConverterLogInterface&
+FileConverterLogInterface::operator=(const FileConverterLogInterface&) = default;
+FileConverterLogInterface::~FileConverterLogInterface() = default;
+
+} // namespace Zorvane

@@ -1,0 +1,82 @@
+#include "Dialogs/ZVSaveDialog.h"
+
+#include "Dialogs/SaveButtons.h"
+#include "Dialogs/SaveMessage.h"
+#include "Dialogs/SaveState.h"
+#include "Files/PathText.h"
+#include "Host/Widgets/ZVMessageBox.h"
+
+#include <QtCore/QVariant>
+#include <QtGui/QKeySequence>
+#include <QtWidgets/QPushButton>
+
+namespace Zorvane {
+
+namespace {
+
+constexpr int s_maximumWidth = 300;
+
+SaveSubject subjectOf(const DesignInterface& design)
+{
+    return {design.isNew(), pathForDisplay(pathFromBytes(design.getFileName().getLeafName()))};
+}
+
+/** Texts whose translation marks no letter have a key all the same. */
+void label(QAbstractButton* button, const QString& text, Qt::Key key)
+{
+    if (!button)
+        return;
+    button->setText(text);
+    if (button->shortcut().isEmpty())
+        button->setShortcut(QKeySequence(Qt::ALT | key));
+}
+
+void labelButtons(const ZVMessageBox& box, ZVSaveDialog::Action action)
+{
+    label(box.button(QMessageBox::Save),
+          action == ZVSaveDialog::ActionStart ? ZVSaveDialog::tr("Start")
+                                              : ZVSaveDialog::tr("Save"),
+          Qt::Key_S);
+    label(box.button(QMessageBox::Discard), ZVSaveDialog::tr("Don't Save"), Qt::Key_N);
+    label(box.button(s_saveAsButton), ZVSaveDialog::tr("Save As..."), Qt::Key_A);
+}
+
+void prepareKeys(ZVMessageBox& box, bool isSaveShown)
+{
+    if (QAbstractButton* save = box.button(QMessageBox::Save))
+        save->setVisible(isSaveShown);
+    const auto chosen = defaultSaveButton(box.standardButtons(), isSaveShown);
+    if (chosen != QMessageBox::NoButton)
+        box.setDefaultButton(chosen);
+    // A dialog without a default button takes the first that it finds.
+    else if (auto* discard = qobject_cast<QPushButton*>(box.button(QMessageBox::Discard)))
+        discard->setAutoDefault(false);
+}
+
+} // namespace
+
+ZVSaveDialog::Result ZVSaveDialog::showDialog(QWidget* parent,
+                                              std::shared_ptr<DesignInterface> design,
+                                              Action action, bool silent, bool saveDisabled)
+{
+    if (QCoreApplication::instance()->property("SuppressSaveDialog").toBool())
+        return ResultContinue;
+    const SaveState state = saveStateOf(*design);
+    const SaveMessage message = saveMessageFor(state, action, subjectOf(*design));
+    SaveSwitches switches = SaveSwitches::ofApplication();
+    switches.isSilent = silent;
+    switches.isSaveDisabled = saveDisabled;
+
+    ZVMessageBox box(QMessageBox::Warning, tr("Warning"), message.toHtml(),
+                     saveButtonsFor(action, switches), parent, saveWindowFlags(switches));
+    box.setTitleCloseButtonVisible(!switches.suppressesCancel);
+    box.setMaximumWidth(s_maximumWidth);
+    labelButtons(box, action);
+    prepareKeys(box, isSaveShown(state, switches));
+    if (silent)
+        return ResultContinue;
+    box.exec();
+    return saveResultOf(box.standardButton(box.clickedButton()), action);
+}
+
+} // namespace Zorvane
