@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_US">
 <context>
+    <name>CommandLineParser</name>
+    <message>
+        <source>Uses file dialogs without system services.</source>
+        <translation>Verwendet Dateidialoge ohne Dienste des Systems.</translation>
+    </message>
+</context>
+<context>
     <name>CopyCollisionDialog</name>
     <message>
         <source>The target folder already has a file named &quot;%1&quot;.</source>
@@ -226,6 +233,13 @@
     </message>
 </context>
 <context>
+    <name>FileDialog</name>
+    <message>
+        <source>This file can only be saved at &apos;%1&apos;</source>
+        <translation>Diese Datei kann nur in „%1“ gespeichert werden</translation>
+    </message>
+</context>
+<context>
     <name>InnerPartDependingFilesHelper</name>
     <message>
         <source>Copy File</source>
@@ -253,6 +267,13 @@ Sollen sie nach %1 kopiert werden?</translation>
     <message>
         <source>No value</source>
         <translation>Kein Wert</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>All Files (*.*)</source>
+        <translation>Alle Dateien (*.*)</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "UiToolsExport.h"
+
+#include <QtCore/QList>
+#include <QtCore/QPoint>
+#include <QtCore/QRect>
+#include <QtCore/QSize>
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+
+#include <cstdint>
+
+namespace Zorvane {
+
+class FileDialogEventHandler;
+
+/**
+ * What an open dialog gets beyond the plain one: where its window goes and how big it is, kept in
+ * the application's settings by a key; controls of the caller's own; and a handler that is told
+ * what the user does. Give it to the open functions of `FileDialog`; it must live until they
+ * return, and nothing in it changes meanwhile except through the geometry calls.
+ *
+ * Rectangles are outer ones (with the window's frame), in pixels of the screen.
+ * Not supported: controls in save dialogs and in folder dialogs.
+ */
+class ZORVANE_UITOOLS_EXPORT FileDialogConfiguration
+{
+public:
+    enum ControlType : std::int32_t
+    {
+        CheckBox = 0,
+        ComboBox = 1
+    };
+
+    /** Flags of a control. */
+    enum ControlState : std::int32_t
+    {
+        ControlEnabled = 1,
+        ControlVisible = 2,
+        ControlEnabledVisible = 3
+    };
+
+    /** One control below the file list. */
+    struct CustomItem
+    {
+        /** Names the control in events; should be used once, and not lie at 201 + an index. */
+        std::int32_t controlId = 0;
+        /** A `ControlType`; any other value adds no control. */
+        std::int32_t controlType = CheckBox;
+        /** Beside the dialog's buttons. */
+        bool prominent = false;
+        /** `ControlState` flags. */
+        std::int32_t controlState = ControlEnabledVisible;
+        /** When not empty, the control gets this label, as a group of its own. */
+        QString groupLabel;
+        /** A check box's label, or a combo box's list of item texts. */
+        QVariant content;
+        /** Whether a check box is checked, or the index of a combo box's selected item. */
+        QVariant initialValue;
+    };
+
+    static const QString s_defaultSettingsKey;
+
+    explicit FileDialogConfiguration(const QString& settingsKey = s_defaultSettingsKey);
+    FileDialogConfiguration(const FileDialogConfiguration& other);
+    FileDialogConfiguration& operator=(const FileDialogConfiguration& other);
+    virtual ~FileDialogConfiguration();
+
+    /** Not owned; null for none. */
+    virtual void setEventHandler(FileDialogEventHandler* eventHandler);
+    /**
+     * Where the dialog's corner goes when no geometry is stored: the offset from the corner of the
+     * screen that holds the main window (the application's property "MainWindow"). Invalid where
+     * there is no desktop.
+     */
+    virtual QSize getTopLeftOffset();
+    /** The stored rectangle; false, with `rect` as it was, unless both corners are stored. */
+    virtual bool getFileDialogGeometry(QRect& rect);
+    virtual void storeFileDialogGeometry(const QRect& rect);
+    /** Where the corner of a window beside the dialog goes; (-1, -1) stands for nowhere. */
+    virtual QPoint getPositionForPreviewer();
+    /** Notes the rectangle for the life of one dialog; here it is forgotten at once. */
+    virtual void storeTemporaryFileDialogGeometry(const QRect& rect);
+
+    FileDialogEventHandler* getEventHandler() const;
+
+    /** Adds a control behind those there are. Before the dialog is shown. */
+    void addCustomControl(const CustomItem& control);
+    int numberOfcustomControls() const;
+    /** The index must be one of the list. */
+    const CustomItem& getCustomControl(int index) const;
+    /** The first control of the identifier; null if there is none. */
+    const CustomItem* findCustomControl(int controlId) const;
+
+    void setDefaultDialogSize(const QSize& size);
+    /** As high as the handler's previewer, where that has a valid rectangle. */
+    QSize getDefaultDialogSize() const;
+    /** Width is the distance to the right, height that downwards. */
+    void setTopLeftOffset(const QSize& offset);
+
+private:
+    QSize m_defaultDialogSize;
+    QSize m_topLeftOffset;
+    QList<CustomItem> m_customControls;
+    FileDialogEventHandler* m_eventHandler = nullptr;
+    QString m_settingsKey;
+};
+
+} // namespace Zorvane

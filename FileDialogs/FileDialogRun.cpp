@@ -1,0 +1,74 @@
+#include "FileDialogs/FileDialogRun.h"
+
+#include "FileDialogs/ApplicationBlock.h"
+#include "FileDialogs/ApplicationMainWindow.h"
+#include "FileDialogs/DialogPaths.h"
+#include "FileDialogs/NativeFileDialog.h"
+#include "Host/System/CommandLineParser.h"
+
+namespace Zorvane {
+
+namespace {
+
+std::unique_ptr<NativeFileDialogDriver> wantedDriver()
+{
+    const bool isUnwanted =
+        CommandLineParser::instance()->optionWasSpecified(QStringLiteral("alternativeFileDialog"));
+    return isUnwanted ? nullptr : createNativeFileDialogDriver();
+}
+
+QStringList askQt(const FileDialogCall& call)
+{
+    switch (call.purpose) {
+    case FileDialogPurpose::OpenFiles:
+        return QFileDialog::getOpenFileNames(nullptr, call.caption, call.start, call.filter,
+                                             call.selectedFilter, call.options);
+    case FileDialogPurpose::SaveFile:
+        return {QFileDialog::getSaveFileName(nullptr, call.caption, call.start, call.filter,
+                                             call.selectedFilter)};
+    case FileDialogPurpose::OpenFile:
+        break;
+    }
+    return {QFileDialog::getOpenFileName(nullptr, call.caption, call.start, call.filter,
+                                         call.selectedFilter, call.options)};
+}
+
+NativeFileDialogRequest requestOf(const FileDialogCall& call, QWidget* owner)
+{
+    const DialogStart start = dialogStart(call.start);
+    NativeFileDialogRequest request;
+    request.owner = owner;
+    request.caption = call.caption;
+    request.multiSelection = call.purpose == FileDialogPurpose::OpenFiles;
+    request.filters = nativeFileFilters(call.filter, call.selectedFilter);
+    request.folder = start.folder;
+    request.fileName = start.fileName;
+    request.places = call.places;
+    request.configuration = call.configuration;
+    return request;
+}
+
+NativeFileDialogResult ask(NativeFileDialogDriver& driver, const FileDialogCall& call)
+{
+    QWidget* mainWindow = applicationMainWindow();
+    QWidget* owner = call.parent ? call.parent : mainWindow;
+    const NativeFileDialogRequest request = requestOf(call, owner);
+    const ApplicationBlock block(owner, mainWindow);
+    return call.purpose == FileDialogPurpose::SaveFile ? driver.save(request)
+                                                       : driver.open(request);
+}
+
+} // namespace
+
+QStringList runFileDialog(const FileDialogCall& call)
+{
+    const std::unique_ptr<NativeFileDialogDriver> driver = wantedDriver();
+    if (!driver)
+        return askQt(call);
+    const NativeFileDialogResult result = ask(*driver, call);
+    if (result.isCancelled())
+        return {};
+    return result.isFailure() ? askQt(call) : result.paths;
+}
+
+} // namespace Zorvane
