@@ -79,4 +79,16 @@ std::string ZVFormatter::convertValueToEngineeringNotation(double value)
     return text.toStdString();
 }
 
+QString ZVFormatter::toString(double value, const char* unit, bool withUnit)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    const QString number = locale.toString(value, 'g', SignificantDigits);
+    if (!withUnit)
+        return number;
+    if (qstrcmp(unit, "degree") == 0)
+        return number + QChar(0x00b0);
+    return number + QLatin1Char(' ') + QString::fromUtf8(unit);
+}
+
 } // namespace Zorvane

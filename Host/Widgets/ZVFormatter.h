@@ -2,6 +2,8 @@
 
 #include "Host/HostExport.h"
 
+#include <QtCore/QString>
+
 #include <string>
 
 namespace Zorvane {
@@ -25,6 +27,13 @@ public:
      * text. What is not finite is written as `QLocale` writes it.
      */
     static std::string convertValueToEngineeringNotation(double value);
+
+    /**
+     * The value rounded to the digits above, without zeros at the end of a fraction, and with its
+     * unit behind it if wanted. The unit "degree" is written as "-90°"; any other one as it is
+     * given, after a space.
+     */
+    static QString toString(double value, const char* unit, bool withUnit);
 };
 
 } // namespace Zorvane

@@ -1,0 +1,120 @@
+#include "Actions/GenericMainActions.h"
+
+#include "Host/Widgets/ZVMessageBox.h"
+
+#include <QtCore/QVariant>
+#include <QtGui/QIcon>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDesktopWidget>
+
+namespace Zorvane {
+
+namespace {
+
+/** What SIGNAL(triggered()) makes; spelled out, since the macro checks the text at run time. */
+constexpr char s_triggered[] = "2triggered()";
+
+QString withShortcut(const QString& toolTip, const QKeySequence& shortcut)
+{
+    return toolTip + QStringLiteral("    ") + shortcut.toString(QKeySequence::PortableText);
+}
+
+} // namespace
+
+GenericMainActions::GenericMainActions(QObject* parent)
+    : QObject(parent)
+    , m_undefinedAction(new QAction(tr("???"), this))
+{
+    QObject::connect(m_undefinedAction, &QAction::triggered, this,
+                     &GenericMainActions::notDefinedAction);
+}
+
+GenericMainActions::~GenericMainActions() = default;
+
+QAction* GenericMainActions::action(int id) const
+{
+    return m_actions.value(id, m_undefinedAction);
+}
+
+QAction* GenericMainActions::operator[](int id) const
+{
+    return action(id);
+}
+
+void GenericMainActions::connect(int id, const QObject* receiver, const char* member)
+{
+    QObject::connect(m_actions[id], s_triggered, receiver, member, Qt::AutoConnection);
+}
+
+void GenericMainActions::disconnect(int id, const QObject* receiver, const char* member)
+{
+    QObject::disconnect(m_actions[id], s_triggered, receiver, member);
+}
+
+void GenericMainActions::changeToolTip(int id, const QString& toolTip)
+{
+    QAction* const changed = action(id);
+    if (!changed || toolTip.isEmpty())
+        return;
+    const QKeySequence shortcut = changed->shortcut();
+    changed->setToolTip(shortcut.isEmpty() ? toolTip : withShortcut(toolTip, shortcut));
+}
+
+QAction* GenericMainActions::createAction(const QString& text, const QIcon& icon,
+                                          const QString& toolTip, QKeySequence shortcut,
+                                          QObject* parent, const QString& objectName) const
+{
+    auto* const created = new QAction(text, parent);
+    if (!icon.isNull())
+        created->setIcon(icon);
+    QString composed = toolTip;
+    if (shortcut != QKeySequence()) {
+        created->setShortcut(shortcut);
+        if (!toolTip.isEmpty())
+            composed = withShortcut(toolTip, created->shortcut());
+    }
+    if (!composed.isEmpty())
+        created->setToolTip(composed);
+    if (!objectName.isEmpty())
+        created->setObjectName(objectName);
+    return created;
+}
+
+void GenericMainActions::mapReverse()
+{
+    for (auto entry = m_actions.cbegin(); entry != m_actions.cend(); ++entry)
+        if (entry.value())
+            entry.value()->setData(QVariant(entry.key()));
+}
+
+void GenericMainActions::registerApplicationActions(QWidget* widget)
+{
+    for (QAction* const registered : qAsConst(m_actions))
+        install(registered, widget);
+}
+
+void GenericMainActions::registerApplicationActions(const QList<int>& ids, QWidget* widget)
+{
+    for (const int id : ids) {
+        QAction* const registered = m_actions[id];
+        Q_ASSERT_X(registered, "registerApplicationActions", "an id without an action");
+        install(registered, widget);
+    }
+}
+
+void GenericMainActions::install(QAction* action, QWidget* widget) const
+{
+    // Null after somebody connected an id that was never registered.
+    if (action && action->shortcutContext() == Qt::WindowShortcut)
+        widget->addAction(action);
+}
+
+void GenericMainActions::notDefinedAction()
+{
+    const QString text = QStringLiteral("Undefined action called");
+    ZVMessageBox::warning(QApplication::desktop(), text, text, QMessageBox::Ok,
+                          QMessageBox::NoButton);
+}
+
+} // namespace Zorvane
