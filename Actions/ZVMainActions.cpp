@@ -204,3 +204,5 @@ void ZVMainActions::addToGroup(const ZVMainActionSettings& settings, QAction* ac
     if (settings.has(Settings::OfStations))
         addTo(m_stationVisibilities);
 }
+
+} // namespace Zorvane
