@@ -43,8 +43,11 @@ void labelButtons(const ZVMessageBox& box, ZVSaveDialog::Action action)
 
 void prepareKeys(ZVMessageBox& box, bool isSaveShown)
 {
-    if (QAbstractButton* save = box.button(QMessageBox::Save))
+    if (QAbstractButton* save = box.button(QMessageBox::Save)) {
         save->setVisible(isSaveShown);
+        // A change of style shows all buttons again.
+        save->setEnabled(isSaveShown);
+    }
     const auto chosen = defaultSaveButton(box.standardButtons(), isSaveShown);
     if (chosen != QMessageBox::NoButton)
         box.setDefaultButton(chosen);

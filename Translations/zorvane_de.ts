@@ -390,6 +390,17 @@ Sollen sie nach %1 kopiert werden?</translation>
     </message>
 </context>
 <context>
+    <name>Zorvane::FileConverterDialog</name>
+    <message>
+        <source>The conversion stopped with an error: %1</source>
+        <translation>Die Konvertierung endete mit einem Fehler: %1</translation>
+    </message>
+    <message>
+        <source>The conversion stopped with an unknown error.</source>
+        <translation>Die Konvertierung endete mit einem unbekannten Fehler.</translation>
+    </message>
+</context>
+<context>
     <name>Zorvane::ZVConverterDialog</name>
     <message>
         <source>Input file</source>

@@ -14,6 +14,7 @@
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace Zorvane {
 
@@ -84,7 +85,14 @@ bool ZVMessageBox::hasPressableButton() const
 
 void ZVMessageBox::addWayOut()
 {
+    // Laying out the row of buttons shows all of them.
+    QList<QAbstractButton*> hidden = buttons();
+    hidden.erase(std::remove_if(hidden.begin(), hidden.end(),
+                                [](const QAbstractButton* button) { return !button->isHidden(); }),
+                 hidden.end());
     QPushButton* okay = addButton(Ok);
+    for (QAbstractButton* button : std::as_const(hidden))
+        button->hide();
     m_wayOut = okay;
     setDefaultButton(okay);
     setEscapeButton(okay);

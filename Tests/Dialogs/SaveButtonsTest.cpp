@@ -62,7 +62,7 @@ class SaveButtonsTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyStepAndSwitchHasTheButtonsOfTheRules();
+    void everyCaseHasTheButtonsOfTheRules();
     void hiddenSaveIsThereAllTheSame();
     void enterNeverDropsChanges();
     void pressedButtonsMeanWhatTheRulesSay();
@@ -70,9 +70,9 @@ private Q_SLOTS:
     void switchesAreTheApplicationsProperties();
 };
 
-void SaveButtonsTest::everyStepAndSwitchHasTheButtonsOfTheRules()
+void SaveButtonsTest::everyCaseHasTheButtonsOfTheRules()
 {
-    Testing::forEverySwitch([](const SaveCase& given) {
+    Testing::forEveryCase([](const SaveCase& given) {
         QCOMPARE(given.name() + shown(given).join(QLatin1Char('|')),
                  given.name() + Testing::SaveRules::shownButtons(given).join(QLatin1Char('|')));
     });
@@ -80,7 +80,7 @@ void SaveButtonsTest::everyStepAndSwitchHasTheButtonsOfTheRules()
 
 void SaveButtonsTest::hiddenSaveIsThereAllTheSame()
 {
-    Testing::forEverySwitch([](const SaveCase& given) {
+    Testing::forEveryCase([](const SaveCase& given) {
         const bool hasSave =
             saveButtonsFor(given.action, switchesOf(given)).testFlag(QMessageBox::Save);
         QCOMPARE(hasSave && !isSaveShown(stateOf(given), switchesOf(given)),
@@ -90,7 +90,7 @@ void SaveButtonsTest::hiddenSaveIsThereAllTheSame()
 
 void SaveButtonsTest::enterNeverDropsChanges()
 {
-    Testing::forEverySwitch([](const SaveCase& given) {
+    Testing::forEveryCase([](const SaveCase& given) {
         const SaveSwitches switches = switchesOf(given);
         const auto button = defaultSaveButton(saveButtonsFor(given.action, switches),
                                               isSaveShown(stateOf(given), switches));

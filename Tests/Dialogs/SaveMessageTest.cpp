@@ -53,7 +53,7 @@ class SaveMessageTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyStateOfADesignReadsAsTheRulesSay();
+    void everyCaseReadsAsTheRulesSay();
     void rulesReachEveryFactText();
     void savingSaysNothingOfUnsavedChanges();
     void refusedStartTellsOnlyThat();
@@ -68,9 +68,9 @@ private Q_SLOTS:
     void namesAreNoMarkUp();
 };
 
-void SaveMessageTest::everyStateOfADesignReadsAsTheRulesSay()
+void SaveMessageTest::everyCaseReadsAsTheRulesSay()
 {
-    Testing::forEveryDesign([](const SaveCase& given) {
+    Testing::forEveryCase([](const SaveCase& given) {
         QCOMPARE(given.name() + messageFor(given).toHtml(),
                  given.name() + Testing::SaveRules::html(given, s_name));
     });

@@ -26,6 +26,14 @@ QString saveText(const SaveCase& given)
                                                      : QStringLiteral("Save");
 }
 
+void setSwitches(SaveCase& given, int bits)
+{
+    given.isSilent = bits & 1;
+    given.isSaveDisabled = bits & 2;
+    given.suppressesCancel = bits & 4;
+    given.addsSaveAs = bits & 8;
+}
+
 bool losesResults(const SaveCase& given)
 {
     if (!given.hasResults)
@@ -77,17 +85,24 @@ void forEveryDesign(const std::function<void(const SaveCase&)>& check)
     }
 }
 
+void forEveryCase(const std::function<void(const SaveCase&)>& check)
+{
+    forEveryDesign([&check](SaveCase given) {
+        for (int bits = 0; bits < switchStates; ++bits) {
+            setSwitches(given, bits);
+            check(given);
+        }
+    });
+}
+
 void forEverySwitch(const std::function<void(const SaveCase&)>& check)
 {
     for (int action = 0; action < 4; ++action) {
         for (int bits = 0; bits < 2 * switchStates; ++bits) {
             SaveCase given;
             given.action = ZVSaveDialog::Action(action);
-            given.isSilent = bits & 1;
-            given.isSaveDisabled = bits & 2;
-            given.suppressesCancel = bits & 4;
-            given.addsSaveAs = bits & 8;
-            given.isRunning = bits & 16;
+            setSwitches(given, bits);
+            given.isRunning = bits & switchStates;
             check(given);
         }
     }

@@ -36,6 +36,8 @@ constexpr int switchStates = 16;
 
 /** Calls `check` with every state of a design and every step, all switches off. */
 void forEveryDesign(const std::function<void(const SaveCase&)>& check);
+/** Calls `check` with everything: every state of a design, every step and every switch. */
+void forEveryCase(const std::function<void(const SaveCase&)>& check);
 /** Calls `check` with every step and switch, for a design with and one without a running job. */
 void forEverySwitch(const std::function<void(const SaveCase&)>& check);
 

@@ -43,6 +43,8 @@ private Q_SLOTS:
     void closingWithoutEscapeButtonPressesNothing();
     void hiddenTitleCloseButtonKeepsTheBoxOpen();
     void boxWithoutPressableButtonCanAlwaysBeClosed();
+    void boxWithoutPressableButtonGetsOne_data();
+    void boxWithoutPressableButtonGetsOne();
     void hiddenButtonStaysHidden();
     void maximumWidthWrapsTheText_data();
     void maximumWidthWrapsTheText();
@@ -211,6 +213,32 @@ void ZVMessageBoxTest::boxWithoutPressableButtonCanAlwaysBeClosed()
     modals.expectMessageBox(QStringLiteral("title"),
                             [](QMessageBox& shown) { QTest::keyClick(&shown, Qt::Key_Escape); });
     box.exec();
+}
+
+void ZVMessageBoxTest::boxWithoutPressableButtonGetsOne_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Enter") << int(Qt::Key_Return);
+    QTest::newRow("Escape") << int(Qt::Key_Escape);
+}
+
+void ZVMessageBoxTest::boxWithoutPressableButtonGetsOne()
+{
+    QFETCH(int, key);
+    Testing::ExpectedModals modals;
+    for (const QMessageBox::StandardButton save : {QMessageBox::Save, QMessageBox::NoButton}) {
+        ZVMessageBox box(QMessageBox::Question, QStringLiteral("title"), QStringLiteral("text"),
+                         save, nullptr, s_frameless);
+        box.setTitleCloseButtonVisible(false);
+        if (box.button(save))
+            box.button(save)->setVisible(false);
+        modals.expectMessageBox(QStringLiteral("title"), [key, save](QMessageBox& shown) {
+            QVERIFY(shown.button(QMessageBox::Ok)->isVisible());
+            QVERIFY(!shown.button(save) || !shown.button(save)->isVisible());
+            QTest::keyClick(&shown, Qt::Key(key));
+        });
+        QCOMPARE(box.exec(), int(QMessageBox::Ok));
+    }
 }
 
 void ZVMessageBoxTest::hiddenButtonStaysHidden()
