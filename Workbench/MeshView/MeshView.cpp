@@ -1,5 +1,6 @@
 #include "Workbench/MeshView/MeshView.h"
 
+#include "Workbench/MeshView/MeshPalette.h"
 #include "Workbench/MeshView/MeshViewOverlay.h"
 
 #include <QtCore/QElapsedTimer>
@@ -24,17 +25,6 @@ constexpr qint64 s_slowMilliseconds = 40;
 bool isDark(const QPalette& palette)
 {
     return palette.color(QPalette::Window).lightness() < 128;
-}
-
-MeshColours coloursFor(const QPalette& palette)
-{
-    // clang-format off
-    if (isDark(palette))
-        return {QColor(0xa9, 0xb8, 0xc9), QColor(0xae, 0xa1, 0x8c), QColor(0x0e, 0x12, 0x17),
-                QColor(0x3a, 0x41, 0x4b), QColor(0x1b, 0x1f, 0x25)};
-    return {QColor(0x9f, 0xb2, 0xc6), QColor(0xb9, 0xad, 0x99), QColor(0x2b, 0x36, 0x42),
-            QColor(0xf6, 0xf8, 0xfb), QColor(0xcf, 0xd8, 0xe2)};
-    // clang-format on
 }
 
 } // namespace
@@ -154,7 +144,7 @@ void MeshView::renderIfNeeded()
     QElapsedTimer timer;
     timer.start();
     const ViewTransform view = m_camera.transform(QSizeF(size()));
-    const MeshColours colours = coloursFor(palette());
+    const MeshColours colours = meshColours(isDark(palette()));
     if (m_moving && m_fastPictureTime > s_slowMilliseconds) {
         const QImage coarse =
             renderMesh(m_rasterizer, m_drawable, view.scaled(ratio / 2), pixels / 2, colours, 1);

@@ -193,7 +193,7 @@ MeshReading withinMemory(const QString& path, Read read)
     try {
         return read();
     } catch (const std::bad_alloc&) {
-        return refused(path, MeshReader::tr("takes more memory than there is"));
+        return refused(path, MeshReader::tr("takes too much memory"));
     }
 }
 
