@@ -270,6 +270,13 @@ Sollen sie nach %1 kopiert werden?</translation>
     </message>
 </context>
 <context>
+    <name>PreviewFileDialogConfiguration</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+</context>
+<context>
     <name>QFileDialog</name>
     <message>
         <source>All Files (*.*)</source>

@@ -1,0 +1,369 @@
+#include "FileDialogs/PreviewFileDialog.h"
+
+#include "FileDialogs/FileDialog.h"
+#include "FileDialogs/NativeFileDialog.h"
+#include "Files/DefaultPathProvider.h"
+#include "Files/FileTypeFilters.h"
+#include "Files/LastPathProvider.h"
+#include "Host/System/CommandLineParser.h"
+#include "Tests/FileDialogs/PreviewFixtures.h"
+#include "Tests/Support/ExpectedModals.h"
+#include "Tests/Support/TestCase.h"
+
+#include <QtCore/QSettings>
+#include <QtCore/QTemporaryDir>
+
+#include <functional>
+
+using namespace Zorvane;
+
+namespace {
+
+using Script = std::function<NativeFileDialogResult(const NativeFileDialogRequest&)>;
+
+class ScriptedDriver : public NativeFileDialogDriver
+{
+public:
+    explicit ScriptedDriver(Script script)
+        : m_script(std::move(script))
+    {}
+    NativeFileDialogResult open(const NativeFileDialogRequest& request) override
+    {
+        return m_script(request);
+    }
+    NativeFileDialogResult save(const NativeFileDialogRequest&) override { return {}; }
+
+private:
+    Script m_script;
+};
+
+NativeFileDialogReplacement dialogOf(const Script& script)
+{
+    return NativeFileDialogReplacement(
+        [script] { return std::make_unique<ScriptedDriver>(script); });
+}
+
+} // namespace
+
+class PreviewFileDialogTest : public Testing::TestCase
+{
+    Q_OBJECT
+
+private:
+    /** One dialog object with all that belongs to it. */
+    struct Setup
+    {
+        std::shared_ptr<Testing::RecordingEditor> editor =
+            std::make_shared<Testing::RecordingEditor>();
+        std::shared_ptr<PreviewFileDialogConfiguration> configuration =
+            std::make_shared<PreviewFileDialogConfiguration>(Testing::previewConfiguration());
+        Testing::RecordingCallbacks callbacks{*editor};
+        PreviewFileDialog dialog{editor, configuration, nullptr};
+
+        FileDialogEventHandler& handler() { return *configuration->getEventHandler(); }
+    };
+
+    static QVariant storedShowPreview()
+    {
+        return QSettings().value(QStringLiteral("PreviewTest/ShowPreview"));
+    }
+    static void storeShowPreview(bool shown)
+    {
+        QSettings().setValue(QStringLiteral("PreviewTest/ShowPreview"), shown);
+    }
+    QString file() const { return QDir::toNativeSeparators(m_folder.filePath(m_fileName)); }
+
+    const QTemporaryDir m_folder;
+    const QString m_fileName = QStringLiteral("door.stl");
+
+private Q_SLOTS:
+    void init();
+    void showsThePreviewAroundTheDialog();
+    void initializesThePreviewOnce();
+    void keepsThePreviewHiddenIfTheUserWantsNone();
+    void asksForOneFile();
+    void asksForSeveralFiles();
+    void usesTheLastPathWithoutAProvider();
+    void cancelHidesThePreview();
+    void exceptionHidesThePreview();
+    void selectionIsShown_data();
+    void selectionIsShown();
+    void firstTypeChangePlacesTheDialog();
+    void secondDialogIsNotPlacedByTypeChanges();
+    void checkBoxSwitchesThePreviewOn();
+    void checkBoxSwitchesThePreviewOff();
+    void otherCheckBoxesAreNotOurs();
+    void stateIsWrittenOnlyWhenItChanges();
+    void handlerWithoutPreviewConfiguration();
+    void alternativeDialogHasNoPreview();
+    void configurationOutlivesTheDialog();
+};
+
+void PreviewFileDialogTest::init()
+{
+    QSettings().clear();
+    CommandLineParser::instance()->parse({QStringLiteral("test")});
+    QFile made(file());
+    QVERIFY(made.open(QIODevice::WriteOnly));
+}
+
+void PreviewFileDialogTest::showsThePreviewAroundTheDialog()
+{
+    Setup setup;
+    const auto replacement = dialogOf([&](const NativeFileDialogRequest&) {
+        const QSize offset = setup.configuration->getTopLeftOffset();
+        const QString moved =
+            QStringLiteral("moveTo %1 %2").arg(offset.width() + 630).arg(offset.height());
+        const QStringList wanted{QStringLiteral("initialize -1"), QStringLiteral("setVisible 1"),
+                                 moved};
+        [&] { QCOMPARE(setup.editor->takeCalls(), wanted); }();
+        return NativeFileDialogResult{0, {file()}};
+    });
+    QCOMPARE(setup.dialog.getOpenFileName(DefaultPathProvider::getInstance()), file());
+    QCOMPARE(setup.editor->takeCalls(), QStringList{QStringLiteral("setVisible 0")});
+}
+
+void PreviewFileDialogTest::initializesThePreviewOnce()
+{
+    Setup setup;
+    const auto replacement =
+        dialogOf([](const NativeFileDialogRequest&) { return NativeFileDialogResult{}; });
+    setup.dialog.getOpenFileName(nullptr);
+    setup.dialog.getOpenFileNames(nullptr);
+    QCOMPARE(setup.editor->calls.count(QStringLiteral("initialize -1")), 1);
+    QCOMPARE(setup.editor->calls.count(QStringLiteral("setVisible 1")), 2);
+}
+
+void PreviewFileDialogTest::keepsThePreviewHiddenIfTheUserWantsNone()
+{
+    storeShowPreview(false);
+    Setup setup;
+    const auto replacement =
+        dialogOf([](const NativeFileDialogRequest&) { return NativeFileDialogResult{}; });
+    setup.dialog.getOpenFileName(nullptr);
+    const QStringList wanted{QStringLiteral("setVisible 0"), QStringLiteral("setVisible 0")};
+    QCOMPARE(setup.editor->takeCalls(), wanted);
+}
+
+void PreviewFileDialogTest::asksForOneFile()
+{
+    Setup setup;
+    const QString wantedFilter = QString::fromStdString(
+        getFileFilterForTypes({ZvFileType::StlAscii, ZvFileType::Csv}, true, {}));
+    const auto replacement = dialogOf([&](const NativeFileDialogRequest& request) {
+        [&] {
+            QCOMPARE(request.caption, QStringLiteral("Open one"));
+            QVERIFY(!request.multiSelection);
+            QCOMPARE(request.configuration, setup.configuration.get());
+            QCOMPARE(request.filters.names, wantedFilter.split(QStringLiteral(";;")));
+        }();
+        return NativeFileDialogResult{0, {file()}};
+    });
+    DefaultPathProvider provider;
+    QCOMPARE(setup.dialog.getOpenFileName(&provider), file());
+    QCOMPARE(QSettings().value(QStringLiteral("LastFile/Import")).toString(), file());
+}
+
+void PreviewFileDialogTest::asksForSeveralFiles()
+{
+    Setup setup;
+    const QStringList chosen{file(), QStringLiteral("b")};
+    const auto replacement = dialogOf([&](const NativeFileDialogRequest& request) {
+        [&] {
+            QCOMPARE(request.caption, QStringLiteral("Open several"));
+            QVERIFY(request.multiSelection);
+            QCOMPARE(request.configuration, setup.configuration.get());
+        }();
+        return NativeFileDialogResult{0, chosen};
+    });
+    QCOMPARE(setup.dialog.getOpenFileNames(DefaultPathProvider::getInstance()), chosen);
+    QCOMPARE(setup.editor->calls.last(), QStringLiteral("setVisible 0"));
+}
+
+void PreviewFileDialogTest::usesTheLastPathWithoutAProvider()
+{
+    LastPathProvider::getInstance()->setPathToScope(file(), QStringLiteral("Import"));
+    Setup setup;
+    QStringList folders;
+    const auto replacement = dialogOf([&](const NativeFileDialogRequest& request) {
+        folders << request.folder;
+        return NativeFileDialogResult{};
+    });
+    setup.dialog.getOpenFileName(nullptr);
+    setup.dialog.getOpenFileNames(nullptr);
+    const QString folder = QDir::toNativeSeparators(m_folder.path());
+    QCOMPARE(folders, (QStringList{folder, folder}));
+}
+
+void PreviewFileDialogTest::cancelHidesThePreview()
+{
+    Setup setup;
+    const auto replacement = dialogOf([](const NativeFileDialogRequest&) {
+        return NativeFileDialogResult{NativeFileDialogResult::s_cancelled, {}};
+    });
+    QCOMPARE(setup.dialog.getOpenFileName(nullptr), QString());
+    QCOMPARE(setup.editor->takeCalls().last(), QStringLiteral("setVisible 0"));
+    QCOMPARE(setup.dialog.getOpenFileNames(nullptr), QStringList());
+    QCOMPARE(setup.editor->takeCalls().last(), QStringLiteral("setVisible 0"));
+}
+
+void PreviewFileDialogTest::exceptionHidesThePreview()
+{
+    Setup setup;
+    const auto replacement = dialogOf([](const NativeFileDialogRequest&) -> NativeFileDialogResult {
+        throw std::length_error("too long");
+    });
+    QVERIFY_EXCEPTION_THROWN(setup.dialog.getOpenFileName(nullptr), std::length_error);
+    QCOMPARE(setup.editor->calls.last(), QStringLiteral("setVisible 0"));
+    QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
+}
+
+void PreviewFileDialogTest::selectionIsShown_data()
+{
+    QTest::addColumn<QStringList>("selected");
+    QTest::addColumn<QString>("shown");
+    const QString japanese = QString::fromUtf8(u8"/a/\u91d1\u578b.stl");
+    QTest::newRow("none") << QStringList() << QString();
+    QTest::newRow("one") << QStringList{QStringLiteral("/a/b.stl")} << QStringLiteral("/a/b.stl");
+    QTest::newRow("the first of several")
+        << QStringList{QStringLiteral("/a/2"), QStringLiteral("/a/1")} << QStringLiteral("/a/2");
+    QTest::newRow("beyond Latin letters") << QStringList{japanese} << japanese;
+}
+
+void PreviewFileDialogTest::selectionIsShown()
+{
+    QFETCH(QStringList, selected);
+    QFETCH(QString, shown);
+    Setup setup;
+    setup.handler().onSelectionChanged(selected, setup.callbacks);
+    QCOMPARE(setup.editor->takeCalls(), QStringList{QStringLiteral("showFile ") + shown});
+}
+
+void PreviewFileDialogTest::firstTypeChangePlacesTheDialog()
+{
+    Setup setup;
+    setup.handler().onTypeChanged(setup.callbacks);
+    QCOMPARE(setup.editor->takeCalls(), QStringList{QStringLiteral("placeDialog")});
+    QCOMPARE(setup.callbacks.placed, setup.configuration.get());
+    setup.handler().onTypeChanged(setup.callbacks);
+    QCOMPARE(setup.editor->takeCalls(), QStringList());
+}
+
+void PreviewFileDialogTest::secondDialogIsNotPlacedByTypeChanges()
+{
+    Setup setup;
+    int placed = 0;
+    const auto replacement = dialogOf([&](const NativeFileDialogRequest& request) {
+        request.configuration->getEventHandler()->onTypeChanged(setup.callbacks);
+        placed += setup.editor->takeCalls().count(QStringLiteral("placeDialog"));
+        return NativeFileDialogResult{};
+    });
+    setup.dialog.getOpenFileName(nullptr);
+    QCOMPARE(placed, 1);
+    setup.dialog.getOpenFileName(nullptr);
+    QCOMPARE(placed, 1);
+}
+
+void PreviewFileDialogTest::checkBoxSwitchesThePreviewOn()
+{
+    storeShowPreview(false);
+    Setup setup;
+    setup.handler().onCheckBoxToggled(true, 0, setup.callbacks);
+    QCOMPARE(storedShowPreview(), QVariant(true));
+    // Beside the dialog's present place, 5 pixels on.
+    const QRect dialog = setup.callbacks.geometry;
+    QCOMPARE(
+        setup.editor->takeCalls(),
+        (QStringList{QStringLiteral("initialize -1"), QStringLiteral("setVisible 1"),
+                     QStringLiteral("moveTo %1 %2").arg(30 + dialog.width() + 4).arg(dialog.y()),
+                     QStringLiteral("placeDialog")}));
+    QCOMPARE(setup.callbacks.placed, setup.configuration.get());
+    QRect placed;
+    QVERIFY(setup.configuration->getFileDialogGeometry(placed));
+    QCOMPARE(placed, QRect(30, dialog.y(), dialog.width(), dialog.height()));
+}
+
+void PreviewFileDialogTest::checkBoxSwitchesThePreviewOff()
+{
+    Setup setup;
+    setup.handler().onCheckBoxToggled(false, 0, setup.callbacks);
+    QCOMPARE(storedShowPreview(), QVariant(false));
+    QCOMPARE(setup.editor->takeCalls(), QStringList{QStringLiteral("setVisible 0")});
+    // The dialog's place was not noted.
+    QRect placed;
+    QVERIFY(!setup.configuration->getFileDialogGeometry(placed));
+}
+
+void PreviewFileDialogTest::otherCheckBoxesAreNotOurs()
+{
+    Setup setup;
+    setup.handler().onCheckBoxToggled(false, 1, setup.callbacks);
+    setup.handler().onItemSelected(0, 1);
+    QCOMPARE(setup.editor->takeCalls(), QStringList());
+    QVERIFY(!storedShowPreview().isValid());
+}
+
+void PreviewFileDialogTest::stateIsWrittenOnlyWhenItChanges()
+{
+    Setup setup;
+    // An equal value stays just as it is written.
+    QSettings().setValue(QStringLiteral("PreviewTest/ShowPreview"), QStringLiteral("1"));
+    setup.handler().onCheckBoxToggled(true, 0, setup.callbacks);
+    QCOMPARE(storedShowPreview(), QVariant(QStringLiteral("1")));
+    setup.handler().onCheckBoxToggled(false, 0, setup.callbacks);
+    QCOMPARE(storedShowPreview().toBool(), false);
+    QSettings().remove(QStringLiteral("PreviewTest/ShowPreview"));
+    setup.handler().onCheckBoxToggled(true, 0, setup.callbacks);
+    QVERIFY(storedShowPreview().isValid());
+}
+
+void PreviewFileDialogTest::handlerWithoutPreviewConfiguration()
+{
+    Setup setup;
+    PreviewFileDialogEventHandler handler(setup.editor);
+    FileDialogConfiguration plain;
+    QVERIFY(!handler.isPreviewWanted());
+    handler.setFileDialogConfiguration(&plain);
+    QVERIFY(!handler.isPreviewWanted());
+    handler.onCheckBoxToggled(true, 0, setup.callbacks);
+    QVERIFY(!storedShowPreview().isValid());
+    QCOMPARE(setup.editor->takeCalls(),
+             (QStringList{QStringLiteral("initialize -1"), QStringLiteral("setVisible 1"),
+                          QStringLiteral("moveTo -1 -1"), QStringLiteral("placeDialog")}));
+    handler.setFileDialogConfiguration(nullptr);
+    handler.onCheckBoxToggled(true, 0, setup.callbacks);
+    QCOMPARE(setup.editor->takeCalls(), QStringList{QStringLiteral("setVisible 1")});
+    QCOMPARE(handler.getPreviewerSize(), setup.editor->geometry);
+}
+
+void PreviewFileDialogTest::alternativeDialogHasNoPreview()
+{
+    CommandLineParser::instance()->parse(
+        {QStringLiteral("test"), QStringLiteral("--alternativeFileDialog")});
+    Setup setup;
+    QVERIFY(!setup.configuration->getEventHandler());
+    QCOMPARE(setup.configuration->numberOfcustomControls(), 0);
+    Testing::ExpectedModals modals;
+    modals.expectDialog<QFileDialog>(QStringLiteral("Qt's dialog"),
+                                     [](QFileDialog& dialog) { dialog.reject(); });
+    QCOMPARE(setup.dialog.getOpenFileName(nullptr), QString());
+    QVERIFY(modals.allMet());
+    QCOMPARE(setup.editor->takeCalls(), QStringList());
+}
+
+void PreviewFileDialogTest::configurationOutlivesTheDialog()
+{
+    const auto configuration =
+        std::make_shared<PreviewFileDialogConfiguration>(Testing::previewConfiguration());
+    const auto editor = std::make_shared<Testing::RecordingEditor>();
+    {
+        const PreviewFileDialog dialog(editor, configuration, nullptr);
+        QVERIFY(configuration->getEventHandler());
+    }
+    QVERIFY(!configuration->getEventHandler());
+    QCOMPARE(configuration->getPositionForPreviewer(), QPoint(629, -1));
+    QCOMPARE(editor.use_count(), 1L);
+}
+
+ZORVANE_TEST_MAIN(PreviewFileDialogTest)
+#include "PreviewFileDialogTest.moc"
