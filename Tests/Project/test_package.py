@@ -16,7 +16,7 @@ PREFIX = WORK / "prefix"
 
 
 # A compiler cache may answer with the file names of another build.
-ENVIRONMENT = {**os.environ, "CCACHE_DISABLE": "1"}
+ENVIRONMENT = {**os.environ, "CCACHE_DISABLE": "1", "QT_QPA_PLATFORM": "offscreen"}
 
 
 def run(*command):
@@ -48,6 +48,13 @@ class PackageTest(unittest.TestCase):
         for path in PREFIX.rglob("*.cmake"):
             with self.subTest(path=path):
                 self.assertNotIn(str(SOURCES), path.read_text().replace(str(PREFIX), ""))
+
+    def test_the_workbench_is_installed_with_its_samples(self):
+        samples = PREFIX / "share/zorvane-workbench/samples"
+        for name in ("drawn-cup/drawn-cup.dsg", "drawn-cup/geometry/cup.stl",
+                     "door-panel/door-panel.dsg"):
+            self.assertTrue((samples / name).is_file(), name)
+        self.assertIn("Workbench", run(PREFIX / "bin/workbench", "--version"))
 
     def test_the_library_builds_on_a_host_from_a_package(self):
         build = configure(SOURCES, "library", "-DZORVANE_HOST_FROM_PACKAGE=ON",

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace Zorvane::Workbench {
 
@@ -258,6 +259,21 @@ Problems DesignSession::save(OnConflict onConflict)
 void DesignSession::revert(const GUIdentifier& designId)
 {
     m_store.revert(designId);
+    watch();
+    Q_EMIT changed();
+}
+
+void DesignSession::reload()
+{
+    std::vector<GUIdentifier> ids;
+    for (const Design& design : designs())
+        ids.push_back(design.id);
+    for (const GUIdentifier& id : ids)
+        m_store.revert(id);
+    m_store.retryUnread();
+    for (const Problem& problem : std::exchange(m_openProblems, {}))
+        openOne(problem.file);
+    m_looseParts.refresh();
     watch();
     Q_EMIT changed();
 }

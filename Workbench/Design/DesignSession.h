@@ -23,7 +23,7 @@ namespace Zorvane::Workbench {
  * Lives in one thread with an event loop. References and pointers into designs are valid until the
  * next `changed`.
  *
- * Edits are `rename`, `setQuantity` and `addFiles`; the first two undo themselves with the value before.
+ * Edits are `rename`, `setQuantity` and `addFiles`; the first two are undone by the value before.
  * Not supported: removing objects, adding any but files and their parts; undo.
  */
 class DesignSession : public QObject
@@ -114,6 +114,9 @@ public:
     Problems save(OnConflict onConflict = OnConflict::Refuse);
     /** Reads the design's file again and drops the unsaved changes of that design. */
     void revert(const GUIdentifier& designId);
+
+    /** Reverts every design, and tries again to open what could not be opened. */
+    void reload();
 
 Q_SIGNALS:
     /** Something of designs, parts, states of files, problems or modification is different. */

@@ -365,6 +365,12 @@ void DesignStore::revert(const GUIdentifier& designId)
         arrange();
 }
 
+void DesignStore::retryUnread()
+{
+    // Arranging reads whatever is wanted and not there.
+    arrange();
+}
+
 Design* DesignStore::findByFile(const QString& file)
 {
     const auto found = std::find_if(m_designs.begin(), m_designs.end(),

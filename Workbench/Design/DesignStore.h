@@ -67,6 +67,8 @@ public:
     Problems save(bool overwriteConflicts);
     /** Drops what was changed here, if the file can be read; else tells why not by a problem. */
     void revert(const GUIdentifier& designId);
+    /** Reads the design files again from which no design could be read. */
+    void retryUnread();
 
 private:
     /** How a design stands to its file. */

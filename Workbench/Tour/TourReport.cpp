@@ -35,14 +35,14 @@ TourReport::TourReport(const QString& folder)
 void TourReport::beginStep(const QString& title, const QString& text)
 {
     m_step = title;
-    m_lines << QString() << QStringLiteral("## %1. %2").arg(++m_steps).arg(title) << QString()
-            << text << QString();
+    addParagraph(QStringLiteral("## %1. %2").arg(++m_steps).arg(title));
+    addParagraph(text);
 }
 
 void TourReport::expect(bool met, const QString& what)
 {
-    m_lines << QStringLiteral("- %1 %2").arg(
-        met ? QStringLiteral("shown:") : QStringLiteral("**NOT SHOWN:**"), what);
+    addNote(QStringLiteral("%1 %2").arg(
+        met ? QStringLiteral("shown:") : QStringLiteral("**NOT SHOWN:**"), what));
     if (!met)
         m_failures << QStringLiteral("%1: %2").arg(m_step, what);
 }
@@ -53,21 +53,28 @@ void TourReport::addPicture(const QString& name, const QImage& picture)
         QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(name);
     expect(!isBlank(picture), QStringLiteral("a picture that is not blank"));
     expect(picture.save(QDir(m_folder).filePath(file)), QStringLiteral("%1 is stored").arg(file));
-    m_lines << QString() << QStringLiteral("![%1](%2)").arg(m_step, file) << QString();
+    addParagraph(QStringLiteral("![%1](%2)").arg(m_step, file));
 }
 
 void TourReport::addNote(const QString& text)
 {
+    if (!m_lines.last().startsWith(QLatin1String("- ")))
+        m_lines << QString();
     m_lines << QStringLiteral("- %1").arg(text);
+}
+
+void TourReport::addParagraph(const QString& text)
+{
+    if (!text.isEmpty())
+        m_lines << QString() << text;
 }
 
 bool TourReport::write()
 {
-    m_lines << QString()
-            << (m_failures.isEmpty()
-                    ? QStringLiteral("Everything was shown as it should be.")
-                    : QStringLiteral("%1 expectations were not met.").arg(m_failures.size()))
-            << QString();
+    addParagraph(m_failures.isEmpty()
+                     ? QStringLiteral("Everything was shown as it should be.")
+                     : QStringLiteral("%1 expectations were not met.").arg(m_failures.size()));
+    m_lines << QString();
     QFile file(QDir(m_folder).filePath(QStringLiteral("tour.md")));
     const QByteArray text = m_lines.join(QLatin1Char('\n')).toUtf8();
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();

@@ -28,6 +28,8 @@ public:
     bool write();
 
 private:
+    void addParagraph(const QString& text);
+
     QString m_folder;
     QStringList m_lines;
     QStringList m_failures;

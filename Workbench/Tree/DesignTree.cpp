@@ -56,6 +56,7 @@ DesignTree::DesignTree(DesignSession& session, MeshLoader& loader, QObject* pare
     , m_pipeline(session, combined({m_kindFilter, m_nameFilter}),
                  [this] { schedule(Scope::Rows, When::Next); })
     , m_decoration(session, m_catalog, m_pipeline)
+    , m_refresh([this] { refreshNow(); })
 {
     m_model.setHorizontalHeaderLabels(treeColumnTitles());
     for (int column = 0; column < m_model.columnCount(); ++column)
@@ -79,7 +80,7 @@ DesignTree::DesignTree(DesignSession& session, MeshLoader& loader, QObject* pare
     connect(&m_model, &ZVTreeViewModel::edited, this, &DesignTree::takeOverName);
     m_soon.setSingleShot(true);
     m_soon.setInterval(s_soonMilliseconds);
-    connect(&m_soon, &QTimer::timeout, this, &DesignTree::refreshNow);
+    connect(&m_soon, &QTimer::timeout, this, [this] { m_refresh.post(); });
     schedule(Scope::Rows, When::Next);
 }
 
@@ -181,15 +182,8 @@ void DesignTree::schedule(Scope scope, When when)
     if (when == When::Soon) {
         if (!m_soon.isActive())
             m_soon.start();
-    } else if (!m_queued) {
-        m_queued = true;
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                m_queued = false;
-                refreshNow();
-            },
-            Qt::QueuedConnection);
+    } else {
+        m_refresh.post();
     }
 }
 
@@ -199,6 +193,7 @@ void DesignTree::refreshNow()
         return;
     m_scheduled = false;
     m_soon.stop();
+    m_refresh.unpost();
     const QScopedValueRollback<bool> busy(m_busy, true);
     {
         const ZVTreeViewModelBatch batch(&m_model);

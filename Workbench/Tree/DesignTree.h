@@ -4,6 +4,7 @@
 #include "TreeModel/ModelItemToZVTreeModelSyncronizer.h"
 #include "Workbench/Tree/DesignCatalog.h"
 #include "Workbench/Tree/DesignPipeline.h"
+#include "Workbench/Tree/PostedCall.h"
 #include "Workbench/Tree/RowDecoration.h"
 
 #include <QtCore/QObject>
@@ -26,8 +27,9 @@ class NameFilter;
 
 /**
  * Shows a session in a tree view and keeps it in step: whatever changes in the session or the
- * filters is gathered and shown once per turn of the event loop, facts of meshes a few times a
- * second, with selection, expansion and scroll position kept. Names edited in the view go to the session; a refused one is put back.
+ * filters is gathered and shown once the current event has been handled, facts of meshes a few
+ * times a second, with selection, expansion and scroll position kept. Names edited in the view go
+ * to the session; a refused one is put back.
  *
  * Rows with children are expanded unless the user has collapsed them, and always while a text
  * filters. Session, loader and view must outlive it.
@@ -85,7 +87,7 @@ private:
     };
     enum class When
     {
-        /** In the next turn of the event loop. */
+        /** Once the current event has been handled. */
         Next,
         /** Together with what else happens shortly. */
         Soon
@@ -108,9 +110,9 @@ private:
     QPointer<QTreeView> m_view;
     std::set<IDCombiner> m_collapsed;
     QTimer m_soon;
+    PostedCall m_refresh;
     /** Files that could not be read last time. */
     QSet<QString> m_unreadable;
-    bool m_queued = false;
     bool m_scheduled = false;
     bool m_structureChanged = false;
     bool m_busy = false;

@@ -144,7 +144,7 @@ QWidget* MainWindow::createTreeSide()
     QHeaderView* header = m_treeView->header();
     header->setStretchLastSection(true);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const double widths[] = {27.5, 14.75, 8.75, 20.5, 13.75, 9.5, 9.5};
+    const double widths[] = {31, 14.75, 8.75, 20.5, 13.75, 9.5, 9.5};
     for (int column = 0; column < header->count(); ++column)
         header->resizeSection(column, int(widths[column] * digitWidth()));
     auto* side = new QWidget(this);
@@ -385,8 +385,9 @@ void MainWindow::showSession()
     (*m_actions)[WindowActions::Save]->setEnabled(m_session.isModified());
     const bool something = !designs.empty() || !m_session.looseParts().empty();
     (*m_actions)[WindowActions::Import]->setEnabled(!designs.empty());
-    (*m_actions)[WindowActions::Reload]->setEnabled(something);
-    (*m_actions)[WindowActions::CloseAll]->setEnabled(something || !m_session.problems().empty());
+    const bool anything = something || !m_session.problems().empty();
+    (*m_actions)[WindowActions::Reload]->setEnabled(anything);
+    (*m_actions)[WindowActions::CloseAll]->setEnabled(anything);
 }
 
 QString MainWindow::countsText() const
@@ -487,11 +488,7 @@ void MainWindow::reload()
 {
     if (!mayDropChanges())
         return;
-    std::vector<GUIdentifier> ids;
-    for (const Design& design : m_session.designs())
-        ids.push_back(design.id);
-    for (const GUIdentifier& id : ids)
-        m_session.revert(id);
+    m_session.reload();
     m_factsReader->readAgain();
 }
 

@@ -62,6 +62,8 @@ void TourReportTest::numbersPicturesAndTellsThem()
     for (const char* part : {"## 1. First", "It begins.", "![First](01-one.png)", "## 2. Second",
                              "- a note", "Everything was shown as it should be."})
         QVERIFY2(text.contains(QLatin1String(part)), part);
+    QVERIFY2(!text.contains(QStringLiteral("\n\n\n")), "one blank line is enough");
+    QVERIFY(text.endsWith(QLatin1Char('\n')));
 }
 
 void TourReportTest::aBlankPictureIsAFailure()

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void columnsTellWhatIsKnown();
     void factsArriveAsMeshesAreRead();
     void refreshesAreGathered();
+    void aThousandChangesInOneEventAreOneSynchronization();
+    void aRefreshAtOnceTakesThePostedOneBack();
     void aNameEditedInPlaceChangesTheDesign();
     void aRefusedNameIsPutBack();
     void groupsAndMeshFilesAreNotEdited();
@@ -122,6 +124,35 @@ void DesignTreeTest::refreshesAreGathered()
     QTRY_COMPARE(text(22, TreeColumn::Name), QStringLiteral("B"));
     QCOMPARE(refreshed.count(), 1);
     m_tree->refreshNow();
+    QCOMPARE(refreshed.count(), 1);
+}
+
+void DesignTreeTest::aThousandChangesInOneEventAreOneSynchronization()
+{
+    QSignalSpy changed(&m_opened->session, &DesignSession::changed);
+    QSignalSpy refreshed(m_tree.get(), &DesignTree::refreshed);
+    QSignalSpy published(&m_tree->model(), &ZVTreeViewModel::published);
+    QTimer::singleShot(0, m_tree.get(), [this] {
+        for (int change = 1; change <= 1000; ++change)
+            m_opened->session.rename(objectId(21 + change % 2), QString::number(change));
+    });
+    QTRY_COMPARE(text(21, TreeColumn::Name), QStringLiteral("1000"));
+    QCOMPARE(text(22, TreeColumn::Name), QStringLiteral("999"));
+    // Let whatever else may have been posted have its turn.
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+    QCOMPARE(changed.count(), 1000);
+    QCOMPARE(refreshed.count(), 1);
+    QCOMPARE(published.count(), 1);
+}
+
+void DesignTreeTest::aRefreshAtOnceTakesThePostedOneBack()
+{
+    QSignalSpy refreshed(m_tree.get(), &DesignTree::refreshed);
+    m_opened->session.rename(objectId(21), QStringLiteral("A"));
+    m_tree->refreshNow();
+    QCOMPARE(refreshed.count(), 1);
+    QCoreApplication::sendPostedEvents();
     QCOMPARE(refreshed.count(), 1);
 }
 

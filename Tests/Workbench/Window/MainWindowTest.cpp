@@ -73,6 +73,7 @@ private Q_SLOTS:
     void closingAsksForUnsavedChanges_data();
     void closingAsksForUnsavedChanges();
     void reloadReadsWhatWasCancelled();
+    void reloadTriesAgainWhatCouldNotBeOpened();
     void closeAllForgetsEverything();
     void droppedFilesAreOpened();
     void findFocusesTheFilter();
@@ -313,6 +314,20 @@ void MainWindowTest::reloadReadsWhatWasCancelled()
     triggerText(QStringLiteral("Reload"));
     const QString file = m_files->path(QStringLiteral("geometry/die.stl"));
     QTRY_VERIFY(m_window->loader().facts(file));
+}
+
+void MainWindowTest::reloadTriesAgainWhatCouldNotBeOpened()
+{
+    // A folder without anything is not watched: nobody tells when a design appears in it.
+    const QString folder = m_files->path(QStringLiteral("empty"));
+    QVERIFY(QDir().mkpath(folder));
+    m_window->open({folder});
+    QVERIFY(m_window->session().designs().empty());
+    Testing::writeFile(folder + QStringLiteral("/small.dsg"),
+                       Testing::toText(Testing::smallDesign()));
+    triggerText(QStringLiteral("Reload"));
+    QCOMPARE(m_window->session().designs().size(), std::size_t(1));
+    QVERIFY(m_window->session().problems().empty());
 }
 
 void MainWindowTest::closeAllForgetsEverything()
