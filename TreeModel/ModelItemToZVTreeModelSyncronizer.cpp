@@ -109,19 +109,19 @@ int ModelItemToZVTreeModelSyncronizer::placeRows(ZVTreeViewItem* parent, const I
         if (finder.hasId(row, item.getId())) {
             writeText(row, item);
             synchronizeChildren(row, item);
-            finder.placed(front, front);
+            finder.stays();
             continue;
         }
-        const int found = finder.find(front);
-        if (found < 0) {
+        row = finder.find(front);
+        if (!row) {
             parent->insertChild(front, createListedRow(item));
             ++count;
             continue;
         }
-        row = parent->takeChild(found);
+        parent->takeChild(row);
         synchronizeChildren(row, item);
         parent->insertChild(front, row);
-        finder.placed(front, found);
+        finder.moves();
     }
     return front;
 }

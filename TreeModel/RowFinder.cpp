@@ -1,41 +1,19 @@
 #include "TreeModel/RowFinder.h"
 
-#include "Host/Widgets/ZVTreeViewItem.h"
-
 #include <QtCore/QVariant>
 
 #include <algorithm>
-#include <array>
-#include <typeinfo>
+#include <cstdlib>
 
 namespace Zorvane::GenericTreeViewModelHandling {
 
 namespace {
 
-/** So many rows are walked over rather than indexed. */
-constexpr int ShortList = 24;
-
-/**
- * So many items are looked up at once: their rows lie scattered in memory, and a short loop waits
- * for many of them together where the whole refresh would wait for each.
- */
-constexpr std::size_t LookAhead = 64;
+/** One search walks over so many rows at most: what is farther away wants an index. */
+constexpr int ShortWalk = 16;
 
 /** So many searches in a row without a run show that the rows really are scattered. */
 constexpr int ManyStrayed = 8;
-
-/** The typed id of a row whose class cannot answer `data()` otherwise. */
-const IDCombiner* typedId(const ZVTreeViewItem* row, RowFinder::IdPlace place)
-{
-    const bool plain = place.column == 0 && typeid(*row) == typeid(ZVTreeViewItem);
-    return plain ? row->id(place.role) : nullptr;
-}
-
-std::uint32_t tagOf(const IDCombiner& id)
-{
-    // The hash's low bits alone are not mixed well enough for a table.
-    return static_cast<std::uint32_t>((std::hash<IDCombiner>()(id) * 0x9e3779b97f4a7c15U) >> 32U);
-}
 
 std::size_t bucketCount(std::size_t rows)
 {
@@ -47,16 +25,16 @@ std::size_t bucketCount(std::size_t rows)
 
 } // namespace
 
-void RowFinder::Index::reset(std::size_t rows)
+void RowFinder::Index::reset(std::size_t count)
 {
-    slots.resize(rows);
-    buckets.assign(bucketCount(rows), None);
-    readIds.clear();
-    waiting = WaitingSlots(rows);
-    hasDuplicates = false;
-    ahead.clear();
-    aheadFrom = 0;
+    rows.resize(count);
+    placed.assign(count, false);
+    buckets.assign(bucketCount(count), {0, None});
+    nextSameId.clear();
+    front = 0;
     found = 0;
+    aheadFrom = 0;
+    aheadEnd = 0;
     strayed = 0;
 }
 
@@ -66,7 +44,7 @@ RowFinder::RowFinder(const ZVTreeViewItem* parent, const Items& items, IdPlace p
     , m_items(items)
     , m_place(place)
     , m_spareIndexes(spareIndexes)
-    , m_walkAllowance(ShortList + parent->childCount())
+    , m_walkAllowance(ShortWalk + parent->childCount())
 {}
 
 RowFinder::~RowFinder()
@@ -90,59 +68,54 @@ bool RowFinder::readId(const ZVTreeViewItem* row, IdPlace place, IDCombiner& id)
     return true;
 }
 
-const IDCombiner& RowFinder::idOfItem(int item) const
+bool RowFinder::readsAs(const ZVTreeViewItem* row, const IDCombiner& id) const
 {
-    return m_items[static_cast<std::size_t>(item)]->getId();
-}
-
-const IDCombiner* RowFinder::idOf(const ZVTreeViewItem* row, IDCombiner& buffer) const
-{
-    if (const IDCombiner* typed = typedId(row, m_place))
-        return typed;
-    return readId(row, m_place, buffer) ? &buffer : nullptr;
-}
-
-bool RowFinder::hasId(const ZVTreeViewItem* row, const IDCombiner& id) const
-{
-    if (const IDCombiner* typed = typedId(row, m_place))
-        return *typed == id;
     IDCombiner stored;
     return readId(row, m_place, stored) && stored == id;
 }
 
-int RowFinder::find(int front)
+ZVTreeViewItem* RowFinder::find(int front)
 {
-    if (!m_index) {
-        if (m_walkAllowance > 0)
-            return scan(front);
-        buildIndex(front);
+    if (!m_index && m_walkAllowance > 0) {
+        const int count = m_parent->childCount();
+        const int last = std::min(count, front + ShortWalk);
+        const int position = walk(front, last);
+        if (position < last)
+            return m_parent->child(position);
+        if (last == count)
+            return nullptr;
     }
-    const int slot = slotOf(front);
+    if (!m_index)
+        buildIndex(front);
+    const std::int32_t slot = slotOf(front);
     if (slot == Index::None)
-        return -1;
-    m_index->found = static_cast<std::size_t>(slot);
-    return front + static_cast<int>(m_index->waiting.countBefore(m_index->found));
+        return nullptr;
+    m_index->found = slot;
+    return m_index->rowAt(slot);
 }
 
-int RowFinder::scan(int front)
+/** The position in [front, last) of the row of item `front`, else `last`. */
+int RowFinder::walk(int front, int last)
 {
     const IDCombiner& id = idOfItem(front);
-    const int count = m_parent->childCount();
     int position = front;
-    while (position < count && !hasId(m_parent->child(position), id))
+    while (position < last && !hasId(m_parent->child(position), id))
         ++position;
     m_walkAllowance -= position - front;
-    return position < count ? position : -1;
+    return position;
 }
 
-void RowFinder::placed(int front, int position)
+void RowFinder::placeFirst()
 {
-    if (!m_index)
-        return;
-    if (position == front)
-        m_index->waiting.takeFirst();
-    else
-        m_index->waiting.take(m_index->found);
+    std::int32_t& front = m_index->front;
+    while (!m_index->isWaiting(front))
+        ++front;
+    m_index->take(front);
+}
+
+void RowFinder::placeFound()
+{
+    m_index->take(m_index->found);
 }
 
 void RowFinder::buildIndex(int front)
@@ -151,115 +124,119 @@ void RowFinder::buildIndex(int front)
         m_spareIndexes.push_back(std::make_unique<Index>());
     m_index = std::move(m_spareIndexes.back());
     m_spareIndexes.pop_back();
-    m_index->reset(static_cast<std::size_t>(m_parent->childCount() - front));
-    std::vector<Index::Slot>& slots = m_index->slots;
-    for (std::size_t slot = 0; slot < slots.size(); ++slot) {
+    const auto count = m_parent->childCount() - front;
+    m_index->reset(static_cast<std::size_t>(count));
+    for (std::int32_t slot = 0; slot < count; ++slot)
+        m_index->rows[std::size_t(slot)] = m_parent->child(front + slot);
+    // From the back, so that the chains of equal ids run forward.
+    for (std::int32_t slot = count; slot-- > 0;) {
+        const ZVTreeViewItem* row = m_index->rowAt(slot);
         IDCombiner buffer;
-        const IDCombiner* id = idOf(m_parent->child(front + static_cast<int>(slot)), buffer);
-        // An id that was read into the buffer has to outlive it.
-        if (id == &buffer)
-            id = &m_index->readIds.emplace_front(buffer);
-        slots[slot] = {id, id ? tagOf(*id) : 0, Index::None};
-    }
-    for (std::size_t slot = slots.size(); slot-- > 0;) {
-        if (!slots[slot].id)
-            continue;
-        std::int32_t& first = bucketOf(*slots[slot].id, slots[slot].tag);
-        slots[slot].nextSameId = first;
-        m_index->hasDuplicates = m_index->hasDuplicates || first != Index::None;
-        first = static_cast<std::int32_t>(slot);
+        if (const IDCombiner* typed = typedId(row, m_place))
+            enter(slot, *typed);
+        else if (readId(row, m_place, buffer))
+            enter(slot, buffer);
     }
 }
 
-/** The first slot of the id as far as it is known yet, to be read or written. */
-std::int32_t& RowFinder::bucketOf(const IDCombiner& id, std::uint32_t tag)
+void RowFinder::enter(std::int32_t slot, const IDCombiner& id)
 {
-    std::vector<std::int32_t>& buckets = m_index->buckets;
-    const std::size_t mask = buckets.size() - 1;
-    const auto isOther = [&](std::int32_t first) {
-        if (first == Index::None)
-            return false;
-        const Index::Slot& slot = m_index->slotAt(first);
-        return slot.tag != tag || *slot.id != id;
+    const std::uint32_t tag = id.quickHash();
+    Bucket& bucket = bucketOf(id, tag);
+    if (bucket.slot != Index::None) {
+        if (m_index->nextSameId.empty())
+            m_index->nextSameId.assign(m_index->rows.size(), Index::None);
+        m_index->nextSameId[std::size_t(slot)] = bucket.slot;
+    }
+    bucket = {tag, slot};
+}
+
+/** Where the first slot of the id is told, or would be. */
+RowFinder::Bucket& RowFinder::bucketOf(const IDCombiner& id, std::uint32_t tag)
+{
+    std::vector<Bucket>& buckets = m_index->buckets;
+    const auto isOther = [&](const Bucket& bucket) {
+        return bucket.slot != Index::None &&
+               (bucket.tag != tag || !hasId(m_index->rowAt(bucket.slot), id));
     };
-    std::size_t place = tag & mask;
+    std::size_t place = m_index->place(tag);
     while (isOther(buckets[place]))
-        place = (place + 1) & mask;
+        place = (place + 1) & (buckets.size() - 1);
     return buckets[place];
 }
 
-int RowFinder::firstWaitingWith(const IDCombiner& id)
+std::int32_t RowFinder::slotOf(int item)
 {
-    std::int32_t& first = bucketOf(id, tagOf(id));
-    std::int32_t slot = first;
-    while (slot != Index::None && !m_index->waiting.contains(static_cast<std::size_t>(slot)))
-        slot = m_index->slotAt(slot).nextSameId;
-    // Rows that were placed meanwhile are passed once; the last one stays, to keep its bucket.
-    if (slot != Index::None)
-        first = slot;
+    const IDCombiner& id = idOfItem(item);
+    if (!m_index->nextSameId.empty())
+        return firstWaitingWith(id);
+    int& strayed = m_index->strayed;
+    if (strayed > ManyStrayed) {
+        const std::int32_t slot = lookedAhead(item);
+        if (slot != Index::None && std::abs(slot - m_index->found) == 1)
+            strayed = 0;
+        return slot;
+    }
+    // Rows mostly move in runs: a neighbour of the one found last is the likely one.
+    for (const std::int32_t slot : {m_index->found + 1, m_index->found - 1}) {
+        if (m_index->isWaiting(slot) && hasId(m_index->rowAt(slot), id)) {
+            strayed = 0;
+            return slot;
+        }
+    }
+    const std::int32_t slot = bucketOf(id, id.quickHash()).slot;
+    if (slot == Index::None || !m_index->isWaiting(slot))
+        return Index::None;
+    ++strayed;
     return slot;
 }
 
-/**
- * The slots of the next items, for rows whose ids differ. Three short loops, so that the waiting
- * for memory is for many items at once: buckets, then slots, then the rows' ids.
- */
-void RowFinder::lookAhead(int item)
+std::int32_t RowFinder::firstWaitingWith(const IDCombiner& id)
 {
-    const int end = std::min(item + static_cast<int>(LookAhead), static_cast<int>(m_items.size()));
-    const auto count = static_cast<std::size_t>(end - item);
-    std::array<std::uint32_t, LookAhead> tags;
-    std::array<const IDCombiner*, LookAhead> stored;
-    std::vector<std::int32_t>& ahead = m_index->ahead;
-    ahead.resize(count);
-    m_index->aheadFrom = item;
-    const std::size_t mask = m_index->buckets.size() - 1;
-    for (std::size_t i = 0; i < count; ++i)
-        tags[i] = tagOf(idOfItem(item + static_cast<int>(i)));
-    for (std::size_t i = 0; i < count; ++i)
-        ahead[i] = m_index->buckets[tags[i] & mask];
-    for (std::size_t i = 0; i < count; ++i)
-        stored[i] = ahead[i] == Index::None ? nullptr : m_index->slotAt(ahead[i]).id;
-    for (std::size_t i = 0; i < count; ++i) {
-        const IDCombiner& id = idOfItem(item + static_cast<int>(i));
-        if (stored[i] && *stored[i] != id)
-            ahead[i] = bucketOf(id, tags[i]);
-    }
+    Bucket& bucket = bucketOf(id, id.quickHash());
+    std::int32_t slot = bucket.slot;
+    while (slot != Index::None && !m_index->isWaiting(slot))
+        slot = m_index->nextSameId[std::size_t(slot)];
+    // Rows that were placed meanwhile are passed once; the last one stays, to keep its bucket.
+    if (slot != Index::None)
+        bucket.slot = slot;
+    return slot;
 }
 
 /** The row of an item, by way of looking up those behind it as well. */
-int RowFinder::lookedAhead(int item)
+std::int32_t RowFinder::lookedAhead(int item)
 {
-    const auto place = [this](int other) {
-        return static_cast<std::size_t>(other - m_index->aheadFrom);
-    };
-    if (place(item) >= m_index->ahead.size())
+    if (item < m_index->aheadFrom || item >= m_index->aheadEnd)
         lookAhead(item);
-    const std::int32_t slot = m_index->ahead[place(item)];
-    const bool waits =
-        slot != Index::None && m_index->waiting.contains(static_cast<std::size_t>(slot));
-    return waits ? slot : Index::None;
+    const std::int32_t slot = m_index->ahead[std::size_t(item - m_index->aheadFrom)];
+    return slot != Index::None && m_index->isWaiting(slot) ? slot : Index::None;
 }
 
-bool RowFinder::waitsAt(std::size_t slot, const IDCombiner& id) const
+/**
+ * The slots of the next items, for rows whose ids differ. Short loops, so that the waiting for
+ * memory is for many items at once: buckets first, then rows.
+ */
+void RowFinder::lookAhead(int item)
 {
-    return slot < m_index->slots.size() && m_index->waiting.contains(slot) &&
-           m_index->slots[slot].id && *m_index->slots[slot].id == id;
-}
-
-int RowFinder::slotOf(int item)
-{
-    const IDCombiner& id = idOfItem(item);
-    if (m_index->hasDuplicates)
-        return firstWaitingWith(id);
-    // Rows mostly move in runs: a neighbour of the one found last is the likely one.
-    for (const std::size_t slot : {m_index->found + 1, m_index->found - 1}) {
-        if (waitsAt(slot, id)) {
-            m_index->strayed = 0;
-            return static_cast<int>(slot);
-        }
+    const auto count = std::min(Index::LookAhead, m_items.size() - std::size_t(item));
+    m_index->aheadFrom = item;
+    m_index->aheadEnd = item + int(count);
+    std::array<std::uint32_t, Index::LookAhead> tags;
+    std::array<Bucket, Index::LookAhead> buckets;
+    for (std::size_t i = 0; i < count; ++i) {
+        tags[i] = idOfItem(item + int(i)).quickHash();
+        buckets[i] = m_index->buckets[m_index->place(tags[i])];
     }
-    return ++m_index->strayed > ManyStrayed ? lookedAhead(item) : firstWaitingWith(id);
+    std::array<const ZVTreeViewItem*, Index::LookAhead> rows;
+    for (std::size_t i = 0; i < count; ++i)
+        rows[i] = buckets[i].slot != Index::None && buckets[i].tag == tags[i]
+                      ? m_index->rowAt(buckets[i].slot)
+                      : nullptr;
+    for (std::size_t i = 0; i < count; ++i) {
+        const IDCombiner& id = idOfItem(item + int(i));
+        const bool hit = rows[i] && hasId(rows[i], id);
+        m_index->ahead[i] = hit ? buckets[i].slot : bucketOf(id, tags[i]).slot;
+    }
 }
 
 } // namespace Zorvane::GenericTreeViewModelHandling

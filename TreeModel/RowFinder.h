@@ -1,17 +1,14 @@
 #pragma once
 
-#include "Host/Containers/WaitingSlots.h"
 #include "Host/Identifiers/IDCombiner.h"
+#include "Host/Widgets/ZVTreeViewItem.h"
 #include "TreeModel/ModelItem.h"
 
+#include <array>
 #include <cstdint>
-#include <forward_list>
 #include <memory>
+#include <typeinfo>
 #include <vector>
-
-namespace Zorvane {
-class ZVTreeViewItem;
-}
 
 namespace Zorvane::GenericTreeViewModelHandling {
 
@@ -19,7 +16,7 @@ namespace Zorvane::GenericTreeViewModelHandling {
  * Finds the rows of one parent that show given items, while the parent's list is put in order from
  * the front: item by item, each row found is moved to the item's position, or a new one inserted.
  *
- * The rule is plain: of the rows that have not been placed yet, the first with an equal id. A few
+ * The rule is plain: of the rows that have not been placed yet, the first with an equal id. Short
  * searches walk the list; when more are needed, an index of all rows that are left is built, so
  * that no list costs the square of its length. Rows in place are best recognised by `hasId`
  * before anything is searched for.
@@ -47,26 +44,59 @@ public:
     ~RowFinder();
 
     /** Whether the row carries this id. */
-    bool hasId(const ZVTreeViewItem* row, const IDCombiner& id) const;
-    /** The position of the first row at `front` or behind with the id of item `front`, else -1. */
-    int find(int front);
-    /** The row found stands at `front` now; it may have been there, at `position` == `front`. */
-    void placed(int front, int position);
+    bool hasId(const ZVTreeViewItem* row, const IDCombiner& id) const
+    {
+        const IDCombiner* typed = typedId(row, m_place);
+        return typed ? *typed == id : readsAs(row, id);
+    }
+    /** The first row at position `front` or behind with the id of item `front`, else null. */
+    ZVTreeViewItem* find(int front);
+    /** The row that was at position `front` stays there, as that of item `front`. */
+    void stays()
+    {
+        if (m_index)
+            placeFirst();
+    }
+    /** The row found last is moved to the front. */
+    void moves()
+    {
+        if (m_index)
+            placeFound();
+    }
 
     /** A row's id: false when none is stored. One that cannot be read counts as the default id. */
     static bool readId(const ZVTreeViewItem* row, IdPlace place, IDCombiner& id);
 
 private:
-    const IDCombiner& idOfItem(int item) const;
-    const IDCombiner* idOf(const ZVTreeViewItem* row, IDCombiner& buffer) const;
-    int scan(int front);
+    /** Of the index's hash table: the first slot of an id. */
+    struct Bucket
+    {
+        std::uint32_t tag;
+        std::int32_t slot;
+    };
+
+    /** The typed id of a row whose class cannot answer `data()` otherwise. */
+    static const IDCombiner* typedId(const ZVTreeViewItem* row, IdPlace place)
+    {
+        const bool plain = place.column == 0 && typeid(*row) == typeid(ZVTreeViewItem);
+        return plain ? row->id(place.role) : nullptr;
+    }
+    bool readsAs(const ZVTreeViewItem* row, const IDCombiner& id) const;
+    const IDCombiner& idOfItem(int item) const
+    {
+        return m_items[static_cast<std::size_t>(item)]->getId();
+    }
+
+    int walk(int front, int last);
     void buildIndex(int front);
-    std::int32_t& bucketOf(const IDCombiner& id, std::uint32_t tag);
-    bool waitsAt(std::size_t slot, const IDCombiner& id) const;
-    int firstWaitingWith(const IDCombiner& id);
+    void enter(std::int32_t slot, const IDCombiner& id);
+    Bucket& bucketOf(const IDCombiner& id, std::uint32_t tag);
+    std::int32_t slotOf(int item);
+    std::int32_t firstWaitingWith(const IDCombiner& id);
+    std::int32_t lookedAhead(int item);
     void lookAhead(int item);
-    int lookedAhead(int item);
-    int slotOf(int item);
+    void placeFirst();
+    void placeFound();
 
     const ZVTreeViewItem* const m_parent;
     const Items& m_items;
@@ -77,32 +107,40 @@ private:
     std::unique_ptr<Index> m_index;
 };
 
-/** The rows that were left when it was built, by id. */
+/** The rows that were left when it was built, in slots in their order, and by id. */
 struct RowFinder::Index
 {
     static constexpr std::int32_t None = -1;
-
-    struct Slot
-    {
-        const IDCombiner* id;
-        std::uint32_t tag;
-        std::int32_t nextSameId;
-    };
+    /**
+     * So many items are looked up at once: their rows lie scattered in memory, and a short loop
+     * waits for many of them together where the whole refresh would wait for each.
+     */
+    static constexpr std::size_t LookAhead = 64;
 
     /** Forgets everything but the memory it has. */
-    void reset(std::size_t rows);
-    const Slot& slotAt(std::int32_t slot) const { return slots[static_cast<std::size_t>(slot)]; }
+    void reset(std::size_t count);
+    ZVTreeViewItem* rowAt(std::int32_t slot) const { return rows[std::size_t(slot)]; }
+    bool isWaiting(std::int32_t slot) const
+    {
+        // A negative slot is a very large one here.
+        return std::size_t(slot) < placed.size() && !placed[std::size_t(slot)];
+    }
+    std::size_t place(std::uint32_t tag) const { return tag & (buckets.size() - 1); }
+    void take(std::int32_t slot) { placed[std::size_t(slot)] = true; }
 
-    std::vector<Slot> slots;
-    /** A hash table: the first slot of an id each. */
-    std::vector<std::int32_t> buckets;
-    std::forward_list<IDCombiner> readIds;
-    WaitingSlots waiting;
-    bool hasDuplicates = false;
+    std::vector<ZVTreeViewItem*> rows;
+    std::vector<bool> placed;
+    /** A hash table, by tags. */
+    std::vector<Bucket> buckets;
+    /** Chains of slots with the same id; empty when there are none. */
+    std::vector<std::int32_t> nextSameId;
+    /** No slot before this one waits. */
+    std::int32_t front = 0;
+    std::int32_t found = 0;
     /** The first row of each of the next items, looked up some ahead. */
-    std::vector<std::int32_t> ahead;
+    std::array<std::int32_t, LookAhead> ahead;
     int aheadFrom = 0;
-    std::size_t found = 0;
+    int aheadEnd = 0;
     /** How many searches in a row led far away from the one before. */
     int strayed = 0;
 };

@@ -31,6 +31,11 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     target_compile_options(zorvane_settings INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion
         $<$<BOOL:${ZORVANE_WARNINGS_ARE_ERRORS}>:-Werror>)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        # Nobody replaces single functions of our libraries, so they may be inlined inside them.
+        target_compile_options(zorvane_settings INTERFACE
+            $<$<CONFIG:Release>:-fno-semantic-interposition>)
+    endif()
 elseif(MSVC)
     target_compile_options(zorvane_settings INTERFACE /W4 /utf-8 /permissive-
         $<$<BOOL:${ZORVANE_WARNINGS_ARE_ERRORS}>:/WX>)

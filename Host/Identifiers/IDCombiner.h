@@ -36,6 +36,19 @@ public:
     /** The combined part carried, else the null one. */
     GUIdentifier getCombinedPart() const;
 
+    /**
+     * For tables that live as long as one call: cheaper than `hash_value`, not the same from
+     * version to version.
+     */
+    std::uint32_t quickHash() const
+    {
+        std::uint64_t hash = m_high * 0x9e3779b97f4a7c15U;
+        hash = ((hash ^ (hash >> 32U)) + m_low) * 0xd6e8feb86659fd93U;
+        hash = (hash ^ (hash >> 32U)) * 0xd6e8feb86659fd93U;
+        // The upper half depends on every bit of the identity.
+        return static_cast<std::uint32_t>(hash >> 32U);
+    }
+
     friend bool operator==(const IDCombiner& left, const IDCombiner& right)
     {
         return left.m_high == right.m_high && left.m_low == right.m_low &&

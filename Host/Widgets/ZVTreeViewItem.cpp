@@ -70,22 +70,24 @@ bool equalsAscii(const QString& text, const std::string& bytes)
         return false;
     const QChar* characters = text.constData();
     std::uint64_t differing = 0;
-    std::uint32_t beyondAscii = 0;
-    std::size_t i = 0;
-    for (; i + 4 <= length; i += 4) {
+    const auto compareFour = [&](std::size_t first) {
         std::uint32_t four = 0;
         std::uint64_t wide = 0;
-        std::memcpy(&four, bytes.data() + i, sizeof four);
-        std::memcpy(&wide, characters + i, sizeof wide);
-        differing |= wide ^ widened(four);
-        beyondAscii |= four & 0x80808080U;
+        std::memcpy(&four, bytes.data() + first, sizeof four);
+        std::memcpy(&wide, characters + first, sizeof wide);
+        // Widened, a byte beyond ASCII is no character that its text could have.
+        differing |= (wide ^ widened(four)) | (four & 0x80808080U);
+    };
+    if (length < 4) {
+        for (std::size_t i = 0; i < length; ++i)
+            differing |= characters[i].unicode() ^ static_cast<std::uint64_t>(bytes[i]);
+        return differing == 0;
     }
-    for (; i < length; ++i) {
-        const auto byte = static_cast<unsigned char>(bytes[i]);
-        differing |= static_cast<std::uint64_t>(characters[i].unicode() ^ byte);
-        beyondAscii |= byte & 0x80U;
-    }
-    return differing == 0 && beyondAscii == 0;
+    for (std::size_t first = 0; first + 4 < length; first += 4)
+        compareFour(first);
+    // The last four may have been compared in part already.
+    compareFour(length - 4);
+    return differing == 0;
 }
 
 /** Converts only a text beyond ASCII. */
@@ -300,9 +302,9 @@ int ZVTreeViewItem::row() const
     return parentRow ? parentRow->m_children->rowOf(this) : -1;
 }
 
-int ZVTreeViewItem::childCount() const
+int ZVTreeViewItem::countChildren() const
 {
-    return m_children ? m_children->count() : 0;
+    return m_children->count();
 }
 
 ZVTreeViewItem* ZVTreeViewItem::child(int index) const
@@ -409,6 +411,17 @@ ZVTreeViewItem* ZVTreeViewItem::takeChild(int index)
     if (model)
         model->endRemove();
     return child;
+}
+
+bool ZVTreeViewItem::takeChild(ZVTreeViewItem* child)
+{
+    if (!child || child->parent() != this)
+        return false;
+    if (ZVTreeViewModelPrivate::announcing(this))
+        return takeChild(m_children->rowOf(child)) != nullptr;
+    m_children->take(child);
+    orphan(child, m_children->isStaged());
+    return true;
 }
 
 bool ZVTreeViewItem::deleteChild(int index)

@@ -73,7 +73,7 @@ public:
      * row whose children have changed in it, they are looked at); -1 without a parent.
      */
     int row() const;
-    int childCount() const;
+    int childCount() const { return m_children ? countChildren() : 0; }
     /** Null when the index is out of range. */
     ZVTreeViewItem* child(int index) const;
 
@@ -83,6 +83,8 @@ public:
     bool appendChildren(const QVector<ZVTreeViewItem*>& children);
     /** Takes the child out and hands it over; null when the index is out of range. */
     ZVTreeViewItem* takeChild(int index);
+    /** The same for a known child, without looking for its index; false when it is no child. */
+    bool takeChild(ZVTreeViewItem* child);
     /**
      * Takes the child out and deletes it: at once, or, inside a batch, once its going is
      * announced, so that views never meet a deleted row. False when the index is out of range.
@@ -118,6 +120,7 @@ private:
     void dropState(State state) { m_state = static_cast<quint16>(m_state & ~state); }
 
     ZVTreeViewItemChildren& children();
+    int countChildren() const;
     bool storeText(const QVariant& value);
     bool storeId(int role, const QVariant& value);
     bool storeExtra(int column, int role, const QVariant& value);

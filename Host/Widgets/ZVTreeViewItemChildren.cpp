@@ -113,33 +113,51 @@ void ZVTreeViewItemChildren::append(const QVector<ZVTreeViewItem*>& children)
 
 ZVTreeViewItem* ZVTreeViewItemChildren::take(int index)
 {
-    if (m_stage)
-        return takeStaged(position(index));
-    m_numbered = std::min(m_numbered, position(index));
-    ZVTreeViewItem* child = m_rows[position(index)];
-    m_rows.erase(iteratorAt(m_rows, position(index)));
-    return child;
+    if (!m_stage) {
+        m_numbered = std::min(m_numbered, position(index));
+        ZVTreeViewItem* child = m_rows[position(index)];
+        m_rows.erase(iteratorAt(m_rows, position(index)));
+        return child;
+    }
+    const std::size_t placed = m_stage->placed.size();
+    if (position(index) < placed)
+        return takePlaced(position(index));
+    const std::size_t slot = m_stage->waiting.nth(position(index) - placed);
+    takeWaiting(slot);
+    return m_stage->shown[slot];
 }
 
-ZVTreeViewItem* ZVTreeViewItemChildren::takeStaged(std::size_t index)
+void ZVTreeViewItemChildren::take(const ZVTreeViewItem* child)
+{
+    if (m_stage && !child->hasState(ZVTreeViewItem::Fresh | ZVTreeViewItem::Relocated)) {
+        const std::size_t slot = position(rowIn(m_stage->shown, child, m_numbered));
+        if (slot < m_stage->shown.size() && m_stage->waiting.contains(slot)) {
+            takeWaiting(slot);
+            return;
+        }
+    }
+    take(rowOf(child));
+}
+
+ZVTreeViewItem* ZVTreeViewItemChildren::takePlaced(std::size_t index)
 {
     Rows& placed = m_stage->placed;
     std::vector<int>& from = m_stage->placedFrom;
-    ZVTreeViewItem* child = nullptr;
+    ZVTreeViewItem* child = placed[index];
     m_stage->edit();
-    if (index < placed.size()) {
-        child = placed[index];
-        m_stage->lastTakenFrom = from[index];
-        placed.erase(iteratorAt(placed, index));
-        from.erase(from.begin() + static_cast<std::ptrdiff_t>(index));
-    } else {
-        const std::size_t slot = m_stage->waiting.nth(index - placed.size());
-        child = m_stage->shown[slot];
-        m_stage->lastTakenFrom = static_cast<int>(slot);
-        m_stage->waiting.take(slot);
-    }
     m_stage->lastTaken = child;
+    m_stage->lastTakenFrom = from[index];
+    placed.erase(iteratorAt(placed, index));
+    from.erase(from.begin() + static_cast<std::ptrdiff_t>(index));
     return child;
+}
+
+void ZVTreeViewItemChildren::takeWaiting(std::size_t slot)
+{
+    m_stage->edit();
+    m_stage->lastTaken = m_stage->shown[slot];
+    m_stage->lastTakenFrom = static_cast<int>(slot);
+    m_stage->waiting.take(slot);
 }
 
 int ZVTreeViewItemChildren::shownRowIfKnown(const ZVTreeViewItem* child) const
@@ -154,13 +172,15 @@ int ZVTreeViewItemChildren::shownRowIfKnown(const ZVTreeViewItem* child) const
 
 void ZVTreeViewItemChildren::placeWaiting(std::size_t count)
 {
-    WaitingSlots& waiting = m_stage->waiting;
-    for (; count > 0; --count) {
-        const std::size_t slot = waiting.first();
-        waiting.takeFirst();
-        m_stage->placed.push_back(m_stage->shown[slot]);
-        m_stage->placedFrom.push_back(static_cast<int>(slot));
-    }
+    Rows& placed = m_stage->placed;
+    std::vector<int>& from = m_stage->placedFrom;
+    std::size_t next = placed.size();
+    placed.resize(next + count);
+    from.resize(next + count);
+    m_stage->waiting.takeFirst(count, [&, &shown = m_stage->shown](std::size_t slot) {
+        placed[next] = shown[slot];
+        from[next++] = static_cast<int>(slot);
+    });
 }
 
 void ZVTreeViewItemChildren::stage(unsigned& edits)
@@ -181,6 +201,16 @@ const ZVTreeViewItemChildren::Rows& ZVTreeViewItemChildren::arranged()
 void ZVTreeViewItemChildren::renumberShown(std::size_t first)
 {
     m_numbered = std::min(m_numbered, first);
+}
+
+void ZVTreeViewItemChildren::welcome(int first, int count)
+{
+    for (int row = first; row < first + count; ++row) {
+        ZVTreeViewItem* child = m_stage->shown[position(row)];
+        child->dropState(ZVTreeViewItem::Fresh);
+        // Each is at hand here; numbered later they would all have to be visited once more.
+        child->m_row = row;
+    }
 }
 
 void ZVTreeViewItemChildren::restage()

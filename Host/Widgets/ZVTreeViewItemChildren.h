@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Host/Containers/WaitingSlots.h"
+#include "Host/Widgets/WaitingSlots.h"
 #include "Host/Widgets/ZVTreeViewItem.h"
 
 #include <QtCore/QVector>
@@ -38,6 +38,8 @@ public:
     void insert(int index, ZVTreeViewItem* child);
     void append(const QVector<ZVTreeViewItem*>& children);
     ZVTreeViewItem* take(int index);
+    /** Without asking where it stands, which costs more while changes are gathered. */
+    void take(const ZVTreeViewItem* child);
 
     int shownCount() const { return static_cast<int>(shown().size()); }
     ZVTreeViewItem* shownAt(int index) const { return shown()[static_cast<std::size_t>(index)]; }
@@ -57,6 +59,8 @@ public:
     Rows& editShown() { return m_stage->shown; }
     /** The shown rows from `first` on have other numbers now; they get them when asked for. */
     void renumberShown(std::size_t first = 0);
+    /** Views have been told of these shown rows. */
+    void welcome(int first, int count);
     /** Views have been told: what is shown is what is. */
     void unstage();
     /** Views have been told, but rows have changed meanwhile: further changes are gathered. */
@@ -99,7 +103,8 @@ private:
 
     const Rows& shown() const { return m_stage ? m_stage->shown : m_rows; }
     ZVTreeViewItem* findStaged(std::size_t place) const;
-    ZVTreeViewItem* takeStaged(std::size_t index);
+    ZVTreeViewItem* takePlaced(std::size_t index);
+    void takeWaiting(std::size_t slot);
     int shownRowIfKnown(const ZVTreeViewItem* child) const;
     void placeWaiting(std::size_t count);
     static int rowIn(const Rows& rows, const ZVTreeViewItem* child, std::size_t& numbered);

@@ -228,9 +228,8 @@ bool ZVTreeViewModelPrivate::announceInserted(ListPlan& list)
             return false;
         Rows& shown = children.editShown();
         shown.insert(shown.begin() + range.first, source, source + range.count);
-        std::for_each(source, source + range.count,
-                      [](auto* row) { row->dropState(ZVTreeViewItem::Fresh); });
         children.renumberShown(static_cast<std::size_t>(range.first));
+        children.welcome(range.first, range.count);
         q->endInsertRows();
         if (!isAsPlanned())
             return false;
@@ -279,9 +278,8 @@ bool ZVTreeViewModelPrivate::appendArriving(ListPlan& list)
         return false;
     Rows& shown = children.editShown();
     shown.insert(shown.end(), list.arriving.begin(), list.arriving.end());
-    for (ZVTreeViewItem* row : list.arriving)
-        row->dropState(ZVTreeViewItem::Fresh);
     children.renumberShown(static_cast<std::size_t>(first));
+    children.welcome(first, static_cast<int>(list.arriving.size()));
     q->endInsertRows();
     return isAsPlanned();
 }

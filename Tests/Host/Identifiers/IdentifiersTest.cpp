@@ -25,6 +25,7 @@ private Q_SLOTS:
     void hashOfIdentifier();
     void hashOfNothingIsZero();
     void hashOfCombinedPartIsThePartsOwn();
+    void quickHashTellsAnyTwoBitsApart();
     void travelsInVariants();
     void metaTypeIsMovableAndConstructed();
 };
@@ -132,6 +133,32 @@ void IdentifiersTest::hashOfCombinedPartIsThePartsOwn()
     for (ushort i = 0; i < 1000; ++i)
         hashes.insert(hash_value(GUIdentifier(QUuid(1, 2, i, 0, 0, 0, 0, 0, 0, 0, 0))));
     QCOMPARE(hashes.size(), std::size_t(1000));
+}
+
+void IdentifiersTest::quickHashTellsAnyTwoBitsApart()
+{
+    std::vector<IDCombiner> ids;
+    for (int one = 0; one < 64; ++one) {
+        for (int other = 0; other <= one; ++other)
+            ids.emplace_back(Identifier(quint64(1) << one | quint64(1) << other));
+    }
+    for (int one = 0; one < 8; ++one) {
+        for (uint value = 1; value < 256; ++value) {
+            QUuid uuid(1, 2, 3, 0, 0, 0, 0, 0, 0, 0, 0);
+            uuid.data4[one] = uchar(value);
+            ids.emplace_back(GUIdentifier(uuid));
+        }
+    }
+    // A table looks at the lower bits first.
+    std::unordered_set<std::uint32_t> hashes;
+    std::unordered_set<std::uint32_t> lowerBits;
+    for (const IDCombiner& id : ids) {
+        hashes.insert(id.quickHash());
+        lowerBits.insert(id.quickHash() & 0xffffU);
+    }
+    QCOMPARE(hashes.size(), ids.size());
+    // About 120 of 4,120 random numbers meet another among 65,536.
+    QVERIFY2(lowerBits.size() > ids.size() - 200, qPrintable(QString::number(lowerBits.size())));
 }
 
 void IdentifiersTest::travelsInVariants()

@@ -82,6 +82,8 @@ private Q_SLOTS:
     // Structure
     void constructorAppendsToItsParent();
     void rowNumbersFollowEveryChange();
+    void knownChildIsTakenWithoutItsIndex();
+    void childOfAnotherIsNotTaken();
     void indexOutOfRangeIsAnswered_data();
     void indexOutOfRangeIsAnswered();
     void unfitChildIsRefused();
@@ -457,6 +459,28 @@ void ZVTreeViewItemTest::rowNumbersFollowEveryChange()
     QVERIFY(root.deleteChild(0));
     appendRows(&root, "x y");
     QCOMPARE(textsOf(&root), QStringLiteral("e c a x y"));
+}
+
+void ZVTreeViewItemTest::knownChildIsTakenWithoutItsIndex()
+{
+    ZVTreeViewItem root;
+    appendRows(&root, c_threeRows);
+    const std::unique_ptr<ZVTreeViewItem> taken(root.child(1));
+    QVERIFY(root.takeChild(taken.get()));
+    QVERIFY(!taken->parent());
+    QCOMPARE(taken->row(), -1);
+    QCOMPARE(textsOf(&root), QStringLiteral("a c"));
+}
+
+void ZVTreeViewItemTest::childOfAnotherIsNotTaken()
+{
+    ZVTreeViewItem root;
+    appendRows(&root, c_threeRows);
+    appendRows(root.child(0), "x");
+    QVERIFY(!root.takeChild(root.child(0)->child(0)));
+    QVERIFY(!root.takeChild(&root));
+    QVERIFY(!root.takeChild(nullptr));
+    QCOMPARE(textsOf(&root), QStringLiteral("a(x) b c"));
 }
 
 void ZVTreeViewItemTest::indexOutOfRangeIsAnswered_data()

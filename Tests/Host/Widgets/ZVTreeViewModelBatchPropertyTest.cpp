@@ -160,8 +160,8 @@ public:
                 row->setData(int(step.second % 3), Qt::ToolTipRole, int(step.second % 5));
             break;
         case TakeAndKeep:
-            if (row)
-                kept.push_back(row->parent()->takeChild(row->row()));
+            if (row && row->parent()->takeChild(row))
+                kept.push_back(row);
             break;
         case PutBack:
             if (!kept.empty() && parent->insertChild(position(parent, step.second), kept.back()))
@@ -186,7 +186,11 @@ public:
     {
         ZVTreeViewItem* origin = row->parent();
         const int before = row->row();
-        origin->takeChild(before);
+        // Both ways of taking have to do the same.
+        if (number % 2 == 0)
+            origin->takeChild(before);
+        else
+            origin->takeChild(row);
         if (!target->insertChild(position(target, number), row))
             origin->insertChild(before, row);
     }

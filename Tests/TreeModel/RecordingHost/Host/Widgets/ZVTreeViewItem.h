@@ -9,6 +9,7 @@
 #include <QtCore/QVariant>
 #include <QtCore/QVector>
 
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <string>
@@ -108,6 +109,11 @@ public:
         write("take", index, {child->serial});
         m_children.erase(m_children.begin() + index);
         return child;
+    }
+    bool takeChild(ZVTreeViewItem* child)
+    {
+        const auto place = std::find(m_children.begin(), m_children.end(), child);
+        return takeChild(int(place - m_children.begin())) == child;
     }
     bool deleteChild(int index)
     {

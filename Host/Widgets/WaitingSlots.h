@@ -2,6 +2,7 @@
 
 #include <QtCore/QtAlgorithms>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -9,9 +10,9 @@
 namespace Zorvane {
 
 /**
- * The slots of a list that have not been taken yet: tells how many wait before a given one and
- * which is the n-th, while slots are taken in any order. Each answer costs the logarithm of the
- * list's length; taking the first slot, or asking for a neighbour of the one asked for last, less.
+ * The slots of a list that have not been taken yet, by number, while slots are taken in any order.
+ * Asking for the first, or for a neighbour of the one asked for last, and taking are cheap; asking
+ * for any other costs the logarithm of the list's length, and so does taking from then on.
  *
  * Not supported: putting a slot back, asking for a slot or number that is not there.
  */
@@ -20,28 +21,28 @@ class WaitingSlots
 public:
     explicit WaitingSlots(std::size_t count = 0)
         : m_words(count / BitsPerWord + 1, ~std::uint64_t(0))
-        , m_sums(m_words.size() + 1, std::uint32_t(BitsPerWord))
         , m_count(count)
     {
         m_words.back() = bitsBelow(count);
-        m_sums.back() = std::uint32_t(count % BitsPerWord);
-        for (std::size_t i = 1; i < m_sums.size(); ++i) {
-            if (const std::size_t above = i + lowestBitOf(i); above < m_sums.size())
-                m_sums[above] += m_sums[i];
-        }
     }
 
     std::size_t count() const { return m_count; }
     bool contains(std::size_t slot) const { return slot >= m_begin && hasBit(slot); }
-    std::size_t first() const { return m_begin == 0 && hasBit(0) ? 0 : next(m_begin - 1); }
+    std::size_t first() const { return firstFrom(m_begin); }
 
-    void takeFirst()
+    /** Takes the first `count` slots; `visit` is called with each, in order. */
+    template <typename Visitor>
+    void takeFirst(std::size_t count, Visitor visit)
     {
-        // The bit stays: what lies before the beginning is left out of every count instead.
-        const std::size_t slot = first();
-        m_begin = slot + 1;
-        ++m_passed;
-        forget(slot);
+        // The bits stay: what lies before the beginning is left out of every count instead.
+        for (std::size_t left = count; left > 0; --left) {
+            const std::size_t slot = first();
+            m_begin = slot + 1;
+            visit(slot);
+        }
+        m_passed += count;
+        m_count -= count;
+        m_lastNumber -= std::min(count, m_lastNumber);
     }
 
     void take(std::size_t slot)
@@ -49,15 +50,9 @@ public:
         m_words[slot / BitsPerWord] &= ~(std::uint64_t(1) << (slot % BitsPerWord));
         for (std::size_t i = slot / BitsPerWord + 1; i < m_sums.size(); i += lowestBitOf(i))
             --m_sums[i];
-        forget(slot);
-    }
-
-    std::size_t countBefore(std::size_t slot) const
-    {
-        std::size_t count = bitCount(m_words[slot / BitsPerWord] & bitsBelow(slot));
-        for (std::size_t i = slot / BitsPerWord; i > 0; i -= lowestBitOf(i))
-            count += m_sums[i];
-        return count - m_passed;
+        --m_count;
+        if (slot < m_lastSlot)
+            --m_lastNumber;
     }
 
     /** The slot before which `number` others wait. */
@@ -69,7 +64,7 @@ public:
         if (number + 1 == m_lastNumber)
             m_lastSlot = previous(m_lastSlot);
         else if (number == m_lastNumber + lastStillThere)
-            m_lastSlot = next(m_lastSlot);
+            m_lastSlot = firstFrom(m_lastSlot + 1);
         else if (number != m_lastNumber)
             m_lastSlot = search(number + m_passed);
         m_lastNumber = number;
@@ -92,9 +87,9 @@ private:
         word = (word & 0x3333333333333333U) + ((word >> 2U) & 0x3333333333333333U);
         return (word + (word >> 4U)) & 0x0f0f0f0f0f0f0f0fU;
     }
-    static std::size_t bitCount(std::uint64_t word)
+    static std::uint32_t bitCount(std::uint64_t word)
     {
-        return static_cast<std::size_t>((byteCounts(word) * 0x0101010101010101U) >> 56U);
+        return static_cast<std::uint32_t>((byteCounts(word) * 0x0101010101010101U) >> 56U);
     }
     static std::size_t nthBit(std::uint64_t word, std::size_t number)
     {
@@ -114,18 +109,10 @@ private:
         return (m_words[slot / BitsPerWord] >> (slot % BitsPerWord)) & 1U;
     }
 
-    void forget(std::size_t slot)
+    std::size_t firstFrom(std::size_t slot) const
     {
-        --m_count;
-        if (slot < m_lastSlot)
-            --m_lastNumber;
-    }
-
-    std::size_t next(std::size_t slot) const
-    {
-        const std::size_t from = slot + 1;
-        std::size_t word = from / BitsPerWord;
-        std::uint64_t bits = m_words[word] & ~bitsBelow(from);
+        std::size_t word = slot / BitsPerWord;
+        std::uint64_t bits = m_words[word] & ~bitsBelow(slot);
         while (bits == 0)
             bits = m_words[++word];
         return word * BitsPerWord + qCountTrailingZeroBits(bits);
@@ -140,8 +127,20 @@ private:
         return word * BitsPerWord + BitsPerWord - 1 - qCountLeadingZeroBits(bits);
     }
 
+    void countBits() const
+    {
+        m_sums.assign(m_words.size() + 1, 0);
+        for (std::size_t i = 1; i < m_sums.size(); ++i) {
+            m_sums[i] += bitCount(m_words[i - 1]);
+            if (const std::size_t above = i + lowestBitOf(i); above < m_sums.size())
+                m_sums[above] += m_sums[i];
+        }
+    }
+
     std::size_t search(std::size_t number) const
     {
+        if (m_sums.empty())
+            countBits();
         std::size_t word = 0;
         std::size_t step = 1;
         while (step * 2 < m_sums.size())
@@ -157,8 +156,11 @@ private:
 
     /** One bit a slot. */
     std::vector<std::uint64_t> m_words;
-    /** A Fenwick tree: entry i counts the bits of the words (i - lowest bit of i, i]. */
-    std::vector<std::uint32_t> m_sums;
+    /**
+     * A Fenwick tree: entry i counts the bits of the words (i - lowest bit of i, i]. Empty until
+     * somebody asks for a slot that is far away.
+     */
+    mutable std::vector<std::uint32_t> m_sums;
     std::size_t m_count;
     /** Nothing waits before this slot, though some bits are left there, so many. */
     std::size_t m_begin = 0;
