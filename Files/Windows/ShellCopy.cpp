@@ -12,6 +12,16 @@ namespace {
 
 using Info = FileCopyUtility::FileCopyInfo;
 
+/** Null where the shell knows no such file; nothing at all is the desktop to it. */
+TaskIdList idListOf(const ShellFunctions& shell, const QString& path)
+{
+    ITEMIDLIST* list = nullptr;
+    if (path.isEmpty() ||
+        FAILED(shell.parseName(wide(shellPath(path)), nullptr, &list, 0, nullptr)))
+        return nullptr;
+    return TaskIdList(list);
+}
+
 bool isSameItem(IShellItem* one, IShellItem* other)
 {
     int order = 0;
@@ -108,11 +118,8 @@ HRESULT ShellCopy::createSources(const QStringList& sources)
     std::vector<TaskIdList> owned;
     std::vector<const ITEMIDLIST*> lists;
     for (const QString& source : sources) {
-        ITEMIDLIST* list = nullptr;
-        if (FAILED(m_shell.parseName(wide(shellPath(source)), nullptr, &list, 0, nullptr)))
-            list = nullptr;
-        owned.emplace_back(list);
-        lists.push_back(list);
+        owned.push_back(idListOf(m_shell, source));
+        lists.push_back(owned.back().get());
     }
     return m_shell.createArray(UINT(lists.size()), lists.data(), m_sources.put());
 }

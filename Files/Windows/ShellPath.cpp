@@ -3,12 +3,15 @@
 #include "Files/Windows/TaskMemory.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 
 namespace Zorvane {
 
 QString shellPath(const QString& path)
 {
-    return QDir::toNativeSeparators(path);
+    if (path.isEmpty())
+        return {};
+    return QDir::toNativeSeparators(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
 }
 
 const wchar_t* wide(const QString& text)

@@ -11,8 +11,9 @@
 namespace Zorvane {
 
 /**
- * The path as the shell's parsers take it: native separators. They refuse forward slashes.
- * Not supported: the `\\?\` form and, by the shell's own limit, paths beyond 260 characters.
+ * The path as the shell's parsers take it: absolute, without detours, with native separators; they
+ * refuse forward slashes. An empty path stays empty.
+ * Not supported, by the shell's own limit on most systems: more than 260 characters.
  */
 ZORVANE_UITOOLS_EXPORT QString shellPath(const QString& path);
 
