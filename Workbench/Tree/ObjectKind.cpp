@@ -16,8 +16,8 @@ struct KindRow
 // clang-format off
 constexpr std::array<KindRow, 7> s_kinds{{
     {ObjectKind::Design,    QT_TRANSLATE_NOOP("Zorvane::Workbench::ObjectKind", "Designs"),    ":/workbench/design.svg"},
-    {ObjectKind::Part,      QT_TRANSLATE_NOOP("Zorvane::Workbench::ObjectKind", "Parts"),      ":/workbench/part.svg"},
-    {ObjectKind::Blank,     QT_TRANSLATE_NOOP("Zorvane::Workbench::ObjectKind", "Blanks"),     ":/workbench/blank.svg"},
+    {ObjectKind::Part,      QT_TRANSLATE_NOOP("Zorvane::Workbench::ObjectKind", "Parts"),      ":/Icons/Ribbon/geometry_display_part.svg"},
+    {ObjectKind::Blank,     QT_TRANSLATE_NOOP("Zorvane::Workbench::ObjectKind", "Blanks"),     ":/Icons/Ribbon/objects_blank.svg"},
     {ObjectKind::Operation, QT_TRANSLATE_NOOP("Zorvane::Workbench::ObjectKind", "Operations"), ":/workbench/operation.svg"},
     {ObjectKind::Tool,      QT_TRANSLATE_NOOP("Zorvane::Workbench::ObjectKind", "Tools"),      ":/workbench/tool.svg"},
     {ObjectKind::Material,  QT_TRANSLATE_NOOP("Zorvane::Workbench::ObjectKind", "Materials"),  ":/workbench/material.svg"},

@@ -1,5 +1,6 @@
 #include "Workbench/Tree/RowDecoration.h"
 
+#include "Host/ApplicationWidgets/SvgIcon.h"
 #include "TreeModel/FlagManipulationDataProvider.h"
 #include "TreeModel/StaticTreeItemByIdIconProvider.h"
 #include "TreeModel/TreeItemStaticDataProvider.h"
@@ -45,14 +46,6 @@ public:
 private:
     const DesignPipeline& m_pipeline;
 };
-
-/** The same picture on the highlight colour, which would tint it otherwise. */
-QIcon rowIcon(const QString& path)
-{
-    QIcon icon(path);
-    icon.addFile(path, {}, QIcon::Selected);
-    return icon;
-}
 
 /** A column that tells something about the mesh; empty until the mesh has been read. */
 template <typename Tell>
@@ -189,9 +182,9 @@ void RowDecoration::addIcons()
         std::make_shared<StaticTreeItemByIdIconProvider>(TreeColumn::Name, Qt::DecorationRole);
     std::vector<QIcon> icons;
     for (const ObjectKind kind : s_kindsWithIcons)
-        icons.push_back(rowIcon(iconPath(kind)));
+        icons.push_back(createSvgIcon(iconPath(kind)));
     m_icons->setIcons(icons);
-    m_icons->setDefaultIcon(rowIcon(QStringLiteral(":/workbench/group.svg")));
+    m_icons->setDefaultIcon(createSvgIcon(QStringLiteral(":/workbench/group.svg")));
     m_manager->addProvider(m_icons);
 }
 

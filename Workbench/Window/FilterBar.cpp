@@ -1,6 +1,7 @@
 #include "Workbench/Window/FilterBar.h"
 
-#include <QtGui/QIcon>
+#include "Host/ApplicationWidgets/SvgIcon.h"
+
 #include <QtWidgets/QAction>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLineEdit>
@@ -40,7 +41,7 @@ void FilterBar::addKinds()
 {
     auto* menu = new QMenu(m_kinds);
     for (const ObjectKind kind : s_filterableKinds) {
-        QAction* action = menu->addAction(QIcon(iconPath(kind)), pluralText(kind));
+        QAction* action = menu->addAction(createSvgIcon(iconPath(kind)), pluralText(kind));
         action->setCheckable(true);
         action->setChecked(true);
         connect(action, &QAction::toggled, this, [this, kind](bool shown) {

@@ -1,8 +1,9 @@
 #include "Workbench/Window/MessageBar.h"
 
+#include "Host/ApplicationWidgets/SvgIcon.h"
+
 #include <QtCore/QEvent>
 #include <QtGui/QAccessible>
-#include <QtGui/QIcon>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -17,7 +18,6 @@ MessageBar::MessageBar(QWidget* parent)
     , m_text(new QLabel(this))
     , m_close(new QToolButton(this))
 {
-    m_icon->setPixmap(QIcon(QStringLiteral(":/workbench/problem.svg")).pixmap(16, 16));
     m_icon->setAccessibleName(tr("Warning"));
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText);
@@ -68,6 +68,7 @@ void MessageBar::colour()
     own.setColor(QPalette::WindowText, dark ? QColor(0xff, 0xec, 0xc0) : QColor(0x4a, 0x36, 0x05));
     own.setColor(QPalette::ButtonText, own.color(QPalette::WindowText));
     setPalette(own);
+    m_icon->setPixmap(createSvgIcon(QStringLiteral(":/workbench/problem.svg")).pixmap(16, 16));
     m_colouring = false;
 }
 

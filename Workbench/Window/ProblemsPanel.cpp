@@ -1,10 +1,11 @@
 #include "Workbench/Window/ProblemsPanel.h"
 
+#include "Host/ApplicationWidgets/SvgIcon.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
-#include <QtGui/QIcon>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QShortcut>
@@ -56,7 +57,7 @@ void ProblemsPanel::show(const Problems& problems)
     m_problems = problems;
     const int current = m_list->indexOfTopLevelItem(m_list->currentItem());
     m_list->clear();
-    const QIcon icon(QStringLiteral(":/workbench/problem.svg"));
+    const QIcon icon = createSvgIcon(QStringLiteral(":/workbench/problem.svg"));
     for (const Problem& problem : problems) {
         auto* item = new QTreeWidgetItem(
             m_list, {QFileInfo(problem.file).fileName(), problem.where, problem.reason});
