@@ -104,10 +104,11 @@ PreviewContent previewOfText(const QString& text, bool isWhole, const QString& s
 {
     PreviewContent content;
     content.kind = PreviewContent::Kind::Text;
-    content.text = firstLines(text, FilePreview::mostLines);
-    const bool isCut = !isWhole || content.text.size() < firstLines(text, INT_MAX).size();
-    if (content.text.endsWith(QLatin1Char('\n')))
-        content.text.chop(1);
+    QString all = firstLines(text, INT_MAX);
+    if (all.endsWith(QLatin1Char('\n')))
+        all.chop(1);
+    content.text = firstLines(all, FilePreview::mostLines);
+    const bool isCut = !isWhole || content.text.size() < all.size();
     const int lines = content.text.count(QLatin1Char('\n')) + 1;
     content.note = notedBy({linesText(lines, isCut), size});
     return content;

@@ -27,7 +27,7 @@ struct PreviewContent
     };
 
     /** In bytes; more than any preview of a picture that fits on a screen. */
-    static constexpr qint64 largestSize = 128LL * 1024 * 1024;
+    static constexpr qint64 largestSize = 32LL * 1024 * 1024;
 
     Kind kind = Kind::Message;
     /** Facts beside what is shown, in the user's language. */
@@ -51,3 +51,4 @@ struct PreviewContent
 } // namespace Zorvane::Workbench
 
 Q_DECLARE_METATYPE(Zorvane::Workbench::PreviewContent)
+Q_DECLARE_METATYPE(Zorvane::Workbench::PreviewContent::Kind)

@@ -119,7 +119,7 @@ void PreviewReader::finish()
     const std::optional<PreviewContent> content =
         isGood ? PreviewContent::fromBytes(m_answer) : std::nullopt;
     if (!content) {
-        giveUp(tr("cannot be read: reading it failed"));
+        giveUp(tr("cannot be read: it may be damaged, or too large for a preview"));
         return;
     }
     end(takeProcess());

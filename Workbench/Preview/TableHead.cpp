@@ -9,23 +9,38 @@ namespace {
 
 constexpr QLatin1Char s_quote('"');
 
-QChar separatorOf(const QString& text)
+constexpr std::array<QLatin1Char, 3> s_separators{QLatin1Char(';'), QLatin1Char('\t'),
+                                                  QLatin1Char(',')};
+
+/** How often each separator stands in the first line that holds anything, outside of quotes. */
+std::array<int, 3> separatorsInFirstLine(const QString& text)
 {
-    std::array<QLatin1Char, 3> separators{QLatin1Char(';'), QLatin1Char('\t'), QLatin1Char(',')};
     std::array<int, 3> counts{};
     bool quoted = false;
+    bool startsCell = true;
+    bool hasCells = false;
     for (const QChar character : text) {
-        if (character == s_quote)
-            quoted = !quoted;
-        else if (character == QLatin1Char('\n') && !quoted)
+        const bool endsLine = character == QLatin1Char('\n') && !quoted;
+        if (endsLine && hasCells)
             break;
-        for (std::size_t i = 0; i < separators.size(); ++i)
-            if (!quoted && character == separators[i])
-                ++counts[i];
+        hasCells = hasCells || !character.isSpace();
+        if (character == s_quote && (quoted || startsCell))
+            quoted = !quoted;
+        const auto* found = std::find(s_separators.begin(), s_separators.end(), character);
+        const bool separates = !quoted && found != s_separators.end();
+        if (separates)
+            ++counts[std::size_t(found - s_separators.begin())];
+        startsCell = separates || endsLine;
     }
+    return counts;
+}
+
+QChar separatorOf(const QString& text)
+{
+    const std::array<int, 3> counts = separatorsInFirstLine(text);
     // The first of equals: a decimal comma is more likely than a semicolon in a number.
-    const auto most = std::max_element(counts.begin(), counts.end());
-    return separators[std::size_t(most - counts.begin())];
+    const auto* most = std::max_element(counts.begin(), counts.end());
+    return s_separators[std::size_t(most - counts.begin())];
 }
 
 /** Takes a text apart character by character. */
