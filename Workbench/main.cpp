@@ -1,3 +1,4 @@
+#include "Workbench/Preview/PreviewWorker.h"
 #include "Workbench/Tour/Tour.h"
 #include "Workbench/Window/Appearance.h"
 #include "Workbench/Window/MainWindow.h"
@@ -59,6 +60,9 @@ int openWindow(QApplication& application, QStringList paths)
 
 int main(int argc, char** argv)
 {
+    // Started by our own preview: one file, no windows.
+    if (const std::optional<int> result = runPreviewWorker(argc, argv))
+        return *result;
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
