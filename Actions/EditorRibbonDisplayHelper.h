@@ -11,7 +11,7 @@ class ZVMainActions;
  * made, and puts them back when it goes. A toggle that has to change is triggered, as by a click,
  * so that everything connected to it follows; the others are left alone.
  *
- * The table must outlive it. A toggle that is disabled cannot be triggered and stays as it is.
+ * The table must outlive it. Toggles that are disabled for the user are triggered all the same.
  * Not supported: the display toggles besides these seven.
  */
 class ZORVANE_UITOOLS_EXPORT EditorRibbonDisplayHelper

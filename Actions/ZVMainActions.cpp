@@ -51,10 +51,11 @@ QKeySequence shortcutOf(const ZVMainActionRow::Shortcut& shortcut)
     return {};
 }
 
+/** The angle stands where the text asks for it; of a text and its tool tip, not all do. */
 QString translated(const char* source, int degrees)
 {
     const QString text = ZVMainActions::tr(source);
-    if (degrees == 0)
+    if (!text.contains(QLatin1String("%1")))
         return text;
     return text.arg(ZVFormatter::toString(degrees, "degree", true), 0, QLatin1Char(' '));
 }

@@ -48,15 +48,17 @@ Inks inksFor(QIcon::Mode mode)
     return {palette.color(QPalette::Active, QPalette::WindowText), {}};
 }
 
+/** Empty, but not null, where there is nothing to draw. */
 QByteArray readFile(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        qWarning("The icon %s cannot be read: %s", qUtf8Printable(path),
-                 qUtf8Printable(file.errorString()));
-        return QByteArray("");
+    if (file.open(QIODevice::ReadOnly)) {
+        const QByteArray content = file.readAll();
+        if (QSvgRenderer(content).isValid())
+            return content;
     }
-    return file.readAll();
+    qWarning("The icon %s cannot be read", qUtf8Printable(path));
+    return QByteArray("");
 }
 
 QImage rendered(QByteArray content, const Inks& inks, const QSize& pixels)

@@ -55,6 +55,8 @@ private Q_SLOTS:
     void init() { QLocale::setDefault(QLocale::c()); }
     void cleanup();
 
+    void writesValuesWithUnits_data();
+    void writesValuesWithUnits();
     void writesEngineeringNotation_data();
     void writesEngineeringNotation();
     void followsTheLocale_data();
@@ -69,6 +71,32 @@ void ZVFormatterTest::cleanup()
 {
     QLocale::setDefault(QLocale::c());
     TestCase::cleanup();
+}
+
+void ZVFormatterTest::writesValuesWithUnits_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<bool>("withUnit");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char* name, double value, const char* unit, bool withUnit,
+                        const QString& text) {
+        QTest::newRow(name) << value << QString::fromLatin1(unit) << withUnit << text;
+    };
+    row("degrees", -90, "degree", true, QStringLiteral("-90\u00b0"));
+    row("a fraction of a degree", 22.5, "degree", true, QStringLiteral("22.5\u00b0"));
+    row("without the unit", 90, "degree", false, QStringLiteral("90"));
+    row("another unit", 170, "mm", true, QStringLiteral("170 mm"));
+    row("six digits", 1.23456789, "mm", true, QStringLiteral("1.23457 mm"));
+    row("nothing grouped", 123456, "N", true, QStringLiteral("123456 N"));
+}
+
+void ZVFormatterTest::writesValuesWithUnits()
+{
+    QFETCH(double, value);
+    QFETCH(QString, unit);
+    QFETCH(bool, withUnit);
+    QTEST(ZVFormatter::toString(value, unit.toUtf8().constData(), withUnit), "text");
 }
 
 void ZVFormatterTest::writesEngineeringNotation_data()
