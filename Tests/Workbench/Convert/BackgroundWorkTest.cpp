@@ -44,8 +44,8 @@ void BackgroundWorkTest::workIsDoneInAnotherThreadBeforeItReturns()
 {
     const Testing::ExpectedModals none;
     QThread* worker = nullptr;
-    QVERIFY(workInBackground(QStringLiteral("text"),
-                             [&worker] { worker = QThread::currentThread(); }));
+    QVERIFY(
+        workInBackground(QStringLiteral("text"), [&worker] { worker = QThread::currentThread(); }));
     QVERIFY(worker);
     QVERIFY(worker != QThread::currentThread());
     QVERIFY(none.allMet());
@@ -97,9 +97,9 @@ void BackgroundWorkTest::cancelledWorkEndsByItself()
 
 void BackgroundWorkTest::exceptionsArriveWhereTheWorkIsWaitedFor()
 {
-    QVERIFY_EXCEPTION_THROWN(workInBackground(QStringLiteral("text"),
-                                              [] { throw std::runtime_error("out of paper"); }),
-                             std::runtime_error);
+    QVERIFY_EXCEPTION_THROWN(
+        workInBackground(QStringLiteral("text"), [] { throw std::runtime_error("out of paper"); }),
+        std::runtime_error);
 }
 
 ZORVANE_TEST_MAIN(BackgroundWorkTest)
