@@ -141,6 +141,7 @@ void ConfiguredFileDialog::addControls()
     auto* besideButtons = new QHBoxLayout;
     m_controls = new CustomControls(this);
     m_controls->add(*m_configuration, *rows, *besideButtons);
+    setTabOrder(findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), types);
     m_controls->followInTabOrder(types);
     besideButtons->addWidget(buttons);
     rows->addLayout(besideButtons, row, column, rowSpan, columnSpan);
