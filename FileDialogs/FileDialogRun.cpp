@@ -2,7 +2,6 @@
 
 #include "FileDialogs/ApplicationBlock.h"
 #include "FileDialogs/ApplicationMainWindow.h"
-#include "FileDialogs/ConfiguredFileDialog.h"
 #include "FileDialogs/DialogPaths.h"
 #include "FileDialogs/NativeFileDialog.h"
 #include "Host/System/CommandLineParser.h"
@@ -11,10 +10,11 @@ namespace Zorvane {
 
 namespace {
 
-bool areQtDialogsWanted()
+std::unique_ptr<NativeFileDialogDriver> wantedDriver()
 {
-    return CommandLineParser::instance()->optionWasSpecified(
-        QStringLiteral("alternativeFileDialog"));
+    const bool isUnwanted =
+        CommandLineParser::instance()->optionWasSpecified(QStringLiteral("alternativeFileDialog"));
+    return isUnwanted ? nullptr : createNativeFileDialogDriver();
 }
 
 QStringList askQt(const FileDialogCall& call)
@@ -48,29 +48,24 @@ NativeFileDialogRequest requestOf(const FileDialogCall& call, QWidget* owner)
     return request;
 }
 
-/** Without a driver there is a configuration, which Qt's own dialog would ignore. */
-NativeFileDialogResult ask(NativeFileDialogDriver* driver, const FileDialogCall& call)
+NativeFileDialogResult ask(NativeFileDialogDriver& driver, const FileDialogCall& call)
 {
     QWidget* mainWindow = applicationMainWindow();
     QWidget* owner = call.parent ? call.parent : mainWindow;
     const NativeFileDialogRequest request = requestOf(call, owner);
     const ApplicationBlock block(owner, mainWindow);
-    if (!driver)
-        return openConfiguredFileDialog(request, call.options, call.selectedFilter);
-    return call.purpose == FileDialogPurpose::SaveFile ? driver->save(request)
-                                                       : driver->open(request);
+    return call.purpose == FileDialogPurpose::SaveFile ? driver.save(request)
+                                                       : driver.open(request);
 }
 
 } // namespace
 
 QStringList runFileDialog(const FileDialogCall& call)
 {
-    if (areQtDialogsWanted())
+    const std::unique_ptr<NativeFileDialogDriver> driver = wantedDriver();
+    if (!driver)
         return askQt(call);
-    const std::unique_ptr<NativeFileDialogDriver> driver = createNativeFileDialogDriver();
-    if (!driver && !call.configuration)
-        return askQt(call);
-    const NativeFileDialogResult result = ask(driver.get(), call);
+    const NativeFileDialogResult result = ask(*driver, call);
     if (result.isCancelled())
         return {};
     return result.isFailure() ? askQt(call) : result.paths;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Host/FileHandling/FileName.h"
-#include "Host/HostExport.h"
 
 namespace Zorvane {
 
@@ -10,6 +9,6 @@ namespace Zorvane {
  * size to the byte; some programs start binary files with "solid" too. False for a file that
  * cannot be read.
  */
-ZORVANE_HOST_EXPORT bool isBinaryStl(const FileName& file);
+bool isBinaryStl(const FileName& file);
 
 } // namespace Zorvane

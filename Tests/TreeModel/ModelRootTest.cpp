@@ -1,12 +1,10 @@
 #include "TreeModel/ModelRoot.h"
 
 #include "Tests/Support/TestCase.h"
+#include "Tests/TreeModel/CountedAllocations.h"
 #include "Tests/TreeModel/ModelFixtures.h"
 
 #include <rapidcheck.h>
-
-#include <cstdlib>
-#include <new>
 
 using namespace Zorvane;
 using namespace Zorvane::GenericTreeViewModelHandling;
@@ -17,8 +15,6 @@ using Testing::makeRoot;
 Q_DECLARE_METATYPE(std::shared_ptr<Zorvane::GenericTreeViewModelHandling::ModelRoot>)
 
 namespace {
-
-std::size_t s_allocations = 0;
 
 std::uint64_t countByRule(const Items& items)
 {
@@ -38,24 +34,6 @@ Items randomItems(int levels)
 }
 
 } // namespace
-
-void* operator new(std::size_t size)
-{
-    ++s_allocations;
-    if (void* memory = std::malloc(size > 0 ? size : 1))
-        return memory;
-    throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 class ModelRootTest : public Testing::TestCase
 {
@@ -202,13 +180,13 @@ void ModelRootTest::countingDoesNotAllocate_data()
 void ModelRootTest::countingDoesNotAllocate()
 {
     QFETCH(std::shared_ptr<ModelRoot>, root);
-    const std::size_t atFirst = s_allocations;
+    const std::size_t atFirst = Testing::countedAllocations();
     ModelRoot().addTopLevelItems({std::shared_ptr<ModelItem>()});
-    const std::size_t before = s_allocations;
+    const std::size_t before = Testing::countedAllocations();
     if (before < atFirst + 2)
         QSKIP("this platform keeps the library's allocations apart from the program's");
     const std::uint64_t count = root->totalItemCount();
-    const std::size_t after = s_allocations;
+    const std::size_t after = Testing::countedAllocations();
     QCOMPARE(after, before);
     QCOMPARE(count == 0, root->empty());
 }

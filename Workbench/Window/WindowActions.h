@@ -42,7 +42,6 @@ public:
         ViewRight,
         ExpandAll,
         CollapseAll,
-        ConvertMeshes,
         StressTree,
         About,
         AboutQt

@@ -1,0 +1,10 @@
+#include "Tests/Host/Widgets/FlatRows.h"
+
+namespace Zorvane::Testing {
+
+std::unique_ptr<QAbstractItemModel> flatRowsOf(QAbstractItemModel*)
+{
+    return nullptr;
+}
+
+} // namespace Zorvane::Testing
