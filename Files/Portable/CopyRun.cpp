@@ -169,10 +169,10 @@ bool CopyRun::openBoth(CopyItem& item, Descriptor& source, struct stat& opened)
         return false;
     }
     item.staged.emplace(m_context.folder);
-    error = item.staged->create();
+    error = item.staged->create(opened.st_mode & s_permissions);
     if ((error == EMFILE || error == ENFILE) && !m_group.isEmpty()) {
         m_group.commit();
-        error = item.staged->create();
+        error = item.staged->create(opened.st_mode & s_permissions);
     }
     if (error != 0)
         m_context.failOnTarget(item, error);
@@ -221,12 +221,22 @@ bool CopyRun::copyContent(CopyItem& item, const Descriptor& source, const struct
     return false;
 }
 
+/** Each change of a file's attributes is a write of its own to the file system: none in vain. */
+int CopyRun::keepPermissions(int file, mode_t permissions)
+{
+    struct stat made
+    {};
+    const int error = errorOf([&] { return m_context.calls.status(file, made); });
+    if (error != 0 || (made.st_mode & s_permissions) == permissions)
+        return error;
+    return errorOf([&] { return m_context.calls.setMode(file, permissions); });
+}
+
 bool CopyRun::keepAttributes(CopyItem& item, const struct stat& opened)
 {
     const int file = item.staged->descriptor();
     const timespec times[2] = {opened.st_atim, opened.st_mtim};
-    int error =
-        errorOf([&] { return m_context.calls.setMode(file, opened.st_mode & s_permissions); });
+    int error = keepPermissions(file, opened.st_mode & s_permissions);
     if (error == 0 || isRefusedAttribute(error))
         error = errorOf([&] { return m_context.calls.setTimes(file, times); });
     if (error == 0 || isRefusedAttribute(error))

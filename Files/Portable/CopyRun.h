@@ -34,6 +34,7 @@ private:
     int openSource(CopyItem& item, Descriptor& source);
     bool openBoth(CopyItem& item, Descriptor& source, struct stat& opened);
     bool copyContent(CopyItem& item, const Descriptor& source, const struct stat& opened);
+    int keepPermissions(int file, mode_t permissions);
     bool keepAttributes(CopyItem& item, const struct stat& opened);
     bool report(const CopyItem* item, qint64 bytesOfItem);
 

@@ -21,9 +21,9 @@ StagedFile::StagedFile(StagedFile&& other) noexcept
     , m_temporaryName(std::exchange(other.m_temporaryName, std::string()))
 {}
 
-int StagedFile::create()
+int StagedFile::create(mode_t permissions)
 {
-    return m_folder.createFile(m_file, m_temporaryName);
+    return m_folder.createFile(m_file, m_temporaryName, permissions);
 }
 
 int StagedFile::publishNew(const std::string& leaf)

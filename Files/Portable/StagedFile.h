@@ -18,7 +18,7 @@ public:
     StagedFile(StagedFile&& other) noexcept;
     StagedFile& operator=(StagedFile&&) = delete;
 
-    int create();
+    int create(mode_t permissions);
     int descriptor() const { return m_file.get(); }
 
     /** Gives the file its name; EEXIST where something has it. Nothing is ever replaced. */

@@ -59,13 +59,13 @@ int TargetFolder::flush() const
     return error == EINVAL || error == ENOTSUP || error == ENOSYS ? 0 : error;
 }
 
-int TargetFolder::createFile(Descriptor& file, std::string& name) const
+int TargetFolder::createFile(Descriptor& file, std::string& name, mode_t permissions) const
 {
     if (m_means != Means::LinkUnnamed)
         return createNamed(file, name);
     const int opened = uninterrupted([&] {
         return m_calls.openAt(m_folder.get(), ".", m_calls.unnamedFileFlags | O_CLOEXEC,
-                              s_privateMode);
+                              permissions);
     });
     if (opened < 0)
         return errno;

@@ -42,8 +42,11 @@ public:
     /** Makes the names durable. */
     int flush() const;
 
-    /** A new empty file: without a name if `name` comes back empty. */
-    int createFile(Descriptor& file, std::string& name) const;
+    /**
+     * A new empty file: without a name if `name` comes back empty. Only such a one, which nobody
+     * else can open, has these permissions at once, as far as this process may give them.
+     */
+    int createFile(Descriptor& file, std::string& name, mode_t permissions) const;
     std::string freshName() const;
     int remove(const std::string& leaf) const;
 
