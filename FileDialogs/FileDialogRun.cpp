@@ -2,6 +2,7 @@
 
 #include "FileDialogs/ApplicationBlock.h"
 #include "FileDialogs/ApplicationMainWindow.h"
+#include "FileDialogs/ConfiguredFileDialog.h"
 #include "FileDialogs/DialogPaths.h"
 #include "FileDialogs/NativeFileDialog.h"
 #include "Host/System/CommandLineParser.h"
@@ -10,11 +11,10 @@ namespace Zorvane {
 
 namespace {
 
-std::unique_ptr<NativeFileDialogDriver> wantedDriver()
+bool areQtDialogsWanted()
 {
-    const bool isUnwanted =
-        CommandLineParser::instance()->optionWasSpecified(QStringLiteral("alternativeFileDialog"));
-    return isUnwanted ? nullptr : createNativeFileDialogDriver();
+    return CommandLineParser::instance()->optionWasSpecified(
+        QStringLiteral("alternativeFileDialog"));
 }
 
 QStringList askQt(const FileDialogCall& call)
@@ -48,24 +48,29 @@ NativeFileDialogRequest requestOf(const FileDialogCall& call, QWidget* owner)
     return request;
 }
 
-NativeFileDialogResult ask(NativeFileDialogDriver& driver, const FileDialogCall& call)
+/** Without a driver there is a configuration, which Qt's own dialog would ignore. */
+NativeFileDialogResult ask(NativeFileDialogDriver* driver, const FileDialogCall& call)
 {
     QWidget* mainWindow = applicationMainWindow();
     QWidget* owner = call.parent ? call.parent : mainWindow;
     const NativeFileDialogRequest request = requestOf(call, owner);
     const ApplicationBlock block(owner, mainWindow);
-    return call.purpose == FileDialogPurpose::SaveFile ? driver.save(request)
-                                                       : driver.open(request);
+    if (!driver)
+        return openConfiguredFileDialog(request, call.options, call.selectedFilter);
+    return call.purpose == FileDialogPurpose::SaveFile ? driver->save(request)
+                                                       : driver->open(request);
 }
 
 } // namespace
 
 QStringList runFileDialog(const FileDialogCall& call)
 {
-    const std::unique_ptr<NativeFileDialogDriver> driver = wantedDriver();
-    if (!driver)
+    if (areQtDialogsWanted())
         return askQt(call);
-    const NativeFileDialogResult result = ask(*driver, call);
+    const std::unique_ptr<NativeFileDialogDriver> driver = createNativeFileDialogDriver();
+    if (!driver && !call.configuration)
+        return askQt(call);
+    const NativeFileDialogResult result = ask(driver.get(), call);
     if (result.isCancelled())
         return {};
     return result.isFailure() ? askQt(call) : result.paths;

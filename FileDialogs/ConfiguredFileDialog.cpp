@@ -1,0 +1,301 @@
+#include "FileDialogs/ConfiguredFileDialog.h"
+
+#include "FileDialogs/CustomControls.h"
+#include "FileDialogs/DialogPlacement.h"
+#include "FileDialogs/FileDialogCallbackInterface.h"
+#include "FileDialogs/FileDialogConfiguration.h"
+#include "FileDialogs/FileDialogEventHandler.h"
+#include "FileDialogs/SelectedFiles.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QEvent>
+#include <QtCore/QItemSelectionModel>
+#include <QtCore/QPointer>
+#include <QtGui/QWindow>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QFileSystemModel>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListView>
+
+namespace Zorvane {
+
+namespace {
+
+/** Milliseconds without a further step, after which a move or resize counts as finished. */
+constexpr int s_movementEndDelay = 250;
+
+class Callbacks : public FileDialogCallbackInterface
+{
+public:
+    explicit Callbacks(ConfiguredFileDialog& dialog)
+        : m_dialog(&dialog)
+    {}
+
+    void setControlState(int controlId, int state) const override
+    {
+        m_dialog->setControlState(controlId, state);
+    }
+    void placeDialog(FileDialogConfiguration* configuration) const override
+    {
+        m_dialog->placeLater(configuration);
+    }
+    QRect getDialogGeometry() const override { return m_dialog->frameGeometry(); }
+
+private:
+    ConfiguredFileDialog* m_dialog;
+};
+
+/** The folder, or the nearest above it that exists: a remembered one may have been deleted. */
+QString existingFolder(const QString& folder)
+{
+    QDir dir(QDir::fromNativeSeparators(folder));
+    while (!dir.exists() && !dir.isRoot()) {
+        const QString above = QFileInfo(dir.path()).path();
+        if (above == dir.path())
+            break;
+        dir.setPath(above);
+    }
+    return dir.absolutePath();
+}
+
+/** "*.*" is all files where it is written, but to Qt those with a dot in their names. */
+QString typeForQt(const QString& type)
+{
+    const QString allFiles = QStringLiteral("(*.*)");
+    return type.endsWith(allFiles) ? type.chopped(allFiles.size()) + QStringLiteral("(*)") : type;
+}
+
+} // namespace
+
+ConfiguredFileDialog::ConfiguredFileDialog(const NativeFileDialogRequest& request,
+                                           QFileDialog::Options options)
+    : QFileDialog(request.owner, request.caption)
+    , m_configuration(request.configuration)
+    , m_handler(request.configuration->getEventHandler())
+    , m_types(request.filters.names)
+{
+    setOptions(options | QFileDialog::DontUseNativeDialog);
+    setWindowModality(request.owner ? Qt::WindowModal : Qt::ApplicationModal);
+    setAcceptMode(QFileDialog::AcceptOpen);
+    setFileMode(request.multiSelection ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
+    m_selection = findChild<QListView*>(QStringLiteral("listView"))->selectionModel();
+    setUpFiles(request);
+    addPlaces(request.places);
+    if (m_handler) {
+        addControls();
+        connectEvents();
+    }
+    m_movementEnd.setSingleShot(true);
+    m_movementEnd.setInterval(s_movementEndDelay);
+    connect(&m_movementEnd, &QTimer::timeout, this, &ConfiguredFileDialog::storeGeometry);
+    if (request.owner)
+        request.owner->window()->installEventFilter(this);
+    giveOuterGeometry(dialogPlacement(*m_configuration));
+}
+
+ConfiguredFileDialog::~ConfiguredFileDialog()
+{
+    closeDown();
+}
+
+void ConfiguredFileDialog::setUpFiles(const NativeFileDialogRequest& request)
+{
+    QStringList shownTypes;
+    for (const QString& type : qAsConst(m_types))
+        shownTypes.append(typeForQt(type));
+    setNameFilters(shownTypes);
+    setDirectory(existingFolder(request.folder));
+    if (!request.fileName.isEmpty())
+        selectFile(request.fileName);
+}
+
+void ConfiguredFileDialog::addPlaces(const std::vector<QString>& places)
+{
+    QList<QUrl> urls = sidebarUrls();
+    for (const QString& place : places) {
+        const QUrl url = QUrl::fromLocalFile(QDir::fromNativeSeparators(place));
+        if (place.isEmpty() || !QFileInfo(place).isDir() || urls.contains(url))
+            continue;
+        urls.append(url);
+        m_addedPlaces.append(url);
+    }
+    setSidebarUrls(urls);
+}
+
+void ConfiguredFileDialog::addControls()
+{
+    // The grid of Qt's dialog: folder, list, name and type, with the buttons beside the last two.
+    auto* rows = qobject_cast<QGridLayout*>(layout());
+    auto* buttons = findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
+    auto* types = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    Q_ASSERT(rows && buttons && types);
+    int row = 0;
+    int column = 0;
+    int rowSpan = 0;
+    int columnSpan = 0;
+    rows->getItemPosition(rows->indexOf(buttons), &row, &column, &rowSpan, &columnSpan);
+    rows->removeWidget(buttons);
+
+    auto* besideButtons = new QHBoxLayout;
+    m_controls = new CustomControls(this);
+    m_controls->add(*m_configuration, *rows, *besideButtons);
+    setTabOrder(findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), types);
+    m_controls->followInTabOrder(types);
+    besideButtons->addWidget(buttons);
+    rows->addLayout(besideButtons, row, column, rowSpan, columnSpan);
+}
+
+void ConfiguredFileDialog::connectEvents()
+{
+    connect(m_controls, &CustomControls::toggled, this, [this](bool checked, int controlId) {
+        m_handler->onCheckBoxToggled(checked, controlId, Callbacks(*this));
+    });
+    connect(m_controls, &CustomControls::itemSelected, this, [this](int controlId, int itemIndex) {
+        m_handler->onItemSelected(controlId, itemIndex);
+    });
+    connect(this, &QFileDialog::filterSelected, this, &ConfiguredFileDialog::tellType);
+    connect(m_selection, &QItemSelectionModel::selectionChanged, this,
+            &ConfiguredFileDialog::tellSelection);
+}
+
+void ConfiguredFileDialog::selectType(const QString& type)
+{
+    const int index = m_types.indexOf(type);
+    if (index >= 0)
+        selectNameFilter(nameFilters().at(index));
+}
+
+QString ConfiguredFileDialog::selectedType() const
+{
+    return m_types.value(findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))->currentIndex());
+}
+
+void ConfiguredFileDialog::setControlState(int controlId, int state)
+{
+    m_controls->setState(controlId, state);
+}
+
+void ConfiguredFileDialog::placeLater(FileDialogConfiguration* configuration)
+{
+    QTimer::singleShot(s_dialogPlacementDelay, this, [this, configuration] {
+        if (m_isClosedDown)
+            return;
+        m_isPlaced = windowHandle() && windowHandle()->isExposed();
+        if (m_isPlaced)
+            giveOuterGeometry(dialogPlacement(*configuration));
+        else
+            placeLater(configuration);
+    });
+}
+
+void ConfiguredFileDialog::giveOuterGeometry(const QRect& rect)
+{
+    const QSize frame = frameGeometry().size() - size();
+    resize(rect.size() - frame);
+    move(rect.topLeft());
+}
+
+void ConfiguredFileDialog::storeGeometry()
+{
+    m_configuration->storeFileDialogGeometry(frameGeometry());
+}
+
+void ConfiguredFileDialog::closeDown()
+{
+    if (m_isClosedDown)
+        return;
+    m_isClosedDown = true;
+    m_movementEnd.stop();
+    if (m_wasShown)
+        storeGeometry();
+    // Qt keeps the places of the side bar for every later dialog.
+    QList<QUrl> urls = sidebarUrls();
+    for (const QUrl& place : qAsConst(m_addedPlaces))
+        urls.removeAll(place);
+    setSidebarUrls(urls);
+}
+
+void ConfiguredFileDialog::done(int result)
+{
+    closeDown();
+    QFileDialog::done(result);
+}
+
+bool ConfiguredFileDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isOwnersWindow = parentWidget() && watched == parentWidget()->window();
+    if (isOwnersWindow && event->type() == QEvent::Hide && !event->spontaneous())
+        reject();
+    return QFileDialog::eventFilter(watched, event);
+}
+
+void ConfiguredFileDialog::moveEvent(QMoveEvent* event)
+{
+    QFileDialog::moveEvent(event);
+    if (m_isPlaced && !m_isClosedDown)
+        m_movementEnd.start();
+}
+
+void ConfiguredFileDialog::resizeEvent(QResizeEvent* event)
+{
+    QFileDialog::resizeEvent(event);
+    if (m_isPlaced && !m_isClosedDown)
+        m_movementEnd.start();
+}
+
+void ConfiguredFileDialog::showEvent(QShowEvent* event)
+{
+    QFileDialog::showEvent(event);
+    if (m_wasShown)
+        return;
+    m_wasShown = true;
+    // The frame was unknown when the window got its first geometry.
+    placeLater(m_configuration);
+    if (!m_handler)
+        return;
+    tellType();
+    QTimer::singleShot(0, this, [this] {
+        if (m_selection->hasSelection())
+            tellSelection();
+    });
+}
+
+void ConfiguredFileDialog::tellType()
+{
+    m_handler->onTypeChanged(Callbacks(*this));
+}
+
+void ConfiguredFileDialog::tellSelection()
+{
+    const auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    QStringList paths;
+    const QModelIndexList rows = m_selection->selectedRows();
+    for (const QModelIndex& row : rows)
+        paths.append(QDir::toNativeSeparators(row.data(QFileSystemModel::FilePathRole).toString()));
+    m_handler->onSelectionChanged(inOrderOfFileNameBox(paths, name->text()), Callbacks(*this));
+}
+
+NativeFileDialogResult openConfiguredFileDialog(const NativeFileDialogRequest& request,
+                                                QFileDialog::Options options,
+                                                QString* selectedFilter)
+{
+    // Its owner may be destroyed while the dialog is open, and takes it along.
+    const QPointer<ConfiguredFileDialog> dialog = new ConfiguredFileDialog(request, options);
+    if (selectedFilter)
+        dialog->selectType(*selectedFilter);
+    NativeFileDialogResult result{NativeFileDialogResult::s_cancelled, {}};
+    if (dialog->exec() == QDialog::Accepted && dialog) {
+        const QStringList files = dialog->selectedFiles();
+        for (const QString& file : files)
+            result.paths.append(QDir::toNativeSeparators(file));
+        result.code = NativeFileDialogResult::s_ok;
+        if (selectedFilter)
+            *selectedFilter = dialog->selectedType();
+    }
+    delete dialog;
+    return result;
+}
+
+} // namespace Zorvane

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "FileDialogs/FileDialogConfiguration.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QList>
+#include <QtCore/QObject>
+
+class QBoxLayout;
+class QGridLayout;
+class QWidget;
+
+namespace Zorvane {
+
+/**
+ * The controls of a configuration as widgets of a dialog of Qt's, in the places that they have in
+ * a dialog of the system: below the file list, one under the other, and prominent ones beside the
+ * buttons. The widgets belong to the dialog.
+ */
+class CustomControls : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CustomControls(QWidget* dialog);
+
+    /**
+     * Adds a row a control to the grid, labels in its first column, and the prominent ones to the
+     * other layout. At most once.
+     */
+    void add(const FileDialogConfiguration& configuration, QGridLayout& rows,
+             QBoxLayout& prominent);
+    /**
+     * Sets `FileDialogConfiguration::ControlState` flags of a control, or of a group by 201 + its
+     * index. A label goes with its control. An unknown identifier changes nothing.
+     */
+    void setState(int id, int state);
+    /** Lets the tabulator go through the controls, in their order, behind the widget. */
+    void followInTabOrder(QWidget* widget) const;
+
+Q_SIGNALS:
+    void toggled(bool checked, int controlId);
+    void itemSelected(int controlId, int itemIndex);
+
+private:
+    using Item = FileDialogConfiguration::CustomItem;
+
+    QWidget* makeControl(const Item& item);
+    QWidget* makeCheckBox(const Item& item);
+    QWidget* makeComboBox(const Item& item);
+
+    QWidget* const m_dialog;
+    QHash<int, QList<QWidget*>> m_widgets;
+    QList<QWidget*> m_controls;
+};
+
+} // namespace Zorvane

@@ -1,0 +1,20 @@
+#include "FileDialogs/Windows/DpiAwarenessScope.h"
+
+namespace Zorvane {
+
+DpiAwarenessScope::DpiAwarenessScope()
+    : m_user(L"user32.dll")
+    , m_set(m_user.find<SetContext>("SetThreadDpiAwarenessContext"))
+{
+    if (m_set)
+        m_previous = m_set(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
+}
+
+DpiAwarenessScope::~DpiAwarenessScope()
+{
+    // Null tells that the change was refused: there is nothing to restore.
+    if (m_previous)
+        m_set(m_previous);
+}
+
+} // namespace Zorvane

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "Files/Windows/SystemLibrary.h"
+
+namespace Zorvane {
+
+/**
+ * While it lives, this thread's new windows are drawn for the screen that they are on, as the
+ * system's dialogs can do and a whole application may not. Does nothing where the system is older
+ * than that, or refuses.
+ */
+class DpiAwarenessScope
+{
+public:
+    DpiAwarenessScope();
+    ~DpiAwarenessScope();
+
+    DpiAwarenessScope(const DpiAwarenessScope&) = delete;
+    DpiAwarenessScope& operator=(const DpiAwarenessScope&) = delete;
+
+private:
+    using SetContext = DPI_AWARENESS_CONTEXT WINAPI(DPI_AWARENESS_CONTEXT);
+
+    SystemLibrary m_user;
+    SetContext* m_set;
+    DPI_AWARENESS_CONTEXT m_previous = nullptr;
+};
+
+} // namespace Zorvane

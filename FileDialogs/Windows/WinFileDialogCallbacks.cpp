@@ -1,0 +1,48 @@
+#include "FileDialogs/Windows/WinFileDialogCallbacks.h"
+
+#include "FileDialogs/Windows/WindowPlacement.h"
+
+#include <oleidl.h>
+
+namespace Zorvane {
+
+WinFileDialogCallbacks::WinFileDialogCallbacks(IUnknown* dialog)
+    : m_dialog(dialog)
+{}
+
+WinFileDialogCallbacks::~WinFileDialogCallbacks() = default;
+
+void WinFileDialogCallbacks::setControlState(int controlId, int state) const
+{
+    ComPointer<IFileDialogCustomize> customize;
+    if (m_dialog && SUCCEEDED(m_dialog->QueryInterface(IID_PPV_ARGS(customize.put()))))
+        customize->SetControlState(DWORD(controlId), CDCONTROLSTATEF(state));
+}
+
+void WinFileDialogCallbacks::placeDialog(FileDialogConfiguration* configuration) const
+{
+    const HWND dialogWindow = window();
+    if (dialogWindow && configuration)
+        placeWindowSoon(dialogWindow, configuration);
+}
+
+QRect WinFileDialogCallbacks::getDialogGeometry() const
+{
+    const HWND dialogWindow = window();
+    RECT rect;
+    if (!dialogWindow || !GetWindowRect(dialogWindow, &rect))
+        return {};
+    return {QPoint(rect.left, rect.top), QPoint(rect.right - 1, rect.bottom - 1)};
+}
+
+HWND WinFileDialogCallbacks::window() const
+{
+    ComPointer<IOleWindow> oleWindow;
+    HWND found = nullptr;
+    if (!m_dialog || FAILED(m_dialog->QueryInterface(IID_PPV_ARGS(oleWindow.put()))) ||
+        FAILED(oleWindow->GetWindow(&found)))
+        return nullptr;
+    return found;
+}
+
+} // namespace Zorvane
