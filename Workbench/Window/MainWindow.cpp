@@ -172,7 +172,8 @@ void MainWindow::fillMenus()
     m_actions->addTo(*menuBar()->addMenu(tr("&Edit")),
                      {WindowActions::Rename, WindowActions::Find});
     fillViewMenu();
-    m_actions->addTo(*menuBar()->addMenu(tr("&Tools")), {WindowActions::StressTree});
+    m_actions->addTo(*menuBar()->addMenu(tr("&Tools")),
+                     {WindowActions::ConvertMeshes, WindowActions::StressTree});
     m_actions->addTo(*menuBar()->addMenu(tr("&Help")),
                      {WindowActions::About, WindowActions::AboutQt});
 }
@@ -279,6 +280,7 @@ void MainWindow::connectActions()
     on(WindowActions::Find, [this] { m_filterBar->focusText(); });
     on(WindowActions::ExpandAll, [this] { m_tree->expandAll(); });
     on(WindowActions::CollapseAll, [this] { m_tree->collapseAll(); });
+    on(WindowActions::ConvertMeshes, [this] { m_converter.run(); });
     on(WindowActions::StressTree, &MainWindow::showStress);
     on(WindowActions::About, &MainWindow::about);
     on(WindowActions::AboutQt, [] { QApplication::aboutQt(); });

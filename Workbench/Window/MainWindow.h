@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Host/Widgets/BaseView.h"
+#include "Workbench/Convert/MeshConverter.h"
 #include "Workbench/Design/DesignSession.h"
 #include "Workbench/Meshes/MeshLoader.h"
 #include "Workbench/Tree/DesignTree.h"
@@ -122,6 +123,7 @@ private:
     ReadingProgress* m_progress;
     QLabel* m_counts;
     QPointer<StressWindow> m_stress;
+    MeshConverter m_converter{this};
     QSplitter* m_sides = nullptr;
     QSplitter* m_meshAndDetails = nullptr;
     QSplitter* m_allAndProblems = nullptr;

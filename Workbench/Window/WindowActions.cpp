@@ -41,6 +41,7 @@ constexpr ActionRow s_actions[] = {
     {WindowActions::ViewRight,     QT_TR_NOOP("From the Ri&ght"),      "Ctrl+7",       "view-right"},
     {WindowActions::ExpandAll,     QT_TR_NOOP("&Expand All"),          "Ctrl+Shift++", ""},
     {WindowActions::CollapseAll,   QT_TR_NOOP("Co&llapse All"),        "Ctrl+Shift+-", ""},
+    {WindowActions::ConvertMeshes, QT_TR_NOOP("&Convert Meshes…"),     "",             ""},
     {WindowActions::StressTree,    QT_TR_NOOP("&Stress a Tree…"),      "",             ""},
     {WindowActions::About,         QT_TR_NOOP("&About the Workbench"), "",             ""},
     {WindowActions::AboutQt,       QT_TR_NOOP("About &Qt"),            "",             ""},

@@ -42,6 +42,7 @@ public:
         ViewRight,
         ExpandAll,
         CollapseAll,
+        ConvertMeshes,
         StressTree,
         About,
         AboutQt

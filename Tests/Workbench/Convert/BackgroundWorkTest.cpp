@@ -1,0 +1,106 @@
+#include "Workbench/Convert/BackgroundWork.h"
+
+#include "Tests/Support/ExpectedModals.h"
+#include "Tests/Support/TestCase.h"
+
+#include <QtCore/QSemaphore>
+#include <QtCore/QThread>
+#include <QtCore/QThreadPool>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QProgressDialog>
+#include <QtWidgets/QPushButton>
+
+#include <atomic>
+#include <memory>
+#include <stdexcept>
+
+using namespace Zorvane;
+using Workbench::workInBackground;
+
+namespace {
+
+/** Long enough for the dialog to come: it waits until it is told to end. */
+struct LongWork
+{
+    QSemaphore mayEnd;
+    std::atomic<bool> hasEnded{false};
+};
+
+} // namespace
+
+class BackgroundWorkTest : public Testing::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void workIsDoneInAnotherThreadBeforeItReturns();
+    void eventsGoOnMeanwhile();
+    void longWorkShowsADialogUntilItIsDone();
+    void cancelledWorkEndsByItself();
+    void exceptionsArriveWhereTheWorkIsWaitedFor();
+};
+
+void BackgroundWorkTest::workIsDoneInAnotherThreadBeforeItReturns()
+{
+    const Testing::ExpectedModals none;
+    QThread* worker = nullptr;
+    QVERIFY(
+        workInBackground(QStringLiteral("text"), [&worker] { worker = QThread::currentThread(); }));
+    QVERIFY(worker);
+    QVERIFY(worker != QThread::currentThread());
+    QVERIFY(none.allMet());
+}
+
+void BackgroundWorkTest::eventsGoOnMeanwhile()
+{
+    const auto work = std::make_shared<LongWork>();
+    QTimer::singleShot(0, this, [work] { work->mayEnd.release(); });
+    QVERIFY(workInBackground(QStringLiteral("text"), [work] { work->mayEnd.acquire(); }));
+}
+
+void BackgroundWorkTest::longWorkShowsADialogUntilItIsDone()
+{
+    const auto work = std::make_shared<LongWork>();
+    Testing::ExpectedModals modals;
+    modals.expectDialog<QProgressDialog>(QStringLiteral("progress"), [&](QProgressDialog& shown) {
+        QCOMPARE(shown.labelText(), QStringLiteral("Reading die.stl..."));
+        QVERIFY(shown.isModal());
+        work->mayEnd.release();
+        QTRY_VERIFY(work->hasEnded);
+        shown.hide();
+    });
+    QVERIFY(workInBackground(QStringLiteral("Reading die.stl..."), [work] {
+        work->mayEnd.acquire();
+        work->hasEnded = true;
+    }));
+}
+
+void BackgroundWorkTest::cancelledWorkEndsByItself()
+{
+    const auto work = std::make_shared<LongWork>();
+    Testing::ExpectedModals modals;
+    modals.expectDialog<QProgressDialog>(QStringLiteral("progress"), [](QProgressDialog& shown) {
+        QTest::mouseClick(shown.findChild<QPushButton*>(), Qt::LeftButton);
+    });
+    QVERIFY(!workInBackground(QStringLiteral("text"), [work] {
+        work->mayEnd.acquire();
+        work->hasEnded = true;
+    }));
+    QVERIFY(!work->hasEnded);
+    work->mayEnd.release();
+    QThreadPool::globalInstance()->waitForDone();
+    QVERIFY(work->hasEnded);
+    // The word of its end finds nobody.
+    QCoreApplication::processEvents();
+    QCOMPARE(work.use_count(), 1L);
+}
+
+void BackgroundWorkTest::exceptionsArriveWhereTheWorkIsWaitedFor()
+{
+    QVERIFY_EXCEPTION_THROWN(
+        workInBackground(QStringLiteral("text"), [] { throw std::runtime_error("out of paper"); }),
+        std::runtime_error);
+}
+
+ZORVANE_TEST_MAIN(BackgroundWorkTest)
+#include "BackgroundWorkTest.moc"

@@ -1,0 +1,94 @@
+#include "Workbench/Convert/BackgroundWork.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEventLoop>
+#include <QtCore/QThreadPool>
+#include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QProgressDialog>
+
+#include <exception>
+#include <memory>
+#include <utility>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+/** Work that is done sooner needs no dialog. */
+constexpr int s_patienceMilliseconds = 400;
+
+/** Lives in the waiting thread; told by the working one. */
+class Completion : public QObject
+{
+    Q_OBJECT
+
+public:
+    bool isDone = false;
+    std::exception_ptr fault;
+
+Q_SIGNALS:
+    void done();
+};
+
+void start(const std::shared_ptr<Completion>& completion, std::function<void()> work)
+{
+    QThreadPool::globalInstance()->start([completion, work = std::move(work)]() mutable {
+        std::exception_ptr fault;
+        try {
+            work();
+        } catch (...) {
+            fault = std::current_exception();
+        }
+        work = nullptr;
+        // The last owner must be the thread that the object lives in.
+        auto* target = completion.get();
+        QMetaObject::invokeMethod(
+            target,
+            [completion = std::move(completion), fault] {
+                completion->isDone = true;
+                completion->fault = fault;
+                Q_EMIT completion->done();
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void waitPatiently(const Completion& completion)
+{
+    QEventLoop loop;
+    QObject::connect(&completion, &Completion::done, &loop, &QEventLoop::quit);
+    QTimer::singleShot(s_patienceMilliseconds, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+void waitWithDialog(const Completion& completion, const QString& text)
+{
+    QProgressDialog progress(text, QCoreApplication::translate("BackgroundWork", "Cancel"), 0, 0,
+                             QApplication::activeWindow());
+    progress.setWindowModality(Qt::ApplicationModal);
+    progress.setMinimumDuration(0);
+    QEventLoop loop;
+    QObject::connect(&completion, &Completion::done, &loop, &QEventLoop::quit);
+    QObject::connect(&progress, &QProgressDialog::canceled, &loop, &QEventLoop::quit);
+    progress.show();
+    loop.exec();
+}
+
+} // namespace
+
+bool workInBackground(const QString& text, std::function<void()> work)
+{
+    const auto completion = std::make_shared<Completion>();
+    start(completion, std::move(work));
+    waitPatiently(*completion);
+    if (!completion->isDone)
+        waitWithDialog(*completion, text);
+    if (completion->fault)
+        std::rethrow_exception(completion->fault);
+    return completion->isDone;
+}
+
+} // namespace Zorvane::Workbench
+
+#include "BackgroundWork.moc"
