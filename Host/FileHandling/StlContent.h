@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Host/FileHandling/FileName.h"
+#include "Host/HostExport.h"
 
 namespace Zorvane {
 
@@ -9,6 +10,6 @@ namespace Zorvane {
  * size to the byte; some programs start binary files with "solid" too. False for a file that
  * cannot be read.
  */
-bool isBinaryStl(const FileName& file);
+ZORVANE_HOST_EXPORT bool isBinaryStl(const FileName& file);
 
 } // namespace Zorvane

@@ -19,7 +19,7 @@ namespace Zorvane {
 
 namespace {
 
-constexpr int s_usualWidth = 560;
+constexpr int s_usualWidth = 680;
 constexpr int s_usualHeight = 420;
 
 QLineEdit* createPathField(const QString& name, QWidget* parent)
