@@ -65,14 +65,14 @@ QAction* GenericMainActions::createAction(const QString& text, const QIcon& icon
                                           const QString& toolTip, QKeySequence shortcut,
                                           QObject* parent, const QString& objectName) const
 {
-    auto* const created = new QAction(text, parent);
-    if (!icon.isNull())
-        created->setIcon(icon);
+    // With the icon in the constructor, there is no change to announce.
+    auto* const created =
+        icon.isNull() ? new QAction(text, parent) : new QAction(icon, text, parent);
     QString composed = toolTip;
-    if (shortcut != QKeySequence()) {
+    if (!shortcut.isEmpty()) {
         created->setShortcut(shortcut);
         if (!toolTip.isEmpty())
-            composed = withShortcut(toolTip, created->shortcut());
+            composed = withShortcut(toolTip, shortcut);
     }
     if (!composed.isEmpty())
         created->setToolTip(composed);

@@ -43,8 +43,9 @@ struct ZVMainActionRow
             KeyCode
         };
         Kind kind = None;
-        /** A `QKeySequence::StandardKey` or a key code. */
+        /** A `QKeySequence::StandardKey`, or a key code; 0 where only Qt can tell what is meant. */
         int key = 0;
+        /** To be translated. While it isn't, `key` is what it means. */
         const char* keys = nullptr;
     };
 

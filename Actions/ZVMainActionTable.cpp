@@ -23,9 +23,58 @@ constexpr Shortcut standard(QKeySequence::StandardKey key)
     return {Shortcut::Standard, key, nullptr};
 }
 
+/** Steps over the word if the text starts with it. */
+constexpr bool skip(const char*& text, const char* word)
+{
+    const char* rest = text;
+    for (; *word != '\0'; ++word, ++rest)
+        if (*rest != *word)
+            return false;
+    text = rest;
+    return true;
+}
+
+constexpr int keyNamed(const char* name)
+{
+    struct NamedKey
+    {
+        const char* name;
+        int key;
+    };
+    constexpr NamedKey s_names[] = {{"Left", Qt::Key_Left},
+                                    {"Right", Qt::Key_Right},
+                                    {"F4", Qt::Key_F4},
+                                    {"shortcut to be defined", Qt::Key_unknown}};
+    for (const NamedKey& row : s_names) {
+        const char* rest = name;
+        if (skip(rest, row.name) && *rest == '\0')
+            return row.key;
+    }
+    // Letters, digits and signs are their own codes.
+    return name[0] != '\0' && name[1] == '\0' ? name[0] : 0;
+}
+
+/** What the untranslated text means: working it out at run time takes longer than all the rest. */
+constexpr int keyOf(const char* text)
+{
+    int modifiers = 0;
+    for (bool more = true; more;) {
+        if (skip(text, "Ctrl+"))
+            modifiers |= Qt::CTRL;
+        else if (skip(text, "Shift+"))
+            modifiers |= Qt::SHIFT;
+        else if (skip(text, "Alt+"))
+            modifiers |= Qt::ALT;
+        else
+            more = false;
+    }
+    const int key = keyNamed(text);
+    return key == 0 ? 0 : modifiers | key;
+}
+
 constexpr Shortcut keys(const char* text)
 {
-    return {Shortcut::TranslatedKeys, 0, text};
+    return {Shortcut::TranslatedKeys, keyOf(text), text};
 }
 
 constexpr Shortcut code(int key)

@@ -36,13 +36,21 @@ QIcon createIcon(const ZVMainActionRow::Icon& icon)
     return {};
 }
 
+QKeySequence translatedKeys(const ZVMainActionRow::Shortcut& shortcut)
+{
+    const QString text = ZVMainActions::tr(shortcut.keys);
+    if (shortcut.key != 0 && text == QLatin1String(shortcut.keys))
+        return QKeySequence(shortcut.key);
+    return QKeySequence(text, QKeySequence::NativeText);
+}
+
 QKeySequence shortcutOf(const ZVMainActionRow::Shortcut& shortcut)
 {
     switch (shortcut.kind) {
     case ZVMainActionRow::Shortcut::Standard:
         return QKeySequence(QKeySequence::StandardKey(shortcut.key));
     case ZVMainActionRow::Shortcut::TranslatedKeys:
-        return QKeySequence(ZVMainActions::tr(shortcut.keys), QKeySequence::NativeText);
+        return translatedKeys(shortcut);
     case ZVMainActionRow::Shortcut::KeyCode:
         return QKeySequence(shortcut.key);
     case ZVMainActionRow::Shortcut::None:
@@ -51,11 +59,11 @@ QKeySequence shortcutOf(const ZVMainActionRow::Shortcut& shortcut)
     return {};
 }
 
-/** The angle stands where the text asks for it; of a text and its tool tip, not all do. */
+/** The angle stands where the text asks for it; a tool tip may not. */
 QString translated(const char* source, int degrees)
 {
     const QString text = ZVMainActions::tr(source);
-    if (!text.contains(QLatin1String("%1")))
+    if (degrees == 0 || !text.contains(QLatin1String("%1")))
         return text;
     return text.arg(ZVFormatter::toString(degrees, "degree", true), 0, QLatin1Char(' '));
 }
@@ -69,10 +77,10 @@ QString textOf(const ZVMainActionRow& row)
                       settings.degrees);
 }
 
-QString toolTipOf(const ZVMainActionRow& row)
+QString toolTipOf(const ZVMainActionRow& row, const QString& text)
 {
     if (row.toolTip == ZVMainActionRow::s_sameAsText)
-        return textOf(row);
+        return text;
     return *row.toolTip == '\0' ? QString() : translated(row.toolTip, row.settings.degrees);
 }
 
@@ -176,9 +184,10 @@ void ZVMainActions::initActions()
     mapReverse();
     for (int i = 0; i < s_rowCount; ++i) {
         const ZVMainActionRow& row = s_rows[i];
+        const QString text = textOf(row);
         QAction* const created =
-            createAction(textOf(row), createIcon(row.icon), toolTipOf(row),
-                         shortcutOf(row.shortcut), this, QString::fromLatin1(row.objectName));
+            createAction(text, createIcon(row.icon), toolTipOf(row, text), shortcutOf(row.shortcut),
+                         this, QString::fromLatin1(row.objectName));
         if (row.id >= 0)
             m_actions[row.id] = created;
         applySettings(row.settings, created);
