@@ -17,9 +17,9 @@ ZVExclusiveActionGroup::ZVExclusiveActionGroup(QObject* parent)
 
 QAction* ZVExclusiveActionGroup::addAction(QAction* action, const QVariant& value)
 {
-    if (action->actionGroup() != this)
-        connect(action, &QAction::toggled, this, &ZVExclusiveActionGroup::tellWhenChecked);
     action->setProperty(s_valueProperty, value);
+    connect(action, &QAction::toggled, this, &ZVExclusiveActionGroup::tellWhenChecked,
+            Qt::UniqueConnection);
     return QActionGroup::addAction(action);
 }
 
