@@ -1,10 +1,13 @@
 #include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/Windows/CommonItemDialogDriver.h"
+#include "Tests/FileDialogs/Windows/NativeDialogFixture.h"
 #include "Tests/Support/Windows/DialogPilot.h"
 #include "Tests/Support/Windows/NativeTest.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QTemporaryDir>
 #include <QtWidgets/QWidget>
+
+#include <optional>
+#include <thread>
 
 using namespace Zorvane;
 using Testing::DialogPilot;
@@ -27,46 +30,34 @@ private Q_SLOTS:
     void saveShowsWhatWasAskedFor();
     void presetFileIsShownSelected();
     void laterSelectionsAreTheUsers();
+    void missingFolderIsLeftToTheDialog();
+    void forwardSlashesAreFine();
+    void unicodeNames();
+    void defaultSaveConfirmsOverwriting();
+    void missingEntryPoint();
+    void multithreadedApartment();
+    void oneDialogAfterAnother();
 
 private:
-    QString addFile(const char* name) const;
-    QString path(const char* below) const
-    {
-        return QDir::toNativeSeparators(m_root->filePath(QString::fromUtf8(below)));
-    }
+    QString path(const char* below) const { return m_folder->path(below); }
     NativeFileDialogResult open() { return createNativeFileDialogDriver()->open(m_request); }
     NativeFileDialogResult save() { return createNativeFileDialogDriver()->save(m_request); }
 
-    std::unique_ptr<QTemporaryDir> m_root;
+    std::optional<Testing::DialogFolder> m_folder;
     NativeFileDialogRequest m_request;
 };
 
 void NativeDialogTest::init()
 {
-    m_root = std::make_unique<QTemporaryDir>();
-    m_request = {};
-    m_request.caption = QStringLiteral("Choose a Part");
-    m_request.filters.names =
-        QStringList{QStringLiteral("Meshes (*.stl *.obj)"), QStringLiteral("All Files (*.*)")};
-    m_request.filters.patterns = QStringList{QStringLiteral("*.stl;*.obj"), QStringLiteral("*.*")};
-    m_request.folder = QDir::toNativeSeparators(m_root->path());
-    for (const char* name : {"a.stl", "b.stl", "c d.obj", "notes.txt"})
-        addFile(name);
+    m_folder.emplace();
+    m_request = m_folder->request();
 }
 
 void NativeDialogTest::cleanup()
 {
     QVERIFY(DialogWindow::all().empty());
-    m_root.reset();
+    m_folder.reset();
     TestCase::cleanup();
-}
-
-QString NativeDialogTest::addFile(const char* name) const
-{
-    QFile file(path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write("content") != 7)
-        qFatal("cannot write a test file");
-    return path(name);
 }
 
 void NativeDialogTest::opensOneFile()
@@ -145,7 +136,7 @@ void NativeDialogTest::showsWhatWasAskedFor()
     owner.show();
     m_request.owner = &owner;
     m_request.filters.preselectedPattern = QStringLiteral("*.*");
-    m_request.places = {path("missing"), m_root->path()};
+    m_request.places = {path("missing"), m_folder->folder()};
     DialogPilot pilot;
     pilot.waitUntil("files in the list",
                     [](const DialogWindow& dialog) { return !dialog.files().isEmpty(); });
@@ -214,6 +205,95 @@ void NativeDialogTest::laterSelectionsAreTheUsers()
     });
     QVERIFY(open().isCancelled());
     QVERIFY(pilot.isDone());
+}
+
+void NativeDialogTest::missingFolderIsLeftToTheDialog()
+{
+    for (const QString& folder : {path("missing"), QString(), QStringLiteral("?:\\<>"),
+                                  QStringLiteral("\\\\nowhere.invalid\\share")}) {
+        m_request.folder = folder;
+        DialogPilot pilot;
+        pilot.then([](const DialogWindow& dialog) { dialog.cancel(); });
+        QVERIFY2(open().isCancelled(), qPrintable(folder));
+        QVERIFY(pilot.isDone());
+    }
+}
+
+void NativeDialogTest::forwardSlashesAreFine()
+{
+    m_request.folder = QDir::fromNativeSeparators(m_folder->folder());
+    DialogPilot pilot;
+    pilot.waitUntil("files of the folder", [](const DialogWindow& dialog) {
+        return dialog.files().contains(QStringLiteral("a.stl"));
+    });
+    pilot.then([](const DialogWindow& dialog) { dialog.cancel(); });
+    QVERIFY(open().isCancelled());
+    QVERIFY(pilot.isDone());
+}
+
+void NativeDialogTest::unicodeNames()
+{
+    const QByteArray name("T\xC3\xBCr \xF0\x9F\x94\xA7.stl");
+    m_folder->addFile(name.constData());
+    m_request.caption = QString::fromUtf8("\xC3\x96"
+                                          "ffnen \xE2\x80\x93 \xE6\x9D\xBF");
+    DialogPilot pilot;
+    pilot.then([&](const DialogWindow& dialog) {
+        QCOMPARE(dialog.title(), m_request.caption);
+        dialog.typeFileName(QString::fromUtf8(name));
+    });
+    pilot.then([](const DialogWindow& dialog) { dialog.accept(); });
+    const NativeFileDialogResult result = open();
+    QVERIFY(pilot.isDone());
+    QCOMPARE(result.paths, QStringList{path(name.constData())});
+}
+
+void NativeDialogTest::defaultSaveConfirmsOverwriting()
+{
+    // The question is a window of its own over the dialog; "No" goes back to the dialog.
+    m_request.filters.names = QStringList{QStringLiteral("All Files (*.*)")};
+    m_request.filters.patterns = QStringList{QStringLiteral("*.*")};
+    DialogPilot pilot;
+    std::optional<DialogPilot> question;
+    pilot.then([](const DialogWindow& dialog) { dialog.typeFileName(QStringLiteral("a.stl")); });
+    pilot.then([&](const DialogWindow& dialog) {
+        question.emplace();
+        question->then([](const DialogWindow& box) { box.answer(IDNO); });
+        dialog.accept();
+    });
+    pilot.waitUntil("the question", [&](const DialogWindow&) { return question->isDone(); });
+    pilot.then([](const DialogWindow& dialog) { dialog.cancel(); });
+    QVERIFY(save().isCancelled());
+    QVERIFY(pilot.isDone());
+}
+
+void NativeDialogTest::missingEntryPoint()
+{
+    CommonItemDialogDriver driver(L"user32.dll");
+    QCOMPARE(driver.open(m_request).code, std::int32_t(E_FAIL));
+    QCOMPARE(driver.save(m_request).code, std::int32_t(E_FAIL));
+    QVERIFY(driver.open(m_request).isFailure());
+}
+
+void NativeDialogTest::multithreadedApartment()
+{
+    NativeFileDialogResult opened;
+    NativeFileDialogResult saved;
+    std::thread([&] {
+        CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+        opened = open();
+        saved = save();
+        CoUninitialize();
+    }).join();
+    QCOMPARE(opened.code, std::int32_t(RPC_E_CHANGED_MODE));
+    QVERIFY(opened.isFailure());
+    QCOMPARE(saved.code, std::int32_t(RPC_E_CHANGED_MODE));
+}
+
+void NativeDialogTest::oneDialogAfterAnother()
+{
+    for (int i = 0; i < 5; ++i)
+        opensOneFile();
 }
 
 ZORVANE_NATIVE_TEST_MAIN(NativeDialogTest)

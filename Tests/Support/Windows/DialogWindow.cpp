@@ -43,10 +43,10 @@ HWND firstChild(HWND parent, const QString& windowClass)
     return found;
 }
 
-/** Custom controls lie in a window of their own. */
-HWND controlsOf(HWND dialog)
+/** Each custom control lies in a window of its own. */
+bool isCustomControl(HWND child)
 {
-    return firstChild(dialog, QStringLiteral("FloatNotifySink"));
+    return classOf(GetParent(child)) == QLatin1String("FloatNotifySink");
 }
 
 /** As the user does it: the parent is told, which a choice by message alone leaves out. */
@@ -212,9 +212,9 @@ void DialogWindow::selectFiles(const QStringList& names) const
 HWND DialogWindow::findControl(const wchar_t* windowClass, const QString& text) const
 {
     HWND found = nullptr;
-    forEachChild(controlsOf(m_window), [&](HWND child) {
-        if (!found && classOf(child) == QString::fromWCharArray(windowClass) &&
-            textOf(child) == text)
+    forEachChild(m_window, [&](HWND child) {
+        if (!found && isCustomControl(child) &&
+            classOf(child) == QString::fromWCharArray(windowClass) && textOf(child) == text)
             found = child;
     });
     return found;
@@ -223,8 +223,8 @@ HWND DialogWindow::findControl(const wchar_t* windowClass, const QString& text) 
 std::vector<HWND> DialogWindow::comboBoxes() const
 {
     std::vector<HWND> boxes;
-    forEachChild(controlsOf(m_window), [&](HWND child) {
-        if (classOf(child) == QLatin1String("ComboBox"))
+    forEachChild(m_window, [&](HWND child) {
+        if (isCustomControl(child) && classOf(child) == QLatin1String("ComboBox"))
             boxes.push_back(child);
     });
     return boxes;
@@ -248,6 +248,11 @@ void DialogWindow::accept() const
 void DialogWindow::cancel() const
 {
     click(GetDlgItem(m_window, IDCANCEL));
+}
+
+void DialogWindow::answer(int button) const
+{
+    click(GetDlgItem(m_window, button));
 }
 
 void DialogWindow::pressEscape() const

@@ -50,6 +50,8 @@ public:
     /** The button that accepts: "Open" or "Save". */
     void accept() const;
     void cancel() const;
+    /** A message box's button, such as `IDNO`. */
+    void answer(int button) const;
     void pressEscape() const;
     void close() const;
 
