@@ -73,8 +73,15 @@ QStringList PreviewFileDialog::getOpenFileNames(PathProvider* provider)
     });
 }
 
+void PreviewFileDialog::setFilter(const QString& filter)
+{
+    m_filter = filter;
+}
+
 QString PreviewFileDialog::filter() const
 {
+    if (!m_filter.isEmpty())
+        return m_filter;
     return QString::fromStdString(getFileFilterForTypes(
         m_configuration->getFileTypes(), m_configuration->enableAllFilesEntry(), std::string()));
 }

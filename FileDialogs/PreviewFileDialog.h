@@ -41,6 +41,10 @@ public:
     PreviewFileDialog(const PreviewFileDialog&) = delete;
     PreviewFileDialog& operator=(const PreviewFileDialog&) = delete;
 
+    /** Offers these types instead of the configuration's, written as for `QFileDialog`: for files
+     * that have no `ZvFileType`. Empty: the configuration's. */
+    void setFilter(const QString& filter);
+
     /** As `FileDialog::getOpenFileName`. A null provider stands for `LastPathProvider`. */
     QString getOpenFileName(PathProvider* provider);
     /** As `FileDialog::getOpenFileNames`. A null provider stands for `LastPathProvider`. */
@@ -55,6 +59,7 @@ private:
     std::shared_ptr<PreviewFileDialogConfiguration> m_configuration;
     std::unique_ptr<PreviewFileDialogEventHandler> m_handler;
     QPointer<QWidget> m_parent;
+    QString m_filter;
 };
 
 } // namespace Zorvane

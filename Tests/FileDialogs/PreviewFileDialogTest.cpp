@@ -82,6 +82,7 @@ private Q_SLOTS:
     void initializesThePreviewOnce();
     void keepsThePreviewHiddenIfTheUserWantsNone();
     void asksForOneFile();
+    void asksForTypesOfTheCaller();
     void asksForSeveralFiles();
     void usesTheLastPathWithoutAProvider();
     void cancelHidesThePreview();
@@ -162,6 +163,22 @@ void PreviewFileDialogTest::asksForOneFile()
     DefaultPathProvider provider;
     QCOMPARE(setup.dialog.getOpenFileName(&provider), file());
     QCOMPARE(QSettings().value(QStringLiteral("LastFile/Import")).toString(), file());
+}
+
+void PreviewFileDialogTest::asksForTypesOfTheCaller()
+{
+    Setup setup;
+    QList<QStringList> names;
+    const auto replacement = dialogOf([&](const NativeFileDialogRequest& request) {
+        names << request.filters.names;
+        return NativeFileDialogResult{};
+    });
+    setup.dialog.setFilter(QStringLiteral("A (*.a);;B (*.b)"));
+    setup.dialog.getOpenFileName(nullptr);
+    QCOMPARE(names.last(), (QStringList{QStringLiteral("A (*.a)"), QStringLiteral("B (*.b)")}));
+    setup.dialog.setFilter(QString());
+    setup.dialog.getOpenFileNames(nullptr);
+    QCOMPARE(names.last().size(), 3);
 }
 
 void PreviewFileDialogTest::asksForSeveralFiles()
