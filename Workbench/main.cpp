@@ -1,10 +1,10 @@
+#include "Host/System/CommandLineParser.h"
 #include "Workbench/Preview/PreviewWorker.h"
 #include "Workbench/Tour/Tour.h"
 #include "Workbench/Window/Appearance.h"
 #include "Workbench/Window/MainWindow.h"
 #include "Workbench/Window/SampleDesigns.h"
 
-#include <QtCore/QCommandLineParser>
 #include <QtCore/QLocale>
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
@@ -71,7 +71,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationVersion(QStringLiteral(ZORVANE_VERSION));
     QApplication::setStyle(QStringLiteral("Fusion"));
 
-    QCommandLineParser parser;
+    QCommandLineParser& parser = Zorvane::CommandLineParser::instance()->options();
     parser.setApplicationDescription(
         QApplication::translate("main", "Looks at sheet-metal forming designs."));
     parser.addHelpOption();
@@ -86,7 +86,7 @@ int main(int argc, char** argv)
                                 "Shows what the program can do and writes pictures to <folder>."),
         QStringLiteral("folder"));
     parser.addOption(tour);
-    parser.process(application);
+    Zorvane::CommandLineParser::instance()->process();
 
     if (parser.isSet(tour))
         return takeTour(application, parser.value(tour), parser.positionalArguments());

@@ -104,6 +104,13 @@ void DesignSession::close()
     Q_EMIT changed();
 }
 
+void DesignSession::replace(const GUIdentifier& designId, const QString& file)
+{
+    m_store.replace(designId, QFileInfo(file).canonicalFilePath());
+    watch();
+    Q_EMIT changed();
+}
+
 Problems DesignSession::problems() const
 {
     Problems all = m_openProblems;

@@ -48,6 +48,8 @@ public:
     void open(const QStringList& paths);
     /** Forgets everything, unsaved changes too. */
     void close();
+    /** Opens the design file in place of the design, whose unsaved changes are dropped. */
+    void replace(const GUIdentifier& designId, const QString& file);
 
     /** Those opened, each followed by the designs that it refers to; each design once. */
     const std::vector<Design>& designs() const { return m_store.designs(); }

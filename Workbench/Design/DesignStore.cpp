@@ -38,6 +38,24 @@ void DesignStore::add(const QString& file)
     arrange();
 }
 
+void DesignStore::replace(const GUIdentifier& designId, const QString& file)
+{
+    const Design* const found = find(designId);
+    if (found == nullptr)
+        return;
+    const QString replaced = found->file;
+    const int place = m_opened.indexOf(replaced);
+    m_opened.removeAll(file);
+    m_opened.insert(place < 0 ? m_opened.size() : place, file);
+    m_opened.removeAll(replaced);
+    m_records.erase(replaced);
+    // If others refer to it, it is read again.
+    m_designs.erase(std::remove_if(m_designs.begin(), m_designs.end(),
+                                   [&](const Design& design) { return design.file == replaced; }),
+                    m_designs.end());
+    arrange();
+}
+
 void DesignStore::clear()
 {
     *this = DesignStore();

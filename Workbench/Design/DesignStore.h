@@ -40,6 +40,8 @@ public:
 
     /** Opens the design file at an absolute path, and those that it refers to. */
     void add(const QString& file);
+    /** Opens the file in place of the design, whose unsaved changes are dropped. */
+    void replace(const GUIdentifier& designId, const QString& file);
     void clear();
 
     const std::vector<Design>& designs() const { return m_designs; }

@@ -7,14 +7,19 @@ QT_BEGIN_NAMESPACE
 class QWidget;
 QT_END_NAMESPACE
 
+namespace Zorvane {
+class PathProvider;
+}
+
 namespace Zorvane::Workbench {
 
 /** What a dialog for choosing files or a folder is to show. */
 struct FileChoice
 {
     QString caption;
-    /** Where it opens; empty: where the system likes. */
-    QString folder;
+    /** Tells by the scope where the dialog opens, and is told what was chosen. Not owned. */
+    PathProvider* paths = nullptr;
+    QString scope;
     /** Entries "description (*.ending ...)", separated by ";;". */
     QString filters;
 };
@@ -33,14 +38,24 @@ public:
     virtual QStringList files(QWidget* parent, const FileChoice& choice) = 0;
     /** The absolute path of a folder; empty when cancelled. */
     virtual QString folder(QWidget* parent, const FileChoice& choice) = 0;
+    /**
+     * The absolute path of a file to write, `fileName` proposed; empty when cancelled. The user has
+     * agreed to replace one that exists.
+     */
+    virtual QString fileToSave(QWidget* parent, const FileChoice& choice,
+                               const QString& fileName) = 0;
+    /** The same for a file in the folder of `path`, which is proposed. */
+    virtual QString fileToSaveBeside(const FileChoice& choice, const QString& path) = 0;
 };
 
-/** Asks by the system's dialogs. */
+/** Asks by the library's dialogs; files are shown beside the dialog while the user selects. */
 class DialogFileChooser : public FileChooser
 {
 public:
     QStringList files(QWidget* parent, const FileChoice& choice) override;
     QString folder(QWidget* parent, const FileChoice& choice) override;
+    QString fileToSave(QWidget* parent, const FileChoice& choice, const QString& fileName) override;
+    QString fileToSaveBeside(const FileChoice& choice, const QString& path) override;
 };
 
 } // namespace Zorvane::Workbench

@@ -8,7 +8,6 @@
 #include "Workbench/Meshes/MeshReader.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QFileInfo>
 
 #include <utility>
 
@@ -67,12 +66,10 @@ QString FileExchange::importFilters() const
 
 void FileExchange::importFiles(const GUIdentifier& designId)
 {
-    PathProvider& paths = pathsOf(designId);
     const QStringList files = m_chooser->files(
-        m_view, {tr("Import Files"), paths.getPathFromScope(s_importScope), importFilters()});
+        m_view, {tr("Import Files"), &pathsOf(designId), s_importScope, importFilters()});
     if (files.isEmpty())
         return;
-    paths.setPathToScope(QFileInfo(files.first()).absolutePath(), s_importScope);
     const ImportOutcome outcome = FileImport(m_session, m_view).run(designId, files);
     tell(outcome.problems);
     if (outcome.files.isEmpty())
@@ -87,12 +84,10 @@ void FileExchange::exportFiles(const GUIdentifier& objectId)
     const QStringList files = FileExport::filesOf(m_session, objectId);
     if (files.isEmpty())
         return;
-    PathProvider& paths = pathsOf(objectId);
-    const QString folder = m_chooser->folder(
-        m_view, {tr("Export to Folder"), paths.getPathFromScope(s_exportScope), {}});
+    const QString folder =
+        m_chooser->folder(m_view, {tr("Export to Folder"), &pathsOf(objectId), s_exportScope, {}});
     if (folder.isEmpty())
         return;
-    paths.setPathToScope(folder, s_exportScope);
     const ExportOutcome outcome = FileExport::run(m_view, files, folder);
     tell(outcome.problems);
     const int count = outcome.copies.size();

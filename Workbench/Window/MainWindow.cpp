@@ -1,6 +1,7 @@
 #include "Workbench/Window/MainWindow.h"
 
 #include "Host/Widgets/ZVMessageBox.h"
+#include "Workbench/Commands/FileCommands.h"
 #include "Workbench/Import/FileExchange.h"
 #include "Workbench/MeshView/MeshView.h"
 #include "Workbench/Meshes/MeshReader.h"
@@ -26,7 +27,6 @@
 #include <QtGui/QScreen>
 #include <QtWidgets/QActionGroup>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
@@ -53,6 +53,7 @@ const QString s_geometryKey = QStringLiteral("Workbench/Geometry");
 const QString s_stateKey = QStringLiteral("Workbench/State");
 const QString s_sidesKey = QStringLiteral("Workbench/Sides");
 constexpr int s_noticeMilliseconds = 8000;
+constexpr char s_mainWindowProperty[] = "MainWindow";
 
 QStringList localPaths(const QMimeData& data)
 {
@@ -71,6 +72,7 @@ MainWindow::MainWindow(QWidget* parent)
     , m_actions(new WindowActions(this))
     , m_factsReader(new FactsReader(m_session, m_loader, this))
     , m_designView(new BaseView(this))
+    , m_fileCommands(new FileCommands(m_session, this))
     , m_exchange(new FileExchange(m_session, m_designView, this))
     , m_filterBar(new FilterBar(this))
     , m_treeView(new QTreeView(this))
@@ -82,6 +84,8 @@ MainWindow::MainWindow(QWidget* parent)
     , m_progress(new ReadingProgress(m_loader, this))
     , m_counts(new QLabel(this))
 {
+    // What the library's dialogs look for: whom to block, and where to open.
+    qApp->setProperty(s_mainWindowProperty, QVariant::fromValue<QWidget*>(this));
     setWindowIcon(QIcon(QStringLiteral(":/workbench/application.svg")));
     setAcceptDrops(true);
     layOut();
@@ -91,10 +95,15 @@ MainWindow::MainWindow(QWidget* parent)
     connectActions();
     connectViewActions();
     connectParts();
+    connectFileCommands();
     showSession();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    if (qApp->property(s_mainWindowProperty).value<QWidget*>() == this)
+        qApp->setProperty(s_mainWindowProperty, QVariant());
+}
 
 void MainWindow::layOut()
 {
@@ -192,7 +201,9 @@ void MainWindow::fillFileMenu()
     file->addSeparator();
     m_actions->addTo(*file, {WindowActions::Import, WindowActions::Export});
     file->addSeparator();
-    m_actions->addTo(*file, {WindowActions::Save, WindowActions::Reload, WindowActions::CloseAll});
+    m_actions->addTo(*file, {WindowActions::Save, WindowActions::SaveAs, WindowActions::SaveCopy});
+    file->addSeparator();
+    m_actions->addTo(*file, {WindowActions::Reload, WindowActions::CloseAll});
     file->addSeparator();
     m_actions->addTo(*file, {WindowActions::Quit});
 }
@@ -268,11 +279,13 @@ void MainWindow::connectActions()
     const auto on = [this](WindowActions::Id id, auto operation) {
         connect((*m_actions)[id], &QAction::triggered, this, operation);
     };
-    on(WindowActions::OpenFiles, &MainWindow::askForFiles);
-    on(WindowActions::OpenFolder, &MainWindow::askForFolder);
+    on(WindowActions::OpenFiles, [this] { m_fileCommands->openFiles(); });
+    on(WindowActions::OpenFolder, [this] { m_fileCommands->openFolder(); });
     on(WindowActions::Import, &MainWindow::importFiles);
     on(WindowActions::Export, &MainWindow::exportFiles);
     on(WindowActions::Save, &MainWindow::saveAll);
+    on(WindowActions::SaveAs, [this] { m_fileCommands->saveAs(currentDesign()); });
+    on(WindowActions::SaveCopy, [this] { m_fileCommands->saveCopy(currentDesign()); });
     on(WindowActions::Reload, &MainWindow::reload);
     on(WindowActions::CloseAll, &MainWindow::closeAll);
     on(WindowActions::Quit, &MainWindow::close);
@@ -386,7 +399,9 @@ void MainWindow::showSession()
     setWindowModified(!subject.isEmpty() && m_session.isModified());
     (*m_actions)[WindowActions::Save]->setEnabled(m_session.isModified());
     const bool something = !designs.empty() || !m_session.looseParts().empty();
-    (*m_actions)[WindowActions::Import]->setEnabled(!designs.empty());
+    for (const WindowActions::Id id :
+         {WindowActions::Import, WindowActions::SaveAs, WindowActions::SaveCopy})
+        (*m_actions)[id]->setEnabled(!designs.empty());
     const bool anything = something || !m_session.problems().empty();
     (*m_actions)[WindowActions::Reload]->setEnabled(anything);
     (*m_actions)[WindowActions::CloseAll]->setEnabled(anything);
@@ -433,21 +448,23 @@ void MainWindow::fitProblemsPanel()
     m_fittedProblemsHeight = m_allAndProblems->sizes().last();
 }
 
-void MainWindow::askForFiles()
+void MainWindow::connectFileCommands()
 {
-    const QStringList endings = QStringList{QStringLiteral("*.dsg")} + MeshReader::nameFilters();
-    const QStringList files = QFileDialog::getOpenFileNames(
-        this, tr("Open Files"), {},
-        tr("Designs and meshes (%1);;All files (*)").arg(endings.join(QLatin1Char(' '))));
-    if (!files.isEmpty())
-        open(files);
+    connect(m_fileCommands, &FileCommands::chosen, this, &MainWindow::open);
+    connect(m_fileCommands, &FileCommands::savedAs, this, [this](const QString& file) {
+        RecentPaths::add(file);
+        m_tree->refreshNow();
+        selectSomething();
+    });
+    connect(m_fileCommands, &FileCommands::failed, m_messageBar, &MessageBar::say);
+    connect(m_fileCommands, &FileCommands::done, this,
+            [this](const QString& text) { statusBar()->showMessage(text, s_noticeMilliseconds); });
 }
 
-void MainWindow::askForFolder()
+/** That of what is selected, else the first; null without designs. */
+GUIdentifier MainWindow::currentDesign() const
 {
-    const QString folder = QFileDialog::getExistingDirectory(this, tr("Open Folder"));
-    if (!folder.isEmpty())
-        open({folder});
+    return m_exchange->targetFor(m_tree->currentId().getCombinedPart());
 }
 
 bool MainWindow::saveAll()

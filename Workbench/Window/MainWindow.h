@@ -20,6 +20,7 @@ namespace Zorvane::Workbench {
 
 class DetailsPanel;
 class FactsReader;
+class FileCommands;
 class FileExchange;
 class FilterBar;
 class MeshPresenter;
@@ -61,6 +62,7 @@ public:
     DesignTree& tree() { return *m_tree; }
     QTreeView& treeView() { return *m_treeView; }
     MeshView& meshView() { return *m_meshView; }
+    FileCommands& fileCommands() { return *m_fileCommands; }
     FileExchange& fileExchange() { return *m_exchange; }
     FilterBar& filterBar() { return *m_filterBar; }
     const ProblemsPanel& problemsPanel() const { return *m_problemsPanel; }
@@ -86,11 +88,11 @@ private:
     void connectActions();
     void connectViewActions();
     void connectParts();
+    void connectFileCommands();
     void addAppearances(QMenu& menu);
     void showRecent(QMenu& menu);
 
-    void askForFiles();
-    void askForFolder();
+    GUIdentifier currentDesign() const;
     bool saveAll();
     bool mayDropChanges();
     void closeAll();
@@ -112,6 +114,7 @@ private:
     WindowActions* m_actions;
     FactsReader* m_factsReader;
     BaseView* m_designView;
+    FileCommands* m_fileCommands;
     FileExchange* m_exchange;
     FilterBar* m_filterBar;
     QTreeView* m_treeView;

@@ -24,6 +24,8 @@ constexpr ActionRow s_actions[] = {
     {WindowActions::Import,        QT_TR_NOOP("&Import…"),             "Ctrl+I",       ""},
     {WindowActions::Export,        QT_TR_NOOP("&Export…"),             "Ctrl+E",       ""},
     {WindowActions::Save,          QT_TR_NOOP("&Save"),                "Ctrl+S",       "save"},
+    {WindowActions::SaveAs,        QT_TR_NOOP("Save &As…"),            "Ctrl+Shift+S", ""},
+    {WindowActions::SaveCopy,      QT_TR_NOOP("Save a Cop&y…"),        "",             ""},
     {WindowActions::Reload,        QT_TR_NOOP("&Reload"),              "F5",           "reload"},
     {WindowActions::CloseAll,      QT_TR_NOOP("&Close All"),           "Ctrl+W",       ""},
     {WindowActions::Quit,          QT_TR_NOOP("&Quit"),                "Ctrl+Q",       ""},

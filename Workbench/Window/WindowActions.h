@@ -25,6 +25,8 @@ public:
         Import,
         Export,
         Save,
+        SaveAs,
+        SaveCopy,
         Reload,
         CloseAll,
         Quit,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Files/PathProvider.h"
 #include "Tests/Workbench/Tree/TreeFixture.h"
 #include "Workbench/Import/FileChooser.h"
 
@@ -53,6 +54,11 @@ public:
         QStringList files;
         QString folder;
         Workbench::FileChoice asked;
+        /** Where a dialog would have opened. */
+        QString opened;
+        /** A file to write, and what was proposed for it. */
+        QString saved;
+        QString proposed;
     };
 
     explicit ScriptedChooser(Script& script)
@@ -61,16 +67,37 @@ public:
 
     QStringList files(QWidget*, const Workbench::FileChoice& choice) override
     {
-        m_script.asked = choice;
+        ask(choice, m_script.files.isEmpty() ? QString() : m_script.files.first());
         return m_script.files;
     }
     QString folder(QWidget*, const Workbench::FileChoice& choice) override
     {
-        m_script.asked = choice;
+        ask(choice, m_script.folder);
         return m_script.folder;
+    }
+    QString fileToSave(QWidget*, const Workbench::FileChoice& choice,
+                       const QString& fileName) override
+    {
+        m_script.proposed = fileName;
+        ask(choice, m_script.saved);
+        return m_script.saved;
+    }
+    QString fileToSaveBeside(const Workbench::FileChoice& choice, const QString& path) override
+    {
+        m_script.proposed = path;
+        ask(choice, m_script.saved);
+        return m_script.saved;
     }
 
 private:
+    /** As dialogs do. */
+    void ask(const Workbench::FileChoice& choice, const QString& chosen)
+    {
+        m_script.asked = choice;
+        m_script.opened = choice.paths->getPathFromScope(choice.scope);
+        choice.paths->setPathToScope(chosen, choice.scope);
+    }
+
     Script& m_script;
 };
 

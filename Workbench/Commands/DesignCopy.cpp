@@ -1,0 +1,150 @@
+#include "Workbench/Commands/DesignCopy.h"
+
+#include "Files/FileCopyUtility.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+
+#include <algorithm>
+#include <map>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+/** New identifiers for old ones, each once. */
+class NewIds
+{
+public:
+    void renew(GUIdentifier& id)
+    {
+        if (id.isNull())
+            return;
+        GUIdentifier& known = m_ids[id];
+        if (known.isNull())
+            known = GUIdentifier::create();
+        id = known;
+    }
+
+    void renew(Tool& tool)
+    {
+        renew(tool.id);
+        renew(tool.geometry);
+    }
+    void renew(Operation& operation)
+    {
+        renew(operation.id);
+        for (Tool& tool : operation.tools)
+            renew(tool);
+    }
+    void renew(Blank& blank)
+    {
+        renew(blank.id);
+        renew(blank.material);
+        renew(blank.geometry);
+    }
+    void renew(Part& part)
+    {
+        renew(part.id);
+        renew(part.geometry);
+    }
+    void renew(Material& material)
+    {
+        renew(material.id);
+        renew(material.file);
+    }
+    void renew(FileReference& file) { renew(file.id); }
+
+    template <typename Piece>
+    void renew(std::vector<Piece>& pieces)
+    {
+        for (Piece& piece : pieces)
+            renew(piece);
+    }
+
+private:
+    std::map<GUIdentifier, GUIdentifier> m_ids;
+};
+
+/** References to files that are there, by the folders that the files lie in. */
+std::map<QString, std::vector<FileReference*>> referencesByFolder(Design& design)
+{
+    std::map<QString, std::vector<FileReference*>> folders;
+    for (FileReference& reference : design.files)
+        if (reference.state == FileState::Exists)
+            folders[QFileInfo(reference.file).absolutePath()].push_back(&reference);
+    return folders;
+}
+
+void referTo(const FileCopyUtility::FileCopyInfo& copy, const std::vector<FileReference*>& files)
+{
+    for (FileReference* reference : files)
+        if (reference->file == copy.source)
+            reference->path =
+                QFileInfo(reference->path).dir().filePath(QFileInfo(copy.target).fileName());
+}
+
+/** Whether each of the files has one of its name in the folder. */
+bool areIn(const QString& folder, const std::vector<FileReference*>& files)
+{
+    return std::all_of(files.begin(), files.end(), [&folder](const FileReference* reference) {
+        return QFileInfo::exists(QDir(folder).filePath(QFileInfo(reference->path).fileName()));
+    });
+}
+
+} // namespace
+
+Design DesignCopy::of(const Design& design, const QString& file)
+{
+    Design copy = design;
+    copy.file = file;
+    NewIds ids;
+    ids.renew(copy.id);
+    if (copy.blank)
+        ids.renew(*copy.blank);
+    ids.renew(copy.parts);
+    ids.renew(copy.operations);
+    ids.renew(copy.materials);
+    ids.renew(copy.files);
+    return copy;
+}
+
+QString DesignCopy::proposedFile(const QString& designFile)
+{
+    const QFileInfo info(designFile);
+    const QDir folder = info.dir();
+    for (int number = 1;; ++number) {
+        const QString name = number == 1
+                                 ? tr("%1 copy").arg(info.completeBaseName())
+                                 : tr("%1 copy %2").arg(info.completeBaseName()).arg(number);
+        const QString file = folder.filePath(name + QStringLiteral(".dsg"));
+        if (!QFileInfo::exists(file))
+            return file;
+    }
+}
+
+std::optional<Problem> DesignCopy::bringFiles(QWidget* parent, Design& design, const QString& from)
+{
+    const QDir target = QFileInfo(design.file).dir();
+    if (QFileInfo(from).canonicalFilePath() == QFileInfo(target.path()).canonicalFilePath())
+        return std::nullopt;
+    for (const auto& [folder, references] : referencesByFolder(design)) {
+        const QString place = target.filePath(QDir(from).relativeFilePath(folder));
+        if (!QDir().mkpath(place))
+            return Problem{place, {}, tr("cannot be made a folder")};
+        QStringList files;
+        for (const FileReference* reference : references)
+            files << reference->file;
+        files.removeDuplicates();
+        int code = 0;
+        FileCopyUtility utility(parent, files, place);
+        for (const FileCopyUtility::FileCopyInfo& copy : utility.copyFiles(code))
+            if (copy.status == FileCopyUtility::CopiedUnderOtherName)
+                referTo(copy, references);
+        if (code != 0 || !areIn(place, references))
+            return Problem{place, {}, tr("not all files of the design were copied to it")};
+    }
+    return std::nullopt;
+}
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,127 @@
+#include "Workbench/Commands/FileCommands.h"
+
+#include "Files/DesignPathProvider.h"
+#include "Files/LastPathProvider.h"
+#include "Workbench/Commands/DesignCopy.h"
+#include "Workbench/Design/DesignSession.h"
+#include "Workbench/Design/DesignWriter.h"
+#include "Workbench/Meshes/MeshReader.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+
+#include <utility>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+const QString s_scope = QStringLiteral("Design");
+const QString s_pattern = QStringLiteral("*.dsg");
+
+QString openFilters()
+{
+    const QStringList meshes = MeshReader::nameFilters();
+    const QStringList all = QStringList{s_pattern} + meshes;
+    return FileCommands::tr("Designs and meshes (%1)").arg(all.join(QLatin1Char(' '))) +
+           FileCommands::tr(";;Designs (%1)").arg(s_pattern) +
+           FileCommands::tr(";;Meshes (%1)").arg(meshes.join(QLatin1Char(' '))) +
+           FileCommands::tr(";;All files (*)");
+}
+
+FileChoice choiceFor(const Design& design, const QString& caption)
+{
+    return {caption, DesignPathProvider::getInstance(design.id, FileName(design.file)), s_scope,
+            FileCommands::tr("Designs (%1)").arg(s_pattern)};
+}
+
+} // namespace
+
+FileCommands::FileCommands(DesignSession& session, QWidget* window)
+    : QObject(window)
+    , m_session(session)
+    , m_window(window)
+    , m_chooser(std::make_unique<DialogFileChooser>())
+{}
+
+FileCommands::~FileCommands() = default;
+
+void FileCommands::setFileChooser(std::unique_ptr<FileChooser> chooser)
+{
+    m_chooser = std::move(chooser);
+}
+
+void FileCommands::openFiles()
+{
+    const QStringList files = m_chooser->files(
+        m_window, {tr("Open Files"), LastPathProvider::getInstance(), s_scope, openFilters()});
+    if (!files.isEmpty())
+        Q_EMIT chosen(files);
+}
+
+void FileCommands::openFolder()
+{
+    const QString folder = m_chooser->folder(
+        m_window, {tr("Open Folder"), LastPathProvider::getInstance(), s_scope, {}});
+    if (!folder.isEmpty())
+        Q_EMIT chosen({folder});
+}
+
+bool FileCommands::saveAs(const GUIdentifier& objectId)
+{
+    const Design* design = m_session.findDesign(objectId);
+    if (design == nullptr)
+        return false;
+    const QString target = m_chooser->fileToSave(m_window, choiceFor(*design, tr("Save Design As")),
+                                                 QFileInfo(design->file).fileName());
+    design = m_session.findDesign(objectId);
+    if (target.isEmpty() || design == nullptr)
+        return false;
+    std::optional<Problem> obstacle = obstacleTo(target);
+    Design copy = DesignCopy::of(*design, target);
+    const GUIdentifier replaced = design->id;
+    if (!obstacle)
+        obstacle = DesignCopy::bringFiles(m_window, copy, design->folder());
+    if (!write(copy, obstacle))
+        return false;
+    m_session.replace(replaced, target);
+    Q_EMIT savedAs(target);
+    Q_EMIT done(tr("Saved as %1").arg(QDir::toNativeSeparators(target)));
+    return true;
+}
+
+bool FileCommands::saveCopy(const GUIdentifier& objectId)
+{
+    const Design* design = m_session.findDesign(objectId);
+    if (design == nullptr)
+        return false;
+    const QString target = m_chooser->fileToSaveBeside(choiceFor(*design, tr("Save a Copy")),
+                                                       DesignCopy::proposedFile(design->file));
+    design = m_session.findDesign(objectId);
+    if (target.isEmpty() || design == nullptr ||
+        !write(DesignCopy::of(*design, target), obstacleTo(target)))
+        return false;
+    Q_EMIT done(tr("A copy is saved as %1").arg(QDir::toNativeSeparators(target)));
+    return true;
+}
+
+std::optional<Problem> FileCommands::obstacleTo(const QString& target) const
+{
+    const QFileInfo info(target);
+    if (info.suffix().compare(QLatin1String("dsg"), Qt::CaseInsensitive) != 0)
+        return Problem{target, {}, tr("is no name for a design: it must end with .dsg")};
+    for (const Design& open : m_session.designs())
+        if (info.exists() && info.canonicalFilePath() == QFileInfo(open.file).canonicalFilePath())
+            return Problem{target, {}, tr("is open here and is not replaced")};
+    return std::nullopt;
+}
+
+bool FileCommands::write(const Design& copy, const std::optional<Problem>& obstacle)
+{
+    const std::optional<Problem> problem = obstacle ? obstacle : DesignWriter::write(copy);
+    if (problem)
+        Q_EMIT failed(problem->text());
+    return !problem;
+}
+
+} // namespace Zorvane::Workbench

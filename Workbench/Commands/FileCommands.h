@@ -1,0 +1,62 @@
+#pragma once
+
+#include "Host/Identifiers/GUIdentifier.h"
+#include "Workbench/Design/Problem.h"
+#include "Workbench/Import/FileChooser.h"
+
+#include <QtCore/QObject>
+#include <QtWidgets/QWidget>
+
+#include <memory>
+#include <optional>
+
+namespace Zorvane::Workbench {
+
+struct Design;
+class DesignSession;
+
+/**
+ * The commands of the File menu that ask for files: open, save under another name, save a copy.
+ * Session and window must outlive it.
+ */
+class FileCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    FileCommands(DesignSession& session, QWidget* window);
+    ~FileCommands() override;
+
+    void setFileChooser(std::unique_ptr<FileChooser> chooser);
+
+    /** Asks for designs and meshes, which are shown beside the dialog. */
+    void openFiles();
+    /** Asks for a folder. */
+    void openFolder();
+    /**
+     * Writes the design of the object, unsaved changes included, to another file, and goes on with
+     * that: its files come along into another folder. The design that it was is closed as it lies
+     * on the disk. False if nothing was saved: the user gave up, or it failed, which is told.
+     */
+    bool saveAs(const GUIdentifier& objectId);
+    /** Writes a copy of the design beside it, unsaved changes included; the session stays as is. */
+    bool saveCopy(const GUIdentifier& objectId);
+
+Q_SIGNALS:
+    /** What the user wants to have opened. */
+    void chosen(const QStringList& paths);
+    /** The design of this file replaces the other one in the session. */
+    void savedAs(const QString& file);
+    void done(const QString& text);
+    void failed(const QString& text);
+
+private:
+    std::optional<Problem> obstacleTo(const QString& target) const;
+    bool write(const Design& copy, const std::optional<Problem>& obstacle);
+
+    DesignSession& m_session;
+    QWidget* m_window;
+    std::unique_ptr<FileChooser> m_chooser;
+};
+
+} // namespace Zorvane::Workbench
