@@ -138,13 +138,15 @@ void ConfiguredFileDialog::addControls()
     rows->getItemPosition(rows->indexOf(buttons), &row, &column, &rowSpan, &columnSpan);
     rows->removeWidget(buttons);
 
-    auto* besideButtons = new QHBoxLayout;
+    auto* besideButtons = new QGridLayout;
     m_controls = new CustomControls(this);
     m_controls->add(*m_configuration, *rows, *besideButtons);
     setTabOrder(findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), types);
     m_controls->followInTabOrder(types);
-    besideButtons->addWidget(buttons);
-    rows->addLayout(besideButtons, row, column, rowSpan, columnSpan);
+    auto* corner = new QHBoxLayout;
+    corner->addLayout(besideButtons);
+    corner->addWidget(buttons);
+    rows->addLayout(corner, row, column, rowSpan, columnSpan);
 }
 
 void ConfiguredFileDialog::connectEvents()

@@ -18,6 +18,17 @@ QLabel* makeLabel(const QString& text, QWidget* control, QWidget* dialog)
     return label;
 }
 
+void addRow(QGridLayout& rows, QWidget* label, QWidget* control, bool isWide)
+{
+    const int row = rows.rowCount();
+    if (label)
+        rows.addWidget(label, row, 0);
+    if (control && isWide)
+        rows.addWidget(control, row, 0, 1, 2, Qt::AlignLeft);
+    else if (control)
+        rows.addWidget(control, row, 1, Qt::AlignLeft);
+}
+
 } // namespace
 
 CustomControls::CustomControls(QWidget* dialog)
@@ -25,34 +36,31 @@ CustomControls::CustomControls(QWidget* dialog)
     , m_dialog(dialog)
 {}
 
-void CustomControls::add(const FileDialogConfiguration& configuration, QGridLayout& rows,
-                         QBoxLayout& prominent)
+void CustomControls::add(const FileDialogConfiguration& configuration, QGridLayout& below,
+                         QGridLayout& besideButtons)
 {
     for (int i = 0; i < configuration.numberOfcustomControls(); ++i) {
         const Item& item = configuration.getCustomControl(i);
-        const int row = rows.rowCount();
-        const auto place = [&](QWidget* widget, int column) {
-            if (item.prominent)
-                prominent.addWidget(widget);
-            else
-                rows.addWidget(widget, row, column, column == 0 ? Qt::Alignment() : Qt::AlignLeft);
-        };
-        QList<QWidget*> widgets;
         QWidget* control = makeControl(item);
-        if (!item.groupLabel.isEmpty()) {
-            widgets << makeLabel(item.groupLabel, control, m_dialog);
-            place(widgets.last(), 0);
-        }
-        if (control) {
-            widgets << control;
+        QLabel* label =
+            item.groupLabel.isEmpty() ? nullptr : makeLabel(item.groupLabel, control, m_dialog);
+        // Below the list, the second column lines up with the dialog's own fields.
+        const bool isWide = item.prominent && !label;
+        addRow(item.prominent ? besideButtons : below, label, control, isWide);
+        if (control)
             m_controls << control;
-            place(control, 1);
-        }
-        for (const int id : {item.controlId, s_firstGroupId + i}) {
-            if (!m_widgets.contains(id))
-                m_widgets.insert(id, widgets);
-        }
+        remember({item.controlId, s_firstGroupId + i}, label, control);
         setState(s_firstGroupId + i, item.controlState);
+    }
+}
+
+void CustomControls::remember(std::initializer_list<int> ids, QWidget* label, QWidget* control)
+{
+    QList<QWidget*> widgets{label, control};
+    widgets.removeAll(nullptr);
+    for (const int id : ids) {
+        if (!m_widgets.contains(id))
+            m_widgets.insert(id, widgets);
     }
 }
 

@@ -6,7 +6,8 @@
 #include <QtCore/QList>
 #include <QtCore/QObject>
 
-class QBoxLayout;
+#include <initializer_list>
+
 class QGridLayout;
 class QWidget;
 
@@ -24,12 +25,9 @@ class CustomControls : public QObject
 public:
     explicit CustomControls(QWidget* dialog);
 
-    /**
-     * Adds a row a control to the grid, labels in its first column, and the prominent ones to the
-     * other layout. At most once.
-     */
-    void add(const FileDialogConfiguration& configuration, QGridLayout& rows,
-             QBoxLayout& prominent);
+    /** Adds a row a control to one of the grids, with labels in the first column. At most once. */
+    void add(const FileDialogConfiguration& configuration, QGridLayout& below,
+             QGridLayout& besideButtons);
     /**
      * Sets `FileDialogConfiguration::ControlState` flags of a control, or of a group by 201 + its
      * index. A label goes with its control. An unknown identifier changes nothing.
@@ -48,6 +46,8 @@ private:
     QWidget* makeControl(const Item& item);
     QWidget* makeCheckBox(const Item& item);
     QWidget* makeComboBox(const Item& item);
+    /** The first of an identifier keeps it. */
+    void remember(std::initializer_list<int> ids, QWidget* label, QWidget* control);
 
     QWidget* const m_dialog;
     QHash<int, QList<QWidget*>> m_widgets;
