@@ -107,6 +107,8 @@ struct Part
     QString name;
     /** The file reference with the mesh; null for a mesh file opened by itself. */
     GUIdentifier geometry;
+    /** Of a material of the design; may be null. */
+    GUIdentifier material;
     /** Of its sheet, in millimetres; 0 when not told. */
     double thickness = 0;
     /** That forming it takes, in newtons; 0 when not told. */

@@ -112,6 +112,7 @@ std::optional<Part> PieceReader::part(const JsonFields& fields)
     std::optional<Part> part = piece<Part>(fields);
     if (part) {
         part->geometry = link(fields, QStringLiteral("geometry"));
+        part->material = link(fields, QStringLiteral("material"));
         part->thickness = fields.size(QStringLiteral("thickness"));
         part->force = fields.size(QStringLiteral("force"));
     }

@@ -50,6 +50,7 @@ QJsonObject toObject(const Part& part)
 {
     QJsonObject object = common(part);
     putId(object, QStringLiteral("geometry"), part.geometry);
+    putId(object, QStringLiteral("material"), part.material);
     putNumber(object, QStringLiteral("thickness"), part.thickness);
     putNumber(object, QStringLiteral("force"), part.force);
     return object;

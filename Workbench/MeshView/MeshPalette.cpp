@@ -13,4 +13,15 @@ MeshColours meshColours(bool dark)
     // clang-format on
 }
 
+MeshColours meshColours(bool dark, const QColor& outside)
+{
+    MeshColours colours = meshColours(dark);
+    if (!outside.isValid())
+        return colours;
+    colours.outside = outside;
+    const QColor hsl = outside.toHsl();
+    colours.inside = QColor::fromHsl(hsl.hslHue(), hsl.hslSaturation() / 2, dark ? 140 : 175);
+    return colours;
+}
+
 } // namespace Zorvane::Workbench

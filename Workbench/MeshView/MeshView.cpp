@@ -31,8 +31,10 @@ bool isDark(const QPalette& palette)
 
 MeshView::MeshView(QWidget* parent)
     : QWidget(parent)
+    , m_legend(new MeshLegend(this))
     , m_message(tr("Select a part to see its mesh."))
 {
+    connect(m_legend, &MeshLegend::chosen, this, &MeshView::objectChosen);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -43,9 +45,14 @@ MeshView::MeshView(QWidget* parent)
     describe();
 }
 
-void MeshView::setMesh(std::shared_ptr<const TriangleMesh> mesh, const QString& title)
+void MeshView::setMesh(std::shared_ptr<const TriangleMesh> mesh, const QString& title,
+                       const QColor& colour)
 {
     m_title = title;
+    if (colour != m_colour) {
+        m_colour = colour;
+        m_picture = {};
+    }
     if (mesh != m_drawable.mesh) {
         m_drawable = prepareForDrawing(std::move(mesh));
         m_fastPictureTime = 0;
@@ -61,8 +68,25 @@ void MeshView::showMessage(const QString& message)
     m_drawable = {};
     m_title.clear();
     m_message = message;
+    setLegend({});
     describe();
     redraw(false);
+}
+
+void MeshView::setLegend(const std::vector<LegendEntry>& entries)
+{
+    m_legend->setEntries(entries);
+    placeLegend();
+    update();
+}
+
+void MeshView::placeLegend()
+{
+    const QRect area = rect().adjusted(14, 10, -14, -10);
+    const bool toTheLeft = layoutDirection() == Qt::RightToLeft;
+    const int width = area.width() / 2;
+    m_legend->fitInto(QRect(toTheLeft ? area.left() : area.right() + 1 - width, area.top(), width,
+                            area.height() / 2));
 }
 
 void MeshView::describe()
@@ -144,7 +168,7 @@ void MeshView::renderIfNeeded()
     QElapsedTimer timer;
     timer.start();
     const ViewTransform view = m_camera.transform(QSizeF(size()));
-    const MeshColours colours = meshColours(isDark(palette()));
+    const MeshColours colours = meshColours(isDark(palette()), m_colour);
     if (m_moving && m_fastPictureTime > s_slowMilliseconds) {
         const QImage coarse =
             renderMesh(m_rasterizer, m_drawable, view.scaled(ratio / 2), pixels / 2, colours, 1);
@@ -180,7 +204,11 @@ void MeshView::paintOverlay(QPainter& painter) const
                          m_message);
         return;
     }
-    const QRect text = rect().adjusted(14, 10, -14, -10);
+    QRect text = rect().adjusted(14, 10, -14, -10);
+    if (!m_legend->isHidden())
+        text.setWidth(std::max(0, text.width() - m_legend->width() - 10));
+    if (layoutDirection() == Qt::RightToLeft)
+        text.moveRight(rect().right() - 14);
     QFont bold = painter.font();
     bold.setBold(true);
     painter.setFont(bold);
@@ -198,6 +226,7 @@ void MeshView::resizeEvent(QResizeEvent*)
 {
     if (m_fitted)
         m_camera.fit(m_drawable.box, size());
+    placeLegend();
     redraw(false);
 }
 
@@ -206,6 +235,9 @@ void MeshView::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
         redraw(false);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange ||
+        event->type() == QEvent::LayoutDirectionChange)
+        placeLegend();
 }
 
 void MeshView::focusInEvent(QFocusEvent*)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Workbench/MeshView/DrawableMesh.h"
+#include "Workbench/MeshView/MeshLegend.h"
 #include "Workbench/MeshView/OrbitCamera.h"
 #include "Workbench/MeshView/Rasterizer.h"
 
@@ -27,11 +28,19 @@ class MeshView : public QWidget
 public:
     explicit MeshView(QWidget* parent = nullptr);
 
-    /** Shows the mesh, fitted when it is another one than before. `title` names it on screen. */
-    void setMesh(std::shared_ptr<const TriangleMesh> mesh, const QString& title);
+    /**
+     * Shows the mesh, fitted when it is another one than before. `title` names it on screen; an
+     * invalid colour takes that of meshes that belong to no object.
+     */
+    void setMesh(std::shared_ptr<const TriangleMesh> mesh, const QString& title,
+                 const QColor& colour = {});
+    /** Tells beside the mesh which object has which colour; empty for no legend. */
+    void setLegend(const std::vector<LegendEntry>& entries);
     /** Shows a text in place of a mesh. */
     void showMessage(const QString& message);
 
+    const QColor& colour() const { return m_colour; }
+    const MeshLegend& legend() const { return *m_legend; }
     bool hasMesh() const { return !m_drawable.isEmpty(); }
     const OrbitCamera& camera() const { return m_camera; }
     void setDirection(ViewDirection direction);
@@ -48,6 +57,8 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void cameraChanged();
+    /** The user wants an object of the legend. */
+    void objectChosen(const Zorvane::IDCombiner& id);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -76,9 +87,12 @@ private:
     void renderIfNeeded();
     void paintOverlay(QPainter& painter) const;
     void describe();
+    void placeLegend();
 
     DrawableMesh m_drawable;
     QString m_title;
+    QColor m_colour;
+    MeshLegend* m_legend;
     QString m_message;
     OrbitCamera m_camera;
     Rasterizer m_rasterizer;

@@ -142,16 +142,11 @@ const DesignCatalog::Entries& DesignCatalog::entries() const
     m_outdated = false;
     m_entries.clear();
     m_order.clear();
+    m_colours.follow(m_session);
     for (const Design& design : m_session.designs())
         addDesign(design);
-    for (const Part& part : m_session.looseParts()) {
-        CatalogEntry entry{ObjectKind::Part, part.name, tr("Mesh"), part.file, part.file};
-        entry.hasFile = true;
-        entry.isMesh = true;
-        entry.fileState = part.state;
-        m_entries.emplace(part.id, std::move(entry));
-        m_order.push_back(part.id);
-    }
+    for (const Part& part : m_session.looseParts())
+        addLoosePart(part);
     return m_entries;
 }
 
@@ -171,6 +166,7 @@ void DesignCatalog::add(const GUIdentifier& id, CatalogEntry entry, const Design
         entry.path = design.file;
         entry.changedOnDisk = m_session.hasConflict(id);
     }
+    entry.colour = m_colours.colourOf(id);
     // The first of equal ids stands, as it does in the session's own look-ups.
     if (m_entries.emplace(id, std::move(entry)).second)
         m_order.push_back(id);
@@ -184,36 +180,125 @@ void DesignCatalog::addDesign(const Design& design) const
         return m_session.isModified(id);
     });
     add(design.id, std::move(head), design, nullptr);
-    if (design.blank) {
-        const Blank& blank = *design.blank;
-        CatalogEntry entry{ObjectKind::Blank, blank.name, tr("Blank")};
-        if (blank.thickness > 0)
-            entry.particulars.emplace_back(
-                tr("Thickness"), tr("%1 mm").arg(QLocale().toString(blank.thickness, 'g', 4)));
-        if (const QString* material = design.findName(blank.material))
-            entry.particulars.emplace_back(tr("Material"), *material);
-        add(blank.id, std::move(entry), design, design.findGeometry(blank.id));
+    addBlank(design);
+    addParts(design);
+    addOperations(design);
+    addMaterialsAndFiles(design);
+    linkObjects(design);
+}
+
+void DesignCatalog::addQuantities(CatalogEntry& entry, const GUIdentifier& id,
+                                  const Design& design) const
+{
+    for (const Quantity quantity : s_quantities) {
+        const double* value = design.findQuantity(id, quantity);
+        if (value != nullptr && *value > 0)
+            entry.particulars.emplace_back(quantityName(quantity), quantityText(quantity, *value));
     }
-    for (const Part& part : design.parts)
-        add(part.id, {ObjectKind::Part, part.name, tr("Part")}, design,
-            design.findGeometry(part.id));
+}
+
+void DesignCatalog::addBlank(const Design& design) const
+{
+    if (!design.blank)
+        return;
+    const Blank& blank = *design.blank;
+    CatalogEntry entry{ObjectKind::Blank, blank.name, tr("Blank")};
+    addQuantities(entry, blank.id, design);
+    if (const QString* material = design.findName(blank.material))
+        entry.particulars.emplace_back(tr("Material"), *material);
+    add(blank.id, std::move(entry), design, design.findGeometry(blank.id));
+}
+
+void DesignCatalog::addParts(const Design& design) const
+{
+    for (const Part& part : design.parts) {
+        CatalogEntry entry{ObjectKind::Part, part.name, tr("Part")};
+        addQuantities(entry, part.id, design);
+        if (const QString* material = design.findName(part.material))
+            entry.particulars.emplace_back(tr("Material"), *material);
+        add(part.id, std::move(entry), design, design.findGeometry(part.id));
+    }
+}
+
+void DesignCatalog::addOperations(const Design& design) const
+{
     for (const Operation& operation : design.operations) {
-        add(operation.id,
-            {ObjectKind::Operation, operation.name,
-             wordText(s_operationWords, operation.kind, tr("Operation"))},
-            design, nullptr);
+        CatalogEntry head{ObjectKind::Operation, operation.name,
+                          wordText(s_operationWords, operation.kind, tr("Operation"))};
+        addQuantities(head, operation.id, design);
+        add(operation.id, std::move(head), design, nullptr);
         for (const Tool& tool : operation.tools) {
             CatalogEntry entry{ObjectKind::Tool, tool.name,
                                wordText(s_toolWords, tool.kind, tr("Tool"))};
+            addQuantities(entry, tool.id, design);
             entry.particulars.emplace_back(tr("Operation"), operation.name);
             add(tool.id, std::move(entry), design, design.findGeometry(tool.id));
         }
     }
+}
+
+void DesignCatalog::addMaterialsAndFiles(const Design& design) const
+{
     for (const Material& material : design.materials)
         add(material.id, {ObjectKind::Material, material.name, tr("Material")}, design,
             design.findFile(material.file));
     for (const FileReference& file : design.files)
         add(file.id, {ObjectKind::File, file.name, fileKindText(file.kind)}, design, &file);
+}
+
+void DesignCatalog::addLoosePart(const Part& part) const
+{
+    CatalogEntry entry{ObjectKind::Part, part.name, tr("Mesh"), part.file, part.file};
+    entry.hasFile = true;
+    entry.isMesh = true;
+    entry.fileState = part.state;
+    entry.colour = m_colours.colourOf(part.id);
+    m_entries.emplace(part.id, std::move(entry));
+    m_order.push_back(part.id);
+}
+
+void DesignCatalog::linkObjects(const Design& design) const
+{
+    if (design.blank)
+        linkBody(design, design.blank->id, design.blank->geometry, design.blank->material);
+    for (const Part& part : design.parts)
+        linkBody(design, part.id, part.geometry, part.material);
+    for (const Operation& operation : design.operations)
+        for (const Tool& tool : operation.tools)
+            linkBody(design, tool.id, tool.geometry, {});
+    for (const Material& material : design.materials)
+        link(material.id, material.file);
+}
+
+void DesignCatalog::linkBody(const Design& design, const GUIdentifier& body,
+                             const GUIdentifier& geometry, const GUIdentifier& material) const
+{
+    refer(body, geometry);
+    refer(body, material);
+    for (const Material& candidate : design.materials)
+        if (candidate.id == material)
+            refer(body, candidate.file);
+}
+
+void DesignCatalog::refer(const GUIdentifier& body, const GUIdentifier& to) const
+{
+    if (link(body, to))
+        m_entries.at(to).referrers.push_back(body);
+}
+
+/** Both ways; false when the link leads nowhere or is there already. */
+bool DesignCatalog::link(const GUIdentifier& from, const GUIdentifier& to) const
+{
+    const auto source = m_entries.find(from);
+    const auto target = m_entries.find(to);
+    if (source == m_entries.end() || target == m_entries.end() || source == target)
+        return false;
+    std::vector<IDCombiner>& links = source->second.links;
+    if (std::find(links.begin(), links.end(), IDCombiner(to)) != links.end())
+        return false;
+    links.push_back(to);
+    target->second.links.push_back(from);
+    return true;
 }
 
 QString DesignCatalog::fileKindText(FileKind kind)

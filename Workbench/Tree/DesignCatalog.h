@@ -5,6 +5,7 @@
 #include "Workbench/Design/Design.h"
 #include "Workbench/Meshes/MeshLoader.h"
 #include "Workbench/Tree/ObjectKind.h"
+#include "Workbench/Tree/PartColours.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QObject>
@@ -35,6 +36,12 @@ struct CatalogEntry
     bool changedOnDisk = false;
     /** Such as "Thickness" and "0.8 mm", translated; beyond what every object has. */
     std::vector<std::pair<QString, QString>> particulars{};
+    /** Invalid for all but blanks, parts and tools. */
+    QColor colour{};
+    /** The blanks, parts and tools that need this material or file, also by their material. */
+    std::vector<IDCombiner> referrers{};
+    /** What a user may go to from here: what this object needs, and what needs it. */
+    std::vector<IDCombiner> links{};
 };
 
 /**
@@ -71,6 +78,17 @@ private:
     const Entries& entries() const;
     static QString fileKindText(FileKind kind);
     void addDesign(const Design& design) const;
+    void addBlank(const Design& design) const;
+    void addParts(const Design& design) const;
+    void addOperations(const Design& design) const;
+    void addMaterialsAndFiles(const Design& design) const;
+    void addLoosePart(const Part& part) const;
+    void addQuantities(CatalogEntry& entry, const GUIdentifier& id, const Design& design) const;
+    void linkObjects(const Design& design) const;
+    void linkBody(const Design& design, const GUIdentifier& body, const GUIdentifier& geometry,
+                  const GUIdentifier& material) const;
+    bool link(const GUIdentifier& from, const GUIdentifier& to) const;
+    void refer(const GUIdentifier& body, const GUIdentifier& to) const;
     void add(const GUIdentifier& id, CatalogEntry entry, const Design& design,
              const FileReference* file) const;
 
@@ -78,6 +96,7 @@ private:
     const MeshLoader& m_loader;
     mutable Entries m_entries;
     mutable std::vector<IDCombiner> m_order;
+    mutable PartColours m_colours;
     mutable bool m_outdated = true;
 };
 

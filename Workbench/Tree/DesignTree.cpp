@@ -4,10 +4,12 @@
 #include "Host/Widgets/ZVTreeViewPlaceKeeper.h"
 #include "TreeModel/ModelItemFilterCombiner.h"
 #include "TreeModel/ZVTreeItemDataProviderManager.h"
+#include "Utilities/ReferenceIndicatorDelegate.h"
 #include "Workbench/Design/DesignSession.h"
 #include "Workbench/Tree/DesignTreeDelegate.h"
 #include "Workbench/Tree/KindFilter.h"
 #include "Workbench/Tree/NameFilter.h"
+#include "Workbench/MeshView/PartIcon.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QHeaderView>
@@ -91,6 +93,8 @@ void DesignTree::attach(QTreeView* view)
     m_view = view;
     view->setModel(&m_model);
     view->setItemDelegate(new DesignTreeDelegate(view));
+    view->setItemDelegateForColumn(TreeColumn::UsedBy, new ReferenceIndicatorDelegate(view));
+    view->setIconSize(partIconSize(s_rowIconSize));
     view->setUniformRowHeights(true);
     view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::DoubleClicked);

@@ -13,11 +13,15 @@
 #include "Workbench/Tree/ChosenRowsDataProvider.h"
 #include "Workbench/Tree/DesignPipeline.h"
 #include "Workbench/Tree/FactTexts.h"
+#include "Workbench/MeshView/PartIcon.h"
+#include "Workbench/Tree/ReferenceDataProvider.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QLocale>
 #include <QtGui/QFont>
 #include <QtGui/QIcon>
+
+#include <map>
 
 namespace Zorvane::Workbench {
 
@@ -28,6 +32,10 @@ using namespace GenericTreeViewModelHandling;
 constexpr std::array<ObjectKind, 7> s_kindsWithIcons{
     ObjectKind::Design, ObjectKind::Part,     ObjectKind::Blank, ObjectKind::Operation,
     ObjectKind::Tool,   ObjectKind::Material, ObjectKind::File};
+
+/** Those whose objects have colours. */
+constexpr std::array<ObjectKind, 3> s_colouredKinds{ObjectKind::Part, ObjectKind::Blank,
+                                                    ObjectKind::Tool};
 
 class GroupNames : public ZVTextProviderInterface
 {
@@ -91,6 +99,7 @@ QStringList treeColumnTitles()
     };
     return {text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Name")),
             text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Kind")),
+            text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Used by")),
             text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Triangles")),
             text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Size in mm")),
             text(QT_TRANSLATE_NOOP("Zorvane::Workbench::DesignTree", "Surface in mm²")),
@@ -109,6 +118,7 @@ RowDecoration::RowDecoration(const DesignSession& session, const DesignCatalog& 
     addTexts();
     addFactTexts();
     addIcons();
+    addReferences();
     addStates();
     addLooks();
 }
@@ -183,6 +193,9 @@ void RowDecoration::addIcons()
     std::vector<QIcon> icons;
     for (const ObjectKind kind : s_kindsWithIcons)
         icons.push_back(createSvgIcon(iconPath(kind)));
+    for (const ObjectKind kind : s_colouredKinds)
+        for (const QColor& colour : PartColours::palette())
+            icons.push_back(partIcon(createSvgIcon(iconPath(kind)), colour));
     m_icons->setIcons(icons);
     m_icons->setDefaultIcon(createSvgIcon(QStringLiteral(":/workbench/group.svg")));
     m_manager->addProvider(m_icons);
@@ -216,10 +229,24 @@ void RowDecoration::addLooks()
                                                               Qt::FontRole, bold));
 }
 
+void RowDecoration::addReferences()
+{
+    m_manager->addProvider(std::make_shared<ReferenceDataProvider>(m_catalog, TreeColumn::UsedBy));
+}
+
 void RowDecoration::objectsChanged()
 {
     for (std::size_t index = 0; index < s_kindsWithIcons.size(); ++index)
         m_icons->setIdsForIcon(m_catalog.idsOf(s_kindsWithIcons[index]), index);
+    const PartColours::Palette& palette = PartColours::palette();
+    std::size_t index = s_kindsWithIcons.size();
+    for (const ObjectKind kind : s_colouredKinds) {
+        std::map<int, std::vector<IDCombiner>> idsByColour;
+        for (const IDCombiner& id : m_catalog.idsOf(kind))
+            idsByColour[PartColours::colorId(m_catalog.find(id)->colour)].push_back(id);
+        for (const QColor& colour : palette)
+            m_icons->setIdsForIcon(idsByColour[PartColours::colorId(colour)], index++);
+    }
 }
 
 void RowDecoration::factsChanged()

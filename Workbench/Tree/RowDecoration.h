@@ -25,6 +25,8 @@ enum Column
 {
     Name,
     Kind,
+    /** Patches of those that refer to a material or file. */
+    UsedBy,
     Triangles,
     Size,
     Surface,
@@ -37,6 +39,9 @@ enum Column
 Qt::Alignment treeColumnAlignment(int column);
 /** Titles of the columns, translated. */
 QStringList treeColumnTitles();
+
+/** Pictures in front of names are this high, in logical pixels. */
+constexpr int s_rowIconSize = 16;
 
 /** Column 0: `ZVWidgetStatus::Stati` of the row as an int. */
 constexpr int s_statiRole = Qt::UserRole + 1;
@@ -70,6 +75,7 @@ private:
     void addTexts();
     void addFactTexts();
     void addIcons();
+    void addReferences();
     void addStates();
     void addLooks();
     void addForObjects(std::shared_ptr<Provider> provider);

@@ -2,6 +2,8 @@
 
 #include "Host/Widgets/ZVMessageBox.h"
 #include "Workbench/Commands/FileCommands.h"
+#include "Workbench/Edit/QuantityPanel.h"
+#include "Workbench/Edit/ReferenceMenu.h"
 #include "Workbench/Import/FileExchange.h"
 #include "Workbench/MeshView/MeshView.h"
 #include "Workbench/Meshes/MeshReader.h"
@@ -77,8 +79,10 @@ MainWindow::MainWindow(QWidget* parent)
     , m_filterBar(new FilterBar(this))
     , m_treeView(new QTreeView(this))
     , m_meshView(new MeshView(this))
-    , m_meshPresenter(new MeshPresenter(m_session, m_loader, *m_meshView, this))
+    , m_meshPresenter(new MeshPresenter(m_session, m_loader, m_tree->catalog(), *m_meshView, this))
     , m_details(new DetailsPanel(this))
+    , m_quantities(new QuantityPanel(m_session, this))
+    , m_references(new ReferenceMenu(m_tree->catalog(), this))
     , m_problemsPanel(new ProblemsPanel(this))
     , m_messageBar(new MessageBar(this))
     , m_progress(new ReadingProgress(m_loader, this))
@@ -134,7 +138,7 @@ void MainWindow::layOut()
 void MainWindow::resizeAndDivide(const QSize& size)
 {
     resize(size);
-    m_sides->setSizes({size.width() * 63 / 100, size.width() * 37 / 100});
+    m_sides->setSizes({size.width() * 67 / 100, size.width() * 33 / 100});
     m_meshAndDetails->setSizes({size.height() * 60 / 100, size.height() * 30 / 100});
 }
 
@@ -153,7 +157,7 @@ QWidget* MainWindow::createTreeSide()
     QHeaderView* header = m_treeView->header();
     header->setStretchLastSection(true);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const double widths[] = {31, 14.75, 8.75, 20.5, 13.75, 9.5, 9.5};
+    const double widths[] = {31, 13.75, 7, 8.75, 19, 13.75, 9.5, 9.5};
     for (int column = 0; column < header->count(); ++column)
         header->resizeSection(column, int(widths[column] * digitWidth()));
     auto* side = new QWidget(this);
@@ -169,7 +173,13 @@ QWidget* MainWindow::createMeshSide()
 {
     m_meshAndDetails = new QSplitter(Qt::Vertical, this);
     m_meshAndDetails->addWidget(m_meshView);
-    m_meshAndDetails->addWidget(m_details);
+    auto* properties = new QWidget(this);
+    auto* layout = new QVBoxLayout(properties);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_details, 1);
+    layout->addWidget(m_quantities);
+    m_meshAndDetails->addWidget(properties);
     m_meshAndDetails->setStretchFactor(0, 1);
     m_meshAndDetails->setStretchFactor(1, 0);
     return m_meshAndDetails;
@@ -179,7 +189,7 @@ void MainWindow::fillMenus()
 {
     fillFileMenu();
     m_actions->addTo(*menuBar()->addMenu(tr("&Edit")),
-                     {WindowActions::Rename, WindowActions::Find});
+                     {WindowActions::Rename, WindowActions::Find, WindowActions::GoToReference});
     fillViewMenu();
     m_actions->addTo(*menuBar()->addMenu(tr("&Tools")),
                      {WindowActions::ConvertMeshes, WindowActions::StressTree});
@@ -291,6 +301,7 @@ void MainWindow::connectActions()
     on(WindowActions::Quit, &MainWindow::close);
     on(WindowActions::Rename, &MainWindow::rename);
     on(WindowActions::Find, [this] { m_filterBar->focusText(); });
+    on(WindowActions::GoToReference, &MainWindow::goToReference);
     on(WindowActions::ExpandAll, [this] { m_tree->expandAll(); });
     on(WindowActions::CollapseAll, [this] { m_tree->collapseAll(); });
     on(WindowActions::ConvertMeshes, [this] { m_converter.run(); });
@@ -333,6 +344,13 @@ void MainWindow::connectParts()
     connect(m_tree, &DesignTree::currentChanged, this, [this] {
         if (std::exchange(m_tellsRefusal, false))
             m_messageBar->hide();
+    });
+    connect(m_meshView, &MeshView::objectChosen, this, &MainWindow::goTo);
+    connect(m_references, &ReferenceMenu::chosen, this, &MainWindow::goTo);
+    connect(m_quantities, &QuantityPanel::edited, this, &MainWindow::setQuantity);
+    connect(m_treeView, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
+        if (index.column() == TreeColumn::UsedBy)
+            goToReference();
     });
     connect(&m_session, &DesignSession::conflictFound, this, &MainWindow::tellConflict);
     connect(m_exchange, &FileExchange::failed, m_messageBar, &MessageBar::say);
@@ -384,6 +402,9 @@ void MainWindow::showCurrent()
     const GUIdentifier object = m_tree->currentId().getCombinedPart();
     (*m_actions)[WindowActions::Rename]->setEnabled(m_session.canRename(object));
     (*m_actions)[WindowActions::Export]->setEnabled(m_exchange->canExport(object));
+    (*m_actions)[WindowActions::GoToReference]->setEnabled(
+        m_references->leadsAnywhere(m_tree->currentId()));
+    m_quantities->show(object);
 }
 
 void MainWindow::showSession()
@@ -542,6 +563,32 @@ void MainWindow::rename()
 {
     m_treeView->setFocus();
     m_tree->editCurrent();
+}
+
+void MainWindow::goToReference()
+{
+    const QModelIndex current = m_treeView->currentIndex();
+    const QRect cell = m_treeView->visualRect(current.siblingAtColumn(TreeColumn::UsedBy));
+    m_references->follow(m_tree->currentId(), this,
+                         m_treeView->viewport()->mapToGlobal(cell.bottomLeft()));
+}
+
+void MainWindow::goTo(const IDCombiner& id)
+{
+    m_messageBar->hide();
+    m_tree->refreshNow();
+    if (!m_tree->select(id))
+        m_messageBar->say(tr("%1 is not shown, because the filter leaves it out.")
+                              .arg(m_session.name(id.getCombinedPart())));
+    else
+        m_treeView->setFocus();
+}
+
+void MainWindow::setQuantity(const GUIdentifier& object, Quantity quantity, double value)
+{
+    const QString refusal = m_session.setQuantity(object, quantity, value);
+    if (!refusal.isEmpty())
+        m_messageBar->say(refusal);
 }
 
 void MainWindow::showStress()

@@ -27,7 +27,9 @@ class MeshPresenter;
 class MeshView;
 class MessageBar;
 class ProblemsPanel;
+class QuantityPanel;
 class ReadingProgress;
+class ReferenceMenu;
 class StressWindow;
 class WindowActions;
 
@@ -65,6 +67,7 @@ public:
     FileCommands& fileCommands() { return *m_fileCommands; }
     FileExchange& fileExchange() { return *m_exchange; }
     FilterBar& filterBar() { return *m_filterBar; }
+    QuantityPanel& quantityPanel() { return *m_quantities; }
     const ProblemsPanel& problemsPanel() const { return *m_problemsPanel; }
     const MessageBar& messageBar() const { return *m_messageBar; }
     const ReadingProgress& readingProgress() const { return *m_progress; }
@@ -97,6 +100,9 @@ private:
     bool mayDropChanges();
     void closeAll();
     void rename();
+    void goToReference();
+    void goTo(const IDCombiner& id);
+    void setQuantity(const GUIdentifier& object, Quantity quantity, double value);
     void showStress();
     void hideMessages();
     void about();
@@ -121,6 +127,8 @@ private:
     MeshView* m_meshView;
     MeshPresenter* m_meshPresenter;
     DetailsPanel* m_details;
+    QuantityPanel* m_quantities;
+    ReferenceMenu* m_references;
     ProblemsPanel* m_problemsPanel;
     MessageBar* m_messageBar;
     ReadingProgress* m_progress;

@@ -2,17 +2,69 @@
 
 #include "Workbench/Design/DesignSession.h"
 #include "Workbench/MeshView/MeshView.h"
+#include "Workbench/Tree/DesignCatalog.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
+#include <algorithm>
+
 namespace Zorvane::Workbench {
 
-MeshPresenter::MeshPresenter(DesignSession& session, MeshLoader& loader, MeshView& view,
-                             QObject* parent)
+namespace {
+
+bool isReferrer(const CatalogEntry& entry, const IDCombiner& id)
+{
+    return std::find(entry.referrers.begin(), entry.referrers.end(), id) != entry.referrers.end();
+}
+
+/** The object's own; of a file the one of the only object that needs it. */
+QColor colourOf(const DesignCatalog& catalog, const IDCombiner& id)
+{
+    const CatalogEntry* entry = catalog.find(id);
+    if (entry == nullptr)
+        return {};
+    if (entry->referrers.size() == 1)
+        return catalog.find(entry->referrers.front())->colour;
+    return entry->colour;
+}
+
+/** Those of a design, or the mesh files opened by themselves, that have colours. */
+std::vector<IDCombiner> colouredNeighbours(const DesignSession& session, const GUIdentifier& object)
+{
+    std::vector<IDCombiner> ids;
+    if (const Design* design = session.findDesign(object)) {
+        const std::vector<GUIdentifier> all = design->allIds();
+        ids.assign(all.begin(), all.end());
+    } else {
+        for (const Part& part : session.looseParts())
+            ids.push_back(part.id);
+    }
+    return ids;
+}
+
+std::vector<LegendEntry> legendFor(const DesignSession& session, const DesignCatalog& catalog,
+                                   const GUIdentifier& object)
+{
+    const CatalogEntry* shown = catalog.find(object);
+    std::vector<LegendEntry> legend;
+    for (const IDCombiner& id : colouredNeighbours(session, object)) {
+        const CatalogEntry* entry = catalog.find(id);
+        if (shown != nullptr && entry != nullptr && entry->colour.isValid() && entry->isMesh)
+            legend.push_back({id, entry->name, entry->colour,
+                              id == IDCombiner(object) || isReferrer(*shown, id)});
+    }
+    return legend;
+}
+
+} // namespace
+
+MeshPresenter::MeshPresenter(DesignSession& session, MeshLoader& loader,
+                             const DesignCatalog& catalog, MeshView& view, QObject* parent)
     : QObject(parent)
     , m_session(session)
     , m_loader(loader)
+    , m_catalog(catalog)
     , m_view(view)
 {
     connect(&loader, &MeshLoader::loaded, this, &MeshPresenter::showLoaded);
@@ -31,7 +83,7 @@ void MeshPresenter::show(const IDCombiner& id)
         return;
     }
     if (const SharedMesh mesh = m_loader.mesh(m_file)) {
-        m_view.setMesh(mesh, m_session.name(m_object));
+        showMesh(mesh);
     } else if (const std::optional<Problem> problem = m_loader.problem(m_file)) {
         showFailure(m_file, *problem);
     } else if (m_file != before) {
@@ -59,10 +111,17 @@ QString MeshPresenter::reasonForNoMesh() const
     return m_file.isEmpty() ? tr("%1 has no mesh.").arg(m_session.name(m_object)) : QString();
 }
 
+void MeshPresenter::showMesh(const SharedMesh& mesh)
+{
+    m_view.setMesh(mesh, m_session.name(m_object), colourOf(m_catalog, m_object));
+    m_view.setLegend(mesh->isEmpty() ? std::vector<LegendEntry>()
+                                     : legendFor(m_session, m_catalog, m_object));
+}
+
 void MeshPresenter::showLoaded(const QString& path, const SharedMesh& mesh)
 {
     if (path == m_file)
-        m_view.setMesh(mesh, m_session.name(m_object));
+        showMesh(mesh);
 }
 
 void MeshPresenter::showFailure(const QString& path, const Problem& problem)

@@ -31,6 +31,7 @@ constexpr ActionRow s_actions[] = {
     {WindowActions::Quit,          QT_TR_NOOP("&Quit"),                "Ctrl+Q",       ""},
     {WindowActions::Rename,        QT_TR_NOOP("&Rename"),              "F2",           ""},
     {WindowActions::Find,          QT_TR_NOOP("&Find"),                "Ctrl+F",       ""},
+    {WindowActions::GoToReference, QT_TR_NOOP("&Go to Reference"),     "Ctrl+G",       ""},
     {WindowActions::Fit,           QT_TR_NOOP("&Fit"),                 "Ctrl+0",       "fit"},
     {WindowActions::ZoomIn,        QT_TR_NOOP("Zoom &In"),             "Ctrl++",       ""},
     {WindowActions::ZoomOut,       QT_TR_NOOP("Zoom &Out"),            "Ctrl+-",       ""},

@@ -32,6 +32,7 @@ public:
         Quit,
         Rename,
         Find,
+        GoToReference,
         Fit,
         ZoomIn,
         ZoomOut,

@@ -3,6 +3,9 @@
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Tree/TreeFixture.h"
+#include "Utilities/ReferenceIndicatorDelegate.h"
+#include "Workbench/Edit/EngineeringSpinBox.h"
+#include "Workbench/Edit/QuantityPanel.h"
 #include "Workbench/MeshView/MeshView.h"
 #include "Workbench/Window/FilterBar.h"
 #include "Workbench/Window/MessageBar.h"
@@ -74,6 +77,11 @@ private Q_SLOTS:
     void closingAsksForUnsavedChanges();
     void reloadReadsWhatWasCancelled();
     void reloadTriesAgainWhatCouldNotBeOpened();
+    void aReferenceLeadsToThePart();
+    void aReferenceThatTheFilterHidesIsTold();
+    void theLegendLeadsToThePart();
+    void coloursAreTheSameEverywhere();
+    void aMeasuredValueIsEdited();
     void closeAllForgetsEverything();
     void droppedFilesAreOpened();
     void findFocusesTheFilter();
@@ -328,6 +336,79 @@ void MainWindowTest::reloadTriesAgainWhatCouldNotBeOpened()
     triggerText(QStringLiteral("Reload"));
     QCOMPARE(m_window->session().designs().size(), std::size_t(1));
     QVERIFY(m_window->session().problems().empty());
+}
+
+void MainWindowTest::aReferenceLeadsToThePart()
+{
+    openDesign();
+    QVERIFY(m_window->tree().select(objectId(30)));
+    // Of the two, the blank and the card, the blank is named first.
+    const CatalogEntry* steel = m_window->tree().catalog().find(objectId(30));
+    QVERIFY(steel->links.front() == IDCombiner(objectId(2)));
+    QVERIFY(m_window->tree().select(objectId(21)));
+    triggerText(QStringLiteral("Go to Reference"));
+    QVERIFY(m_window->tree().currentId() == IDCombiner(objectId(40)));
+    QVERIFY(m_window->tree().select(objectId(20)));
+    for (const QAction* action : m_window->findChildren<QAction*>())
+        if (action->text().remove(QLatin1Char('&')) == QStringLiteral("Go to Reference"))
+            QVERIFY(!action->isEnabled());
+}
+
+void MainWindowTest::aReferenceThatTheFilterHidesIsTold()
+{
+    openDesign();
+    m_window->filterBar().setKindShown(ObjectKind::File, false);
+    m_window->tree().refreshNow();
+    QVERIFY(m_window->tree().select(objectId(21)));
+    triggerText(QStringLiteral("Go to Reference"));
+    QVERIFY(m_window->tree().currentId() == IDCombiner(objectId(21)));
+    QVERIFY(m_window->messageBar().text().contains(QStringLiteral("Die mesh")));
+}
+
+void MainWindowTest::theLegendLeadsToThePart()
+{
+    openDesign();
+    QVERIFY(m_window->tree().select(objectId(21)));
+    const MeshLegend& legend = m_window->meshView().legend();
+    QCOMPARE(legend.entries().size(), std::size_t(3));
+    QVERIFY(legend.entries()[2].isShown);
+    Q_EMIT m_window->meshView().objectChosen(objectId(10));
+    QVERIFY(m_window->tree().currentId() == IDCombiner(objectId(10)));
+    QVERIFY(legend.entries()[1].isShown);
+    QVERIFY(!legend.entries()[2].isShown);
+}
+
+void MainWindowTest::coloursAreTheSameEverywhere()
+{
+    openDesign();
+    const QModelIndex mesh =
+        m_window->tree().indexOf(objectId(40)).siblingAtColumn(TreeColumn::UsedBy);
+    const int objects[] = {2, 10, 21};
+    for (int place = 0; place < 3; ++place) {
+        QVERIFY(m_window->tree().select(objectId(objects[place])));
+        const QColor colour = m_window->tree().catalog().find(objectId(objects[place]))->colour;
+        QVERIFY(colour.isValid());
+        QCOMPARE(m_window->meshView().colour(), colour);
+        QCOMPARE(m_window->meshView().legend().entries()[std::size_t(place)].colour, colour);
+        QCOMPARE(mesh.data(ReferenceIndicatorDelegate::FirstColorRole + place).toInt(),
+                 PartColours::colorId(colour));
+    }
+    // A mesh that several share has no colour of its own.
+    QVERIFY(m_window->tree().select(objectId(40)));
+    QVERIFY(!m_window->meshView().colour().isValid());
+}
+
+void MainWindowTest::aMeasuredValueIsEdited()
+{
+    openDesign();
+    QVERIFY(m_window->tree().select(objectId(2)));
+    m_window->quantityPanel().spinBox(Quantity::Thickness).stepBy(-1);
+    QCOMPARE(*m_window->session().quantity(objectId(2), Quantity::Thickness), 1.24);
+    m_window->tree().refreshNow();
+    QVERIFY(m_window->isWindowModified());
+    QCOMPARE(m_window->tree().catalog().find(objectId(2))->particulars[0].second,
+             quantityText(Quantity::Thickness, 1.24));
+    QVERIFY(m_window->session().save().empty());
 }
 
 void MainWindowTest::closeAllForgetsEverything()
