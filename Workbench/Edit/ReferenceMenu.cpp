@@ -1,5 +1,6 @@
 #include "Workbench/Edit/ReferenceMenu.h"
 
+#include "Host/ApplicationWidgets/SvgIcon.h"
 #include "Workbench/MeshView/PartIcon.h"
 #include "Workbench/Tree/DesignCatalog.h"
 
@@ -11,7 +12,7 @@ namespace {
 
 QIcon iconOf(const CatalogEntry& entry)
 {
-    const QIcon picture(iconPath(entry.kind));
+    const QIcon picture = createSvgIcon(iconPath(entry.kind));
     return entry.colour.isValid() ? colourIcon(entry.colour) : picture;
 }
 
