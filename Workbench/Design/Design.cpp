@@ -84,6 +84,11 @@ double* quantityOf(Other&, Quantity)
 
 } // namespace
 
+int Design::version() const
+{
+    return source.value(QStringLiteral("version")).toInt();
+}
+
 QString Design::folder() const
 {
     return QFileInfo(file).absolutePath();

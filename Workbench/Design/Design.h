@@ -139,6 +139,8 @@ struct Design
     std::map<QString, UnreadEntries> unread;
     QJsonObject source;
 
+    /** Of the file as it was read or saved last. */
+    int version() const;
     /** The folder that holds the design file and everything it refers to. */
     QString folder() const;
     /** Null when the design has no such file reference. */

@@ -9,6 +9,7 @@
 #include <QtCore/QLocale>
 
 #include <algorithm>
+#include <cmath>
 #include <set>
 #include <utility>
 
@@ -242,11 +243,14 @@ QString versionObstacle(const QJsonValue& version)
         return DesignReader::tr("is missing");
     if (!version.isDouble())
         return DesignReader::tr("must be a number");
-    if (version.toDouble() == DesignReader::supportedVersion)
+    const double number = version.toDouble();
+    if (number >= DesignReader::oldestVersion && number <= DesignReader::currentVersion &&
+        number == std::floor(number))
         return {};
-    return DesignReader::tr("version %1 isn't supported, only version %2 is")
-        .arg(version.toDouble())
-        .arg(DesignReader::supportedVersion);
+    return DesignReader::tr("version %1 isn't supported, only versions %2 to %3 are")
+        .arg(number)
+        .arg(DesignReader::oldestVersion)
+        .arg(DesignReader::currentVersion);
 }
 
 /** The content, or none with the reason. */

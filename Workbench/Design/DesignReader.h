@@ -34,7 +34,9 @@ class DesignReader
     Q_DECLARE_TR_FUNCTIONS(Zorvane::Workbench::DesignReader)
 
 public:
-    static constexpr int supportedVersion = 1;
+    static constexpr int oldestVersion = 1;
+    /** That which is written. Since 2, parts have a thickness, and parts and tools a force. */
+    static constexpr int currentVersion = 2;
     /** In bytes. A design file holds names and references; larger ones are not read. */
     static constexpr qint64 largestFile = 16 * 1024 * 1024;
 

@@ -101,6 +101,7 @@ void DesignSession::close()
     m_looseParts.clear();
     m_openProblems.clear();
     watch();
+    Q_EMIT reread();
     Q_EMIT changed();
 }
 
@@ -108,6 +109,7 @@ void DesignSession::replace(const GUIdentifier& designId, const QString& file)
 {
     m_store.replace(designId, QFileInfo(file).canonicalFilePath());
     watch();
+    Q_EMIT reread();
     Q_EMIT changed();
 }
 
@@ -190,8 +192,11 @@ QString DesignSession::rename(const GUIdentifier& objectId, const QString& name)
         return tr("The object to be renamed is no longer there.");
     const QString trimmed = name.trimmed();
     const QString obstacle = nameObstacle(trimmed);
-    if (obstacle.isEmpty() && m_store.rename(objectId, trimmed))
+    const QString before = this->name(objectId);
+    if (obstacle.isEmpty() && m_store.rename(objectId, trimmed)) {
+        Q_EMIT edited(NameEdit{objectId, before, trimmed});
         Q_EMIT changed();
+    }
     return obstacle;
 }
 
@@ -204,13 +209,16 @@ std::optional<double> DesignSession::quantity(const GUIdentifier& objectId, Quan
 
 QString DesignSession::setQuantity(const GUIdentifier& objectId, Quantity quantity, double value)
 {
-    if (!this->quantity(objectId, quantity))
+    const std::optional<double> before = this->quantity(objectId, quantity);
+    if (!before)
         return tr("The object has no such value.");
     // Numbers from there on are how the suite tells that nothing was measured.
     if (!(value >= 0 && value < std::numeric_limits<float>::max()))
         return tr("A value must be a number from 0 on.");
-    if (m_store.setQuantity(objectId, quantity, value))
+    if (m_store.setQuantity(objectId, quantity, value)) {
+        Q_EMIT edited(QuantityEdit{objectId, quantity, *before, value});
         Q_EMIT changed();
+    }
     return {};
 }
 
@@ -225,11 +233,35 @@ Problems DesignSession::addFiles(const GUIdentifier& designId, const QStringList
             obstacles.push_back(*obstacle);
     if (!obstacles.empty())
         return obstacles;
-    if (m_store.addFiles(designId, files)) {
+    const std::vector<GUIdentifier> added = m_store.addFiles(designId, files);
+    if (!added.empty()) {
         watch();
+        Q_EMIT edited(AdditionEdit{designId, added});
         Q_EMIT changed();
     }
     return {};
+}
+
+TakenObjects DesignSession::take(const GUIdentifier& designId,
+                                 const std::vector<GUIdentifier>& objects)
+{
+    TakenObjects taken = m_store.take(designId, objects);
+    if (!taken.isEmpty()) {
+        watch();
+        Q_EMIT edited(RemovalEdit{taken});
+        Q_EMIT changed();
+    }
+    return taken;
+}
+
+bool DesignSession::putBack(const TakenObjects& taken)
+{
+    if (!m_store.putBack(taken))
+        return false;
+    watch();
+    Q_EMIT edited(AdditionEdit{taken.design, taken.ids()});
+    Q_EMIT changed();
+    return true;
 }
 
 GUIdentifier DesignSession::findObject(const GUIdentifier& designId, const QString& file) const
@@ -250,6 +282,16 @@ bool DesignSession::isModified(const GUIdentifier& objectId) const
     return m_store.isModified(objectId);
 }
 
+bool DesignSession::isDesignModified(const GUIdentifier& designId) const
+{
+    return m_store.isDesignModified(designId);
+}
+
+bool DesignSession::areQuantitiesModified(const GUIdentifier& designId) const
+{
+    return m_store.areQuantitiesModified(designId);
+}
+
 bool DesignSession::hasConflict(const GUIdentifier& designId) const
 {
     return m_store.hasConflict(designId);
@@ -257,7 +299,12 @@ bool DesignSession::hasConflict(const GUIdentifier& designId) const
 
 Problems DesignSession::save(OnConflict onConflict)
 {
-    const Problems failures = m_store.save(onConflict == OnConflict::Overwrite);
+    return save(GUIdentifier(), onConflict);
+}
+
+Problems DesignSession::save(const GUIdentifier& designId, OnConflict onConflict)
+{
+    const Problems failures = m_store.save(designId, onConflict == OnConflict::Overwrite);
     watch();
     Q_EMIT changed();
     return failures;
@@ -267,6 +314,7 @@ void DesignSession::revert(const GUIdentifier& designId)
 {
     m_store.revert(designId);
     watch();
+    Q_EMIT reread();
     Q_EMIT changed();
 }
 
@@ -282,6 +330,7 @@ void DesignSession::reload()
         openOne(problem.file);
     m_looseParts.refresh();
     watch();
+    Q_EMIT reread();
     Q_EMIT changed();
 }
 
@@ -303,18 +352,22 @@ void DesignSession::watch()
 void DesignSession::follow(const QStringList& files)
 {
     bool different = false;
+    bool isReread = false;
     std::vector<GUIdentifier> conflicts;
     for (const QString& file : m_store.designFiles()) {
         if (!files.contains(file))
             continue;
         const DesignStore::Outcome outcome = m_store.follow(file);
         different |= outcome != DesignStore::Outcome::Nothing;
+        isReread |= outcome == DesignStore::Outcome::Changed;
         if (outcome == DesignStore::Outcome::Conflict)
             conflicts.push_back(m_store.idOf(file));
     }
     different |= m_store.refreshStates();
     different |= m_looseParts.refresh();
     watch();
+    if (isReread)
+        Q_EMIT reread();
     if (different)
         Q_EMIT changed();
     for (const QString& file : files)

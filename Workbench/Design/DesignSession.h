@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Workbench/Design/Design.h"
+#include "Workbench/Design/DesignEdit.h"
 #include "Workbench/Design/DesignStore.h"
 #include "Workbench/Design/FileWatch.h"
 #include "Workbench/Design/LooseParts.h"
@@ -24,7 +25,7 @@ namespace Zorvane::Workbench {
  * next `changed`.
  *
  * Edits are `rename`, `setQuantity` and `addFiles`; the first two are undone by the value before.
- * Not supported: removing objects, adding any but files and their parts; undo.
+ * Not supported: removing and adding any but files and their parts.
  */
 class DesignSession : public QObject
 {
@@ -103,9 +104,21 @@ public:
      */
     GUIdentifier findObject(const GUIdentifier& designId, const QString& file) const;
 
+    /**
+     * Takes parts and references to files out of a design; files stay where they are. What other
+     * objects refer to is left without. Ids of anything else are passed over.
+     */
+    TakenObjects take(const GUIdentifier& designId, const std::vector<GUIdentifier>& objects);
+    /** Puts them back where they were; false, and nothing done, if the design isn't open. */
+    bool putBack(const TakenObjects& taken);
+
     bool isModified() const { return m_store.isModified(); }
     /** Whether the object itself, not what it contains, was changed since it was read or saved. */
     bool isModified(const GUIdentifier& objectId) const;
+    /** Whether the design or anything of it was changed, added or taken out since. */
+    bool isDesignModified(const GUIdentifier& designId) const;
+    /** Whether a thickness or force in the design was changed since. */
+    bool areQuantitiesModified(const GUIdentifier& designId) const;
     /** Whether the design was modified here and its file by another program. */
     bool hasConflict(const GUIdentifier& designId) const;
 
@@ -114,6 +127,8 @@ public:
      * stays modified and is told in the result, which is empty when all went well.
      */
     Problems save(OnConflict onConflict = OnConflict::Refuse);
+    /** Writes one design, modified or not. */
+    Problems save(const GUIdentifier& designId, OnConflict onConflict);
     /** Reads the design's file again and drops the unsaved changes of that design. */
     void revert(const GUIdentifier& designId);
 
@@ -121,6 +136,10 @@ public:
     void reload();
 
 Q_SIGNALS:
+    /** A person's change of a design, after it was made and before `changed`. */
+    void edited(const Zorvane::Workbench::DesignEdit& edit);
+    /** Designs may have been read from their files again; earlier edits don't fit any more. */
+    void reread();
     /** Something of designs, parts, states of files, problems or modification is different. */
     void changed();
     /** The content of a file that is referred to or opened may be different. */

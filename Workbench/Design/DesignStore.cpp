@@ -24,6 +24,30 @@ bool contains(const std::vector<Design>& designs, const QString& file)
                        [&file](const Design& design) { return design.file == file; });
 }
 
+/** Each piece with its place when the ones before it were still there. */
+template <typename Piece>
+TakenObjects::Places<Piece> takeFrom(std::vector<Piece>& pieces,
+                                     const std::vector<GUIdentifier>& ids)
+{
+    TakenObjects::Places<Piece> taken;
+    std::vector<Piece> kept;
+    for (std::size_t place = 0; place < pieces.size(); ++place) {
+        if (std::find(ids.begin(), ids.end(), pieces[place].id) == ids.end())
+            kept.push_back(std::move(pieces[place]));
+        else
+            taken.emplace_back(place, std::move(pieces[place]));
+    }
+    pieces = std::move(kept);
+    return taken;
+}
+
+template <typename Piece>
+void putInto(std::vector<Piece>& pieces, const TakenObjects::Places<Piece>& taken)
+{
+    for (const auto& [place, piece] : taken)
+        pieces.insert(pieces.begin() + std::ptrdiff_t(std::min(place, pieces.size())), piece);
+}
+
 void append(Problems& problems, const Problems& more)
 {
     problems.insert(problems.end(), more.begin(), more.end());
@@ -294,12 +318,13 @@ bool DesignStore::setQuantity(const GUIdentifier& objectId, Quantity quantity, d
     return false;
 }
 
-bool DesignStore::addFiles(const GUIdentifier& designId, const QStringList& files)
+std::vector<GUIdentifier> DesignStore::addFiles(const GUIdentifier& designId,
+                                                const QStringList& files)
 {
     const Design* const found = find(designId);
     Design* const design = found == nullptr ? nullptr : findByFile(found->file);
     if (design == nullptr)
-        return false;
+        return {};
     std::vector<GUIdentifier> added;
     for (const QString& file : files) {
         const std::vector<GUIdentifier> objects = FileAdditions::add(*design, file);
@@ -308,7 +333,42 @@ bool DesignStore::addFiles(const GUIdentifier& designId, const QStringList& file
     m_records[design->file].added.insert(added.begin(), added.end());
     if (!added.empty())
         arrange();
-    return !added.empty();
+    return added;
+}
+
+TakenObjects DesignStore::take(const GUIdentifier& designId,
+                               const std::vector<GUIdentifier>& objects)
+{
+    const Design* const found = find(designId);
+    Design* const design = found == nullptr ? nullptr : findByFile(found->file);
+    if (design == nullptr)
+        return {};
+    TakenObjects taken{design->id, takeFrom(design->files, objects),
+                       takeFrom(design->parts, objects)};
+    Record& record = m_records[design->file];
+    for (const GUIdentifier& id : taken.ids())
+        if (record.added.erase(id) == 0)
+            record.removed.insert(id);
+    if (!taken.isEmpty())
+        arrange();
+    return taken;
+}
+
+bool DesignStore::putBack(const TakenObjects& taken)
+{
+    const Design* const found = find(taken.design);
+    Design* const design = found == nullptr ? nullptr : findByFile(found->file);
+    if (design == nullptr)
+        return false;
+    putInto(design->files, taken.files);
+    putInto(design->parts, taken.parts);
+    Record& record = m_records[design->file];
+    for (const GUIdentifier& id : taken.ids())
+        if (record.removed.erase(id) == 0)
+            record.added.insert(id);
+    refreshReferences(*design);
+    arrange();
+    return true;
 }
 
 bool DesignStore::isModified() const
@@ -338,12 +398,24 @@ bool DesignStore::hasConflict(const GUIdentifier& designId) const
     return record != nullptr && record->conflict;
 }
 
-Problems DesignStore::save(bool overwriteConflicts)
+bool DesignStore::isDesignModified(const GUIdentifier& designId) const
+{
+    const Record* record = recordOf(designId);
+    return record != nullptr && record->isModified();
+}
+
+bool DesignStore::areQuantitiesModified(const GUIdentifier& designId) const
+{
+    const Record* record = recordOf(designId);
+    return record != nullptr && !record->savedQuantities.empty();
+}
+
+Problems DesignStore::save(const GUIdentifier& designId, bool overwriteConflicts)
 {
     Problems failures;
     for (Design& design : m_designs) {
         Record& record = m_records[design.file];
-        if (!record.isModified())
+        if (designId == GUIdentifier() ? !record.isModified() : design.id != designId)
             continue;
         if (const auto failure = saveOne(design, record, overwriteConflicts))
             failures.push_back(*failure);
@@ -363,13 +435,19 @@ std::optional<Problem> DesignStore::saveOne(Design& design, Record& record, bool
     }
     if (const auto failure = DesignWriter::write(design))
         return failure;
+    noteSaved(design, record);
+    return std::nullopt;
+}
+
+void DesignStore::noteSaved(Design& design, Record& record)
+{
+    design.source.insert(QStringLiteral("version"), DesignReader::currentVersion);
     const QByteArray written = DesignWriter::toJson(design);
     const Problems pieces =
         DesignReader(takenIds(design.file, {})).parse(written, design.file).problems;
     record = Record();
     record.content = written;
     record.pieces = pieces;
-    return std::nullopt;
 }
 
 void DesignStore::revert(const GUIdentifier& designId)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Workbench/Design/Design.h"
+#include "Workbench/Design/DesignEdit.h"
 #include "Workbench/Design/DesignReader.h"
 #include "Workbench/Design/Problem.h"
 
@@ -61,12 +62,20 @@ public:
     bool rename(const GUIdentifier& objectId, const QString& name);
     /** The object must have the value. True if that changes it. */
     bool setQuantity(const GUIdentifier& objectId, Quantity quantity, double value);
-    /** Adds what the design, which must be open, doesn't refer to yet. True if anything is new. */
-    bool addFiles(const GUIdentifier& designId, const QStringList& files);
+    /** Adds what the design, which must be open, doesn't refer to yet; returns what is new. */
+    std::vector<GUIdentifier> addFiles(const GUIdentifier& designId, const QStringList& files);
+    /** Takes those of the objects out of the design that are parts or references to files. */
+    TakenObjects take(const GUIdentifier& designId, const std::vector<GUIdentifier>& objects);
+    /** Puts them back where they were; false if the design isn't open. */
+    bool putBack(const TakenObjects& taken);
     bool isModified() const;
     bool isModified(const GUIdentifier& objectId) const;
+    bool isDesignModified(const GUIdentifier& designId) const;
+    /** Whether a value is another one than in the file. */
+    bool areQuantitiesModified(const GUIdentifier& designId) const;
     bool hasConflict(const GUIdentifier& designId) const;
-    Problems save(bool overwriteConflicts);
+    /** Writes the design, or every modified one for the null id. */
+    Problems save(const GUIdentifier& designId, bool overwriteConflicts);
     /** Drops what was changed here, if the file can be read; else tells why not by a problem. */
     void revert(const GUIdentifier& designId);
     /** Reads the design files again from which no design could be read. */
@@ -89,10 +98,13 @@ private:
         std::map<std::pair<GUIdentifier, Quantity>, double> savedQuantities;
         /** Objects that the file doesn't have yet. */
         std::set<GUIdentifier> added;
+        /** Objects that only the file has. */
+        std::set<GUIdentifier> removed;
 
         bool isModified() const
         {
-            return !savedNames.empty() || !savedQuantities.empty() || !added.empty();
+            return !savedNames.empty() || !savedQuantities.empty() || !added.empty() ||
+                   !removed.empty();
         }
         bool isModified(const GUIdentifier& objectId) const;
     };
@@ -107,6 +119,7 @@ private:
     static void noteConflict(Record& record, const QString& file);
     bool accept(Record& record, Design& design, DesignReading reading);
     std::optional<Problem> saveOne(Design& design, Record& record, bool overwriteConflict);
+    void noteSaved(Design& design, Record& record);
     Design* findByFile(const QString& file);
     const Record* recordOf(const GUIdentifier& objectId) const;
 

@@ -129,7 +129,7 @@ QJsonObject toObject(const Operation& operation)
 QJsonObject toObject(const Design& design)
 {
     QJsonObject object = common(design);
-    object.insert(QStringLiteral("version"), DesignReader::supportedVersion);
+    object.insert(QStringLiteral("version"), DesignReader::currentVersion);
     if (design.blank)
         object.insert(QStringLiteral("blank"), toObject(*design.blank));
     const auto put = [&](const QString& key, const auto& pieces) {

@@ -49,7 +49,7 @@ QByteArray design(const QString& name, const QJsonArray& files)
             parts.append(QJsonObject{{QStringLiteral("id"), newId()},
                                      {QStringLiteral("name"), file[QLatin1String("name")]},
                                      {QStringLiteral("geometry"), file[QLatin1String("id")]}});
-    return QJsonDocument(QJsonObject{{QStringLiteral("version"), 1},
+    return QJsonDocument(QJsonObject{{QStringLiteral("version"), 2},
                                      {QStringLiteral("id"), newId()},
                                      {QStringLiteral("name"), name},
                                      {QStringLiteral("parts"), parts},

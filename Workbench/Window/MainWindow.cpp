@@ -8,6 +8,7 @@
 #include "Workbench/MeshView/MeshView.h"
 #include "Workbench/Meshes/MeshReader.h"
 #include "Workbench/Stress/StressWindow.h"
+#include "Workbench/Undo/EditHistory.h"
 #include "Workbench/Window/DetailsPanel.h"
 #include "Workbench/Window/FactsReader.h"
 #include "Workbench/Window/FilterBar.h"
@@ -72,6 +73,7 @@ MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , m_tree((initializeResources(), new DesignTree(m_session, m_loader, this)))
     , m_actions(new WindowActions(this))
+    , m_history(new EditHistory(m_session, this))
     , m_factsReader(new FactsReader(m_session, m_loader, this))
     , m_designView(new BaseView(this))
     , m_fileCommands(new FileCommands(m_session, this))
@@ -188,8 +190,7 @@ QWidget* MainWindow::createMeshSide()
 void MainWindow::fillMenus()
 {
     fillFileMenu();
-    m_actions->addTo(*menuBar()->addMenu(tr("&Edit")),
-                     {WindowActions::Rename, WindowActions::Find, WindowActions::GoToReference});
+    fillEditMenu();
     fillViewMenu();
     m_actions->addTo(*menuBar()->addMenu(tr("&Tools")),
                      {WindowActions::ConvertMeshes, WindowActions::StressTree});
@@ -216,6 +217,28 @@ void MainWindow::fillFileMenu()
     m_actions->addTo(*file, {WindowActions::Reload, WindowActions::CloseAll});
     file->addSeparator();
     m_actions->addTo(*file, {WindowActions::Quit});
+}
+
+void MainWindow::fillEditMenu()
+{
+    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+    m_actions->addTo(*edit, {WindowActions::Undo, WindowActions::Redo});
+    edit->addSeparator();
+    m_actions->addTo(*edit,
+                     {WindowActions::Rename, WindowActions::Find, WindowActions::GoToReference});
+    showHistory();
+    connect(&m_history->stack(), &QUndoStack::indexChanged, this, &MainWindow::showHistory);
+}
+
+void MainWindow::showHistory()
+{
+    QUndoStack& stack = m_history->stack();
+    (*m_actions)[WindowActions::Undo]->setEnabled(stack.canUndo());
+    (*m_actions)[WindowActions::Undo]->setText(
+        stack.canUndo() ? tr("&Undo: %1").arg(stack.undoText()) : tr("&Undo"));
+    (*m_actions)[WindowActions::Redo]->setEnabled(stack.canRedo());
+    (*m_actions)[WindowActions::Redo]->setText(
+        stack.canRedo() ? tr("&Redo: %1").arg(stack.redoText()) : tr("&Redo"));
 }
 
 void MainWindow::fillViewMenu()
@@ -299,6 +322,8 @@ void MainWindow::connectActions()
     on(WindowActions::Reload, &MainWindow::reload);
     on(WindowActions::CloseAll, &MainWindow::closeAll);
     on(WindowActions::Quit, &MainWindow::close);
+    on(WindowActions::Undo, [this] { m_history->undo(); });
+    on(WindowActions::Redo, [this] { m_history->redo(); });
     on(WindowActions::Rename, &MainWindow::rename);
     on(WindowActions::Find, [this] { m_filterBar->focusText(); });
     on(WindowActions::GoToReference, &MainWindow::goToReference);

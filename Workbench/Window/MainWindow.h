@@ -19,6 +19,7 @@ QT_END_NAMESPACE
 namespace Zorvane::Workbench {
 
 class DetailsPanel;
+class EditHistory;
 class FactsReader;
 class FileCommands;
 class FileExchange;
@@ -65,6 +66,7 @@ public:
     QTreeView& treeView() { return *m_treeView; }
     MeshView& meshView() { return *m_meshView; }
     FileCommands& fileCommands() { return *m_fileCommands; }
+    EditHistory& history() { return *m_history; }
     FileExchange& fileExchange() { return *m_exchange; }
     FilterBar& filterBar() { return *m_filterBar; }
     QuantityPanel& quantityPanel() { return *m_quantities; }
@@ -85,6 +87,7 @@ private:
     QWidget* createMeshSide();
     void fillMenus();
     void fillFileMenu();
+    void fillEditMenu();
     void fillViewMenu();
     void fillToolBar();
     void fillStatusBar();
@@ -109,6 +112,7 @@ private:
 
     void showCurrent();
     void showSession();
+    void showHistory();
     void showProblems();
     void fitProblemsPanel();
     void selectSomething();
@@ -118,6 +122,7 @@ private:
     MeshLoader m_loader;
     DesignTree* m_tree;
     WindowActions* m_actions;
+    EditHistory* m_history;
     FactsReader* m_factsReader;
     BaseView* m_designView;
     FileCommands* m_fileCommands;

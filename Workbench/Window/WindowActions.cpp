@@ -29,6 +29,8 @@ constexpr ActionRow s_actions[] = {
     {WindowActions::Reload,        QT_TR_NOOP("&Reload"),              "F5",           "reload"},
     {WindowActions::CloseAll,      QT_TR_NOOP("&Close All"),           "Ctrl+W",       ""},
     {WindowActions::Quit,          QT_TR_NOOP("&Quit"),                "Ctrl+Q",       ""},
+    {WindowActions::Undo,          QT_TR_NOOP("&Undo"),                "Ctrl+Z",       ""},
+    {WindowActions::Redo,          QT_TR_NOOP("&Redo"),                "Ctrl+Y",       ""},
     {WindowActions::Rename,        QT_TR_NOOP("&Rename"),              "F2",           ""},
     {WindowActions::Find,          QT_TR_NOOP("&Find"),                "Ctrl+F",       ""},
     {WindowActions::GoToReference, QT_TR_NOOP("&Go to Reference"),     "Ctrl+G",       ""},

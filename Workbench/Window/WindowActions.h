@@ -30,6 +30,8 @@ public:
         Reload,
         CloseAll,
         Quit,
+        Undo,
+        Redo,
         Rename,
         Find,
         GoToReference,

@@ -30,7 +30,7 @@ QJsonObject fileEntry(int id, const QString& name, const QString& kind, const QS
 QJsonObject designWithFiles(int id, const QString& name, const QJsonArray& files)
 {
     QJsonObject design = entry(id, name);
-    design.insert(QStringLiteral("version"), 1);
+    design.insert(QStringLiteral("version"), 2);
     design.insert(QStringLiteral("files"), files);
     return design;
 }

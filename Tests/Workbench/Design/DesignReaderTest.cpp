@@ -117,7 +117,7 @@ void DesignReaderTest::tellsWhichFilesAreThere()
 void DesignReaderTest::acceptsDesignWithNothingInIt()
 {
     QJsonObject object = entry(1, QStringLiteral("Empty"));
-    object.insert(QStringLiteral("version"), 1);
+    object.insert(QStringLiteral("version"), 2);
     const DesignReading reading = DesignReader().parse(toText(object), QStringLiteral("/e.dsg"));
     QVERIFY(reading.problems.empty());
     QVERIFY(!reading.design->blank);
@@ -149,7 +149,9 @@ void DesignReaderTest::refusesFile_data()
     QTest::newRow("no version") << changed(remove(version)) << version
                                 << QStringLiteral("is missing");
     QTest::newRow("version of a later program")
-        << changed(set(version, 2)) << version << QStringLiteral("version 2 isn't supported");
+        << changed(set(version, 3)) << version << QStringLiteral("version 3 isn't supported");
+    QTest::newRow("version before the first")
+        << changed(set(version, 0)) << version << QStringLiteral("version 0 isn't supported");
     QTest::newRow("version between")
         << changed(set(version, 1.5)) << version << QStringLiteral("version 1.5 isn't supported");
     QTest::newRow("version as text") << changed(set(version, QStringLiteral("1"))) << version
