@@ -71,9 +71,11 @@ QRect fittedOntoDesktop(const QRect& rect, const QRect& desktop)
 
 QRect fittedOntoScreens(const QRect& rect, const std::vector<QRect>& screens)
 {
+    if (screens.empty())
+        return rect;
     const QRect fittedRect = fittedOntoDesktop(rect, boundingGeometry(screens));
     const auto isShownOn = [&](const QRect& screen) { return screen.intersects(fittedRect); };
-    if (screens.empty() || std::any_of(screens.begin(), screens.end(), isShownOn))
+    if (std::any_of(screens.begin(), screens.end(), isShownOn))
         return fittedRect;
     const auto isNearer = [&](const QRect& a, const QRect& b) {
         return squaredDistance(a, fittedRect) < squaredDistance(b, fittedRect);
