@@ -15,8 +15,8 @@
 using namespace Zorvane;
 using Testing::DialogPilot;
 using Testing::DialogWindow;
-using Testing::RecordingConfiguration;
-using Testing::RecordingHandler;
+using Testing::EventRecorder;
+using Testing::GeometryRecorder;
 
 namespace {
 
@@ -117,8 +117,8 @@ private:
 
     std::optional<Testing::DialogFolder> m_folder;
     NativeFileDialogRequest m_request;
-    std::optional<RecordingHandler> m_handler;
-    std::optional<RecordingConfiguration> m_configuration;
+    std::optional<EventRecorder> m_handler;
+    std::optional<GeometryRecorder> m_configuration;
 };
 
 void NativeDialogEventsTest::init()
@@ -482,7 +482,7 @@ void NativeDialogEventsTest::standardKeyWithoutAConfiguration()
 void NativeDialogEventsTest::nestedDialogsRecordEachItsOwn()
 {
     addControls(*m_configuration);
-    RecordingConfiguration inner(QStringLiteral("Inner"));
+    GeometryRecorder inner(QStringLiteral("Inner"));
     NativeFileDialogRequest innerRequest = m_folder->request();
     innerRequest.configuration = &inner;
     DialogPilot pilot;

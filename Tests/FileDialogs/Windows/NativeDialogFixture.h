@@ -55,7 +55,7 @@ private:
 };
 
 /** Writes down what it is told, and does what the test wants done about it. */
-class RecordingHandler : public FileDialogEventHandler
+class EventRecorder : public FileDialogEventHandler
 {
 public:
     using Reaction = std::function<void(const FileDialogCallbackInterface&)>;
@@ -104,7 +104,7 @@ private:
 };
 
 /** Keeps the rectangles that it is given, besides storing them. */
-class RecordingConfiguration : public FileDialogConfiguration
+class GeometryRecorder : public FileDialogConfiguration
 {
 public:
     using FileDialogConfiguration::FileDialogConfiguration;

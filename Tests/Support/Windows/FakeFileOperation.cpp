@@ -3,6 +3,7 @@
 #include "Files/Windows/ComObject.h"
 #include "Files/Windows/ComPointer.h"
 #include "Files/Windows/ShellPath.h"
+#include "Tests/Support/Windows/References.h"
 #include "Tests/Support/Windows/SpyShellItem.h"
 
 #include <QtCore/QDir>
@@ -23,18 +24,6 @@ QString freeName(const QString& folder, const QString& fileName)
         candidate =
             QStringLiteral("%1 (%2).%3").arg(name.completeBaseName()).arg(i).arg(name.suffix());
     return candidate;
-}
-
-/** Gives a reference back and says how many are left. */
-template <typename Interface>
-ULONG referencesAfter(ComPointer<Interface>& pointer)
-{
-    Interface* object = pointer.get();
-    if (!object)
-        return 0;
-    object->AddRef();
-    pointer.reset();
-    return object->Release();
 }
 
 class FakeFileOperation final : public ComObject<IFileOperation>, private Counted

@@ -8,17 +8,18 @@
 
 namespace Zorvane::Testing {
 
-SpyShellItem::SpyShellItem(ComPointer<IShellItem> real)
+SpyShellItem::SpyShellItem(ComPointer<IShellItem> real, CallScript* calls)
     : m_real(std::move(real))
+    , m_calls(calls)
 {}
 
-ComPointer<IShellItem> SpyShellItem::ofPath(const QString& path)
+ComPointer<IShellItem> SpyShellItem::ofPath(const QString& path, CallScript* calls)
 {
     ComPointer<IShellItem> real;
     if (FAILED(
             SHCreateItemFromParsingName(wide(shellPath(path)), nullptr, IID_PPV_ARGS(real.put()))))
         return {};
-    return ComPointer<IShellItem>::adopt(new SpyShellItem(std::move(real)));
+    return ComPointer<IShellItem>::adopt(new SpyShellItem(std::move(real), calls));
 }
 
 HRESULT SpyShellItem::QueryInterface(REFIID iid, void** result)
@@ -40,7 +41,9 @@ HRESULT SpyShellItem::GetParent(IShellItem** result)
 
 HRESULT SpyShellItem::GetDisplayName(SIGDN form, LPWSTR* name)
 {
-    return m_real->GetDisplayName(form, name);
+    const HRESULT result =
+        m_calls ? m_calls->enter(QStringLiteral("GetDisplayName")) : HRESULT(S_OK);
+    return SUCCEEDED(result) ? m_real->GetDisplayName(form, name) : result;
 }
 
 HRESULT SpyShellItem::GetAttributes(SFGAOF mask, SFGAOF* attributes)

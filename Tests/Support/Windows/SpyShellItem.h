@@ -12,14 +12,15 @@
 
 namespace Zorvane::Testing {
 
-/** A shell item that is counted and leaves all work to a real one. */
+/** A shell item that is counted and leaves all work to a real one, once the script lets it. */
 class SpyShellItem final : public ComObject<IShellItem>, private Counted
 {
 public:
-    explicit SpyShellItem(ComPointer<IShellItem> real);
+    /** `calls` may be null, and is used as long as this lives. */
+    explicit SpyShellItem(ComPointer<IShellItem> real, CallScript* calls = nullptr);
 
     /** The item of a path; null where the shell has none. */
-    static ComPointer<IShellItem> ofPath(const QString& path);
+    static ComPointer<IShellItem> ofPath(const QString& path, CallScript* calls = nullptr);
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** result) override;
     HRESULT STDMETHODCALLTYPE BindToHandler(IBindCtx* context, REFGUID handler, REFIID iid,
@@ -31,6 +32,7 @@ public:
 
 private:
     ComPointer<IShellItem> m_real;
+    CallScript* m_calls;
 };
 
 } // namespace Zorvane::Testing
