@@ -2,16 +2,17 @@
 #include "Workbench/Preview/PreviewWorker.h"
 #include "Workbench/Tour/Tour.h"
 #include "Workbench/Window/Appearance.h"
+#include "Workbench/Window/Language.h"
 #include "Workbench/Window/MainWindow.h"
 #include "Workbench/Window/SampleDesigns.h"
 
 #include <QtCore/QLocale>
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
-#include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -27,6 +28,7 @@ int takeTour(QApplication& application, const QString& folder, const QStringList
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    const Language language{QLocale()};
     QFont font = QApplication::font();
     font.setPointSize(s_tourPointSize);
     QApplication::setFont(font);
@@ -41,10 +43,6 @@ int takeTour(QApplication& application, const QString& folder, const QStringList
 
 int openWindow(QApplication& application, QStringList paths)
 {
-    QTranslator texts;
-    if (texts.load(QLocale(), QStringLiteral("zorvane"), QStringLiteral("_"),
-                   QStringLiteral(":/Zorvane/Translations")))
-        QCoreApplication::installTranslator(&texts);
     applyAppearance(application, storedAppearance());
     MainWindow window;
     window.keepLayout();
@@ -71,6 +69,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationVersion(QStringLiteral(ZORVANE_VERSION));
     QApplication::setStyle(QStringLiteral("Fusion"));
 
+    auto language = std::make_unique<Language>(QLocale());
     QCommandLineParser& parser = Zorvane::CommandLineParser::instance()->options();
     parser.setApplicationDescription(
         QApplication::translate("main", "Looks at sheet-metal forming designs."));
@@ -88,7 +87,9 @@ int main(int argc, char** argv)
     parser.addOption(tour);
     Zorvane::CommandLineParser::instance()->process();
 
-    if (parser.isSet(tour))
+    if (parser.isSet(tour)) {
+        language.reset();
         return takeTour(application, parser.value(tour), parser.positionalArguments());
+    }
     return openWindow(application, parser.positionalArguments());
 }

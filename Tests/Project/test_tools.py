@@ -168,12 +168,12 @@ class TranslationsTest(ToolTest):
         super().setUp()
         self.write("Files/A.cpp", self.SOURCE)
 
-    def write_catalogue(self, translation, source="Copy %1"):
-        self.write("Translations/a_de.ts", f"""<?xml version="1.0" encoding="utf-8"?>
+    def write_catalogue(self, translation, source="Copy %1", name="zorvane_de", numerus=""):
+        self.write(f"Translations/{name}.ts", f"""<?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="de_DE" sourcelanguage="en_US">
+<TS version="2.1" language="{name.split('_')[1]}" sourcelanguage="en_US">
 <context><name>Context</name>
-<message><source>{source}</source>{translation}</message>
+<message{numerus}><source>{source}</source>{translation}</message>
 </context></TS>""")
 
     def assert_finds(self, *findings):
@@ -206,12 +206,37 @@ class TranslationsTest(ToolTest):
     def test_finds_texts_that_are_hidden_in_a_variable(self):
         self.write_catalogue("<translation>%1 kopieren</translation>")
         self.write("Files/B.cpp", 'return Translator::translate("Hidden", text);\n')
-        self.assert_finds("Files/B.cpp: Hidden: has no texts in Translations/a_de.ts")
+        self.assert_finds("Files/B.cpp: Hidden: has no texts in Translations/zorvane_de.ts")
 
     def test_fix_takes_texts_in_and_out(self):
         self.write_catalogue("<translation>Alt</translation>", source="Old")
         run_tool("check-translations", "--fix", "--root", self.root)
         self.assert_finds("'Copy %1': not translated")
+
+    def test_each_catalogue_holds_the_texts_of_its_folders(self):
+        self.write("Workbench/B.cpp", self.SOURCE.replace("Copy", "Move"))
+        self.write_catalogue("<translation>%1 kopieren</translation>")
+        self.write_catalogue("<translation>%1 kopieren</translation>", name="workbench_de")
+        self.assert_finds("workbench_de.ts: Context: 'Move %1': missing",
+                          "workbench_de.ts: Context: 'Copy %1': no longer in the sources")
+
+    def test_in_english_only_what_counts_is_translated(self):
+        self.write("Files/A.cpp", 'Translator::translate("Context", "%n files", nullptr, n);\n'
+                                  + self.SOURCE)
+        self.write_catalogue("<translation><numerusform>%n file</numerusform>"
+                             "<numerusform>%n files</numerusform></translation>",
+                             source="%n files", name="zorvane_en", numerus=' numerus="yes"')
+        self.assertEqual(self.check("check-translations").stdout, "Translations: in order\n")
+
+    def test_finds_sources_that_lupdate_loses_its_way_in(self):
+        self.write("Files/A.cpp", "int many = 1'000;\n" + self.SOURCE)
+        self.write_catalogue("<translation>%1 kopieren</translation>")
+        self.assertIn("Files/A.cpp:1: lupdate takes a digit separator for a quotation mark",
+                      self.check("check-translations").stdout)
+
+    def test_finds_catalogues_of_nobody(self):
+        self.write_catalogue("<translation>%1 kopieren</translation>", name="other_de")
+        self.assert_finds("Translations/other_de.ts: no folders belong to this name")
 
     def test_a_project_without_catalogues_is_not_in_order(self):
         self.assertEqual(self.check("check-translations").returncode, 1)

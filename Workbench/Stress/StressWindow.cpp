@@ -3,6 +3,7 @@
 #include "Host/Widgets/ZVTreeViewPlaceKeeper.h"
 #include "Workbench/Stress/TimeChart.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFormLayout>
@@ -20,7 +21,7 @@ namespace Zorvane::Workbench {
 
 namespace {
 
-constexpr int s_sizes[] = {1'000, 10'000, 100'000};
+constexpr int s_sizes[] = {1000, 10000, 100000};
 constexpr std::uint32_t s_seed = 7;
 constexpr std::size_t s_spreadMarks = 30;
 constexpr std::size_t s_nearMarks = 8;
@@ -44,6 +45,12 @@ constexpr EditRow s_edits[] = {
     {StressEdit::Shuffle, QT_TR_NOOP("Sh&uffle"), QT_TR_NOOP("All siblings get another order"),                 false},
 };
 // clang-format on
+
+/** The table belongs to no class: its texts are listed under the namespace. */
+QString tableText(const char* text)
+{
+    return QCoreApplication::translate("Zorvane::Workbench", text);
+}
 
 QString counted(const Kept& kept, const QLocale& locale)
 {
@@ -121,8 +128,8 @@ QWidget* StressWindow::createEditBox()
     auto* form = new QFormLayout(box);
     auto* kinds = new QGridLayout;
     for (const EditRow& row : s_edits) {
-        auto* kind = new QCheckBox(tr(row.text), box);
-        kind->setToolTip(tr(row.explanation));
+        auto* kind = new QCheckBox(tableText(row.text), box);
+        kind->setToolTip(tableText(row.explanation));
         kind->setAccessibleDescription(kind->toolTip());
         kind->setChecked(row.usual);
         const int place = int(m_kinds.size());
@@ -131,7 +138,7 @@ QWidget* StressWindow::createEditBox()
     }
     form->addRow(kinds);
     m_editsPerStep = new QSpinBox(box);
-    m_editsPerStep->setRange(1, 10'000);
+    m_editsPerStep->setRange(1, 10000);
     m_editsPerStep->setValue(s_usualEdits);
     m_rate = new QSpinBox(box);
     m_rate->setRange(1, 100);

@@ -1,5 +1,6 @@
 #include "Workbench/Window/WindowActions.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtGui/QIcon>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QMenu>
@@ -53,13 +54,19 @@ constexpr ActionRow s_actions[] = {
 };
 // clang-format on
 
+/** The table belongs to no class: its texts are listed under the namespace. */
+QString tableText(const char* text)
+{
+    return QCoreApplication::translate("Zorvane::Workbench", text);
+}
+
 } // namespace
 
 WindowActions::WindowActions(QObject* parent)
     : QObject(parent)
 {
     for (const ActionRow& row : s_actions) {
-        auto* action = new QAction(tr(row.text), this);
+        auto* action = new QAction(tableText(row.text), this);
         action->setShortcut(QKeySequence(QString::fromLatin1(row.shortcut)));
         if (*row.icon != '\0')
             action->setIcon(
