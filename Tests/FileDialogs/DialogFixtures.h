@@ -82,8 +82,9 @@ private:
     NativeFileDialogResult run(DialogScript::Kind kind, const NativeFileDialogRequest& request)
     {
         m_script.requests.emplace_back(kind, request);
-        if (m_script.whileOpen)
-            m_script.whileOpen(request);
+        // A copy, since it may give the script another one.
+        if (const auto whileOpen = m_script.whileOpen)
+            whileOpen(request);
         if (m_script.results.empty())
             return {NativeFileDialogResult::s_cancelled, {}};
         const NativeFileDialogResult result = m_script.results.front();

@@ -1,0 +1,372 @@
+#include "FileDialogs/FileDialog.h"
+
+#include "Tests/FileDialogs/FacadeTestCase.h"
+
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QWidget>
+
+using namespace Zorvane;
+using namespace Zorvane::Testing;
+using Kind = DialogScript::Kind;
+
+class FileDialogSaveTest : public FacadeTestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void saveAsksTheDriver();
+    void saveTellsTheProvider();
+    void saveProposes_data();
+    void saveProposes();
+    void saveCancelled();
+
+    void defaultSuffix_data();
+    void defaultSuffix();
+    void defaultSuffixOfTheSelectedFilter();
+    void suffixIsToldToTheProvider();
+
+    void filterIsRememberedByScope();
+    void chosenFilterGoesBeforeTheRememberedOne();
+    void cancelRemembersTheFilterToo();
+    void filterNoLongerOfferedIsRemembered();
+
+    void inDirAsksTheDriver();
+    void inDirProposesTheCurrentFolder();
+    void inDirPreselectsAFilter();
+    void inDirRepeatsUntilTheFolderIsRight();
+    void inDirShowsTheMessage_data();
+    void inDirShowsTheMessage();
+    void inDirCountsTheBox();
+    void inDirCancelled_data();
+    void inDirCancelled();
+    void inDirComparesFoldersExactly();
+    void inDirGivesTheAbsolutePath();
+
+    void lastDirectoryOpened();
+
+private:
+    /** Saves in a scope that no other test uses. */
+    QString saveIn(const char* scope, const QString& filter, const QString& selected);
+};
+
+QString FileDialogSaveTest::saveIn(const char* scope, const QString& filter,
+                                   const QString& selected)
+{
+    return FileDialog::getSaveFileName(s_caption, filter, selected, &m_provider,
+                                       QString::fromLatin1(scope), QStringLiteral("part"));
+}
+
+void FileDialogSaveTest::saveAsksTheDriver()
+{
+    m_provider.places = {QStringLiteral("one"), QStringLiteral("two")};
+    QWidget parent;
+    m_script.answer({QStringLiteral("/b/new.prt")});
+    QCOMPARE(FileDialog::getSaveFileName(s_caption, s_filter, s_tables, &m_provider, s_scope,
+                                         QStringLiteral("new.prt"), &parent),
+             QStringLiteral("/b/new.prt"));
+    QVERIFY(m_script.requests.front().first == Kind::Save);
+    const NativeFileDialogRequest& request = m_script.last();
+    QCOMPARE(request.owner, &parent);
+    QCOMPARE(request.caption, s_caption);
+    QVERIFY(!request.multiSelection);
+    QCOMPARE(request.filters.names, QStringList({s_parts, s_tables}));
+    QCOMPARE(request.filters.preselectedPattern, QStringLiteral("*.csv"));
+    QCOMPARE(request.folder, QDir::toNativeSeparators(m_dir->path()));
+    QCOMPARE(request.fileName, QStringLiteral("new.prt"));
+    QCOMPARE(request.places, m_provider.places);
+    QVERIFY(!request.configuration);
+}
+
+void FileDialogSaveTest::saveTellsTheProvider()
+{
+    m_script.answer({QStringLiteral("/b/new.prt")});
+    FileDialog::getSaveFileName(s_caption, s_filter, &m_provider, s_scope, QString());
+    QCOMPARE(m_provider.calls,
+             QStringList({QStringLiteral("places of Design"), QStringLiteral("path of Design"),
+                          QStringLiteral("set Design to '/b/new.prt'")}));
+}
+
+void FileDialogSaveTest::saveProposes_data()
+{
+    QTest::addColumn<QString>("scopePath");
+    QTest::addColumn<QString>("fileName");
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("proposed");
+    const auto row = [](const char* rule, const char* scopePath, const char* fileName,
+                        const char* folder, const char* proposed) {
+        QTest::newRow(rule) << QString::fromUtf8(scopePath) << QString::fromUtf8(fileName)
+                            << QString::fromUtf8(folder) << QString::fromUtf8(proposed);
+    };
+    row("a name in the folder", "", "new.prt", "", "new.prt");
+    row("no name in the folder", "", "", "", "");
+    row("a name beside a file", "/a.prt", "new.prt", "", "new.prt");
+    row("no name at a file", "/a.prt", "", "", "a.prt");
+    row("a name in a folder that was deleted", "/gone", "new.prt", "/gone", "new.prt");
+    row("a name beside a file that was deleted", "/gone/b.prt", "new.prt", "/gone", "new.prt");
+    row("semicolons, brackets and dots", "", "a;b (1) [x].v2.prt", "", "a;b (1) [x].v2.prt");
+    row("blanks at the end", "", "new.prt  ", "", "new.prt  ");
+}
+
+void FileDialogSaveTest::saveProposes()
+{
+    QFETCH(QString, scopePath);
+    QFETCH(QString, fileName);
+    QFETCH(QString, folder);
+    m_provider.path = m_dir->path() + scopePath;
+    FileDialog::getSaveFileName(s_caption, s_filter, &m_provider, s_scope, fileName);
+    QCOMPARE(m_script.last().folder, QDir::toNativeSeparators(m_dir->path() + folder));
+    QTEST(m_script.last().fileName, "proposed");
+}
+
+void FileDialogSaveTest::saveCancelled()
+{
+    QCOMPARE(FileDialog::getSaveFileName(s_caption, s_filter, &m_provider, s_scope, QString()),
+             QString());
+    QCOMPARE(m_provider.calls.last(), QStringLiteral("set Design to ''"));
+}
+
+void FileDialogSaveTest::defaultSuffix_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<QString>("chosen");
+    QTest::addColumn<QString>("result");
+    const auto row = [](const char* rule, const char* filter, const char* chosen,
+                        const char* result) {
+        QTest::newRow(rule) << QString::fromUtf8(filter) << QString::fromUtf8(chosen)
+                            << QString::fromUtf8(result);
+    };
+    row("none was written", "Design (*.dsg)", "C:/tmp/part", "C:/tmp/part.dsg");
+    row("another was written", "Design (*.dsg)", "C:/tmp/part.x", "C:/tmp/part.x");
+    row("the first filter counts", "A (*.a);;B (*.b)", "C:/tmp/part", "C:/tmp/part.a");
+    row("a semicolon in the filter ends it", "A (*.a;*.b)", "C:/tmp/part", "C:/tmp/part.a");
+    row("several patterns are appended whole", "A (*.a *.b)", "C:/tmp/part", "C:/tmp/part.a *.b");
+    row("all files", "All Files (*)", "C:/tmp/part", "C:/tmp/part");
+    row("no filter", "", "C:/tmp/part", "C:/tmp/part");
+    row("a filter without a star", "Design", "C:/tmp/part", "C:/tmp/part");
+    row("a dot in the folder is no ending", "Design (*.dsg)", "C:/tmp.d/part", "C:/tmp.d/part.dsg");
+    row("native separators", "Design (*.dsg)", "C:\\tmp.d\\part", "C:\\tmp.d\\part.dsg");
+    row("a dot at the end is an ending", "Design (*.dsg)", "C:/tmp/part.", "C:/tmp/part.");
+    row("several dots", "Design (*.dsg)", "C:/tmp/part.v1.2", "C:/tmp/part.v1.2");
+    row("cancel gets none", "Design (*.dsg)", "", "");
+}
+
+void FileDialogSaveTest::defaultSuffix()
+{
+    QFETCH(QString, filter);
+    QFETCH(QString, chosen);
+    if (!chosen.isEmpty())
+        m_script.answer({chosen});
+    // A scope of its own: no filter is remembered from another row.
+    QTEST(saveIn(QTest::currentDataTag(), filter, QString()), "result");
+}
+
+void FileDialogSaveTest::defaultSuffixOfTheSelectedFilter()
+{
+    m_script.answer({QStringLiteral("C:/tmp/part")});
+    QCOMPARE(saveIn("selected", s_filter, s_tables), QStringLiteral("C:/tmp/part.csv"));
+}
+
+void FileDialogSaveTest::suffixIsToldToTheProvider()
+{
+    m_script.answer({QStringLiteral("C:/tmp/part")});
+    saveIn("told", QStringLiteral("A (*.a)"), QString());
+    QCOMPARE(m_provider.calls.last(), QStringLiteral("set told to 'C:/tmp/part.a'"));
+}
+
+void FileDialogSaveTest::filterIsRememberedByScope()
+{
+    saveIn("remembers", s_filter, s_tables);
+    saveIn("remembers not", s_filter, QString());
+    QVERIFY(m_script.last().filters.preselectedPattern.isNull());
+    saveIn("remembers", s_filter, QString());
+    QCOMPARE(m_script.last().filters.preselectedPattern, QStringLiteral("*.csv"));
+    FileDialog::getSaveFileName(s_caption, s_filter, &m_provider, QStringLiteral("remembers"),
+                                QString());
+    QCOMPARE(m_script.last().filters.preselectedPattern, QStringLiteral("*.csv"));
+}
+
+void FileDialogSaveTest::chosenFilterGoesBeforeTheRememberedOne()
+{
+    saveIn("chosen", s_filter, s_tables);
+    saveIn("chosen", s_filter, s_parts);
+    QCOMPARE(m_script.last().filters.preselectedPattern, QStringLiteral("*.prt;*.dsg"));
+    saveIn("chosen", s_filter, QString());
+    QCOMPARE(m_script.last().filters.preselectedPattern, QStringLiteral("*.prt;*.dsg"));
+}
+
+void FileDialogSaveTest::cancelRemembersTheFilterToo()
+{
+    QCOMPARE(saveIn("cancelled", s_filter, s_tables), QString());
+    m_script.answer({QStringLiteral("C:/tmp/part")});
+    QCOMPARE(saveIn("cancelled", s_filter, QString()), QStringLiteral("C:/tmp/part.csv"));
+}
+
+void FileDialogSaveTest::filterNoLongerOfferedIsRemembered()
+{
+    saveIn("gone", s_filter, QStringLiteral("Old (*.old)"));
+    m_script.answer({QStringLiteral("C:/tmp/part")});
+    QCOMPARE(saveIn("gone", s_filter, QString()), QStringLiteral("C:/tmp/part.old"));
+    QVERIFY(m_script.last().filters.preselectedPattern.isNull());
+}
+
+void FileDialogSaveTest::inDirAsksTheDriver()
+{
+    m_provider.places = {QStringLiteral("one")};
+    QWidget window;
+    const MainWindowProperty property(&window);
+    m_script.answer({path(QStringLiteral("new.prt"))});
+    QCOMPARE(FileDialog::getSaveFileNameInDir(s_caption, s_filter, path(QStringLiteral("a.prt")),
+                                              &m_provider, s_scope, QString(), QString()),
+             m_dir->filePath(QStringLiteral("new.prt")));
+    const NativeFileDialogRequest& request = m_script.last();
+    QVERIFY(m_script.requests.front().first == Kind::Save);
+    QCOMPARE(request.owner, &window);
+    QCOMPARE(request.caption, s_caption);
+    QCOMPARE(request.folder, QDir::toNativeSeparators(m_dir->path()));
+    QCOMPARE(request.fileName, QStringLiteral("a.prt"));
+    QCOMPARE(request.places, m_provider.places);
+    QVERIFY(request.filters.preselectedPattern.isNull());
+    QCOMPARE(m_provider.calls, QStringList({QStringLiteral("places of Design"),
+                                            QStringLiteral("set Design to '%1'")
+                                                .arg(m_dir->filePath(QStringLiteral("new.prt")))}));
+}
+
+void FileDialogSaveTest::inDirProposesTheCurrentFolder()
+{
+    m_script.answer({QDir::current().filePath(QStringLiteral("new.prt"))});
+    QCOMPARE(FileDialog::getSaveFileNameInDir(s_caption, s_filter, QString(), &m_provider, s_scope,
+                                              QString(), QString()),
+             QDir::current().filePath(QStringLiteral("new.prt")));
+    QCOMPARE(m_script.last().folder, QDir::toNativeSeparators(QDir::currentPath()));
+    QCOMPARE(m_script.last().fileName, QString());
+}
+
+void FileDialogSaveTest::inDirPreselectsAFilter()
+{
+    FileDialog::getSaveFileNameInDir(s_caption, s_filter, path(QStringLiteral("a.prt")),
+                                     &m_provider, s_scope, s_tables, QString());
+    QCOMPARE(m_script.last().filters.preselectedPattern, QStringLiteral("*.csv"));
+}
+
+void FileDialogSaveTest::inDirRepeatsUntilTheFolderIsRight()
+{
+    m_script.answer({QStringLiteral("/elsewhere/a.prt")});
+    m_script.answer({path(QStringLiteral("deeper/a.prt"))});
+    m_script.answer({path(QStringLiteral("b.prt"))});
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("Wrong"), QMessageBox::Ok);
+    modals.expectMessageBox(QStringLiteral("Wrong"), QMessageBox::Ok);
+    QCOMPARE(FileDialog::getSaveFileNameInDir(s_caption, s_filter, path(QStringLiteral("a.prt")),
+                                              &m_provider, s_scope, QString(),
+                                              QStringLiteral("Wrong")),
+             m_dir->filePath(QStringLiteral("b.prt")));
+    QCOMPARE(m_script.requests.size(), std::size_t(3));
+    for (const auto& [kind, request] : m_script.requests) {
+        QVERIFY(kind == Kind::Save);
+        QCOMPARE(request.fileName, QStringLiteral("a.prt"));
+        QCOMPARE(request.folder, QDir::toNativeSeparators(m_dir->path()));
+    }
+    QCOMPARE(m_provider.calls.filter(QStringLiteral("set")).size(), 1);
+}
+
+void FileDialogSaveTest::inDirShowsTheMessage_data()
+{
+    QTest::addColumn<QString>("message");
+    QTest::newRow("the caller's") << QStringLiteral("Designs stay in %1 <b>here</b>");
+    QTest::newRow("ours") << QString();
+}
+
+void FileDialogSaveTest::inDirShowsTheMessage()
+{
+    QFETCH(QString, message);
+    const QString text =
+        message.isEmpty() ? QStringLiteral("This file can only be saved at '%1'").arg(m_dir->path())
+                          : message;
+    m_script.answer({QStringLiteral("/elsewhere/a.prt")});
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("."), [&text](QMessageBox& box) {
+        QCOMPARE(box.windowTitle(), s_caption);
+        QCOMPARE(box.text(), text);
+        QCOMPARE(box.icon(), QMessageBox::Critical);
+        QCOMPARE(box.standardButtons(), QMessageBox::Ok);
+        QVERIFY(!box.parentWidget());
+        box.button(QMessageBox::Ok)->click();
+    });
+    FileDialog::getSaveFileNameInDir(s_caption, s_filter, path(QStringLiteral("a.prt")),
+                                     &m_provider, s_scope, QString(), message);
+}
+
+void FileDialogSaveTest::inDirCountsTheBox()
+{
+    m_script.answer({QStringLiteral("/elsewhere/a.prt")});
+    m_script.whileOpen = [](const NativeFileDialogRequest&) {
+        QCOMPARE(FileDialog::getOpenDialogsCount(), 1);
+    };
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("."), [](QMessageBox& box) {
+        QCOMPARE(FileDialog::getOpenDialogsCount(), 1);
+        box.close();
+    });
+    FileDialog::getSaveFileNameInDir(s_caption, s_filter, path(QStringLiteral("a.prt")),
+                                     &m_provider, s_scope, QString(), QString());
+    QCOMPARE(m_script.requests.size(), std::size_t(2));
+    QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
+}
+
+void FileDialogSaveTest::inDirCancelled_data()
+{
+    QTest::addColumn<int>("wrongChoices");
+    QTest::newRow("at once") << 0;
+    QTest::newRow("after a wrong choice") << 1;
+}
+
+void FileDialogSaveTest::inDirCancelled()
+{
+    QFETCH(int, wrongChoices);
+    ExpectedModals modals;
+    for (int i = 0; i < wrongChoices; ++i) {
+        m_script.answer({QStringLiteral("/elsewhere/a.prt")});
+        modals.expectMessageBox(QStringLiteral("."), QMessageBox::Ok);
+    }
+    QCOMPARE(FileDialog::getSaveFileNameInDir(s_caption, s_filter, path(QStringLiteral("a.prt")),
+                                              &m_provider, s_scope, QString(), QString()),
+             QString());
+    QCOMPARE(int(m_script.requests.size()), wrongChoices + 1);
+    QCOMPARE(m_provider.calls.last(), QStringLiteral("set Design to ''"));
+}
+
+void FileDialogSaveTest::inDirComparesFoldersExactly()
+{
+    m_script.answer({m_dir->path() + QStringLiteral("/../a.prt")});
+    m_script.answer({m_dir->path().toUpper() + QStringLiteral("/a.prt")});
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("."), QMessageBox::Ok);
+    modals.expectMessageBox(QStringLiteral("."), QMessageBox::Ok);
+    FileDialog::getSaveFileNameInDir(s_caption, s_filter, path(QStringLiteral("a.prt")),
+                                     &m_provider, s_scope, QString(), QString());
+    QCOMPARE(m_script.requests.size(), std::size_t(3));
+}
+
+void FileDialogSaveTest::inDirGivesTheAbsolutePath()
+{
+    m_script.answer({QStringLiteral("new")});
+    QCOMPARE(FileDialog::getSaveFileNameInDir(s_caption, s_filter, QString(), &m_provider, s_scope,
+                                              QString(), QString()),
+             QDir::current().filePath(QStringLiteral("new")));
+}
+
+void FileDialogSaveTest::lastDirectoryOpened()
+{
+    m_provider.path = m_dir->path();
+    QCOMPARE(FileDialog::getLastDirectoryOpened(&m_provider, s_scope, QString()), m_dir->path());
+    QCOMPARE(FileDialog::getLastDirectoryOpened(&m_provider, s_scope, QStringLiteral("x.prt")),
+             m_dir->filePath(QStringLiteral("x.prt")));
+    m_provider.path = QStringLiteral("relative");
+    QCOMPARE(FileDialog::getLastDirectoryOpened(&m_provider, s_scope, QString()),
+             QStringLiteral("relative"));
+    QCOMPARE(m_provider.calls.filter(QStringLiteral("path of Design")).size(), 3);
+    QCOMPARE(m_provider.calls.size(), 3);
+}
+
+ZORVANE_TEST_MAIN(FileDialogSaveTest)
+#include "FileDialogSaveTest.moc"
