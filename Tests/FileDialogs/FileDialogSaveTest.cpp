@@ -135,18 +135,20 @@ void FileDialogSaveTest::defaultSuffix_data()
         QTest::newRow(rule) << QString::fromUtf8(filter) << QString::fromUtf8(chosen)
                             << QString::fromUtf8(result);
     };
-    row("none was written", "Design (*.dsg)", "C:/tmp/part", "C:/tmp/part.dsg");
-    row("another was written", "Design (*.dsg)", "C:/tmp/part.x", "C:/tmp/part.x");
-    row("the first filter counts", "A (*.a);;B (*.b)", "C:/tmp/part", "C:/tmp/part.a");
-    row("a semicolon in the filter ends it", "A (*.a;*.b)", "C:/tmp/part", "C:/tmp/part.a");
-    row("several patterns are appended whole", "A (*.a *.b)", "C:/tmp/part", "C:/tmp/part.a *.b");
-    row("all files", "All Files (*)", "C:/tmp/part", "C:/tmp/part");
-    row("no filter", "", "C:/tmp/part", "C:/tmp/part");
-    row("a filter without a star", "Design", "C:/tmp/part", "C:/tmp/part");
-    row("a dot in the folder is no ending", "Design (*.dsg)", "C:/tmp.d/part", "C:/tmp.d/part.dsg");
-    row("native separators", "Design (*.dsg)", "C:\\tmp.d\\part", "C:\\tmp.d\\part.dsg");
-    row("a dot at the end is an ending", "Design (*.dsg)", "C:/tmp/part.", "C:/tmp/part.");
-    row("several dots", "Design (*.dsg)", "C:/tmp/part.v1.2", "C:/tmp/part.v1.2");
+    row("none was written", "Design (*.dsg)", "C:/parts/part", "C:/parts/part.dsg");
+    row("another was written", "Design (*.dsg)", "C:/parts/part.x", "C:/parts/part.x");
+    row("the first filter counts", "A (*.a);;B (*.b)", "C:/parts/part", "C:/parts/part.a");
+    row("a semicolon in the filter ends it", "A (*.a;*.b)", "C:/parts/part", "C:/parts/part.a");
+    row("several patterns are appended whole", "A (*.a *.b)", "C:/parts/part",
+        "C:/parts/part.a *.b");
+    row("all files", "All Files (*)", "C:/parts/part", "C:/parts/part");
+    row("no filter", "", "C:/parts/part", "C:/parts/part");
+    row("a filter without a star", "Design", "C:/parts/part", "C:/parts/part");
+    row("a dot in the folder is no ending", "Design (*.dsg)", "C:/parts.d/part",
+        "C:/parts.d/part.dsg");
+    row("native separators", "Design (*.dsg)", "C:\\parts.d\\part", "C:\\parts.d\\part.dsg");
+    row("a dot at the end is an ending", "Design (*.dsg)", "C:/parts/part.", "C:/parts/part.");
+    row("several dots", "Design (*.dsg)", "C:/parts/part.v1.2", "C:/parts/part.v1.2");
     row("cancel gets none", "Design (*.dsg)", "", "");
 }
 
@@ -162,15 +164,15 @@ void FileDialogSaveTest::defaultSuffix()
 
 void FileDialogSaveTest::defaultSuffixOfTheSelectedFilter()
 {
-    m_script.answer({QStringLiteral("C:/tmp/part")});
-    QCOMPARE(saveIn("selected", s_filter, s_tables), QStringLiteral("C:/tmp/part.csv"));
+    m_script.answer({QStringLiteral("C:/parts/part")});
+    QCOMPARE(saveIn("selected", s_filter, s_tables), QStringLiteral("C:/parts/part.csv"));
 }
 
 void FileDialogSaveTest::suffixIsToldToTheProvider()
 {
-    m_script.answer({QStringLiteral("C:/tmp/part")});
+    m_script.answer({QStringLiteral("C:/parts/part")});
     saveIn("told", QStringLiteral("A (*.a)"), QString());
-    QCOMPARE(m_provider.calls.last(), QStringLiteral("set told to 'C:/tmp/part.a'"));
+    QCOMPARE(m_provider.calls.last(), QStringLiteral("set told to 'C:/parts/part.a'"));
 }
 
 void FileDialogSaveTest::filterIsRememberedByScope()
@@ -197,15 +199,15 @@ void FileDialogSaveTest::chosenFilterGoesBeforeTheRememberedOne()
 void FileDialogSaveTest::cancelRemembersTheFilterToo()
 {
     QCOMPARE(saveIn("cancelled", s_filter, s_tables), QString());
-    m_script.answer({QStringLiteral("C:/tmp/part")});
-    QCOMPARE(saveIn("cancelled", s_filter, QString()), QStringLiteral("C:/tmp/part.csv"));
+    m_script.answer({QStringLiteral("C:/parts/part")});
+    QCOMPARE(saveIn("cancelled", s_filter, QString()), QStringLiteral("C:/parts/part.csv"));
 }
 
 void FileDialogSaveTest::filterNoLongerOfferedIsRemembered()
 {
     saveIn("gone", s_filter, QStringLiteral("Old (*.old)"));
-    m_script.answer({QStringLiteral("C:/tmp/part")});
-    QCOMPARE(saveIn("gone", s_filter, QString()), QStringLiteral("C:/tmp/part.old"));
+    m_script.answer({QStringLiteral("C:/parts/part")});
+    QCOMPARE(saveIn("gone", s_filter, QString()), QStringLiteral("C:/parts/part.old"));
     QVERIFY(m_script.last().filters.preselectedPattern.isNull());
 }
 
