@@ -9,6 +9,7 @@
 #include "FileDialogs/Windows/GeometryHook.h"
 #include "Files/Windows/ShellPath.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
 #include <new>
@@ -148,8 +149,12 @@ HRESULT CommonItemDialog::attachConfiguration(IFileDialog* dialog, AdvisedEvents
 HRESULT CommonItemDialog::show(IFileDialog* dialog, FileDialogConfiguration& configuration) const
 {
     const GeometryHook hook(configuration);
-    QWidget* owner = m_request.owner;
-    return dialog->Show(owner ? reinterpret_cast<HWND>(owner->winId()) : nullptr);
+    if (!m_request.owner)
+        return dialog->Show(nullptr);
+    const QPointer<QWidget> owner(m_request.owner);
+    const HRESULT result = dialog->Show(reinterpret_cast<HWND>(owner->winId()));
+    // The system takes the dialog along with its owner, and tells that in no one way.
+    return owner ? result : HRESULT_FROM_WIN32(ERROR_CANCELLED);
 }
 
 HRESULT CommonItemDialog::createItem(const QString& path, IShellItem** item) const

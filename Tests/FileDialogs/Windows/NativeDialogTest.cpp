@@ -1,5 +1,7 @@
+#include "FileDialogs/FileDialog.h"
 #include "FileDialogs/NativeFileDialog.h"
 #include "FileDialogs/Windows/CommonItemDialogDriver.h"
+#include "Tests/FileDialogs/DialogFixtures.h"
 #include "Tests/FileDialogs/Windows/NativeDialogFixture.h"
 #include "Tests/Support/Windows/DialogPilot.h"
 #include "Tests/Support/Windows/NativeTest.h"
@@ -37,6 +39,9 @@ private Q_SLOTS:
     void missingEntryPoint();
     void multithreadedApartment();
     void oneDialogAfterAnother();
+    void ownerThatGoesTakesTheDialogAlong_data();
+    void ownerThatGoesTakesTheDialogAlong();
+    void throughTheFacade();
 
 private:
     QString path(const char* below) const { return m_folder->path(below); }
@@ -294,6 +299,52 @@ void NativeDialogTest::oneDialogAfterAnother()
 {
     for (int i = 0; i < 5; ++i)
         opensOneFile();
+}
+
+void NativeDialogTest::ownerThatGoesTakesTheDialogAlong_data()
+{
+    QTest::addColumn<bool>("isSave");
+    QTest::newRow("open") << false;
+    QTest::newRow("save") << true;
+}
+
+void NativeDialogTest::ownerThatGoesTakesTheDialogAlong()
+{
+    QFETCH(bool, isSave);
+    auto owner = std::make_unique<QWidget>();
+    owner->show();
+    m_request.owner = owner.get();
+    DialogPilot pilot;
+    pilot.then([&](const DialogWindow&) { owner.reset(); });
+    const NativeFileDialogResult result = isSave ? save() : open();
+    QVERIFY(pilot.isDone());
+    QCOMPARE(result.code, NativeFileDialogResult::s_cancelled);
+    QVERIFY(result.paths.isEmpty());
+}
+
+void NativeDialogTest::throughTheFacade()
+{
+    QWidget mainWindow;
+    mainWindow.show();
+    const Testing::MainWindowProperty property(&mainWindow);
+    Testing::ScriptedPathProvider provider;
+    provider.path = path("a.stl");
+    provider.places = {m_folder->folder(), path("missing")};
+    DialogPilot pilot;
+    pilot.then([&](const DialogWindow& dialog) {
+        QCOMPARE(FileDialog::getOpenDialogsCount(), 1);
+        QCOMPARE(dialog.owner(), reinterpret_cast<HWND>(mainWindow.winId()));
+        QCOMPARE(dialog.fileName(), QStringLiteral("a.stl"));
+        dialog.typeFileName(QStringLiteral("c d.obj"));
+    });
+    pilot.then([](const DialogWindow& dialog) { dialog.accept(); });
+    QCOMPARE(FileDialog::getOpenFileName(m_request.caption,
+                                         QStringLiteral("Meshes (*.stl *.obj);;All (*)"), &provider,
+                                         QStringLiteral("Import")),
+             path("c d.obj"));
+    QVERIFY(pilot.isDone());
+    QCOMPARE(provider.calls.last(), QStringLiteral("set Import to '%1'").arg(path("c d.obj")));
+    QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
 }
 
 ZORVANE_NATIVE_TEST_MAIN(NativeDialogTest)
