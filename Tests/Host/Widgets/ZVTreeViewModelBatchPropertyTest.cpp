@@ -196,6 +196,34 @@ public:
             origin->insertChild(before, row);
     }
 
+    /** Every announcement of the model applies one of these, as an eager slot would. */
+    void connectSlots(std::vector<Step> steps)
+    {
+        slotSteps = std::move(steps);
+        const auto onAnnouncement = [this] {
+            if (slotSteps.empty())
+                return;
+            const Step step = slotSteps.back();
+            slotSteps.pop_back();
+            if (step.kind != DeleteDirectly)
+                apply(step);
+        };
+        connections = {
+            QObject::connect(&model, &ZVTreeViewModel::aboutToPublish, onAnnouncement),
+            QObject::connect(&model, &ZVTreeViewModel::published, onAnnouncement),
+            QObject::connect(&model, &QAbstractItemModel::dataChanged, onAnnouncement),
+            QObject::connect(&model, &QAbstractItemModel::rowsInserted, onAnnouncement),
+            QObject::connect(&model, &QAbstractItemModel::rowsRemoved, onAnnouncement),
+            QObject::connect(&model, &QAbstractItemModel::layoutChanged, onAnnouncement),
+        };
+    }
+
+    void disconnectSlots()
+    {
+        for (const QMetaObject::Connection& connection : connections)
+            QObject::disconnect(connection);
+    }
+
     /** What a view can find out about the structure. */
     void shownRows(const QModelIndex& parent, std::vector<void*>& rows) const
     {
@@ -306,6 +334,8 @@ public:
     std::unique_ptr<QAbstractItemModel> flatRows;
     QTreeView view;
     QTreeView proxyView;
+    std::vector<Step> slotSteps;
+    std::vector<QMetaObject::Connection> connections;
     std::vector<ZVTreeViewItem*> kept;
     std::map<std::uint64_t, QPersistentModelIndex> places;
     std::uint64_t lastSerial = 0;
@@ -330,6 +360,7 @@ private Q_SLOTS:
     void everyWatcherFollowsRandomBatches();
     void everyWatcherFollowsSingleChanges();
     void longListsKeepEverybodyInStep();
+    void slotsMayChangeRowsAtEveryAnnouncement();
 };
 
 void ZVTreeViewModelBatchPropertyTest::everyWatcherFollowsRandomBatches()
@@ -393,6 +424,26 @@ void ZVTreeViewModelBatchPropertyTest::longListsKeepEverybodyInStep()
         }
         playground.checkPlaces();
         playground.checkAll();
+    });
+    QVERIFY(held);
+}
+
+void ZVTreeViewModelBatchPropertyTest::slotsMayChangeRowsAtEveryAnnouncement()
+{
+    const bool held = rc::check("changes by slots", [] {
+        Playground playground(2);
+        playground.insertTree(playground.model.rootItem(), 2);
+        playground.insertTree(playground.model.rootItem()->child(0), 2);
+        for (int round = 0; round < 3; ++round) {
+            playground.connectSlots(*steps(PutBack + 1));
+            {
+                ZVTreeViewModelBatch batch(&playground.model);
+                for (const Step& step : *steps(KindCount))
+                    playground.apply(step);
+            }
+            playground.disconnectSlots();
+            playground.checkAll(false);
+        }
     });
     QVERIFY(held);
 }
