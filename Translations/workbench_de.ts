@@ -166,6 +166,14 @@
         <source>About &amp;Qt</source>
         <translation>Über &amp;Qt</translation>
     </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
 </context>
 <context>
     <name>Zorvane::Workbench::ConversionTarget</name>
@@ -366,10 +374,6 @@
         <translation>muss eine Zahl sein</translation>
     </message>
     <message>
-        <source>version %1 isn&apos;t supported, only version %2 is</source>
-        <translation>Version %1 wird nicht unterstützt, nur Version %2</translation>
-    </message>
-    <message>
         <source>is no file</source>
         <translation>ist keine Datei</translation>
     </message>
@@ -435,6 +439,10 @@
     <message>
         <source>must be a list</source>
         <translation>muss eine Liste sein</translation>
+    </message>
+    <message>
+        <source>version %1 isn&apos;t supported, only versions %2 to %3 are</source>
+        <translation>Version %1 wird nicht unterstützt, nur die Versionen %2 bis %3</translation>
     </message>
 </context>
 <context>
@@ -621,6 +629,25 @@
     <message>
         <source>State</source>
         <translation>Zustand</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::Workbench::EditCommand</name>
+    <message>
+        <source>Rename %1</source>
+        <translation>%1 umbenennen</translation>
+    </message>
+    <message>
+        <source>Change %1 of %2</source>
+        <translation>%1 von %2 ändern</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>%1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
     </message>
 </context>
 <context>
@@ -1065,6 +1092,22 @@
     <message>
         <source>Another program has changed the file of %1, which has unsaved changes here. Save replaces its version, Reload drops yours.</source>
         <translation>Ein anderes Programm hat die Datei von %1 geändert, das hier nicht gespeicherte Änderungen hat. Speichern ersetzt dessen Fassung, Neu laden verwirft Ihre.</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
     </message>
 </context>
 <context>
