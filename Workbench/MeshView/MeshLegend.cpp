@@ -2,6 +2,7 @@
 
 #include "Workbench/MeshView/PartIcon.h"
 
+#include <QtGui/QPainter>
 #include <QtWidgets/QScrollBar>
 
 #include <algorithm>
@@ -11,6 +12,7 @@ namespace Zorvane::Workbench {
 namespace {
 
 constexpr int s_padding = 4;
+constexpr int s_veilAlpha = 150;
 
 } // namespace
 
@@ -23,7 +25,6 @@ MeshLegend::MeshLegend(QWidget* parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextElideMode(Qt::ElideMiddle);
     setUniformItemSizes(true);
-    // The mesh shows through.
     viewport()->setAutoFillBackground(false);
     hide();
     connect(this, &QListWidget::itemClicked, this, &MeshLegend::choose);
@@ -66,6 +67,15 @@ QSize MeshLegend::sizeHint() const
     const int width = sizeHintForColumn(0) + 2 * s_padding;
     const int height = sizeHintForRow(0) * count() + 2 * frameWidth();
     return {std::max(width, 0) + verticalScrollBar()->sizeHint().width(), std::max(height, 0)};
+}
+
+void MeshLegend::paintEvent(QPaintEvent* event)
+{
+    // The mesh shows through, but not so much that names could not be read.
+    QColor veil = palette().color(QPalette::Window);
+    veil.setAlpha(s_veilAlpha);
+    QPainter(viewport()).fillRect(viewport()->rect(), veil);
+    QListWidget::paintEvent(event);
 }
 
 void MeshLegend::choose(const QListWidgetItem* item)

@@ -46,6 +46,9 @@ public:
 Q_SIGNALS:
     void chosen(const Zorvane::IDCombiner& id);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     void choose(const QListWidgetItem* item);
 

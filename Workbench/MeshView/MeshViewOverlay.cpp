@@ -1,6 +1,7 @@
 #include "Workbench/MeshView/MeshViewOverlay.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 
 #include <algorithm>
@@ -36,6 +37,14 @@ QString numberText(double value, const QLocale& locale)
     return text;
 }
 
+/** Kept in its order where texts run from right to left. */
+QString inItsOrder(const QString& figures)
+{
+    const QChar begin(0x2066);
+    const QChar end(0x2069);
+    return QGuiApplication::isRightToLeft() ? begin + figures + end : figures;
+}
+
 } // namespace
 
 ScaleBar scaleBarFor(double pixelsPerMm, double atMost)
@@ -50,16 +59,16 @@ ScaleBar scaleBarFor(double pixelsPerMm, double atMost)
 
 QString sizeFigures(const QVector3D& millimetres, const QLocale& locale)
 {
-    return QStringLiteral("%1 × %2 × %3")
-        .arg(numberText(double(millimetres.x()), locale),
-             numberText(double(millimetres.y()), locale),
-             numberText(double(millimetres.z()), locale));
+    return inItsOrder(QStringLiteral("%1 × %2 × %3")
+                          .arg(numberText(double(millimetres.x()), locale),
+                               numberText(double(millimetres.y()), locale),
+                               numberText(double(millimetres.z()), locale)));
 }
 
 QString sizeText(const QVector3D& millimetres, const QLocale& locale)
 {
-    return QCoreApplication::translate("Zorvane::Workbench::MeshView", "%1 mm")
-        .arg(sizeFigures(millimetres, locale));
+    return inItsOrder(QCoreApplication::translate("Zorvane::Workbench::MeshView", "%1 mm")
+                          .arg(sizeFigures(millimetres, locale)));
 }
 
 void drawAxes(QPainter& painter, const QRect& area, const ViewTransform& view)
@@ -98,9 +107,11 @@ void drawScaleBar(QPainter& painter, const QRect& area, double pixelsPerMm, cons
     painter.drawLine(QPointF(left, y), QPointF(right, y));
     painter.drawLine(QPointF(left, y - 5), QPointF(left, y));
     painter.drawLine(QPointF(right, y - 5), QPointF(right, y));
-    const QString text = QCoreApplication::translate("Zorvane::Workbench::MeshView", "%1 mm")
-                             .arg(numberText(bar.millimetres, QLocale()));
-    painter.drawText(QRectF(right - 200, y - 26, 200, 20), Qt::AlignRight | Qt::AlignBottom, text);
+    const QString text =
+        inItsOrder(QCoreApplication::translate("Zorvane::Workbench::MeshView", "%1 mm")
+                       .arg(numberText(bar.millimetres, QLocale())));
+    painter.drawText(QRectF(right - 200, y - 26, 200, 20),
+                     Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignBottom, text);
 }
 
 } // namespace Zorvane::Workbench

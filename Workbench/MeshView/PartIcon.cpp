@@ -30,8 +30,15 @@ public:
         if (!m_picture.isNull())
             m_picture.paint(painter, QRect(rect.topLeft(), QSize(rect.height(), rect.height())),
                             Qt::AlignCenter, mode, state);
-        ZVGuiTools::drawBeautifiedColorPatch(painter, place, m_colour, ZVGuiTools::isFlatStyle(),
-                                             mode == QIcon::Disabled ? 110 : 255);
+        if (m_colour.isValid())
+            ZVGuiTools::drawBeautifiedColorPatch(painter, place, m_colour,
+                                                 ZVGuiTools::isFlatStyle(),
+                                                 mode == QIcon::Disabled ? 110 : 255);
+    }
+    QSize actualSize(const QSize& size, QIcon::Mode, QIcon::State) override
+    {
+        return m_colour.isValid() && !m_picture.isNull() ? size
+                                                         : QSize(size.height(), size.height());
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
     {
@@ -63,6 +70,11 @@ QIcon colourIcon(const QColor& colour)
 QIcon partIcon(const QIcon& picture, const QColor& colour)
 {
     return QIcon(new PartIconEngine(picture, colour));
+}
+
+QIcon squareIcon(const QIcon& picture)
+{
+    return QIcon(new PartIconEngine(picture, {}));
 }
 
 QSize partIconSize(int pictureSize)

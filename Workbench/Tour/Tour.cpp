@@ -119,6 +119,9 @@ QStringList Tour::perform(const QStringList& paths)
     missFile();
     importAndExport();
     openDoor();
+    showReferences();
+    showColours();
+    measure();
     openManyFiles();
     takeUpReading();
     keepTheScrollPosition();
@@ -126,6 +129,8 @@ QStringList Tour::perform(const QStringList& paths)
     redrawManyTriangles();
     stressATree();
     goDark();
+    lookClosely();
+    mirror();
     walkByTab();
     if (!paths.isEmpty())
         openPathsOfUser(paths);

@@ -37,6 +37,9 @@ private:
     void cancelAnImport();
     void exportTheSelection();
     void openDoor();
+    void showReferences();
+    void showColours();
+    void measure();
     void openManyFiles();
     void lookAndCancel();
     void takeUpReading();
@@ -45,6 +48,8 @@ private:
     void redrawManyTriangles();
     void stressATree();
     void goDark();
+    void lookClosely();
+    void mirror();
     void walkByTab();
     void openPathsOfUser(const QStringList& paths);
 

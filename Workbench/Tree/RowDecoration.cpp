@@ -9,11 +9,11 @@
 #include "TreeModel/ZVTreeItemTextProvider.h"
 #include "Workbench/Design/DesignSession.h"
 #include "Workbench/MeshView/MeshViewOverlay.h"
+#include "Workbench/MeshView/PartIcon.h"
 #include "Workbench/Tree/CatalogTextProvider.h"
 #include "Workbench/Tree/ChosenRowsDataProvider.h"
 #include "Workbench/Tree/DesignPipeline.h"
 #include "Workbench/Tree/FactTexts.h"
-#include "Workbench/MeshView/PartIcon.h"
 #include "Workbench/Tree/ReferenceDataProvider.h"
 
 #include <QtCore/QDir>
@@ -192,12 +192,12 @@ void RowDecoration::addIcons()
         std::make_shared<StaticTreeItemByIdIconProvider>(TreeColumn::Name, Qt::DecorationRole);
     std::vector<QIcon> icons;
     for (const ObjectKind kind : s_kindsWithIcons)
-        icons.push_back(createSvgIcon(iconPath(kind)));
+        icons.push_back(squareIcon(createSvgIcon(iconPath(kind))));
     for (const ObjectKind kind : s_colouredKinds)
         for (const QColor& colour : PartColours::palette())
             icons.push_back(partIcon(createSvgIcon(iconPath(kind)), colour));
     m_icons->setIcons(icons);
-    m_icons->setDefaultIcon(createSvgIcon(QStringLiteral(":/workbench/group.svg")));
+    m_icons->setDefaultIcon(squareIcon(createSvgIcon(QStringLiteral(":/workbench/group.svg"))));
     m_manager->addProvider(m_icons);
 }
 

@@ -159,7 +159,7 @@ QWidget* MainWindow::createTreeSide()
     QHeaderView* header = m_treeView->header();
     header->setStretchLastSection(true);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const double widths[] = {31, 13.75, 7, 8.75, 19, 13.75, 9.5, 9.5};
+    const double widths[] = {30.5, 14.75, 7, 8.75, 20.5, 13, 9.25, 8.5};
     for (int column = 0; column < header->count(); ++column)
         header->resizeSection(column, int(widths[column] * digitWidth()));
     auto* side = new QWidget(this);

@@ -1,0 +1,135 @@
+#include "Workbench/Tour/Tour.h"
+
+#include "Utilities/ReferenceIndicatorDelegate.h"
+#include "Workbench/Edit/EngineeringSpinBox.h"
+#include "Workbench/Edit/QuantityPanel.h"
+#include "Workbench/MeshView/MeshView.h"
+#include "Workbench/Window/MainWindow.h"
+#include "Workbench/Window/WindowActions.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QTreeView>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+constexpr double s_largeScale = 1.5;
+
+/** A window as on a screen of another scale. */
+QImage scaledPicture(QWidget& window, double scale)
+{
+    QImage picture(window.size() * scale, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(scale);
+    window.render(&picture);
+    return picture;
+}
+
+QString usedBy(const QModelIndex& row, int role)
+{
+    return row.siblingAtColumn(TreeColumn::UsedBy).data(role).toString();
+}
+
+} // namespace
+
+void Tour::showReferences()
+{
+    m_report.beginStep(
+        QStringLiteral("Who uses what"),
+        QStringLiteral("The column Used by tells how many parts refer to a material or file, in "
+                       "their colours. Go to Reference leads there: a menu when there are more."));
+    const IDCombiner steel = m_driver.find(ObjectKind::Material, QStringLiteral("DC06, 0.8 mm"));
+    m_driver.select(ObjectKind::Material, QStringLiteral("DC06, 0.8 mm"));
+    const QModelIndex row = m_window.tree().indexOf(steel);
+    m_report.expect(usedBy(row, Qt::AccessibleTextRole) ==
+                        ReferenceIndicatorDelegate::textForReferences(4),
+                    QStringLiteral("read aloud: ") + usedBy(row, Qt::AccessibleTextRole));
+    m_report.expect(usedBy(row, Qt::ToolTipRole).contains(QStringLiteral("Trimmed panel")),
+                    QStringLiteral("the names as tool tip"));
+    (*m_window.findChild<WindowActions*>())[WindowActions::GoToReference]->trigger();
+    m_driver.settle();
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    m_report.expect(menu != nullptr && menu->actions().size() == 5,
+                    QStringLiteral("a menu of five to go to"));
+    if (menu == nullptr)
+        return;
+    QImage whole = m_driver.picture();
+    QPainter(&whole).drawImage(m_window.mapFromGlobal(menu->pos()), menu->grab().toImage());
+    m_report.addPicture(QStringLiteral("who-uses-a-material"), whole);
+    m_driver.pressKey(menu, Qt::Key_Down);
+    m_driver.pressKey(menu, Qt::Key_Return);
+    m_driver.settle();
+    m_report.expect(m_window.tree().currentId() ==
+                        m_driver.find(ObjectKind::Part, QStringLiteral("Drawn panel")),
+                    QStringLiteral("the part selected by keyboard"));
+}
+
+void Tour::showColours()
+{
+    m_report.beginStep(
+        QStringLiteral("Colours of parts"),
+        QStringLiteral(
+            "Each part has one colour in the tree, in the mesh view and in its legend."));
+    m_driver.select(ObjectKind::Part, QStringLiteral("Trimmed panel"));
+    m_report.expect(m_driver.waitFor([this] { return m_window.meshView().hasMesh(); }),
+                    QStringLiteral("the panel's mesh"));
+    const CatalogEntry* entry = m_window.tree().catalog().find(m_window.tree().currentId());
+    m_report.expect(m_window.meshView().colour() == entry->colour,
+                    QStringLiteral("the mesh in the colour of the row"));
+    const auto& legend = m_window.meshView().legend().entries();
+    m_report.expect(legend.size() == 13 && legend[2].isShown && legend[2].colour == entry->colour,
+                    QStringLiteral("a legend of 13, with the panel marked"));
+    picture(QStringLiteral("colours-of-parts"));
+}
+
+void Tour::measure()
+{
+    m_report.beginStep(QStringLiteral("Thickness and force"),
+                       QStringLiteral("Values in engineering notation, stepped by what suits them; "
+                                      "each step can be undone."));
+    m_driver.select(ObjectKind::Part, QStringLiteral("Drawn panel"));
+    EngineeringSpinBox& force = m_window.quantityPanel().spinBox(Quantity::Force);
+    const QString before = force.text();
+    force.stepBy(1);
+    m_driver.settle();
+    m_report.expect(before == QStringLiteral("3.4e6 N") &&
+                        force.text() == QStringLiteral("3.41e6 N"),
+                    QStringLiteral("%1 stepped to %2").arg(before, force.text()));
+    EngineeringSpinBox& thickness = m_window.quantityPanel().spinBox(Quantity::Thickness);
+    thickness.stepBy(-5);
+    m_driver.settle();
+    m_report.expect(thickness.text() == QStringLiteral("750e-3 mm"), thickness.text());
+    m_report.expect(m_window.isWindowModified(), QStringLiteral("the design is modified"));
+    picture(QStringLiteral("thickness-and-force"));
+    m_window.session().revert(m_window.session().designs().front().id);
+    m_driver.settle();
+    m_report.expect(force.text() == before, QStringLiteral("the values of the file again"));
+}
+
+void Tour::lookClosely()
+{
+    m_report.beginStep(QStringLiteral("At 150 %"),
+                       QStringLiteral("Patches and pictures as sharp as the screen."));
+    m_driver.select(ObjectKind::Material, QStringLiteral("DC06, 0.8 mm"));
+    m_report.addPicture(QStringLiteral("at-150-percent"), scaledPicture(m_window, s_largeScale));
+}
+
+void Tour::mirror()
+{
+    m_report.beginStep(QStringLiteral("From right to left"),
+                       QStringLiteral("Mirrored, as languages written from right to left are."));
+    m_driver.select(ObjectKind::Part, QStringLiteral("Door panel"));
+    m_driver.waitFor([this] { return m_window.meshView().hasMesh(); });
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    m_driver.settle();
+    const MeshLegend& legend = m_window.meshView().legend();
+    m_report.expect(legend.geometry().center().x() < m_window.meshView().width() / 2,
+                    QStringLiteral("the legend on the left"));
+    picture(QStringLiteral("from-right-to-left"));
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    m_driver.settle();
+}
+
+} // namespace Zorvane::Workbench
