@@ -174,12 +174,13 @@
         <source>&amp;Redo</source>
         <translation>&amp;Wiederholen</translation>
     </message>
-</context>
-<context>
-    <name>Zorvane::Workbench::ConversionTarget</name>
     <message>
-        <source>there is no such folder</source>
-        <translation>diesen Ordner gibt es nicht</translation>
+        <source>Start S&amp;imulation</source>
+        <translation>S&amp;imulation starten</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p Simulation</source>
+        <translation>Simulation sto&amp;ppen</translation>
     </message>
 </context>
 <context>
@@ -443,6 +444,45 @@
     <message>
         <source>version %1 isn&apos;t supported, only versions %2 to %3 are</source>
         <translation>Version %1 wird nicht unterstützt, nur die Versionen %2 bis %3</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::Workbench::DesignSaving</name>
+    <message>
+        <source>The simulation of %1 was stopped.</source>
+        <translation>Die Simulation von %1 wurde gestoppt.</translation>
+    </message>
+    <message>
+        <source>%1 is not saved while its simulation is running.</source>
+        <translation>%1 wird nicht gespeichert, solange die Simulation dafür läuft.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Another program has changed the design meanwhile. Replace its version by yours?</source>
+        <translation>Ein anderes Programm hat den Entwurf inzwischen geändert. Dessen Fassung durch Ihre ersetzen?</translation>
+    </message>
+    <message>
+        <source>Simulation</source>
+        <translation>Simulation</translation>
+    </message>
+    <message>
+        <source>The simulation of %1 is running. Stop it and lose what it has computed so far?</source>
+        <translation>Die Simulation von %1 läuft. Soll sie gestoppt werden? Was sie bisher berechnet hat, geht verloren.</translation>
+    </message>
+    <message>
+        <source>The simulation of %1 is done: %2</source>
+        <translation>Die Simulation von %1 ist fertig: %2</translation>
+    </message>
+    <message>
+        <source>The simulation of %1 is done; the design has its results.</source>
+        <translation>Die Simulation von %1 ist fertig; der Entwurf enthält ihre Ergebnisse.</translation>
+    </message>
+    <message>
+        <source>The simulation of %1 is done. Save the design to keep its results.</source>
+        <translation>Die Simulation von %1 ist fertig. Speichern Sie den Entwurf, um die Ergebnisse zu behalten.</translation>
     </message>
 </context>
 <context>
@@ -1062,14 +1102,6 @@
         <translation>fehlt; %1 bezieht sich darauf</translation>
     </message>
     <message>
-        <source>Save</source>
-        <translation>Speichern</translation>
-    </message>
-    <message>
-        <source>Another program has changed the design meanwhile. Replace its version by yours?</source>
-        <translation>Ein anderes Programm hat den Entwurf inzwischen geändert. Dessen Fassung durch Ihre ersetzen?</translation>
-    </message>
-    <message>
         <source>Unsaved Changes</source>
         <translation>Nicht gespeicherte Änderungen</translation>
     </message>
@@ -1394,6 +1426,13 @@
     </message>
 </context>
 <context>
+    <name>Zorvane::Workbench::NewFile</name>
+    <message>
+        <source>there is no such folder</source>
+        <translation>diesen Ordner gibt es nicht</translation>
+    </message>
+</context>
+<context>
     <name>Zorvane::Workbench::ObjectKind</name>
     <message>
         <source>Designs</source>
@@ -1553,6 +1592,44 @@
     <message>
         <source>Door panel</source>
         <translation>Türblech</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::Workbench::SimulationProgress</name>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Progress of the simulation</source>
+        <translation>Fortschritt der Simulation</translation>
+    </message>
+    <message>
+        <source>Stop the simulation</source>
+        <translation>Die Simulation stoppen</translation>
+    </message>
+    <message>
+        <source>Simulating %1: stroke %2 of %3</source>
+        <translation>Simulation von %1: Hub %2 von %3</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::Workbench::SimulationRunner</name>
+    <message>
+        <source>a simulation is running already</source>
+        <translation>eine Simulation läuft bereits</translation>
+    </message>
+    <message>
+        <source>is being computed by another program</source>
+        <translation>wird gerade von einem anderen Programm berechnet</translation>
+    </message>
+    <message>
+        <source>cannot be marked as being computed: its folder is not writable</source>
+        <translation>kann nicht als in Berechnung markiert werden: in den Ordner darf nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>the results cannot be written: %1</source>
+        <translation>die Ergebnisse können nicht geschrieben werden: %1</translation>
     </message>
 </context>
 <context>

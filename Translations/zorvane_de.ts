@@ -309,39 +309,39 @@ Sollen sie nach %1 kopiert werden?</translation>
     </message>
     <message>
         <source>The current design has not been saved since the last change.</source>
-        <translation>Das aktuelle Design wurde seit der letzten Änderung nicht gespeichert.</translation>
+        <translation>Der aktuelle Entwurf wurde seit der letzten Änderung nicht gespeichert.</translation>
     </message>
     <message>
         <source>The current design contains simulation results.</source>
-        <translation>Das aktuelle Design enthält Simulationsergebnisse.</translation>
+        <translation>Der aktuelle Entwurf enthält Simulationsergebnisse.</translation>
     </message>
     <message>
         <source>The current design has not been saved since the last change and contains simulation results.</source>
-        <translation>Das aktuelle Design wurde seit der letzten Änderung nicht gespeichert und enthält Simulationsergebnisse.</translation>
+        <translation>Der aktuelle Entwurf wurde seit der letzten Änderung nicht gespeichert und enthält Simulationsergebnisse.</translation>
     </message>
     <message>
         <source>The current design is still running a simulation.</source>
-        <translation>Für das aktuelle Design läuft noch eine Simulation.</translation>
+        <translation>Für den aktuellen Entwurf läuft noch eine Simulation.</translation>
     </message>
     <message>
         <source>The current design has not been saved since the last change and is still running a simulation.</source>
-        <translation>Das aktuelle Design wurde seit der letzten Änderung nicht gespeichert, und es läuft noch eine Simulation dafür.</translation>
+        <translation>Der aktuelle Entwurf wurde seit der letzten Änderung nicht gespeichert, und es läuft noch eine Simulation dafür.</translation>
     </message>
     <message>
         <source>The current design was created with a previous version.</source>
-        <translation>Das aktuelle Design wurde mit einer früheren Version erstellt.</translation>
+        <translation>Der aktuelle Entwurf wurde mit einer früheren Version erstellt.</translation>
     </message>
     <message>
         <source>The current design has not been saved since the last change and was created with a previous version.</source>
-        <translation>Das aktuelle Design wurde seit der letzten Änderung nicht gespeichert und mit einer früheren Version erstellt.</translation>
+        <translation>Der aktuelle Entwurf wurde seit der letzten Änderung nicht gespeichert und mit einer früheren Version erstellt.</translation>
     </message>
     <message>
         <source>The current design contains simulation results and was created with a previous version.</source>
-        <translation>Das aktuelle Design enthält Simulationsergebnisse und wurde mit einer früheren Version erstellt.</translation>
+        <translation>Der aktuelle Entwurf enthält Simulationsergebnisse und wurde mit einer früheren Version erstellt.</translation>
     </message>
     <message>
         <source>The current design has not been saved since the last change, contains simulation results and was created with a previous version.</source>
-        <translation>Das aktuelle Design wurde seit der letzten Änderung nicht gespeichert, enthält Simulationsergebnisse und wurde mit einer früheren Version erstellt.</translation>
+        <translation>Der aktuelle Entwurf wurde seit der letzten Änderung nicht gespeichert, enthält Simulationsergebnisse und wurde mit einer früheren Version erstellt.</translation>
     </message>
     <message>
         <source>%</source>
@@ -373,7 +373,7 @@ Sollen sie nach %1 kopiert werden?</translation>
     </message>
     <message>
         <source>Saving is not allowed, because the current design is still running a simulation.</source>
-        <translation>Speichern ist nicht erlaubt, weil für das aktuelle Design noch eine Simulation läuft.</translation>
+        <translation>Speichern ist nicht erlaubt, weil für den aktuellen Entwurf noch eine Simulation läuft.</translation>
     </message>
     <message>
         <source>If you confirm this action the consequences will be</source>
@@ -393,7 +393,7 @@ Sollen sie nach %1 kopiert werden?</translation>
     </message>
     <message>
         <source>The design will be converted to the current version.</source>
-        <translation>Das Design wird in die aktuelle Version konvertiert.</translation>
+        <translation>Der Entwurf wird in die aktuelle Version konvertiert.</translation>
     </message>
 </context>
 <context>

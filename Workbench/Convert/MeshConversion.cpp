@@ -2,10 +2,12 @@
 
 #include "Dialogs/FileConverterLogInterface.h"
 #include "Files/CopyTexts.h"
+#include "Host/FileHandling/StlContent.h"
 #include "Workbench/Convert/BackgroundWork.h"
-#include "Workbench/Convert/ConversionTarget.h"
+#include "Workbench/Design/NewFile.h"
 #include "Workbench/Meshes/MeshFacts.h"
 #include "Workbench/Meshes/MeshReader.h"
+#include "Workbench/Meshes/MeshWriter.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -20,6 +22,28 @@ namespace {
 QString leafOf(const QString& file)
 {
     return QFileInfo(file).fileName();
+}
+
+bool isStl(const QString& file)
+{
+    return QFileInfo(file).suffix().compare(QLatin1String("stl"), Qt::CaseInsensitive) == 0;
+}
+
+/** STL of the other format, or binary STL of anything else. */
+StlFormat targetFormat(const QString& inputFile)
+{
+    return isStl(inputFile) && isBinaryStl(FileName(inputFile)) ? StlFormat::Ascii
+                                                                : StlFormat::Binary;
+}
+
+/** STL made of STL is told apart by its format. */
+QString targetStem(const QString& inputFile)
+{
+    const QString stem = QFileInfo(inputFile).completeBaseName();
+    if (!isStl(inputFile))
+        return stem;
+    return targetFormat(inputFile) == StlFormat::Ascii ? stem + QLatin1String("-ascii")
+                                                       : stem + QLatin1String("-binary");
 }
 
 QString count(std::size_t number)
@@ -76,8 +100,9 @@ int MeshConversion::write(const std::shared_ptr<const MeshReading>& reading,
                           const QString& inputFile, const QString& folder,
                           FileConverterLogInterface& log) const
 {
-    const auto target = std::make_shared<ConversionTarget>(inputFile, folder);
-    if (target->file().isEmpty()) {
+    const auto target =
+        std::make_shared<NewFile>(folder, targetStem(inputFile), QStringLiteral(".stl"));
+    if (target->path().isEmpty()) {
         log.addMessage(tr("No file can be written to %1: %2")
                            .arg(QDir::toNativeSeparators(folder), target->obstacle()));
         return ConversionOutputFailed;
@@ -85,12 +110,12 @@ int MeshConversion::write(const std::shared_ptr<const MeshReading>& reading,
     const StlFormat format = targetFormat(inputFile);
     log.addMessage((format == StlFormat::Ascii ? tr("Writing %1 as ASCII STL...")
                                                : tr("Writing %1 as binary STL..."))
-                       .arg(QDir::toNativeSeparators(target->file())));
+                       .arg(QDir::toNativeSeparators(target->path())));
     const auto problem = std::make_shared<std::optional<Problem>>();
     const auto work = [reading, target, format, problem] {
-        *problem = writeStl(*reading->mesh, target->file(), format);
+        *problem = writeStl(*reading->mesh, target->path(), format);
     };
-    if (!workInBackground(tr("Writing %1...").arg(leafOf(target->file())), work)) {
+    if (!workInBackground(tr("Writing %1...").arg(leafOf(target->path())), work)) {
         // The target takes the file away when the work that still goes on lets go of it.
         log.addMessage(tr("Cancelled. Nothing was written."));
         return Cancelled;
@@ -100,7 +125,7 @@ int MeshConversion::write(const std::shared_ptr<const MeshReading>& reading,
         return ConversionOutputFailed;
     }
     target->keep();
-    log.addMessage(tr("Written: %1.").arg(sizeForDisplay(QFileInfo(target->file()).size())));
+    log.addMessage(tr("Written: %1.").arg(sizeForDisplay(QFileInfo(target->path()).size())));
     return ConversionSucceeded;
 }
 

@@ -1,5 +1,6 @@
 #include "Workbench/Import/SessionDesign.h"
 
+#include "Workbench/Design/DesignReader.h"
 #include "Workbench/Design/DesignSession.h"
 
 #include <algorithm>
@@ -19,12 +20,7 @@ FileName SessionDesign::getFileName() const
 
 int SessionDesign::getModificationCount(int) const
 {
-    const Design* design = m_session.findDesign(m_design);
-    if (design == nullptr)
-        return 0;
-    const std::vector<GUIdentifier> ids = design->allIds();
-    const auto isModified = [this](const GUIdentifier& id) { return m_session.isModified(id); };
-    return std::any_of(ids.begin(), ids.end(), isModified) ? 1 : 0;
+    return m_session.isDesignModified(m_design) ? 1 : 0;
 }
 
 // Designs are always read from a file.
@@ -36,26 +32,35 @@ bool SessionDesign::isNew() const
 bool SessionDesign::hasSimulationResults() const
 {
     const Design* design = m_session.findDesign(m_design);
-    const auto isResult = [](const FileReference& file) { return file.kind == FileKind::Result; };
+    const auto isResult = [](const FileReference& file) {
+        return file.kind == FileKind::Result && file.state == FileState::Exists;
+    };
     return design != nullptr && std::any_of(design->files.begin(), design->files.end(), isResult);
 }
 
-// There is one version of design files, and the session changes nothing that results rest on.
 bool SessionDesign::isCurrentVersion() const
 {
-    return true;
+    const Design* design = m_session.findDesign(m_design);
+    return design == nullptr || design->version() == DesignReader::currentVersion;
 }
 
+// Evaluation works on the tables of results: those renamed or added are its data.
 bool SessionDesign::hasEvaluationDataChanged() const
 {
-    return false;
+    const Design* design = m_session.findDesign(m_design);
+    const auto isChangedResult = [this](const FileReference& file) {
+        return file.kind == FileKind::Result && m_session.isModified(file.id);
+    };
+    return design != nullptr &&
+           std::any_of(design->files.begin(), design->files.end(), isChangedResult);
 }
 
 bool SessionDesign::hasSimulationInputChanged() const
 {
-    return false;
+    return m_session.areQuantitiesModified(m_design);
 }
 
+// The current version holds all that earlier ones held.
 bool SessionDesign::areResultsLostByConversion() const
 {
     return false;

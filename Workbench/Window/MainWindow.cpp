@@ -7,6 +7,9 @@
 #include "Workbench/Import/FileExchange.h"
 #include "Workbench/MeshView/MeshView.h"
 #include "Workbench/Meshes/MeshReader.h"
+#include "Workbench/Saving/DesignSaving.h"
+#include "Workbench/Solver/SimulationProgress.h"
+#include "Workbench/Solver/SimulationRunner.h"
 #include "Workbench/Stress/StressWindow.h"
 #include "Workbench/Undo/EditHistory.h"
 #include "Workbench/Window/DetailsPanel.h"
@@ -77,6 +80,8 @@ MainWindow::MainWindow(QWidget* parent)
     , m_factsReader(new FactsReader(m_session, m_loader, this))
     , m_designView(new BaseView(this))
     , m_fileCommands(new FileCommands(m_session, this))
+    , m_runner(new SimulationRunner(this))
+    , m_saving(new DesignSaving({m_session, *m_history, *m_fileCommands, *m_runner}, this))
     , m_exchange(new FileExchange(m_session, m_designView, this))
     , m_filterBar(new FilterBar(this))
     , m_treeView(new QTreeView(this))
@@ -102,6 +107,7 @@ MainWindow::MainWindow(QWidget* parent)
     connectViewActions();
     connectParts();
     connectFileCommands();
+    connectSaving();
     showSession();
 }
 
@@ -193,7 +199,8 @@ void MainWindow::fillMenus()
     fillEditMenu();
     fillViewMenu();
     m_actions->addTo(*menuBar()->addMenu(tr("&Tools")),
-                     {WindowActions::ConvertMeshes, WindowActions::StressTree});
+                     {WindowActions::StartSimulation, WindowActions::StopSimulation,
+                      WindowActions::ConvertMeshes, WindowActions::StressTree});
     m_actions->addTo(*menuBar()->addMenu(tr("&Help")),
                      {WindowActions::About, WindowActions::AboutQt});
 }
@@ -304,6 +311,7 @@ void MainWindow::fillStatusBar()
     m_counts->setContentsMargins(6, 0, 6, 0);
     statusBar()->addWidget(m_counts, 1);
     statusBar()->addPermanentWidget(m_progress);
+    statusBar()->addPermanentWidget(new SimulationProgress(*m_runner, this));
     statusBar()->setSizeGripEnabled(false);
 }
 
@@ -316,7 +324,15 @@ void MainWindow::connectActions()
     on(WindowActions::OpenFolder, [this] { m_fileCommands->openFolder(); });
     on(WindowActions::Import, &MainWindow::importFiles);
     on(WindowActions::Export, &MainWindow::exportFiles);
-    on(WindowActions::Save, &MainWindow::saveAll);
+    on(WindowActions::Save, [this] {
+        hideMessages();
+        m_saving->saveAll();
+    });
+    on(WindowActions::StartSimulation, [this] {
+        hideMessages();
+        m_saving->start(currentDesign());
+    });
+    on(WindowActions::StopSimulation, [this] { m_runner->stop(); });
     on(WindowActions::SaveAs, [this] { m_fileCommands->saveAs(currentDesign()); });
     on(WindowActions::SaveCopy, [this] { m_fileCommands->saveCopy(currentDesign()); });
     on(WindowActions::Reload, &MainWindow::reload);
@@ -507,34 +523,28 @@ void MainWindow::connectFileCommands()
             [this](const QString& text) { statusBar()->showMessage(text, s_noticeMilliseconds); });
 }
 
+void MainWindow::connectSaving()
+{
+    connect(m_saving, &DesignSaving::failed, m_messageBar, &MessageBar::say);
+    connect(m_saving, &DesignSaving::done, this,
+            [this](const QString& text) { statusBar()->showMessage(text, s_noticeMilliseconds); });
+    const auto showRun = [this] {
+        (*m_actions)[WindowActions::StartSimulation]->setEnabled(!m_runner->isRunning() &&
+                                                                 !m_session.designs().empty());
+        (*m_actions)[WindowActions::StopSimulation]->setEnabled(m_runner->isRunning());
+    };
+    connect(m_runner, &SimulationRunner::progressed, this, showRun);
+    connect(m_runner, &SimulationRunner::finished, this, showRun);
+    connect(m_runner, &SimulationRunner::failed, this, showRun);
+    connect(m_runner, &SimulationRunner::stopped, this, showRun);
+    connect(&m_session, &DesignSession::changed, this, showRun);
+    showRun();
+}
+
 /** That of what is selected, else the first; null without designs. */
 GUIdentifier MainWindow::currentDesign() const
 {
     return m_exchange->targetFor(m_tree->currentId().getCombinedPart());
-}
-
-bool MainWindow::saveAll()
-{
-    m_messageBar->hide();
-    Problems problems = m_session.save();
-    const auto conflicts = [this] {
-        for (const Design& design : m_session.designs())
-            if (m_session.hasConflict(design.id))
-                return true;
-        return false;
-    };
-    if (!problems.empty() && conflicts()) {
-        const auto answer = ZVMessageBox::warning(
-            this, tr("Save"),
-            tr("Another program has changed the design meanwhile. Replace its version by yours?"),
-            ZVMessageBox::Save | ZVMessageBox::Cancel, ZVMessageBox::Cancel);
-        if (answer != ZVMessageBox::Save)
-            return false;
-        problems = m_session.save(DesignSession::OnConflict::Overwrite);
-    }
-    if (!problems.empty())
-        m_messageBar->say(problems.front().text());
-    return problems.empty();
 }
 
 bool MainWindow::mayDropChanges()
@@ -545,7 +555,7 @@ bool MainWindow::mayDropChanges()
         this, tr("Unsaved Changes"), tr("Save the changes of the design?"),
         ZVMessageBox::Save | ZVMessageBox::Discard | ZVMessageBox::Cancel, ZVMessageBox::Save);
     if (answer == ZVMessageBox::Save)
-        return saveAll();
+        return m_saving->saveAll();
     return answer == ZVMessageBox::Discard;
 }
 
@@ -559,7 +569,7 @@ void MainWindow::reload()
 
 void MainWindow::closeAll()
 {
-    if (!mayDropChanges())
+    if (!m_saving->mayClose())
         return;
     hideMessages();
     m_loader.cancel();
@@ -652,7 +662,7 @@ void MainWindow::keepLayout()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!mayDropChanges()) {
+    if (!m_saving->mayClose()) {
         event->ignore();
         return;
     }

@@ -18,6 +18,7 @@ QT_END_NAMESPACE
 
 namespace Zorvane::Workbench {
 
+class DesignSaving;
 class DetailsPanel;
 class EditHistory;
 class FactsReader;
@@ -31,6 +32,7 @@ class ProblemsPanel;
 class QuantityPanel;
 class ReadingProgress;
 class ReferenceMenu;
+class SimulationRunner;
 class StressWindow;
 class WindowActions;
 
@@ -66,6 +68,8 @@ public:
     QTreeView& treeView() { return *m_treeView; }
     MeshView& meshView() { return *m_meshView; }
     FileCommands& fileCommands() { return *m_fileCommands; }
+    DesignSaving& saving() { return *m_saving; }
+    SimulationRunner& simulation() { return *m_runner; }
     EditHistory& history() { return *m_history; }
     FileExchange& fileExchange() { return *m_exchange; }
     FilterBar& filterBar() { return *m_filterBar; }
@@ -95,11 +99,11 @@ private:
     void connectViewActions();
     void connectParts();
     void connectFileCommands();
+    void connectSaving();
     void addAppearances(QMenu& menu);
     void showRecent(QMenu& menu);
 
     GUIdentifier currentDesign() const;
-    bool saveAll();
     bool mayDropChanges();
     void closeAll();
     void rename();
@@ -126,6 +130,8 @@ private:
     FactsReader* m_factsReader;
     BaseView* m_designView;
     FileCommands* m_fileCommands;
+    SimulationRunner* m_runner;
+    DesignSaving* m_saving;
     FileExchange* m_exchange;
     FilterBar* m_filterBar;
     QTreeView* m_treeView;

@@ -48,6 +48,8 @@ constexpr ActionRow s_actions[] = {
     {WindowActions::ExpandAll,     QT_TR_NOOP("&Expand All"),          "Ctrl+Shift++", ""},
     {WindowActions::CollapseAll,   QT_TR_NOOP("Co&llapse All"),        "Ctrl+Shift+-", ""},
     {WindowActions::ConvertMeshes, QT_TR_NOOP("&Convert Meshes…"),     "",             ""},
+    {WindowActions::StartSimulation, QT_TR_NOOP("Start S&imulation"),  "",             ""},
+    {WindowActions::StopSimulation, QT_TR_NOOP("Sto&p Simulation"),    "",             ""},
     {WindowActions::StressTree,    QT_TR_NOOP("&Stress a Tree…"),      "",             ""},
     {WindowActions::About,         QT_TR_NOOP("&About the Workbench"), "",             ""},
     {WindowActions::AboutQt,       QT_TR_NOOP("About &Qt"),            "",             ""},

@@ -48,6 +48,8 @@ public:
         ExpandAll,
         CollapseAll,
         ConvertMeshes,
+        StartSimulation,
+        StopSimulation,
         StressTree,
         About,
         AboutQt

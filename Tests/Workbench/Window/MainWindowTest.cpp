@@ -305,7 +305,7 @@ void MainWindowTest::closingAsksForUnsavedChanges()
     openDesign();
     QCOMPARE(m_window->session().rename(objectId(21), QStringLiteral("Upper die")), QString());
     Testing::ExpectedModals modals;
-    modals.expectMessageBox(QStringLiteral("Save the changes"),
+    modals.expectMessageBox(QStringLiteral("save the changes to \"small.dsg\""),
                             QMessageBox::StandardButton(answer));
     m_window->close();
     QVERIFY(modals.allMet());

@@ -1,0 +1,249 @@
+#include "Workbench/Saving/DesignSaving.h"
+
+#include "Dialogs/SaveState.h"
+#include "Host/Widgets/ZVMessageBox.h"
+#include "Workbench/Commands/FileCommands.h"
+#include "Workbench/Design/DesignSession.h"
+#include "Workbench/Import/SessionDesign.h"
+#include "Workbench/Solver/SimulationRunner.h"
+#include "Workbench/Undo/EditHistory.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+
+#include <memory>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+/** Whether there is anything to ask before the design is saved, or its simulation started. */
+bool needsQuestion(const SaveState& state, ZVSaveDialog::Action action)
+{
+    const bool isStarting = action == ZVSaveDialog::ActionStart;
+    const bool losesResults = state.hasResults && (isStarting || state.areResultsOutdated ||
+                                                   state.areResultsLostByConversion);
+    return state.isJobRunning || losesResults || !state.isCurrentVersion ||
+           (isStarting && state.isModified);
+}
+
+} // namespace
+
+DesignSaving::DesignSaving(const Parts& parts, QWidget* window)
+    : QObject(window)
+    , m_parts(parts)
+    , m_window(window)
+{
+    connect(&parts.runner, &SimulationRunner::finished, this, &DesignSaving::takeResults);
+    connect(&parts.runner, &SimulationRunner::failed, this,
+            [this](const QString&, const Problem& problem) { Q_EMIT failed(problem.text()); });
+    connect(&parts.runner, &SimulationRunner::stopped, this, [this](const QString& file) {
+        Q_EMIT done(tr("The simulation of %1 was stopped.").arg(QFileInfo(file).fileName()));
+    });
+    connect(&parts.files, &FileCommands::savedAs, this,
+            [this](const QString& file) { m_savedAs = file; });
+}
+
+std::vector<GUIdentifier> DesignSaving::modifiedDesigns() const
+{
+    std::vector<GUIdentifier> ids;
+    for (const Design& design : m_parts.session.designs())
+        if (m_parts.session.isDesignModified(design.id))
+            ids.push_back(design.id);
+    return ids;
+}
+
+ZVSaveDialog::Result DesignSaving::ask(const GUIdentifier& designId,
+                                       ZVSaveDialog::Action action) const
+{
+    return ZVSaveDialog::showDialog(
+        m_window, std::make_shared<SessionDesign>(m_parts.session, designId), action, false, false);
+}
+
+bool DesignSaving::saveAll()
+{
+    for (const GUIdentifier& id : modifiedDesigns())
+        if (!save(id))
+            return false;
+    return true;
+}
+
+bool DesignSaving::save(const GUIdentifier& designId)
+{
+    const SaveState state = saveStateOf(SessionDesign(m_parts.session, designId));
+    if (!needsQuestion(state, ZVSaveDialog::ActionSave))
+        return write(designId);
+    switch (ask(designId, ZVSaveDialog::ActionSave)) {
+    case ZVSaveDialog::ResultSaveAs:
+        return saveAs(designId);
+    case ZVSaveDialog::ResultCancel:
+        return false;
+    default:
+        return write(designId);
+    }
+}
+
+bool DesignSaving::write(const GUIdentifier& designId)
+{
+    // Also where questions are suppressed: the simulation's file must stay as it is.
+    if (saveStateOf(SessionDesign(m_parts.session, designId)).isJobRunning) {
+        Q_EMIT failed(tr("%1 is not saved while its simulation is running.")
+                          .arg(m_parts.session.name(designId)));
+        return false;
+    }
+    const bool hasDropped = dropOutdatedResults(designId);
+    Problems problems = m_parts.session.save(designId, DesignSession::OnConflict::Refuse);
+    if (!problems.empty() && m_parts.session.hasConflict(designId) && mayOverwrite())
+        problems = m_parts.session.save(designId, DesignSession::OnConflict::Overwrite);
+    if (problems.empty())
+        return true;
+    if (hasDropped)
+        m_parts.history.undo();
+    Q_EMIT failed(problems.front().text());
+    return false;
+}
+
+bool DesignSaving::mayOverwrite()
+{
+    return ZVMessageBox::warning(m_window, tr("Save"),
+                                 tr("Another program has changed the design meanwhile. Replace its "
+                                    "version by yours?"),
+                                 ZVMessageBox::Save | ZVMessageBox::Cancel,
+                                 ZVMessageBox::Cancel) == ZVMessageBox::Save;
+}
+
+bool DesignSaving::saveAs(const GUIdentifier& designId)
+{
+    const bool hasDropped = dropOutdatedResults(designId);
+    const bool isSaved = m_parts.files.saveAs(designId);
+    if (!isSaved && hasDropped)
+        m_parts.history.undo();
+    return isSaved;
+}
+
+bool DesignSaving::dropOutdatedResults(const GUIdentifier& designId)
+{
+    const SaveState state = saveStateOf(SessionDesign(m_parts.session, designId));
+    if (!state.hasResults || !state.areResultsOutdated)
+        return false;
+    dropResults(designId);
+    return true;
+}
+
+void DesignSaving::dropResults(const GUIdentifier& designId)
+{
+    const Design* design = m_parts.session.findDesign(designId);
+    std::vector<GUIdentifier> results;
+    for (const FileReference& file : design->files)
+        if (file.kind == FileKind::Result)
+            results.push_back(file.id);
+    m_parts.session.take(designId, results);
+}
+
+bool DesignSaving::mayClose()
+{
+    for (const GUIdentifier& id : modifiedDesigns())
+        if (!mayCloseOne(id))
+            return false;
+    return mayStopSimulation();
+}
+
+bool DesignSaving::mayCloseOne(const GUIdentifier& designId)
+{
+    switch (ask(designId, ZVSaveDialog::ActionClose)) {
+    case ZVSaveDialog::ResultSave:
+        return write(designId);
+    case ZVSaveDialog::ResultSaveAs:
+        return saveAs(designId);
+    case ZVSaveDialog::ResultContinue:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool DesignSaving::mayStopSimulation()
+{
+    if (!m_parts.runner.isRunning())
+        return true;
+    const auto answer = ZVMessageBox::question(
+        m_window, tr("Simulation"),
+        tr("The simulation of %1 is running. Stop it and lose what it has computed so far?")
+            .arg(QFileInfo(m_parts.runner.designFile()).fileName()),
+        ZVMessageBox::Yes | ZVMessageBox::No, ZVMessageBox::No);
+    if (answer == ZVMessageBox::Yes)
+        m_parts.runner.stop();
+    return !m_parts.runner.isRunning();
+}
+
+bool DesignSaving::start(const GUIdentifier& designId)
+{
+    if (m_parts.session.findDesign(designId) == nullptr)
+        return false;
+    const SaveState state = saveStateOf(SessionDesign(m_parts.session, designId));
+    if (!needsQuestion(state, ZVSaveDialog::ActionStart))
+        return run(designId);
+    switch (ask(designId, ZVSaveDialog::ActionStart)) {
+    case ZVSaveDialog::ResultSaveAs:
+        return m_parts.files.saveAs(designId) && run(designOf(m_savedAs));
+    case ZVSaveDialog::ResultCancel:
+        return false;
+    default:
+        return run(designId);
+    }
+}
+
+/** What is computed is what the file holds, without the results of before. */
+bool DesignSaving::run(const GUIdentifier& designId)
+{
+    const SaveState state = saveStateOf(SessionDesign(m_parts.session, designId));
+    if (state.hasResults && !state.isJobRunning)
+        dropResults(designId);
+    const bool mustBeSaved = state.hasResults || state.isModified || !state.isCurrentVersion;
+    if (mustBeSaved && !write(designId)) {
+        if (state.hasResults && !state.isJobRunning)
+            m_parts.history.undo();
+        return false;
+    }
+    const Design* design = m_parts.session.findDesign(designId);
+    if (design == nullptr)
+        return false;
+    const std::optional<Problem> problem = m_parts.runner.start(*design);
+    if (problem)
+        Q_EMIT failed(problem->text());
+    return !problem;
+}
+
+GUIdentifier DesignSaving::designOf(const QString& file) const
+{
+    const QString real = QFileInfo(file).canonicalFilePath();
+    for (const Design& design : m_parts.session.designs())
+        if (design.file == real)
+            return design.id;
+    return {};
+}
+
+void DesignSaving::takeResults(const QString& designFile, const QString& resultFile)
+{
+    const QString name = QFileInfo(designFile).fileName();
+    const GUIdentifier id = designOf(designFile);
+    if (id == GUIdentifier()) {
+        Q_EMIT done(
+            tr("The simulation of %1 is done: %2").arg(name, QDir::toNativeSeparators(resultFile)));
+        return;
+    }
+    const bool isToBeSaved = !m_parts.session.isDesignModified(id);
+    Problems problems = m_parts.session.addFiles(id, {resultFile});
+    // Changes that the user has not saved yet are not saved by the way.
+    if (problems.empty() && isToBeSaved)
+        problems = m_parts.session.save(id, DesignSession::OnConflict::Refuse);
+    if (!problems.empty())
+        Q_EMIT failed(problems.front().text());
+    else if (isToBeSaved)
+        Q_EMIT done(tr("The simulation of %1 is done; the design has its results.").arg(name));
+    else
+        Q_EMIT done(
+            tr("The simulation of %1 is done. Save the design to keep its results.").arg(name));
+}
+
+} // namespace Zorvane::Workbench

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "Dialogs/ZVSaveDialog.h"
+#include "Host/Identifiers/GUIdentifier.h"
+#include "Workbench/Design/Problem.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <QtWidgets/QWidget>
+
+#include <vector>
+
+namespace Zorvane::Workbench {
+
+class DesignSession;
+class EditHistory;
+class FileCommands;
+class SimulationRunner;
+
+/**
+ * Saves designs, closes them and starts their simulation, and asks before it does what cannot be
+ * taken back: whether to save what is about to be closed, whether results may go, whether an older
+ * design may be converted. What costs nothing is not asked about.
+ *
+ * Results that no longer fit the design's values, and those of before a new simulation, leave the
+ * design as it is saved; their files stay on the disk, and undo brings them back.
+ *
+ * None of the objects given is owned; all must outlive it.
+ */
+class DesignSaving : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Parts
+    {
+        DesignSession& session;
+        EditHistory& history;
+        FileCommands& files;
+        SimulationRunner& runner;
+    };
+
+    DesignSaving(const Parts& parts, QWidget* window);
+
+    /** Every modified design. False if one of them was not saved: told, or the user's wish. */
+    bool saveAll();
+    bool save(const GUIdentifier& designId);
+    /** Whether everything may be closed: modified designs are saved, or the user gives them up. */
+    bool mayClose();
+    /** Saves the design, if need be, and starts its simulation. False if none runs then. */
+    bool start(const GUIdentifier& designId);
+
+Q_SIGNALS:
+    void done(const QString& text);
+    void failed(const QString& text);
+
+private:
+    ZVSaveDialog::Result ask(const GUIdentifier& designId, ZVSaveDialog::Action action) const;
+    bool mayCloseOne(const GUIdentifier& designId);
+    bool mayStopSimulation();
+    bool write(const GUIdentifier& designId);
+    bool mayOverwrite();
+    bool saveAs(const GUIdentifier& designId);
+    bool dropOutdatedResults(const GUIdentifier& designId);
+    void dropResults(const GUIdentifier& designId);
+    bool run(const GUIdentifier& designId);
+    GUIdentifier designOf(const QString& file) const;
+    std::vector<GUIdentifier> modifiedDesigns() const;
+    void takeResults(const QString& designFile, const QString& resultFile);
+
+    Parts m_parts;
+    QWidget* m_window;
+    /** Where Save As went last. */
+    QString m_savedAs;
+};
+
+} // namespace Zorvane::Workbench
