@@ -5,7 +5,7 @@
 #include "Tests/Support/VirtualSlot.h"
 
 #include <QtCore/QSettings>
-#include <QtWidgets/QDesktopWidget>
+#include <QtGui/QScreen>
 
 using namespace Zorvane;
 using CustomItem = FileDialogConfiguration::CustomItem;
@@ -188,12 +188,18 @@ void FileDialogConfigurationTest::defaultSizeFollowsThePreviewer()
 
 void FileDialogConfigurationTest::offsetFromTheScreenOfTheMainWindow()
 {
-    QWidget window;
-    const MainWindowProperty property(&window);
     FileDialogConfiguration configuration;
-    configuration.setTopLeftOffset(QSize(30, 40));
-    const QPoint corner = QApplication::desktop()->screenGeometry(&window).topLeft();
-    QCOMPARE(configuration.getTopLeftOffset(), QSize(30 + corner.x(), 40 + corner.y()));
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QPoint corner = screen->geometry().topLeft();
+        QWidget window;
+        const MainWindowProperty property(&window);
+        window.setGeometry(QRect(corner + QPoint(50, 50), QSize(200, 100)));
+        window.show();
+        configuration.setTopLeftOffset(QSize(0, 0));
+        QTRY_COMPARE(configuration.getTopLeftOffset(), QSize(corner.x(), corner.y()));
+        configuration.setTopLeftOffset(QSize(30, 40));
+        QCOMPARE(configuration.getTopLeftOffset(), QSize(corner.x() + 30, corner.y() + 40));
+    }
 }
 
 void FileDialogConfigurationTest::offsetWithoutAMainWindow_data()
