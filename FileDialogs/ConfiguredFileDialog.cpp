@@ -184,11 +184,12 @@ void ConfiguredFileDialog::placeLater(FileDialogConfiguration* configuration)
     QTimer::singleShot(s_dialogPlacementDelay, this, [this, configuration] {
         if (m_isClosedDown)
             return;
-        m_isPlaced = windowHandle() && windowHandle()->isExposed();
-        if (m_isPlaced)
-            giveOuterGeometry(dialogPlacement(*configuration));
-        else
+        if (!windowHandle() || !windowHandle()->isExposed()) {
             placeLater(configuration);
+            return;
+        }
+        giveOuterGeometry(dialogPlacement(*configuration));
+        m_isPlaced = true;
     });
 }
 

@@ -38,9 +38,8 @@ public:
     /** Moves and sizes the window by the configuration, as soon as its frame is known. */
     void placeLater(FileDialogConfiguration* configuration);
 
-    void done(int result) override;
-
 protected:
+    void done(int result) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -66,6 +65,7 @@ private:
     CustomControls* m_controls = nullptr;
     QTimer m_movementEnd;
     bool m_wasShown = false;
+    /** Until then the window is where the window manager first put it. */
     bool m_isPlaced = false;
     bool m_isClosedDown = false;
 };

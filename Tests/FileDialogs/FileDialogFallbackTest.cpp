@@ -3,9 +3,7 @@
 #include "Tests/FileDialogs/FacadeTestCase.h"
 
 #include <QtCore/QSettings>
-#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
 
 using namespace Zorvane;
 using namespace Zorvane::Testing;
@@ -16,12 +14,9 @@ const QStringList s_alternative{QStringLiteral("--alternativeFileDialog")};
 
 void accept(QFileDialog& dialog, const QString& name)
 {
-    dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(name);
-    auto* buttons = dialog.findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
-    for (auto* button : buttons->buttons()) {
-        if (buttons->buttonRole(button) == QDialogButtonBox::AcceptRole)
-            QTest::mouseClick(button, Qt::LeftButton);
-    }
+    auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    edit->setText(name);
+    QTest::keyClick(edit, Qt::Key_Return);
 }
 
 /** Why Qt's dialog comes: nobody has a driver, nobody wants it, or it has failed. */
@@ -46,6 +41,7 @@ private Q_SLOTS:
     void openAsksQt_data();
     void openAsksQt();
     void openAtAFile();
+    void openAtADeletedFolder();
     void openPassesOptions();
     void openWritesTheFilterBack();
     void openSeveral();
@@ -132,6 +128,18 @@ void FileDialogFallbackTest::openAtAFile()
     modals.expectDialog<QFileDialog>(s_caption, [](QFileDialog& dialog) {
         QCOMPARE(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(),
                  QStringLiteral("a.prt"));
+        dialog.reject();
+    });
+    FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope);
+}
+
+void FileDialogFallbackTest::openAtADeletedFolder()
+{
+    setUp(Reason::NoDriver);
+    m_provider.path = path(QStringLiteral("gone/deeper"));
+    ExpectedModals modals;
+    modals.expectDialog<QFileDialog>(s_caption, [](QFileDialog& dialog) {
+        QVERIFY(dialog.directory().exists());
         dialog.reject();
     });
     FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope);
