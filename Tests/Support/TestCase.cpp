@@ -77,7 +77,9 @@ void prepareApplication()
     QCoreApplication::setOrganizationName(QStringLiteral("Zorvane"));
     QCoreApplication::setApplicationName(QStringLiteral("Tests"));
     QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
+    // Qt's own file dialogs keep theirs in the native format, whatever the default is.
+    for (const QSettings::Format format : {QSettings::IniFormat, QSettings::NativeFormat})
+        QSettings::setPath(format, QSettings::UserScope, settings.path());
 }
 
 } // namespace Zorvane::Testing
