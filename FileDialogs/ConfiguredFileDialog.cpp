@@ -141,12 +141,15 @@ void ConfiguredFileDialog::addControls()
     auto* besideButtons = new QGridLayout;
     m_controls = new CustomControls(this);
     m_controls->add(*m_configuration, *rows, *besideButtons);
-    setTabOrder(findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), types);
-    m_controls->followInTabOrder(types);
     auto* corner = new QHBoxLayout;
     corner->addLayout(besideButtons);
     corner->addWidget(buttons);
     rows->addLayout(corner, row, column, rowSpan, columnSpan);
+
+    setTabOrder(findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), types);
+    m_controls->followInTabOrder(types);
+    // The box, which comes right after the name, would hand the focus on to its first button.
+    buttons->setFocusProxy(nullptr);
 }
 
 void ConfiguredFileDialog::connectEvents()

@@ -184,15 +184,24 @@ void CustomControlsTest::keyboardReachesEverything()
     open([](QFileDialog& dialog) {
         QTRY_VERIFY(dialog.isActiveWindow());
         QTRY_COMPARE(dialog.focusWidget(), nameEdit(dialog));
+        // With a name of a file, the open button is on the way as well.
+        nameEdit(dialog)->setText(QStringLiteral("a.stl"));
+        QTRY_VERIFY(openButton(dialog)->isEnabled());
         const QList<QWidget*> way{part<QComboBox>(dialog, "fileTypeCombo"),
                                   custom<QCheckBox>(dialog, "First"),
                                   customCombo(dialog, QStringLiteral("mm")),
-                                  custom<QCheckBox>(dialog, "Third"), cancelButton(dialog)};
+                                  custom<QCheckBox>(dialog, "Third"),
+                                  openButton(dialog),
+                                  cancelButton(dialog)};
         for (QWidget* next : way) {
             QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
             QCOMPARE(dialog.focusWidget(), next);
         }
-        QTest::keyClick(dialog.focusWidget(), Qt::Key_Space);
+        for (int i = way.size() - 2; i >= 0; --i) {
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Backtab);
+            QCOMPARE(dialog.focusWidget(), way.at(i));
+        }
+        dialog.reject();
     });
 }
 
