@@ -31,14 +31,17 @@ HRESULT CommonItemDialog::open(QStringList& paths) const
     if (FAILED(result))
         return result;
     AdvisedEvents presetEvents(dialog.get());
+    std::exception_ptr thrown;
     AdvisedEvents events(dialog.get());
     const DWORD moreOptions = m_request.multiSelection ? DWORD(FOS_ALLOWMULTISELECT) : 0;
     result = prepare(dialog.get(), moreOptions, presetEvents);
     if (SUCCEEDED(result))
-        result = attachConfiguration(dialog.get(), events);
+        result = attachConfiguration(dialog.get(), events, thrown);
     FileDialogConfiguration standard;
     if (SUCCEEDED(result))
         result = show(dialog.get(), m_request.configuration ? *m_request.configuration : standard);
+    if (thrown)
+        std::rethrow_exception(thrown);
     ComPointer<IShellItemArray> items;
     if (SUCCEEDED(result))
         result = dialog->GetResults(items.put());
@@ -132,13 +135,15 @@ void CommonItemDialog::addPlaces(IFileDialog* dialog) const
 }
 
 /** Without somebody to tell of them there are no controls either. */
-HRESULT CommonItemDialog::attachConfiguration(IFileDialog* dialog, AdvisedEvents& events) const
+HRESULT CommonItemDialog::attachConfiguration(IFileDialog* dialog, AdvisedEvents& events,
+                                              std::exception_ptr& thrown) const
 {
     FileDialogEventHandler* handler =
         m_request.configuration ? m_request.configuration->getEventHandler() : nullptr;
     if (!handler)
         return S_OK;
-    HRESULT result = events.advise(new (std::nothrow) CFileOpenDialogEventHandler(*handler));
+    HRESULT result =
+        events.advise(new (std::nothrow) CFileOpenDialogEventHandler(*handler, thrown));
     ComPointer<IFileDialogCustomize> customize;
     if (SUCCEEDED(result))
         result = dialog->QueryInterface(IID_PPV_ARGS(customize.put()));

@@ -3,6 +3,8 @@
 #include "FileDialogs/NativeFileDialog.h"
 #include "Files/Windows/ShellFunctions.h"
 
+#include <exception>
+
 #include <windows.h>
 
 #include <shobjidl.h>
@@ -21,6 +23,7 @@ public:
     /** Both are used as long as this lives; the thread is in an apartment already. */
     CommonItemDialog(const ShellFunctions& shell, const NativeFileDialogRequest& request);
 
+    /** Throws what a configuration's handler has thrown, once the dialog is closed. */
     HRESULT open(QStringList& paths) const;
     HRESULT save(QStringList& paths) const;
 
@@ -31,7 +34,8 @@ private:
     void setFolder(IFileDialog* dialog) const;
     HRESULT presetFile(IFileDialog* dialog, AdvisedEvents& presetEvents) const;
     void addPlaces(IFileDialog* dialog) const;
-    HRESULT attachConfiguration(IFileDialog* dialog, AdvisedEvents& events) const;
+    HRESULT attachConfiguration(IFileDialog* dialog, AdvisedEvents& events,
+                                std::exception_ptr& thrown) const;
     HRESULT show(IFileDialog* dialog, FileDialogConfiguration& configuration) const;
     HRESULT createItem(const QString& path, IShellItem** item) const;
 

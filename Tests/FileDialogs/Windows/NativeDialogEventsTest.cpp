@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <stdexcept>
 
 using namespace Zorvane;
 using Testing::DialogPilot;
@@ -92,6 +93,8 @@ private Q_SLOTS:
     void eventsComeInOrder();
     void selectionIsInOrderOfTheFileNameBox();
     void nothingSelected();
+    void handlerThatThrowsClosesTheDialog_data();
+    void handlerThatThrowsClosesTheDialog();
     void handlerSetsStatesOfControls();
     void handlerIsToldTheGeometry();
     void handlerPlacesTheDialog();
@@ -244,11 +247,43 @@ void NativeDialogEventsTest::nothingSelected()
              S_OK);
     ComPointer<IShellItemArray> items;
     QVERIFY(FAILED(dialog->GetSelectedItems(items.put())));
-    const auto events =
-        ComPointer<CFileOpenDialogEventHandler>::adopt(new CFileOpenDialogEventHandler(*m_handler));
+    std::exception_ptr thrown;
+    const auto events = ComPointer<CFileOpenDialogEventHandler>::adopt(
+        new CFileOpenDialogEventHandler(*m_handler, thrown));
     QCOMPARE(events->OnSelectionChange(dialog.get()), S_OK);
     QCOMPARE(m_handler->selections.size(), 1U);
     QVERIFY(m_handler->selections.front().isEmpty());
+}
+
+void NativeDialogEventsTest::handlerThatThrowsClosesTheDialog_data()
+{
+    QTest::addColumn<bool>("isControl");
+    QTest::newRow("at an event of the dialog") << false;
+    QTest::newRow("at an event of a control") << true;
+}
+
+void NativeDialogEventsTest::handlerThatThrowsClosesTheDialog()
+{
+    QFETCH(bool, isControl);
+    addControls(*m_configuration);
+    DialogPilot pilot;
+    pilot.waitUntil("files in the list",
+                    [](const DialogWindow& dialog) { return !dialog.files().isEmpty(); });
+    pilot.then([&](const DialogWindow& dialog) {
+        m_handler->reaction = [](const FileDialogCallbackInterface&) {
+            throw std::length_error("too long");
+        };
+        if (isControl)
+            dialog.click(dialog.findControl(L"Button", QStringLiteral("Show preview")));
+        else
+            dialog.selectFiles({QStringLiteral("b.stl")});
+    });
+    QVERIFY_EXCEPTION_THROWN(open(), std::length_error);
+    QVERIFY(pilot.isDone());
+    // The next dialog starts afresh.
+    m_handler->reaction = nullptr;
+    DialogPilot next;
+    runToTheEnd(next);
 }
 
 void NativeDialogEventsTest::handlerSetsStatesOfControls()
