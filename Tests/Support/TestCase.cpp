@@ -30,10 +30,11 @@ bool takeExpected(const QString& message)
 
 void failOnWarning(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    // The offscreen screen says so of windows of a fixed size and of tool tips.
+    // The offscreen screen says so of windows of a fixed size, of tool tips and of menus.
     const bool isAboutScreen =
         message == QLatin1String("This plugin does not support propagateSizeHints()") ||
-        message == QLatin1String("This plugin does not support raise()");
+        message == QLatin1String("This plugin does not support raise()") ||
+        message == QLatin1String("This plugin does not support grabbing the keyboard");
     if (isAboutScreen)
         return;
     if (type == QtDebugMsg || type == QtInfoMsg || type == QtFatalMsg) {

@@ -78,18 +78,39 @@ std::map<QString, std::vector<FileReference*>> referencesByFolder(Design& design
 
 void referTo(const FileCopyUtility::FileCopyInfo& copy, const std::vector<FileReference*>& files)
 {
-    for (FileReference* reference : files)
-        if (reference->file == copy.source)
-            reference->path =
-                QFileInfo(reference->path).dir().filePath(QFileInfo(copy.target).fileName());
+    const QString name = QFileInfo(copy.target).fileName();
+    for (FileReference* reference : files) {
+        if (reference->file != copy.source)
+            continue;
+        // Either separates, as in every reference of a design.
+        const int slash = reference->path.lastIndexOf(QLatin1Char('/'));
+        const int backslash = reference->path.lastIndexOf(QLatin1Char('\\'));
+        reference->path = reference->path.left(std::max(slash, backslash) + 1) + name;
+    }
 }
 
-/** Whether each of the files has one of its name in the folder. */
-bool areIn(const QString& folder, const std::vector<FileReference*>& files)
+/** Copies the files into the folder; the references follow those that get other names there. */
+std::optional<Problem> bring(QWidget* parent, const std::vector<FileReference*>& references,
+                             const QString& folder)
 {
-    return std::all_of(files.begin(), files.end(), [&folder](const FileReference* reference) {
-        return QFileInfo::exists(QDir(folder).filePath(QFileInfo(reference->path).fileName()));
-    });
+    if (!QDir().mkpath(folder))
+        return Problem{folder, {}, DesignCopy::tr("cannot be made a folder")};
+    QStringList files;
+    for (const FileReference* reference : references)
+        files << reference->file;
+    files.removeDuplicates();
+    int code = 0;
+    FileCopyUtility utility(parent, files, folder);
+    for (const FileCopyUtility::FileCopyInfo& copy : utility.copyFiles(code)) {
+        // Another file of that name is not the design's.
+        if (copy.status == FileCopyUtility::NotCopied)
+            return Problem{copy.source, {}, DesignCopy::tr("was not copied")};
+        if (copy.status == FileCopyUtility::CopiedUnderOtherName)
+            referTo(copy, references);
+    }
+    if (code != 0)
+        return Problem{folder, {}, DesignCopy::tr("is no longer what it was; nothing is copied")};
+    return std::nullopt;
 }
 
 } // namespace
@@ -129,20 +150,9 @@ std::optional<Problem> DesignCopy::bringFiles(QWidget* parent, Design& design, c
     if (QFileInfo(from).canonicalFilePath() == QFileInfo(target.path()).canonicalFilePath())
         return std::nullopt;
     for (const auto& [folder, references] : referencesByFolder(design)) {
-        const QString place = target.filePath(QDir(from).relativeFilePath(folder));
-        if (!QDir().mkpath(place))
-            return Problem{place, {}, tr("cannot be made a folder")};
-        QStringList files;
-        for (const FileReference* reference : references)
-            files << reference->file;
-        files.removeDuplicates();
-        int code = 0;
-        FileCopyUtility utility(parent, files, place);
-        for (const FileCopyUtility::FileCopyInfo& copy : utility.copyFiles(code))
-            if (copy.status == FileCopyUtility::CopiedUnderOtherName)
-                referTo(copy, references);
-        if (code != 0 || !areIn(place, references))
-            return Problem{place, {}, tr("not all files of the design were copied to it")};
+        const QString place = QDir::cleanPath(target.filePath(QDir(from).relativeFilePath(folder)));
+        if (const std::optional<Problem> problem = bring(parent, references, place))
+            return problem;
     }
     return std::nullopt;
 }

@@ -32,8 +32,9 @@ public:
      * Copies the files that the design refers to from their places below `from` to the same places
      * below the design's folder; nothing if both are one folder. Shows progress and asks about
      * names that are taken; where the user keeps both files, the design refers to the copy. None
-     * when all of them are in place, else why not: missing files don't count, what leads out of the
-     * folder isn't copied.
+     * when all of them are in place, else why not: what was copied until then stays. Missing files
+     * don't count, and what leads out of the folder isn't copied. Not supported: the files of
+     * designs that this one refers to.
      */
     static std::optional<Problem> bringFiles(QWidget* parent, Design& design, const QString& from);
 };

@@ -46,6 +46,11 @@ FileCommands::FileCommands(DesignSession& session, QWidget* window)
 
 FileCommands::~FileCommands() = default;
 
+QString FileCommands::scope()
+{
+    return s_scope;
+}
+
 void FileCommands::setFileChooser(std::unique_ptr<FileChooser> chooser)
 {
     m_chooser = std::move(chooser);

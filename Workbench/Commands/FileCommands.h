@@ -27,6 +27,9 @@ public:
     FileCommands(DesignSession& session, QWidget* window);
     ~FileCommands() override;
 
+    /** The scope that path providers know designs by. */
+    static QString scope();
+
     void setFileChooser(std::unique_ptr<FileChooser> chooser);
 
     /** Asks for designs and meshes, which are shown beside the dialog. */

@@ -110,6 +110,7 @@ void DesignSession::replace(const GUIdentifier& designId, const QString& file)
     m_store.replace(designId, QFileInfo(file).canonicalFilePath());
     watch();
     Q_EMIT reread();
+    Q_EMIT reread();
     Q_EMIT changed();
 }
 

@@ -129,7 +129,8 @@ void PreviewPane::show(const QString& name, const PreviewContent& content)
     m_note->setText(isMessage ? QString() : content.note);
     switch (m_kind) {
     case PreviewContent::Kind::Message:
-        m_message->setText(content.note);
+        m_message->setText(name.isEmpty() ? content.note
+                                          : tr("%1 cannot be shown:\n%2").arg(name, content.note));
         m_pages->setCurrentWidget(m_message);
         break;
     case PreviewContent::Kind::Picture:

@@ -39,7 +39,7 @@ class PreviewPane : public QWidget
 public:
     explicit PreviewPane(QWidget* parent = nullptr);
 
-    /** Texts of messages come under the name. */
+    /** Without a name, a message stands by itself. */
     void show(const QString& name, const PreviewContent& content);
     /** A text in place of any content. */
     void showMessage(const QString& text);

@@ -1,5 +1,6 @@
 #include "Workbench/Window/MainWindow.h"
 
+#include "Files/LastPathProvider.h"
 #include "Host/Widgets/ZVMessageBox.h"
 #include "Workbench/Commands/FileCommands.h"
 #include "Workbench/Edit/QuantityPanel.h"
@@ -415,6 +416,8 @@ void MainWindow::open(const QStringList& paths)
     for (const QString& path : paths) {
         absolute << QFileInfo(path).absoluteFilePath();
         RecentPaths::add(path);
+        // However it was opened: dialogs start there next.
+        LastPathProvider::getInstance()->setPathToScope(absolute.last(), FileCommands::scope());
     }
     const std::size_t before = m_session.problems().size();
     m_session.open(absolute);

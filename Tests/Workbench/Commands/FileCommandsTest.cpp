@@ -1,0 +1,288 @@
+#include "Workbench/Commands/FileCommands.h"
+
+#include "Tests/Support/TestCase.h"
+#include "Tests/Workbench/Import/ImportFixture.h"
+#include "Workbench/Window/MainWindow.h"
+#include "Workbench/Window/MessageBar.h"
+
+#include <QtWidgets/QAction>
+#include <QtWidgets/QStatusBar>
+
+#include <memory>
+
+namespace Zorvane::Workbench {
+
+/** The commands of the main window, with a script in the place of dialogs. */
+class FileCommandsTest : public Testing::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void openFilesOpensWhatWasChosen();
+    void openFolderOpensIt();
+    void cancelledDialogsChangeNothing_data();
+    void cancelledDialogsChangeNothing();
+    void dialogsOpenWhereTheLastDesignWas();
+    void savingWantsADesign();
+
+    void saveCopyWritesBesideTheDesign();
+    void saveCopyTakesUnsavedChangesAlong();
+    void saveCopyKeepsTheSession();
+
+    void saveAsBesideTheDesign();
+    void saveAsElsewhereTakesTheFilesAlong();
+    void saveAsLeavesTheFormerDesign();
+    void saveAsInTheOrderOfDesigns();
+
+    void openDesignsAreNotReplaced_data();
+    void openDesignsAreNotReplaced();
+    void otherEndingsAreRefused();
+    void whatCannotBeWrittenIsTold();
+
+private:
+    QAction* action(const char* text) const;
+    void trigger(const char* text) const { action(text)->trigger(); }
+    void openDesign() { m_window->open({m_files->designFile()}); }
+    GUIdentifier firstPart() const
+    {
+        return m_window->session().designs().front().parts.front().id;
+    }
+    QString message() const { return m_window->messageBar().text(); }
+    QString status() const { return m_window->statusBar()->currentMessage(); }
+
+    std::unique_ptr<Testing::ImportFixture> m_files;
+    std::unique_ptr<MainWindow> m_window;
+    Testing::ScriptedChooser::Script m_script;
+};
+
+void FileCommandsTest::init()
+{
+    QSettings().clear();
+    m_files = std::make_unique<Testing::ImportFixture>();
+    m_window = std::make_unique<MainWindow>();
+    m_script = {};
+    m_window->fileCommands().setFileChooser(std::make_unique<Testing::ScriptedChooser>(m_script));
+    m_window->show();
+}
+
+void FileCommandsTest::cleanup()
+{
+    m_window.reset();
+    m_files.reset();
+    TestCase::cleanup();
+}
+
+QAction* FileCommandsTest::action(const char* text) const
+{
+    for (QAction* found : m_window->findChildren<QAction*>())
+        if (found->text().remove(QLatin1Char('&')) == QString::fromUtf8(text))
+            return found;
+    return nullptr;
+}
+
+void FileCommandsTest::openFilesOpensWhatWasChosen()
+{
+    m_script.files =
+        QStringList{m_files->designFile(), m_files->outsideMesh(QStringLiteral("a.stl"))};
+    trigger("Open Files…");
+    QCOMPARE(int(m_window->session().designs().size()), 1);
+    QCOMPARE(int(m_window->session().looseParts().size()), 1);
+    QCOMPARE(m_script.asked.filters,
+             QStringLiteral("Designs and meshes (*.dsg *.stl *.obj *.ply);;Designs (*.dsg);;"
+                            "Meshes (*.stl *.obj *.ply);;All files (*)"));
+}
+
+void FileCommandsTest::openFolderOpensIt()
+{
+    m_script.folder = m_files->folder.path();
+    trigger("Open Folder…");
+    QCOMPARE(int(m_window->session().designs().size()), 1);
+}
+
+void FileCommandsTest::cancelledDialogsChangeNothing_data()
+{
+    QTest::addColumn<QString>("command");
+    for (const char* command : {"Open Files…", "Open Folder…", "Save As…", "Save a Copy…"})
+        QTest::newRow(command) << QString::fromUtf8(command);
+}
+
+void FileCommandsTest::cancelledDialogsChangeNothing()
+{
+    QFETCH(QString, command);
+    openDesign();
+    const GUIdentifier part = firstPart();
+    const QStringList files = m_files->entries();
+    trigger(command.toUtf8().constData());
+    QVERIFY(!m_script.asked.caption.isEmpty());
+    QCOMPARE(int(m_window->session().designs().size()), 1);
+    QCOMPARE(firstPart(), part);
+    QCOMPARE(m_files->entries(), files);
+    QVERIFY(message().isEmpty());
+}
+
+void FileCommandsTest::dialogsOpenWhereTheLastDesignWas()
+{
+    openDesign();
+    trigger("Open Files…");
+    QCOMPARE(QDir(m_script.opened), QDir(m_files->folder.path()));
+    trigger("Open Folder…");
+    QCOMPARE(QDir(m_script.opened), QDir(m_files->folder.path()));
+}
+
+void FileCommandsTest::savingWantsADesign()
+{
+    QVERIFY(!action("Save As…")->isEnabled());
+    QVERIFY(!action("Save a Copy…")->isEnabled());
+    m_window->open({m_files->outsideMesh(QStringLiteral("a.stl"))});
+    QVERIFY(!action("Save As…")->isEnabled());
+    openDesign();
+    QVERIFY(action("Save As…")->isEnabled());
+    QVERIFY(action("Save a Copy…")->isEnabled());
+    QVERIFY(!m_window->fileCommands().saveAs(GUIdentifier::create()));
+    QVERIFY(!m_window->fileCommands().saveCopy(GUIdentifier()));
+}
+
+void FileCommandsTest::saveCopyWritesBesideTheDesign()
+{
+    openDesign();
+    m_script.saved = m_files->path(QStringLiteral("small copy.dsg"));
+    trigger("Save a Copy…");
+    QCOMPARE(m_script.proposed, m_script.saved);
+    QVERIFY(QFile::exists(m_script.saved));
+    QVERIFY(status().startsWith(QStringLiteral("A copy is saved as ")));
+    QVERIFY(message().isEmpty());
+    m_window->open({m_script.saved});
+    QCOMPARE(int(m_window->session().designs().size()), 2);
+    QVERIFY(m_window->session().problems().empty());
+}
+
+void FileCommandsTest::saveCopyTakesUnsavedChangesAlong()
+{
+    openDesign();
+    QCOMPARE(m_window->session().rename(firstPart(), QStringLiteral("Other")), QString());
+    m_script.saved = m_files->path(QStringLiteral("b.dsg"));
+    trigger("Save a Copy…");
+    QVERIFY(Testing::readFile(m_script.saved).contains("\"Other\""));
+    QVERIFY(!Testing::readFile(m_files->designFile()).contains("\"Other\""));
+}
+
+void FileCommandsTest::saveCopyKeepsTheSession()
+{
+    openDesign();
+    const GUIdentifier part = firstPart();
+    m_window->session().rename(part, QStringLiteral("Other"));
+    m_script.saved = m_files->path(QStringLiteral("b.dsg"));
+    trigger("Save a Copy…");
+    QCOMPARE(int(m_window->session().designs().size()), 1);
+    QCOMPARE(firstPart(), part);
+    QVERIFY(m_window->session().isModified());
+}
+
+void FileCommandsTest::saveAsBesideTheDesign()
+{
+    openDesign();
+    const GUIdentifier part = firstPart();
+    m_script.saved = m_files->path(QStringLiteral("second.dsg"));
+    trigger("Save As…");
+    QCOMPARE(m_script.proposed, QStringLiteral("small.dsg"));
+    QCOMPARE(int(m_window->session().designs().size()), 1);
+    QCOMPARE(QFileInfo(m_window->session().designs().front().file).fileName(),
+             QStringLiteral("second.dsg"));
+    QVERIFY(firstPart() != part);
+    QVERIFY(status().startsWith(QStringLiteral("Saved as ")));
+    // What is selected is an object of the new design.
+    QVERIFY(m_window->session().findDesign(m_window->tree().currentId().getCombinedPart()));
+    m_window->open({m_files->designFile()});
+    QVERIFY(m_window->session().problems().empty());
+}
+
+void FileCommandsTest::saveAsElsewhereTakesTheFilesAlong()
+{
+    openDesign();
+    m_script.saved = m_files->elsewhere.filePath(QStringLiteral("moved.dsg"));
+    trigger("Save As…");
+    const Design& design = m_window->session().designs().front();
+    QCOMPARE(QDir(design.folder()), QDir(m_files->elsewhere.path()));
+    for (const FileReference& file : design.files)
+        QCOMPARE(int(file.state), int(FileState::Exists));
+    QVERIFY(QFile::exists(m_files->elsewhere.filePath(QStringLiteral("geometry/die.stl"))));
+    QVERIFY(message().isEmpty());
+}
+
+void FileCommandsTest::saveAsLeavesTheFormerDesign()
+{
+    openDesign();
+    const QByteArray before = Testing::readFile(m_files->designFile());
+    m_window->session().rename(firstPart(), QStringLiteral("Other"));
+    m_script.saved = m_files->path(QStringLiteral("second.dsg"));
+    trigger("Save As…");
+    QCOMPARE(Testing::readFile(m_files->designFile()), before);
+    QVERIFY(Testing::readFile(m_script.saved).contains("\"Other\""));
+    QVERIFY(!m_window->session().isModified());
+    QCOMPARE(m_window->session().name(firstPart()), QStringLiteral("Other"));
+}
+
+void FileCommandsTest::saveAsInTheOrderOfDesigns()
+{
+    openDesign();
+    const QString other = m_files->elsewhere.filePath(QStringLiteral("other.dsg"));
+    Testing::writeFile(other,
+                       Testing::toText(Testing::designWithFiles(500, QStringLiteral("Other"), {})));
+    m_window->open({other});
+    m_script.saved = m_files->path(QStringLiteral("second.dsg"));
+    QVERIFY(m_window->fileCommands().saveAs(m_window->session().designs().front().id));
+    QCOMPARE(int(m_window->session().designs().size()), 2);
+    QCOMPARE(m_window->session().designs().back().name, QStringLiteral("Other"));
+}
+
+void FileCommandsTest::openDesignsAreNotReplaced_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::newRow("as") << QStringLiteral("Save As…");
+    QTest::newRow("copy") << QStringLiteral("Save a Copy…");
+}
+
+void FileCommandsTest::openDesignsAreNotReplaced()
+{
+    QFETCH(QString, command);
+    openDesign();
+    const QByteArray before = Testing::readFile(m_files->designFile());
+    m_window->session().rename(firstPart(), QStringLiteral("Other"));
+    m_script.saved = m_files->designFile();
+    trigger(command.toUtf8().constData());
+    QVERIFY(message().endsWith(QStringLiteral("is open here and is not replaced")));
+    QCOMPARE(Testing::readFile(m_files->designFile()), before);
+    QVERIFY(m_window->session().isModified());
+}
+
+void FileCommandsTest::otherEndingsAreRefused()
+{
+    openDesign();
+    m_script.saved = m_files->path(QStringLiteral("second.txt"));
+    trigger("Save As…");
+    QVERIFY(message().endsWith(QStringLiteral("it must end with .dsg")));
+    QVERIFY(!QFile::exists(m_script.saved));
+}
+
+void FileCommandsTest::whatCannotBeWrittenIsTold()
+{
+    openDesign();
+    const GUIdentifier part = firstPart();
+    QVERIFY(QDir().mkpath(m_files->path(QStringLiteral("folder.dsg"))));
+    m_script.saved = m_files->path(QStringLiteral("folder.dsg"));
+    trigger("Save a Copy…");
+    QVERIFY2(message().contains(QStringLiteral("cannot be written")), qPrintable(message()));
+    trigger("Save As…");
+    QVERIFY2(message().contains(QStringLiteral("cannot be written")), qPrintable(message()));
+    QCOMPARE(firstPart(), part);
+}
+
+} // namespace Zorvane::Workbench
+
+using Zorvane::Workbench::FileCommandsTest;
+
+ZORVANE_TEST_MAIN(FileCommandsTest)
+#include "FileCommandsTest.moc"

@@ -1,0 +1,250 @@
+#include "Tests/Support/ExpectedModals.h"
+#include "Tests/Support/TestCase.h"
+#include "Tests/Workbench/Tree/TreeFixture.h"
+#include "Workbench/Preview/PreviewWindow.h"
+#include "Workbench/Window/MainWindow.h"
+
+#include <QtCore/QSettings>
+#include <QtCore/QTemporaryDir>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMenuBar>
+
+#include <functional>
+#include <memory>
+
+namespace Zorvane::Workbench {
+
+using Kind = PreviewContent::Kind;
+using Testing::ExpectedModals;
+
+namespace {
+
+PreviewWindow* previewWindow()
+{
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (auto* preview = qobject_cast<PreviewWindow*>(widget))
+            return preview;
+    return nullptr;
+}
+
+/** The offscreen screen activates whatever is shown, which others leave to whoever is active. */
+void activate(QWidget& window)
+{
+    window.activateWindow();
+    QTRY_VERIFY(window.isActiveWindow() && QApplication::focusWidget());
+}
+
+/** To whatever has the focus, as a keyboard does. */
+void press(QWidget& window, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    activate(window);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+}
+
+void type(QWidget& window, const QString& text)
+{
+    activate(window);
+    QTest::keyClicks(QApplication::focusWidget(), text);
+    // Names that the dialog knows are proposed in a list that takes the next keys.
+    if (QWidget* proposals = QApplication::activePopupWidget())
+        proposals->hide();
+}
+
+bool isFocused(const char* objectName)
+{
+    const QWidget* focused = QApplication::focusWidget();
+    return focused != nullptr && focused->objectName() == QLatin1String(objectName);
+}
+
+} // namespace
+
+/** Opens files as somebody does who has a keyboard only. The test is its own reader of files. */
+class OpenByKeyboardTest : public Testing::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void opensAMeshSeenBefore();
+    void walksThroughTheList();
+    void previewIsSwitchedOffAndOn();
+    void escapeOpensNothing();
+    void everyControlIsReachedByTab();
+    void previewNeverTakesTheFocus();
+
+private:
+    void openDialog();
+    /** Runs the dialog of File > Open with `use`, which has to close it. */
+    void withDialog(const std::function<void(QFileDialog&)>& use);
+    QString file(const char* name) const { return m_folder->filePath(QString::fromLatin1(name)); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+void OpenByKeyboardTest::init()
+{
+    QSettings().clear();
+    m_folder = std::make_unique<QTemporaryDir>();
+    Testing::writeFile(file("a-mesh.stl"), Testing::binaryStl(Testing::cube()));
+    Testing::writeFile(file("b-table.csv"), "stroke;force\n0;0\n");
+    Testing::writeFile(file("c-text.txt"), "one\ntwo\n");
+    Testing::writeFile(file("d-broken.stl"), "solid");
+    QSettings().setValue(QStringLiteral("LastFile/Design"), file("a-mesh.stl"));
+    m_window = std::make_unique<MainWindow>();
+    m_window->show();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void OpenByKeyboardTest::cleanup()
+{
+    m_window.reset();
+    m_folder.reset();
+    TestCase::cleanup();
+}
+
+/** Alt and the letters of the menu's texts: File > Open Files. */
+void OpenByKeyboardTest::openDialog()
+{
+    activate(*m_window);
+    QTest::keyClick(m_window.get(), Qt::Key_F, Qt::AltModifier);
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_O);
+}
+
+void OpenByKeyboardTest::withDialog(const std::function<void(QFileDialog&)>& use)
+{
+    ExpectedModals modals;
+    modals.expectDialog<QFileDialog>(QStringLiteral("Open Files"), [&use](QFileDialog& dialog) {
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        use(dialog);
+    });
+    openDialog();
+    QVERIFY2(modals.allMet(), qPrintable(modals.failures().join(QLatin1Char('\n'))));
+    QVERIFY(!previewWindow() || previewWindow()->isHidden());
+}
+
+void OpenByKeyboardTest::opensAMeshSeenBefore()
+{
+    withDialog([](QFileDialog& dialog) {
+        QVERIFY(isFocused("fileNameEdit"));
+        QVERIFY(previewWindow() && previewWindow()->isVisible());
+        type(dialog, QStringLiteral("a-mesh.stl"));
+        QTRY_COMPARE(previewWindow()->pane().shownKind(), Kind::Picture);
+        QCOMPARE(previewWindow()->pane().title(), QStringLiteral("a-mesh.stl"));
+        press(dialog, Qt::Key_Return);
+    });
+    QCOMPARE(int(m_window->session().looseParts().size()), 1);
+    QCOMPARE(m_window->session().looseParts().front().name, QStringLiteral("a-mesh.stl"));
+}
+
+void OpenByKeyboardTest::walksThroughTheList()
+{
+    withDialog([](QFileDialog& dialog) {
+        const PreviewPane& pane = previewWindow()->pane();
+        // All files: the last of the types.
+        press(dialog, Qt::Key_Tab);
+        QVERIFY(isFocused("fileTypeCombo"));
+        press(dialog, Qt::Key_End);
+        for (int tab = 0; tab < 20 && !isFocused("treeView"); ++tab)
+            press(dialog, Qt::Key_Backtab, Qt::ShiftModifier);
+        const auto* list = dialog.findChild<QAbstractItemView*>(QStringLiteral("treeView"));
+        QTRY_COMPARE(list->model()->rowCount(list->rootIndex()), 4);
+        press(dialog, Qt::Key_Down); // from the first, which is the current one
+        QTRY_COMPARE(pane.title(), QStringLiteral("b-table.csv"));
+        QCOMPARE(pane.shownKind(), Kind::Table);
+        press(dialog, Qt::Key_Down);
+        QTRY_COMPARE(pane.title(), QStringLiteral("c-text.txt"));
+        QCOMPARE(pane.shownKind(), Kind::Text);
+        press(dialog, Qt::Key_Down);
+        QTRY_COMPARE(pane.title(), QStringLiteral("d-broken.stl"));
+        QVERIFY(pane.message().startsWith(QStringLiteral("d-broken.stl cannot be shown:\n")));
+        press(dialog, Qt::Key_Up);
+        press(dialog, Qt::Key_Up);
+        press(dialog, Qt::Key_Up);
+        QTRY_COMPARE(pane.shownKind(), Kind::Picture);
+        press(dialog, Qt::Key_Return);
+    });
+    QCOMPARE(int(m_window->session().looseParts().size()), 1);
+}
+
+void OpenByKeyboardTest::previewIsSwitchedOffAndOn()
+{
+    withDialog([](QFileDialog& dialog) {
+        type(dialog, QStringLiteral("a-mesh.stl"));
+        QTRY_COMPARE(previewWindow()->pane().shownKind(), Kind::Picture);
+        auto* box = dialog.findChild<QCheckBox*>();
+        for (int tab = 0; tab < 30 && !box->hasFocus(); ++tab)
+            press(dialog, Qt::Key_Tab);
+        press(dialog, Qt::Key_Space);
+        QVERIFY(!box->isChecked());
+        QVERIFY(previewWindow()->isHidden());
+        press(dialog, Qt::Key_Space);
+        QVERIFY(previewWindow()->isVisible());
+        QTRY_COMPARE(previewWindow()->pane().shownKind(), Kind::Picture);
+        press(dialog, Qt::Key_Space);
+        press(dialog, Qt::Key_Escape);
+    });
+    // As it was left.
+    withDialog([](QFileDialog& dialog) {
+        QVERIFY(!dialog.findChild<QCheckBox*>()->isChecked());
+        QVERIFY(!previewWindow() || previewWindow()->isHidden());
+        press(dialog, Qt::Key_Escape);
+    });
+}
+
+void OpenByKeyboardTest::escapeOpensNothing()
+{
+    withDialog([](QFileDialog& dialog) {
+        type(dialog, QStringLiteral("a-mesh.stl"));
+        press(dialog, Qt::Key_Escape);
+    });
+    QVERIFY(m_window->session().looseParts().empty());
+    QVERIFY(m_window->isEnabled());
+    QVERIFY(!previewWindow());
+}
+
+void OpenByKeyboardTest::everyControlIsReachedByTab()
+{
+    withDialog([](QFileDialog& dialog) {
+        type(dialog, QStringLiteral("a-mesh.stl"));
+        QSet<QString> reached;
+        for (int tab = 0; tab < 40; ++tab) {
+            press(dialog, Qt::Key_Tab);
+            QVERIFY(dialog.isAncestorOf(QApplication::focusWidget()));
+            reached << QApplication::focusWidget()->objectName();
+            if (qobject_cast<QCheckBox*>(QApplication::focusWidget()))
+                reached << QStringLiteral("preview");
+        }
+        for (const char* name : {"fileNameEdit", "fileTypeCombo", "treeView", "preview"})
+            QVERIFY2(reached.contains(QString::fromLatin1(name)), name);
+        press(dialog, Qt::Key_Escape);
+    });
+}
+
+void OpenByKeyboardTest::previewNeverTakesTheFocus()
+{
+    withDialog([](QFileDialog& dialog) {
+        type(dialog, QStringLiteral("c-text.txt"));
+        QTRY_VERIFY(!previewWindow()->isReading());
+        QVERIFY(dialog.isActiveWindow());
+        QVERIFY(previewWindow()->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
+        // Beside the dialog, not over it.
+        QVERIFY(!previewWindow()->frameGeometry().intersects(dialog.frameGeometry()));
+        press(dialog, Qt::Key_Escape);
+    });
+}
+
+} // namespace Zorvane::Workbench
+
+int main(int argc, char** argv)
+{
+    if (const std::optional<int> result = Zorvane::Workbench::runPreviewWorker(argc, argv))
+        return *result;
+    return Zorvane::Testing::runTest<Zorvane::Workbench::OpenByKeyboardTest>(argc, argv);
+}
+#include "OpenByKeyboardTest.moc"
