@@ -321,8 +321,12 @@
         <translation>lässt sich nicht als Ordner anlegen</translation>
     </message>
     <message>
-        <source>not all files of the design were copied to it</source>
-        <translation>nicht alle Dateien des Entwurfs wurden dorthin kopiert</translation>
+        <source>was not copied</source>
+        <translation>wurde nicht kopiert</translation>
+    </message>
+    <message>
+        <source>is no longer what it was; nothing is copied</source>
+        <translation>ist nicht mehr, was es war; nichts wird kopiert</translation>
     </message>
 </context>
 <context>
@@ -1476,6 +1480,12 @@
     <message>
         <source>Picture of the mesh</source>
         <translation>Bild des Netzes</translation>
+    </message>
+    <message>
+        <source>%1 cannot be shown:
+%2</source>
+        <translation>%1 lässt sich nicht zeigen:
+%2</translation>
     </message>
 </context>
 <context>
