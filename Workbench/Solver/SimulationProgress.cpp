@@ -20,6 +20,7 @@ SimulationProgress::SimulationProgress(SimulationRunner& runner, QWidget* parent
     m_bar->setAccessibleName(tr("Progress of the simulation"));
     m_bar->setTextVisible(false);
     m_bar->setFixedSize(180, 12);
+    m_stop->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_stop->setAccessibleName(tr("Stop the simulation"));
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 4, 0);

@@ -6,6 +6,10 @@
 #include <QtCore/QStringList>
 #include <QtCore/QTemporaryDir>
 
+namespace Zorvane {
+class ZVConverterDialog;
+}
+
 namespace Zorvane::Workbench {
 
 class MainWindow;
@@ -36,6 +40,12 @@ private:
     void importFiles();
     void cancelAnImport();
     void exportTheSelection();
+    void saveAndCompute();
+    void askBeforeSaving();
+    void runASimulation();
+    void undoAndRedo();
+    void convertAMesh();
+    void chooseAndConvert(ZVConverterDialog& window, const QString& file);
     void openDoor();
     void showReferences();
     void showColours();

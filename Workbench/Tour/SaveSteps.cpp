@@ -1,0 +1,296 @@
+#include "Workbench/Tour/Tour.h"
+
+#include "FileDialogs/NativeFileDialog.h"
+#include "Host/Widgets/ZVConverterDialog.h"
+#include "Workbench/Saving/DesignSaving.h"
+#include "Workbench/Solver/SimulationRunner.h"
+#include "Workbench/Tour/DialogAnswers.h"
+#include "Workbench/Undo/EditHistory.h"
+#include "Workbench/Window/Appearance.h"
+#include "Workbench/Window/MainWindow.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtGui/QPainter>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMessageBox>
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+constexpr QSize s_gallerySize(1360, 820);
+constexpr int s_galleryGap = 24;
+/** Far more than the tour waits for. */
+constexpr int s_endlessSteps = 1'000'000;
+constexpr int s_shortSteps = 20;
+
+QImage grabbed(QWidget& widget, Appearance appearance)
+{
+    applyAppearance(*qApp, appearance);
+    QCoreApplication::sendPostedEvents();
+    return widget.grab().toImage();
+}
+
+QImage galleryOf(const std::vector<QImage>& boxes, const QColor& ground)
+{
+    QImage gallery(s_gallerySize, QImage::Format_RGB32);
+    gallery.fill(ground);
+    QPainter painter(&gallery);
+    QPoint place(s_galleryGap, s_galleryGap);
+    int rowHeight = 0;
+    for (const QImage& box : boxes) {
+        if (place.x() + box.width() + s_galleryGap > gallery.width()) {
+            place = QPoint(s_galleryGap, place.y() + rowHeight + s_galleryGap);
+            rowHeight = 0;
+        }
+        painter.drawImage(place, box);
+        place.rx() += box.width() + s_galleryGap;
+        rowHeight = std::max(rowHeight, box.height());
+    }
+    return gallery;
+}
+
+/** Takes pictures of the boxes that commands show, and calls the commands off. */
+class BoxGallery
+{
+public:
+    bool collect(const std::function<void()>& command)
+    {
+        DialogAnswers answers;
+        answers.add([this](QDialog& box) {
+            m_dark.push_back(grabbed(box, Appearance::Dark));
+            m_light.push_back(grabbed(box, Appearance::Light));
+            box.reject();
+        });
+        command();
+        return answers.allGiven();
+    }
+    QImage light() const { return galleryOf(m_light, Qt::lightGray); }
+    QImage dark() const { return galleryOf(m_dark, Qt::black); }
+
+private:
+    std::vector<QImage> m_light;
+    std::vector<QImage> m_dark;
+};
+
+/** Chooses one file, as a person would in the system's dialog. */
+class TourFileDialog : public NativeFileDialogDriver
+{
+public:
+    explicit TourFileDialog(QString file)
+        : m_file(std::move(file))
+    {}
+
+    NativeFileDialogResult open(const NativeFileDialogRequest&) override
+    {
+        NativeFileDialogResult result;
+        result.paths = QStringList(m_file);
+        return result;
+    }
+    NativeFileDialogResult save(const NativeFileDialogRequest& request) override
+    {
+        return open(request);
+    }
+
+private:
+    QString m_file;
+};
+
+bool makeVersion1(const QString& file)
+{
+    QFile design(file);
+    if (!design.open(QIODevice::ReadWrite))
+        return false;
+    QByteArray text = design.readAll();
+    text.replace("\"version\": 2", "\"version\": 1");
+    return design.resize(0) && design.seek(0) && design.write(text) == text.size();
+}
+
+/** Wherever the menus have it. */
+QAction* commandNamed(QWidget& window, const QString& text)
+{
+    for (QAction* action : window.findChildren<QAction*>())
+        if (QString(action->text()).remove(QLatin1Char('&')).startsWith(text))
+            return action;
+    return nullptr;
+}
+
+} // namespace
+
+void Tour::saveAndCompute()
+{
+    m_window.session().close();
+    const QString folder = workFolder(QStringLiteral("drawn-cup"));
+    const bool isFresh =
+        QDir(folder).removeRecursively() && copySample(QStringLiteral("drawn-cup"));
+    reopen({folder});
+    m_driver.waitUntilRead();
+    askBeforeSaving();
+    m_report.expect(isFresh, QStringLiteral("the sample as it came"));
+    runASimulation();
+    undoAndRedo();
+    convertAMesh();
+}
+
+void Tour::askBeforeSaving()
+{
+    m_report.beginStep(QStringLiteral("Asked before it is too late"),
+                       QStringLiteral("What is asked before a design is closed, saved or computed: "
+                                      "with changes, with results that no longer fit, of an "
+                                      "older version, and while its simulation is running."));
+    DesignSaving& saving = m_window.saving();
+    DesignSession& session = m_window.session();
+    const GUIdentifier id = session.designs().front().id;
+    const GUIdentifier blank = session.designs().front().blank->id;
+    BoxGallery gallery;
+    const auto show = [&](const QString& what, const std::function<void()>& command) {
+        m_report.expect(gallery.collect(command), what);
+    };
+    session.rename(blank, QStringLiteral("Round blank 180 mm"));
+    show(QStringLiteral("closing with changes"), [&] { saving.mayClose(); });
+    show(QStringLiteral("starting with results"), [&] { saving.start(id); });
+    session.setQuantity(blank, Quantity::Thickness, 1.2);
+    show(QStringLiteral("saving with outdated results"), [&] { saving.save(id); });
+    session.revert(id);
+
+    m_report.expect(makeVersion1(session.findDesign(id)->file), QStringLiteral("an older file"));
+    session.revert(id);
+    show(QStringLiteral("saving an older version"), [&] { saving.save(id); });
+    m_report.expect(session.save(id, DesignSession::OnConflict::Refuse).empty(),
+                    QStringLiteral("the design in the present version"));
+    m_window.simulation().setSteps(s_endlessSteps);
+    m_report.expect(!m_window.simulation().start(*session.findDesign(id)),
+                    QStringLiteral("a simulation"));
+    session.rename(blank, QStringLiteral("Round blank 180 mm"));
+    show(QStringLiteral("saving while it runs"), [&] { saving.save(id); });
+    show(QStringLiteral("starting while it runs"), [&] { saving.start(id); });
+    show(QStringLiteral("closing while it runs"), [&] { saving.mayClose(); });
+    session.revert(id);
+    show(QStringLiteral("stopping it"), [&] { saving.mayClose(); });
+    m_window.simulation().stop();
+    m_report.addPicture(QStringLiteral("save-questions"), gallery.light());
+    m_report.addPicture(QStringLiteral("save-questions-dark"), gallery.dark());
+}
+
+void Tour::runASimulation()
+{
+    m_report.beginStep(QStringLiteral("A simulation"),
+                       QStringLiteral("It runs beside everything else and can be stopped; at its "
+                                      "end the design has the new results in place of the old."));
+    DesignSession& session = m_window.session();
+    SimulationRunner& runner = m_window.simulation();
+    runner.setSteps(s_shortSteps);
+    DialogAnswers answers;
+    answers.add([](QDialog& box) {
+        if (auto* question = qobject_cast<QMessageBox*>(&box))
+            question->button(QMessageBox::Save)->click();
+    });
+    int done = 0;
+    const auto progress = QObject::connect(&runner, &SimulationRunner::progressed, &m_window,
+                                           [&done](int strokes, int) { done = strokes; });
+    QAction* start = commandNamed(m_window, QStringLiteral("Start Simulation"));
+    if (start != nullptr)
+        start->trigger();
+    m_report.expect(runner.isRunning(), QStringLiteral("it runs"));
+    m_report.expect(answers.allGiven(), QStringLiteral("the question about the results"));
+    m_report.expect(m_driver.waitFor([&] { return done >= s_shortSteps / 2; }),
+                    QStringLiteral("half of its strokes"));
+    picture(QStringLiteral("simulation"));
+    m_report.expect(m_driver.waitFor([&] { return !runner.isRunning(); }),
+                    QStringLiteral("its end"));
+    QObject::disconnect(progress);
+    m_driver.waitUntilRead();
+    const IDCombiner result =
+        m_driver.find(ObjectKind::File, QStringLiteral("drawn-cup-simulation"));
+    m_report.expect(result != IDCombiner(), QStringLiteral("the new results"));
+    m_report.expect(!session.isModified(), QStringLiteral("all of it saved"));
+    m_window.tree().select(result);
+    m_driver.settle();
+    picture(QStringLiteral("simulation-results"));
+}
+
+void Tour::undoAndRedo()
+{
+    m_report.beginStep(QStringLiteral("Undo and redo"),
+                       QStringLiteral("Every change of a design can be taken back, also after it "
+                                      "was saved."));
+    DesignSession& session = m_window.session();
+    const GUIdentifier blank = session.designs().front().blank->id;
+    const QString name = session.name(blank);
+    session.rename(blank, QStringLiteral("Round blank 180 mm"));
+    session.setQuantity(blank, Quantity::Thickness, 1.2);
+    QAction* undo = commandNamed(m_window, QStringLiteral("Undo"));
+    m_report.expect(undo && undo->isEnabled(), QStringLiteral("the command Undo"));
+    m_window.history().undo();
+    m_window.history().undo();
+    m_report.expect(session.name(blank) == name && !session.isModified(),
+                    QStringLiteral("the design as it was"));
+    m_window.history().redo();
+    m_report.expect(session.name(blank) == QStringLiteral("Round blank 180 mm"),
+                    QStringLiteral("the new name again"));
+    m_driver.waitUntilRead();
+    picture(QStringLiteral("redone"));
+    m_window.history().undo();
+}
+
+void Tour::convertAMesh()
+{
+    m_report.beginStep(QStringLiteral("A mesh converted"),
+                       QStringLiteral("The cup's ASCII STL file as binary, with what the converter "
+                                      "had to say, and a file that is no mesh."));
+    QAction* convert = commandNamed(m_window, QStringLiteral("Convert"));
+    m_report.expect(convert != nullptr, QStringLiteral("the command Convert"));
+    if (convert == nullptr)
+        return;
+    convert->trigger();
+    auto* window = m_window.findChild<ZVConverterDialog*>();
+    const QString folder = workFolder(QStringLiteral("converted"));
+    m_report.expect(window && QDir().mkpath(folder), QStringLiteral("the converter's window"));
+    DialogAnswers answers;
+    answers.add([folder](QDialog& dialog) {
+        if (auto* chooser = qobject_cast<QFileDialog*>(&dialog))
+            chooser->selectFile(folder);
+        dialog.accept();
+    });
+    chooseAndConvert(*window, workFolder(QStringLiteral("drawn-cup/geometry/cup.stl")));
+    m_report.expect(answers.allGiven(), QStringLiteral("the question for the folder"));
+    m_report.expect(window->status() == ZVConverterDialog::StatusSucceeded &&
+                        QFile::exists(QDir(folder).filePath(QStringLiteral("cup-binary.stl"))),
+                    QStringLiteral("the binary file"));
+    m_driver.settle();
+    m_report.addPicture(QStringLiteral("converted"), m_driver.pictureWith(*window));
+    applyAppearance(*qApp, Appearance::Dark);
+    m_driver.settle();
+    m_report.addPicture(QStringLiteral("converted-dark"), m_driver.pictureWith(*window));
+    applyAppearance(*qApp, Appearance::Light);
+    const NativeFileDialogReplacement chooser([this] {
+        return std::make_unique<TourFileDialog>(
+            workFolder(QStringLiteral("drawn-cup/drawn-cup.dsg")));
+    });
+    Q_EMIT window->inputWasClicked();
+    Q_EMIT window->convertWasClicked();
+    m_report.expect(window->status() == ZVConverterDialog::StatusInputFailed,
+                    QStringLiteral("a design is no mesh"));
+    m_driver.settle();
+    m_report.addPicture(QStringLiteral("not-converted"), m_driver.pictureWith(*window));
+    window->close();
+}
+
+void Tour::chooseAndConvert(ZVConverterDialog& window, const QString& file)
+{
+    const NativeFileDialogReplacement chooser(
+        [file] { return std::make_unique<TourFileDialog>(file); });
+    Q_EMIT window.inputWasClicked();
+    Q_EMIT window.outputWasClicked();
+    Q_EMIT window.convertWasClicked();
+}
+
+} // namespace Zorvane::Workbench
