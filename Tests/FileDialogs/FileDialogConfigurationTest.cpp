@@ -6,6 +6,7 @@
 
 #include <QtCore/QSettings>
 #include <QtGui/QScreen>
+#include <QtWidgets/QWidget>
 
 using namespace Zorvane;
 using CustomItem = FileDialogConfiguration::CustomItem;
