@@ -4,6 +4,8 @@
 #include "Host/Translation/Translator.h"
 #include "Host/Widgets/ZVMessageBox.h"
 
+#include <QtCore/QPointer>
+
 namespace Zorvane {
 
 namespace {
@@ -13,12 +15,17 @@ constexpr Qt::WindowFlags s_questionFlags = Qt::WindowTitleHint | Qt::WindowSyst
 
 bool userWantsCopy(QWidget* parent, const QString& title, const QString& text)
 {
-    ZVMessageBox box(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, parent,
-                     s_questionFlags);
-    box.setButtonText(QMessageBox::Yes, Translator::translate("FileCopyUtility", "Copy"));
-    box.setButtonText(QMessageBox::No, Translator::translate("FileCopyUtility", "Don't Copy"));
-    box.setDefaultButton(QMessageBox::Yes);
-    return box.exec() == QMessageBox::Yes;
+    // The parent may go away while the box is open, and takes it along.
+    const QPointer<ZVMessageBox> box =
+        new ZVMessageBox(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No,
+                         parent, s_questionFlags);
+    box->setTextFormat(Qt::PlainText); // names of files may look like mark-up
+    box->setButtonText(QMessageBox::Yes, Translator::translate("FileCopyUtility", "Copy"));
+    box->setButtonText(QMessageBox::No, Translator::translate("FileCopyUtility", "Don't Copy"));
+    box->setDefaultButton(QMessageBox::Yes);
+    const int answer = box->exec();
+    delete box;
+    return answer == QMessageBox::Yes;
 }
 
 bool hasAlreadyInTarget(int code)

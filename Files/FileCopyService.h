@@ -10,7 +10,8 @@ namespace Zorvane {
 
 /**
  * Asks the user whether files may be copied into a folder, and copies them on "Copy". GUI thread
- * only; each call shows modal windows and returns when they are closed.
+ * only; each call shows modal windows and returns when they are closed. Title and text of the
+ * question are plain, not rich text; a question whose parent goes away counts as declined.
  */
 class ZORVANE_UITOOLS_EXPORT FileCopyService
 {

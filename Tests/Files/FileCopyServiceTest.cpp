@@ -5,7 +5,9 @@
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/TestCase.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QTimer>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QPushButton>
 
@@ -65,6 +67,8 @@ private Q_SLOTS:
     void ownerIsTheParentOrTheMainWindow();
     void utilityCanBeCopied();
     void questionIsAsked();
+    void questionIsPlainText();
+    void questionThatGoesWithItsParentIsDeclined();
     void declinedQuestionLeavesTheResult();
     void escapeDeclines();
     void filesThatLieThereAreNotAskedAbout();
@@ -254,6 +258,34 @@ void FileCopyServiceTest::questionIsAsked()
     QCOMPARE(result, 0);
     QCOMPARE(m_script.calls, 1);
     QCOMPARE(m_script.owner, &parent);
+}
+
+void FileCopyServiceTest::questionIsPlainText()
+{
+    const QString source = addFile(QStringLiteral("source/a"));
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("door"), [](QMessageBox& box) {
+        QCOMPARE(box.textFormat(), Qt::PlainText);
+        box.button(QMessageBox::No)->click();
+    });
+    int result = 0;
+    FileCopyService::copyFilesToDirectory(nullptr, s_title, QStringLiteral("<b>door</b>.stl"),
+                                          {source}, target(), result);
+}
+
+void FileCopyServiceTest::questionThatGoesWithItsParentIsDeclined()
+{
+    const QString source = addFile(QStringLiteral("source/a"));
+    const QPointer<QWidget> parent = new QWidget;
+    parent->show();
+    QTimer::singleShot(0, parent, [parent] { delete parent; });
+    int result = 77;
+    QVERIFY(
+        FileCopyService::copyFilesToDirectory(parent, s_title, s_text, {source}, target(), result)
+            .isEmpty());
+    QVERIFY(!parent);
+    QCOMPARE(result, 77);
+    QCOMPARE(m_script.calls, 0);
 }
 
 void FileCopyServiceTest::declinedQuestionLeavesTheResult()
