@@ -26,7 +26,8 @@ public:
     CopyProgress& operator=(const CopyProgress&) = delete;
 
     /**
-     * False cancels: nothing more is copied, and what isn't complete goes away. Stays false then.
+     * False cancels: nothing more is copied, and what isn't complete goes away. Stays false then,
+     * however often it is told while things are tidied up.
      */
     virtual bool goOn(const CopyProgressState& state) = 0;
 };

@@ -33,13 +33,11 @@ DialogCopyProgress::Clock DialogCopyProgress::steadyClock()
 
 bool DialogCopyProgress::goOn(const CopyProgressState& state)
 {
-    if (m_cancelled)
-        return false;
     const qint64 time = now();
     if (m_start < 0)
         m_start = m_lastEvents = time;
     if (time - m_lastEvents < s_eventsEvery)
-        return true;
+        return !m_cancelled;
     m_rate.add(time, state.bytesDone);
     showDialogWhenDue();
     if (m_dialog)
@@ -62,7 +60,7 @@ void DialogCopyProgress::handleEvents()
 {
     QCoreApplication::processEvents(m_dialog ? QEventLoop::AllEvents
                                              : QEventLoop::ExcludeUserInputEvents);
-    m_cancelled = m_wasShown && (!m_dialog || m_dialog->isCancelled());
+    m_cancelled = m_cancelled || (m_wasShown && (!m_dialog || m_dialog->isCancelled()));
 }
 
 void DialogCopyProgress::pauseFor(const std::function<void(QWidget* parent)>& question)

@@ -14,11 +14,16 @@ constexpr std::size_t s_firstSize = 64;
 // Each item holds a file open, and processes may often open no more than 1024.
 constexpr std::size_t s_largestSize = 512;
 constexpr std::size_t s_fewItems = 8;
-constexpr qint64 s_mostBytes = 16LL * 1024 * 1024;
+constexpr qint64 s_mebibyte = 1024 * 1024;
+constexpr qint64 s_fewBytes = s_mebibyte;
+constexpr qint64 s_manyBytes = 16 * s_mebibyte;
+// In milliseconds.
+constexpr qint64 s_delay = 100;
 constexpr qint64 s_tooSlow = 50;
 constexpr qint64 s_veryFast = 25;
 // Flushing the file system writes what other programs left unwritten as well.
-constexpr qint64 s_mostUnwritten = 512LL * 1024 * 1024;
+constexpr qint64 s_mostUnwritten = 512 * s_mebibyte;
+constexpr int s_mostGroupsToFlushEach = 16;
 constexpr int s_mostCollisions = 100;
 
 } // namespace
@@ -30,16 +35,25 @@ void CopyContext::failOnTarget(CopyItem& item, int error)
         stop = CopyStop::Fatal;
 }
 
-void CopyContext::fail(CopyItem& item, const QString& reason)
+void CopyContext::fail(CopyItem& item, const QString& reason) const
 {
-    item.staged.reset();
+    discard(item);
     item.outcome->fate = CopyFate::Failed;
     item.outcome->reason = reason;
+}
+
+void CopyContext::discard(CopyItem& item) const
+{
+    // The window lives on while a large file goes.
+    if (item.staged)
+        item.staged->giveUpContent([this] { goOn(); });
+    item.staged.reset();
 }
 
 CopyGroup::CopyGroup(CopyContext& context)
     : m_context(context)
     , m_mostItems(s_firstSize)
+    , m_mostBytes(s_manyBytes)
 {}
 
 void CopyGroup::add(CopyItem& item)
@@ -50,7 +64,7 @@ void CopyGroup::add(CopyItem& item)
 
 bool CopyGroup::isFull() const
 {
-    return m_items.size() >= m_mostItems || m_bytes >= s_mostBytes;
+    return m_items.size() >= m_mostItems || m_bytes >= m_mostBytes;
 }
 
 void CopyGroup::commit()
@@ -58,9 +72,11 @@ void CopyGroup::commit()
     if (m_context.stop != CopyStop::Cancelled)
         flushAll();
     for (CopyItem* item : m_items) {
+        if (!m_context.goOn())
+            m_context.stop = CopyStop::Cancelled;
         if (item->staged && m_context.stop != CopyStop::Cancelled)
             publish(*item);
-        item->staged.reset();
+        m_context.discard(*item);
     }
     m_items.clear();
     m_bytes = 0;
@@ -68,14 +84,22 @@ void CopyGroup::commit()
 
 void CopyGroup::flushAll()
 {
-    if (m_items.size() < s_fewItems || !flushTogether())
-        flushEach();
+    if (m_items.size() >= s_fewItems && flushTogether())
+        return;
+    const qint64 start = m_context.calls.milliseconds();
+    flushEach();
+    if (m_context.calls.milliseconds() - start < s_veryFast)
+        m_mostBytes = std::min(m_mostBytes * 2, s_manyBytes);
 }
 
 bool CopyGroup::flushTogether()
 {
     if (!m_context.folder.flushesTogether())
         return false;
+    if (m_groupsToFlushEach > 0) {
+        --m_groupsToFlushEach;
+        return false;
+    }
     const SystemCalls& calls = m_context.calls;
     const qint64 unwritten = calls.unwrittenBytes();
     if (unwritten < 0 || unwritten > s_mostUnwritten)
@@ -98,10 +122,19 @@ bool CopyGroup::flushTogether()
 
 void CopyGroup::adaptSize(qint64 milliseconds)
 {
-    if (milliseconds > s_tooSlow)
+    if (milliseconds > s_tooSlow) {
         m_mostItems = std::max(m_mostItems / 2, s_fewItems);
-    else if (milliseconds < s_veryFast)
+        m_mostBytes = std::max(m_mostBytes / 2, s_fewBytes);
+    } else if (milliseconds < s_veryFast) {
         m_mostItems = std::min(m_mostItems * 2, s_largestSize);
+        m_mostBytes = std::min(m_mostBytes * 2, s_manyBytes);
+    }
+    if (milliseconds <= s_delay) {
+        m_groupsAfterNextDelay = 1;
+        return;
+    }
+    m_groupsToFlushEach = m_groupsAfterNextDelay;
+    m_groupsAfterNextDelay = std::min(m_groupsAfterNextDelay * 2, s_mostGroupsToFlushEach);
 }
 
 void CopyGroup::flushEach()

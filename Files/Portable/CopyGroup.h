@@ -27,13 +27,16 @@ struct CopyContext
 
     /** Marks the item; trouble that the next file would meet as well stops the copy. */
     void failOnTarget(CopyItem& item, int error);
-    static void fail(CopyItem& item, const QString& reason);
+    void fail(CopyItem& item, const QString& reason) const;
+    /** Lets go of what the item has staged. */
+    void discard(CopyItem& item) const;
 };
 
 /**
  * Complete files that wait to be made durable and then get their names. Flushing many small files
  * at one stroke costs a small part of flushing each; the size of a group adapts so that it takes
- * some ten milliseconds.
+ * some ten milliseconds. Where it takes much longer all the same, since other programs write too,
+ * the next groups are flushed file by file, so that one can cancel in between.
  */
 class CopyGroup
 {
@@ -44,6 +47,7 @@ public:
     /** The item must be staged and outlive the group. */
     void add(CopyItem& item);
     bool isFull() const;
+    bool hasPublished() const { return !m_published.empty(); }
     /** Flushes, then publishes one after the other. Empties the group in every case. */
     void commit();
 
@@ -62,6 +66,9 @@ private:
     std::vector<const CopyItem*> m_published;
     qint64 m_bytes = 0;
     std::size_t m_mostItems;
+    qint64 m_mostBytes;
+    int m_groupsToFlushEach = 0;
+    int m_groupsAfterNextDelay = 1;
 };
 
 } // namespace Zorvane

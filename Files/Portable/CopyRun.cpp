@@ -44,11 +44,11 @@ CopyRun::CopyRun(const SystemCalls& calls, CopyQuestions& questions, CopyProgres
     , m_decisions(
           questions,
           [this](const std::string& name) {
-              report(nullptr, 0); // with many collisions to decide at one stroke
+              m_progress.goOn(m_state); // with many collisions to decide at one stroke
               return m_context.folder.has(name);
           },
           folder.mostNameBytes())
-    , m_context{calls, folder, folderPath, m_decisions, [this] { return report(nullptr, 0); }}
+    , m_context{calls, folder, folderPath, m_decisions, [this] { return m_progress.goOn(m_state); }}
     , m_group(m_context)
     , m_transfer(calls, [this](qint64 bytes) {
         return report(nullptr, m_state.bytesDone - m_bytesOfFinishedItems + bytes);
@@ -60,6 +60,8 @@ void CopyRun::run(QList<CopyOutcome>& outcomes)
     if (!plan(outcomes) || !ask() || m_toCopy.empty())
         return;
     copyAll();
+    if (!m_group.hasPublished())
+        return; // no name to make durable
     if (const int error = m_context.folder.flush())
         m_generalFailure = describeCopyError(error);
 }
@@ -83,7 +85,7 @@ bool CopyRun::planItem(CopyItem& item)
     int error =
         errorOf([&] { return calls.statusAt(AT_FDCWD, item.path.c_str(), item.source, 0); });
     if (error == 0 && !S_ISREG(item.source.st_mode)) {
-        CopyContext::fail(item, notAFile());
+        m_context.fail(item, notAFile());
         return false;
     }
     item.candidate.leaf = leafOf(item.path);
@@ -91,7 +93,7 @@ bool CopyRun::planItem(CopyItem& item)
     if (error == 0)
         error = lookForCollision(item, m_context.folder, m_context.folderPath);
     if (error != 0)
-        CopyContext::fail(item, describeCopyError(error));
+        m_context.fail(item, describeCopyError(error));
     return error == 0;
 }
 
@@ -161,11 +163,11 @@ bool CopyRun::openBoth(CopyItem& item, Descriptor& source, struct stat& opened)
     if (error == 0)
         error = errorOf([&] { return m_context.calls.status(source.get(), opened); });
     if (error != 0) {
-        CopyContext::fail(item, describeCopyError(error));
+        m_context.fail(item, describeCopyError(error));
         return false;
     }
     if (!S_ISREG(opened.st_mode) || !isUnchanged(item.source, opened)) {
-        CopyContext::fail(item, S_ISREG(opened.st_mode) ? changedMeanwhile() : notAFile());
+        m_context.fail(item, S_ISREG(opened.st_mode) ? changedMeanwhile() : notAFile());
         return false;
     }
     item.staged.emplace(m_context.folder);
@@ -200,13 +202,13 @@ bool CopyRun::copyContent(CopyItem& item, const Descriptor& source, const struct
         break;
     case TransferResult::End::Cancelled:
         m_context.stop = CopyStop::Cancelled;
-        item.staged.reset();
+        m_context.discard(item);
         return false;
     case TransferResult::End::SourceTooShort:
-        CopyContext::fail(item, changedMeanwhile());
+        m_context.fail(item, changedMeanwhile());
         return false;
     case TransferResult::End::SourceError:
-        CopyContext::fail(item, describeCopyError(result.error));
+        m_context.fail(item, describeCopyError(result.error));
         return false;
     case TransferResult::End::TargetError:
         m_context.failOnTarget(item, result.error);
@@ -217,7 +219,7 @@ bool CopyRun::copyContent(CopyItem& item, const Descriptor& source, const struct
     const int error = errorOf([&] { return m_context.calls.status(source.get(), now); });
     if (error == 0 && isUnchanged(opened, now))
         return true;
-    CopyContext::fail(item, error != 0 ? describeCopyError(error) : changedMeanwhile());
+    m_context.fail(item, error != 0 ? describeCopyError(error) : changedMeanwhile());
     return false;
 }
 

@@ -6,6 +6,12 @@
 
 namespace Zorvane {
 
+namespace {
+
+constexpr off_t s_piece = off_t(32) << 20;
+
+} // namespace
+
 StagedFile::StagedFile(const TargetFolder& folder)
     : m_folder(folder)
 {}
@@ -19,6 +25,7 @@ StagedFile::StagedFile(StagedFile&& other) noexcept
     : m_folder(other.m_folder)
     , m_file(std::move(other.m_file))
     , m_temporaryName(std::exchange(other.m_temporaryName, std::string()))
+    , m_mayHaveName(other.m_mayHaveName)
 {}
 
 int StagedFile::create(mode_t permissions)
@@ -28,6 +35,7 @@ int StagedFile::create(mode_t permissions)
 
 int StagedFile::publishNew(const std::string& leaf)
 {
+    m_mayHaveName = true;
     const int error = giveName(leaf);
     // Over a network an answer may get lost, and the repeated call then meets its own success.
     if ((error == EEXIST || error == ENOENT) && hasName(leaf)) {
@@ -64,6 +72,7 @@ int StagedFile::giveName(const std::string& leaf)
 
 int StagedFile::publishReplacing(const std::string& leaf)
 {
+    m_mayHaveName = true;
     const SystemCalls& calls = m_folder.calls();
     const int folder = m_folder.descriptor();
     if (m_temporaryName.empty()) {
@@ -81,6 +90,20 @@ int StagedFile::publishReplacing(const std::string& leaf)
         return error;
     m_temporaryName.clear();
     return 0;
+}
+
+void StagedFile::giveUpContent(const std::function<void()>& advance)
+{
+    const SystemCalls& calls = m_folder.calls();
+    struct stat status
+    {};
+    if (m_mayHaveName || !m_file.isOpen() || calls.status(m_file.get(), status) != 0)
+        return;
+    for (off_t left = status.st_size - s_piece; left > 0; left -= s_piece) {
+        if (errorOf([&] { return calls.setSize(m_file.get(), left); }) != 0)
+            return; // closing does it at one stroke
+        advance();
+    }
 }
 
 bool StagedFile::hasName(const std::string& leaf) const

@@ -2,6 +2,7 @@
 
 #include "Files/Portable/TargetFolder.h"
 
+#include <functional>
 #include <string>
 
 namespace Zorvane {
@@ -26,6 +27,12 @@ public:
     /** Gives the file its name in place of what has it, at one stroke. */
     int publishReplacing(const std::string& leaf);
 
+    /**
+     * Gives up what has been written, in pieces, with a word after each: the system takes a while
+     * for large files. Does nothing once the file may have its name.
+     */
+    void giveUpContent(const std::function<void()>& advance);
+
 private:
     int giveName(const std::string& leaf);
     bool hasName(const std::string& leaf) const;
@@ -34,6 +41,7 @@ private:
     const TargetFolder& m_folder;
     Descriptor m_file;
     std::string m_temporaryName;
+    bool m_mayHaveName = false;
 };
 
 } // namespace Zorvane

@@ -167,6 +167,7 @@ SystemCalls makeReal()
     };
     calls.setMode = ::fchmod;
     calls.setTimes = ::futimens;
+    calls.setSize = ::ftruncate;
     calls.startWriteback = startWriteback;
     calls.finishWriteback = finishWriteback;
     calls.flush = ::fsync;

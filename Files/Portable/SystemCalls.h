@@ -28,6 +28,7 @@ struct ZORVANE_UITOOLS_EXPORT SystemCalls
     std::function<int(int folder, const char* path, struct stat& status, int flags)> statusAt;
     std::function<int(int file, mode_t mode)> setMode;
     std::function<int(int file, const timespec times[2])> setTimes;
+    std::function<int(int file, off_t size)> setSize;
 
     /** Begins to write a range to disk. A hint: it makes nothing durable. */
     std::function<int(int file, off_t offset, off_t size)> startWriteback;

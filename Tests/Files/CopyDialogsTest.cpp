@@ -76,6 +76,7 @@ private Q_SLOTS:
     void progressShowsAmountSpeedAndTime();
     void progressCancels_data();
     void progressCancels();
+    void windowLivesOnWhileACancelledCopyIsTidiedUp();
     void progressEndsWithItsOwner();
     void windowStaysResponsive();
     void inputWaitsUntilTheDialogIsThere();
@@ -312,6 +313,22 @@ void CopyDialogsTest::progressCancels()
     QVERIFY(!test.passMilliseconds(20));
     QVERIFY(!test.passMilliseconds(1));
     QVERIFY(!dialog.cancelButton()->isEnabled());
+}
+
+void CopyDialogsTest::windowLivesOnWhileACancelledCopyIsTidiedUp()
+{
+    Progress test;
+    QVERIFY(test.passMilliseconds(0));
+    QVERIFY(test.passMilliseconds(600));
+    test.progress.dialog()->reject();
+    QVERIFY(!test.passMilliseconds(20));
+    int handled = 0;
+    QTimer::singleShot(0, qApp, [&] { ++handled; });
+    QVERIFY(!test.passMilliseconds(20));
+    QCOMPARE(handled, 1);
+    delete test.progress.dialog();
+    QVERIFY(!test.passMilliseconds(20));
+    QVERIFY(!test.progress.dialog());
 }
 
 void CopyDialogsTest::progressEndsWithItsOwner()

@@ -22,6 +22,7 @@ FaultySystem::FaultySystem()
     wrap(calls.statusAt, "statusAt");
     wrap(calls.setMode, "setMode");
     wrap(calls.setTimes, "setTimes");
+    wrap(calls.setSize, "setSize");
     wrap(calls.startWriteback, "startWriteback");
     wrap(calls.finishWriteback, "finishWriteback");
     wrap(calls.flush, "flush");
