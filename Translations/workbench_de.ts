@@ -171,16 +171,20 @@
         <translation>&amp;Rückgängig</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Wiederholen</translation>
-    </message>
-    <message>
         <source>Start S&amp;imulation</source>
         <translation>S&amp;imulation starten</translation>
     </message>
     <message>
         <source>Sto&amp;p Simulation</source>
         <translation>Simulation sto&amp;ppen</translation>
+    </message>
+    <message>
+        <source>Re&amp;move from Design</source>
+        <translation>Aus dem Entwurf ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
 </context>
 <context>
@@ -1138,12 +1142,16 @@
         <translation>&amp;Rückgängig</translation>
     </message>
     <message>
-        <source>&amp;Redo: %1</source>
-        <translation>&amp;Wiederholen: %1</translation>
+        <source>%1 was removed; its file stays.</source>
+        <translation>%1 wurde entfernt; die Datei bleibt.</translation>
     </message>
     <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Wiederholen</translation>
+        <source>Re&amp;do: %1</source>
+        <translation>&amp;Wiederherstellen: %1</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
 </context>
 <context>

@@ -153,6 +153,18 @@ const double* Design::findQuantity(const GUIdentifier& objectId, Quantity quanti
     return const_cast<Design*>(this)->findQuantity(objectId, quantity);
 }
 
+bool Design::refersTo(const GUIdentifier& fileId) const
+{
+    const auto hasGeometry = [&fileId](const auto& piece) { return piece.geometry == fileId; };
+    const auto isUsedByTools = [&](const Operation& operation) {
+        return std::any_of(operation.tools.begin(), operation.tools.end(), hasGeometry);
+    };
+    return (blank && hasGeometry(*blank)) || std::any_of(parts.begin(), parts.end(), hasGeometry) ||
+           std::any_of(operations.begin(), operations.end(), isUsedByTools) ||
+           std::any_of(materials.begin(), materials.end(),
+                       [&fileId](const Material& material) { return material.file == fileId; });
+}
+
 std::vector<GUIdentifier> Design::allIds() const
 {
     std::vector<GUIdentifier> ids;

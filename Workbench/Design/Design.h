@@ -153,6 +153,8 @@ struct Design
     /** The value to read or to change; null if no object of the design with this id has it. */
     double* findQuantity(const GUIdentifier& objectId, Quantity quantity);
     const double* findQuantity(const GUIdentifier& objectId, Quantity quantity) const;
+    /** Whether an object of the design refers to the file reference. */
+    bool refersTo(const GUIdentifier& fileId) const;
     /** Of the design itself and of every object in it, in the order of the file. */
     std::vector<GUIdentifier> allIds() const;
 };

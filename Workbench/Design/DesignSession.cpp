@@ -255,6 +255,18 @@ TakenObjects DesignSession::take(const GUIdentifier& designId,
     return taken;
 }
 
+bool DesignSession::canTake(const GUIdentifier& objectId) const
+{
+    const Design* design = findDesign(objectId);
+    if (design == nullptr)
+        return false;
+    const auto isIt = [&objectId](const auto& piece) { return piece.id == objectId; };
+    if (std::any_of(design->parts.begin(), design->parts.end(), isIt))
+        return true;
+    return std::any_of(design->files.begin(), design->files.end(), isIt) &&
+           !design->refersTo(objectId);
+}
+
 bool DesignSession::putBack(const TakenObjects& taken)
 {
     if (!m_store.putBack(taken))

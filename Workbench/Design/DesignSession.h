@@ -105,10 +105,12 @@ public:
     GUIdentifier findObject(const GUIdentifier& designId, const QString& file) const;
 
     /**
-     * Takes parts and references to files out of a design; files stay where they are. What other
+     * Takes parts and references to files out of the design of the id; files stay where they are. What other
      * objects refer to is left without. Ids of anything else are passed over.
      */
     TakenObjects take(const GUIdentifier& designId, const std::vector<GUIdentifier>& objects);
+    /** Whether the object is a part, or a reference to a file that nothing else wants. */
+    bool canTake(const GUIdentifier& objectId) const;
     /** Puts them back where they were; false, and nothing done, if the design isn't open. */
     bool putBack(const TakenObjects& taken);
 

@@ -232,8 +232,8 @@ void MainWindow::fillEditMenu()
     QMenu* edit = menuBar()->addMenu(tr("&Edit"));
     m_actions->addTo(*edit, {WindowActions::Undo, WindowActions::Redo});
     edit->addSeparator();
-    m_actions->addTo(*edit,
-                     {WindowActions::Rename, WindowActions::Find, WindowActions::GoToReference});
+    m_actions->addTo(*edit, {WindowActions::Rename, WindowActions::Remove, WindowActions::Find,
+                             WindowActions::GoToReference});
     showHistory();
     connect(&m_history->stack(), &QUndoStack::indexChanged, this, &MainWindow::showHistory);
 }
@@ -241,12 +241,16 @@ void MainWindow::fillEditMenu()
 void MainWindow::showHistory()
 {
     QUndoStack& stack = m_history->stack();
+    const auto command = [](const QString& text, QString edit) {
+        // A name's own "&" marks no key.
+        return text.arg(edit.replace(QLatin1Char('&'), QLatin1String("&&")));
+    };
     (*m_actions)[WindowActions::Undo]->setEnabled(stack.canUndo());
     (*m_actions)[WindowActions::Undo]->setText(
-        stack.canUndo() ? tr("&Undo: %1").arg(stack.undoText()) : tr("&Undo"));
+        stack.canUndo() ? command(tr("&Undo: %1"), stack.undoText()) : tr("&Undo"));
     (*m_actions)[WindowActions::Redo]->setEnabled(stack.canRedo());
     (*m_actions)[WindowActions::Redo]->setText(
-        stack.canRedo() ? tr("&Redo: %1").arg(stack.redoText()) : tr("&Redo"));
+        stack.canRedo() ? command(tr("Re&do: %1"), stack.redoText()) : tr("Re&do"));
 }
 
 void MainWindow::fillViewMenu()
@@ -342,6 +346,7 @@ void MainWindow::connectActions()
     on(WindowActions::Undo, [this] { m_history->undo(); });
     on(WindowActions::Redo, [this] { m_history->redo(); });
     on(WindowActions::Rename, &MainWindow::rename);
+    on(WindowActions::Remove, &MainWindow::removeCurrent);
     on(WindowActions::Find, [this] { m_filterBar->focusText(); });
     on(WindowActions::GoToReference, &MainWindow::goToReference);
     on(WindowActions::ExpandAll, [this] { m_tree->expandAll(); });
@@ -445,6 +450,7 @@ void MainWindow::showCurrent()
     m_details->show(m_tree->catalog(), m_tree->currentId());
     const GUIdentifier object = m_tree->currentId().getCombinedPart();
     (*m_actions)[WindowActions::Rename]->setEnabled(m_session.canRename(object));
+    (*m_actions)[WindowActions::Remove]->setEnabled(m_session.canTake(object));
     (*m_actions)[WindowActions::Export]->setEnabled(m_exchange->canExport(object));
     (*m_actions)[WindowActions::GoToReference]->setEnabled(
         m_references->leadsAnywhere(m_tree->currentId()));
@@ -627,6 +633,15 @@ void MainWindow::setQuantity(const GUIdentifier& object, Quantity quantity, doub
     const QString refusal = m_session.setQuantity(object, quantity, value);
     if (!refusal.isEmpty())
         m_messageBar->say(refusal);
+}
+
+void MainWindow::removeCurrent()
+{
+    const GUIdentifier object = m_tree->currentId().getCombinedPart();
+    const QString name = m_session.name(object);
+    if (!m_session.take(object, {object}).isEmpty())
+        statusBar()->showMessage(tr("%1 was removed; its file stays.").arg(name),
+                                 s_noticeMilliseconds);
 }
 
 void MainWindow::showStress()

@@ -107,6 +107,7 @@ private:
     bool mayDropChanges();
     void closeAll();
     void rename();
+    void removeCurrent();
     void goToReference();
     void goTo(const IDCombiner& id);
     void setQuantity(const GUIdentifier& object, Quantity quantity, double value);

@@ -33,6 +33,7 @@ public:
         Undo,
         Redo,
         Rename,
+        Remove,
         Find,
         GoToReference,
         Fit,

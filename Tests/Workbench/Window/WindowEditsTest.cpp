@@ -1,0 +1,201 @@
+#include "Host/DesignStatus/DesignStatus.h"
+#include "Host/Widgets/ZVConverterDialog.h"
+#include "Tests/Support/ExpectedModals.h"
+#include "Tests/Support/TestCase.h"
+#include "Tests/Workbench/Tree/TreeFixture.h"
+#include "Workbench/Solver/SimulationRunner.h"
+#include "Workbench/Undo/EditHistory.h"
+#include "Workbench/Window/MainWindow.h"
+
+#include <QtWidgets/QAction>
+#include <QtWidgets/QTreeView>
+
+#include <memory>
+
+namespace Zorvane::Workbench {
+
+using Testing::objectId;
+using Testing::patience;
+
+/** Commands of the window that change, save and compute designs. */
+class WindowEditsTest : public Testing::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void undoAndRedoFollowTheHistory();
+    void undoKeysWorkInTheTree();
+    void namesInCommandsAreNoKeys();
+    void removedPartComesBackWithUndo();
+    void onlyWhatNothingRefersToIsRemoved();
+    void startAndStopFollowTheSimulation();
+    void resultsAreShownWhenTheSimulationIsDone();
+    void closingWhileSimulatingAsks();
+    void reloadEndsTheHistory();
+    void convertShowsOneWindow();
+
+private:
+    QAction* action(const QString& text) const;
+
+    std::unique_ptr<Testing::OpenedDesign> m_files;
+    std::unique_ptr<MainWindow> m_window;
+};
+
+void WindowEditsTest::init()
+{
+    m_files = std::make_unique<Testing::OpenedDesign>();
+    m_window = std::make_unique<MainWindow>();
+    m_window->show();
+    m_window->open({m_files->folder.path()});
+    QTRY_VERIFY(!m_window->loader().isBusy());
+    m_window->tree().refreshNow();
+}
+
+void WindowEditsTest::cleanup()
+{
+    m_window.reset();
+    m_files.reset();
+    TestCase::cleanup();
+}
+
+/** The first one whose text begins so. */
+QAction* WindowEditsTest::action(const QString& text) const
+{
+    for (QAction* found : m_window->findChildren<QAction*>())
+        if (QString(found->text()).remove(QLatin1Char('&')).startsWith(text))
+            return found;
+    return nullptr;
+}
+
+void WindowEditsTest::undoAndRedoFollowTheHistory()
+{
+    QAction* undo = action(QStringLiteral("Undo"));
+    QAction* redo = action(QStringLiteral("Redo"));
+    QVERIFY(!undo->isEnabled() && !redo->isEnabled());
+    const QString before = m_window->session().name(objectId(10));
+    m_window->session().rename(objectId(10), QStringLiteral("Left door"));
+    QVERIFY(undo->isEnabled());
+    QCOMPARE(undo->text(), QStringLiteral("&Undo: Rename %1").arg(before));
+    undo->trigger();
+    QCOMPARE(m_window->session().name(objectId(10)), before);
+    QVERIFY(!undo->isEnabled() && redo->isEnabled());
+    redo->trigger();
+    QCOMPARE(m_window->session().name(objectId(10)), QStringLiteral("Left door"));
+}
+
+void WindowEditsTest::undoKeysWorkInTheTree()
+{
+    const QString before = m_window->session().name(objectId(10));
+    m_window->session().rename(objectId(10), QStringLiteral("Left door"));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    m_window->treeView().setFocus();
+    QTest::keyClick(&m_window->treeView(), Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(m_window->session().name(objectId(10)), before);
+    QTest::keyClick(&m_window->treeView(), Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(m_window->session().name(objectId(10)), QStringLiteral("Left door"));
+}
+
+void WindowEditsTest::namesInCommandsAreNoKeys()
+{
+    m_window->session().rename(objectId(10), QStringLiteral("R&D"));
+    m_window->session().setQuantity(objectId(10), Quantity::Thickness, 3);
+    QCOMPARE(action(QStringLiteral("Undo"))->text(),
+             QStringLiteral("&Undo: Change Thickness of R&&D"));
+}
+
+void WindowEditsTest::removedPartComesBackWithUndo()
+{
+    m_window->tree().select(objectId(10));
+    QAction* remove = action(QStringLiteral("Remove from Design"));
+    QVERIFY(remove->isEnabled());
+    remove->trigger();
+    QVERIFY(m_window->session().designs().front().parts.empty());
+    QVERIFY(QFile::exists(m_files->path(QStringLiteral("geometry/die.stl"))));
+    action(QStringLiteral("Undo"))->trigger();
+    QCOMPARE(m_window->session().designs().front().parts.size(), std::size_t(1));
+    QVERIFY(!m_window->session().isModified());
+}
+
+void WindowEditsTest::onlyWhatNothingRefersToIsRemoved()
+{
+    const DesignSession& session = m_window->session();
+    for (const int number : {1, 2, 20, 21, 30, 40, 41, 99})
+        QVERIFY2(!session.canTake(objectId(number)), qPrintable(QString::number(number)));
+    const QString table = Testing::writeFile(m_files->path(QStringLiteral("draw.csv")), "stroke\n");
+    m_window->session().addFiles(objectId(1), {table});
+    QVERIFY(session.canTake(session.designs().front().files.back().id));
+    m_window->tree().refreshNow();
+    m_window->tree().select(objectId(21));
+    QVERIFY(!action(QStringLiteral("Remove from Design"))->isEnabled());
+}
+
+void WindowEditsTest::startAndStopFollowTheSimulation()
+{
+    QAction* start = action(QStringLiteral("Start Simulation"));
+    QAction* stop = action(QStringLiteral("Stop Simulation"));
+    QVERIFY(start->isEnabled() && !stop->isEnabled());
+    m_window->simulation().setSteps(100000);
+    start->trigger();
+    QVERIFY(m_window->simulation().isRunning());
+    QVERIFY(!start->isEnabled() && stop->isEnabled());
+    stop->trigger();
+    QVERIFY(start->isEnabled() && !stop->isEnabled());
+    m_window->session().close();
+    QVERIFY(!start->isEnabled());
+}
+
+void WindowEditsTest::resultsAreShownWhenTheSimulationIsDone()
+{
+    m_window->simulation().setSteps(2);
+    action(QStringLiteral("Start Simulation"))->trigger();
+    QTRY_VERIFY_WITH_TIMEOUT(!m_window->simulation().isRunning(), patience);
+    m_window->tree().refreshNow();
+    const Design& design = m_window->session().designs().front();
+    QCOMPARE(design.files.back().kind, FileKind::Result);
+    QVERIFY(m_window->tree().select(design.files.back().id));
+    QVERIFY(!m_window->isWindowModified());
+}
+
+void WindowEditsTest::closingWhileSimulatingAsks()
+{
+    m_window->simulation().setSteps(100000);
+    action(QStringLiteral("Start Simulation"))->trigger();
+    Testing::ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("Stop it and lose"), QMessageBox::No);
+    QVERIFY(!m_window->close());
+    QVERIFY(m_window->simulation().isRunning());
+    modals.expectMessageBox(QStringLiteral("Stop it and lose"), QMessageBox::Yes);
+    QVERIFY(m_window->close());
+    DesignStatus status;
+    status.reloadJobStatus(FileName(m_files->designFile()), nullptr);
+    QVERIFY(!status.isJobRunning());
+}
+
+void WindowEditsTest::reloadEndsTheHistory()
+{
+    m_window->session().rename(objectId(10), QStringLiteral("Left door"));
+    Testing::ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("Save the changes"), QMessageBox::Discard);
+    m_window->reload();
+    QVERIFY(!m_window->session().isModified());
+    QVERIFY(!action(QStringLiteral("Undo"))->isEnabled());
+}
+
+void WindowEditsTest::convertShowsOneWindow()
+{
+    QAction* convert = action(QStringLiteral("Convert Meshes"));
+    convert->trigger();
+    auto* converter = m_window->findChild<ZVConverterDialog*>();
+    QVERIFY(converter && converter->isVisible());
+    converter->close();
+    convert->trigger();
+    QCOMPARE(m_window->findChildren<ZVConverterDialog*>().size(), 1);
+    QVERIFY(converter->isVisible());
+}
+
+} // namespace Zorvane::Workbench
+
+ZORVANE_TEST_MAIN(Zorvane::Workbench::WindowEditsTest)
+#include "WindowEditsTest.moc"
