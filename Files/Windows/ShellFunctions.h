@@ -14,6 +14,7 @@ namespace Zorvane {
 class ZORVANE_UITOOLS_EXPORT ShellFunctions
 {
 private:
+    // Stands first: the functions are found in it.
     SystemLibrary m_library;
 
 public:

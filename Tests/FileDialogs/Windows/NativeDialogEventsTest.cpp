@@ -109,6 +109,7 @@ private Q_SLOTS:
     void nestedDialogsRecordEachItsOwn();
 
 private:
+    void renewConfiguration();
     NativeFileDialogResult open() { return createNativeFileDialogDriver()->open(m_request); }
     /** Opens a dialog and cancels it after the steps. */
     void runToTheEnd(DialogPilot& pilot)
@@ -128,10 +129,15 @@ void NativeDialogEventsTest::init()
 {
     QSettings().clear();
     m_folder.emplace();
+    m_request = m_folder->request();
+    renewConfiguration();
+}
+
+void NativeDialogEventsTest::renewConfiguration()
+{
     m_handler.emplace();
     m_configuration.emplace(QStringLiteral("Events"));
     m_configuration->setEventHandler(&*m_handler);
-    m_request = m_folder->request();
     m_request.configuration = &*m_configuration;
 }
 
@@ -414,9 +420,11 @@ void NativeDialogEventsTest::placingADialogThatIsGone()
         dialog.click(dialog.findControl(L"Button", QStringLiteral("Show preview")));
     });
     QVERIFY(open().isCancelled());
-    shortLived.reset();
     QVERIFY(pilot.isDone());
-    QTest::qWait(3 * s_dialogPlacementDelay);
+    shortLived.reset();
+    // A later dialog is at its place only after the time of the first one has come.
+    renewConfiguration();
+    handlerPlacesTheDialog();
 }
 
 void NativeDialogEventsTest::geometryIsRecorded()
@@ -477,8 +485,15 @@ void NativeDialogEventsTest::nothingIsRecordedAfterwards()
     pilot.waitUntil("a recorded move",
                     [&](const DialogWindow&) { return m_configuration->stored.size() == 1; });
     runToTheEnd(pilot);
+    // A later dialog hears of moves after the first one would have.
+    GeometryRecorder later(QStringLiteral("Later"));
+    m_request.configuration = &later;
+    DialogPilot next;
     raise(EVENT_SYSTEM_MOVESIZEEND, handle);
-    QTest::qWait(1);
+    next.then([&](const DialogWindow&) { raise(EVENT_SYSTEM_MOVESIZEEND, handle); });
+    next.waitUntil("a record of the later dialog",
+                   [&](const DialogWindow&) { return !later.stored.empty(); });
+    runToTheEnd(next);
     QCOMPARE(m_configuration->stored.size(), 1U);
 }
 
