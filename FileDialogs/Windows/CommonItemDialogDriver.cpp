@@ -19,7 +19,9 @@ NativeFileDialogResult runDialog(const wchar_t* shellLibrary,
     if (FAILED(result.code))
         return result;
     const ShellFunctions shell(shellLibrary);
-    const DpiAwarenessScope dpiAwareness;
+    const SystemLibrary user(L"user32.dll");
+    const DpiAwarenessScope dpiAwareness(
+        user.find<DpiAwarenessScope::SetContext>("SetThreadDpiAwarenessContext"));
     result.code = shell.createItem ? (CommonItemDialog(shell, request).*run)(result.paths) : E_FAIL;
     if (FAILED(result.code))
         result.paths.clear();

@@ -2,9 +2,8 @@
 
 namespace Zorvane {
 
-DpiAwarenessScope::DpiAwarenessScope()
-    : m_user(L"user32.dll")
-    , m_set(m_user.find<SetContext>("SetThreadDpiAwarenessContext"))
+DpiAwarenessScope::DpiAwarenessScope(SetContext* set)
+    : m_set(set)
 {
     if (m_set)
         m_previous = m_set(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);

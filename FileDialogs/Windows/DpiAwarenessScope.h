@@ -1,6 +1,8 @@
 #pragma once
 
-#include "Files/Windows/SystemLibrary.h"
+#include "UiToolsExport.h"
+
+#include <windows.h>
 
 namespace Zorvane {
 
@@ -9,19 +11,19 @@ namespace Zorvane {
  * system's dialogs can do and a whole application may not. Does nothing where the system is older
  * than that, or refuses.
  */
-class DpiAwarenessScope
+class ZORVANE_UITOOLS_EXPORT DpiAwarenessScope
 {
 public:
-    DpiAwarenessScope();
+    using SetContext = DPI_AWARENESS_CONTEXT WINAPI(DPI_AWARENESS_CONTEXT);
+
+    /** The system's `SetThreadDpiAwarenessContext`; null where it has none. */
+    explicit DpiAwarenessScope(SetContext* set);
     ~DpiAwarenessScope();
 
     DpiAwarenessScope(const DpiAwarenessScope&) = delete;
     DpiAwarenessScope& operator=(const DpiAwarenessScope&) = delete;
 
 private:
-    using SetContext = DPI_AWARENESS_CONTEXT WINAPI(DPI_AWARENESS_CONTEXT);
-
-    SystemLibrary m_user;
     SetContext* m_set;
     DPI_AWARENESS_CONTEXT m_previous = nullptr;
 };

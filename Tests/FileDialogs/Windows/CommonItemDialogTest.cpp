@@ -3,6 +3,7 @@
 #include "FileDialogs/FileDialog.h"
 #include "FileDialogs/Windows/CFileInitializeSelectHandler.h"
 #include "FileDialogs/Windows/CFileOpenDialogEventHandler.h"
+#include "FileDialogs/Windows/DpiAwarenessScope.h"
 #include "FileDialogs/Windows/WinFileDialogCallbacks.h"
 #include "Files/Windows/ComApartment.h"
 #include "Files/Windows/SystemLibrary.h"
@@ -53,6 +54,15 @@ CustomItem item(int id, int type, const char* group, const QVariant& content,
     return item;
 }
 
+qintptr s_previousContext = 0;
+QVector<qintptr> s_contexts;
+
+DPI_AWARENESS_CONTEXT WINAPI setContext(DPI_AWARENESS_CONTEXT context)
+{
+    s_contexts.append(qintptr(context));
+    return reinterpret_cast<DPI_AWARENESS_CONTEXT>(s_previousContext);
+}
+
 } // namespace
 
 class CommonItemDialogTest : public Testing::TestCase
@@ -83,7 +93,9 @@ private Q_SLOTS:
     void aFailureInAnEvent();
     void selectionFollowsTheFileNameBox();
     void callbacksOfADialogWithoutControls();
-    void dpiContextIsRestored();
+    void dpiAwarenessIsTakenBack_data();
+    void dpiAwarenessIsTakenBack();
+    void dpiAwarenessOfTheThreadStays();
     void facadeTakesTheNativeDialog();
     void facadeFallsBack_data();
     void facadeFallsBack();
@@ -488,34 +500,44 @@ void CommonItemDialogTest::callbacksOfADialogWithoutControls()
     QVERIFY(m_script.calls.calls().isEmpty());
 }
 
-void CommonItemDialogTest::dpiContextIsRestored()
+void CommonItemDialogTest::dpiAwarenessIsTakenBack_data()
+{
+    const auto v2 = qintptr(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
+    QTest::addColumn<bool>("exists");
+    QTest::addColumn<qintptr>("previous");
+    QTest::addColumn<QVector<qintptr>>("contexts");
+    QTest::newRow("changed") << true << qintptr(-2) << QVector<qintptr>{v2, -2};
+    QTest::newRow("refused") << true << qintptr(0) << QVector<qintptr>{v2};
+    QTest::newRow("unknown to the system") << false << qintptr(0) << QVector<qintptr>();
+}
+
+void CommonItemDialogTest::dpiAwarenessIsTakenBack()
+{
+    QFETCH(bool, exists);
+    QFETCH(qintptr, previous);
+    QFETCH(QVector<qintptr>, contexts);
+    s_previousContext = previous;
+    s_contexts.clear();
+    {
+        const DpiAwarenessScope scope(exists ? setContext : nullptr);
+        QCOMPARE(s_contexts, contexts.mid(0, 1));
+    }
+    QCOMPARE(s_contexts, contexts);
+}
+
+void CommonItemDialogTest::dpiAwarenessOfTheThreadStays()
 {
     using Get = DPI_AWARENESS_CONTEXT WINAPI();
-    using Set = DPI_AWARENESS_CONTEXT WINAPI(DPI_AWARENESS_CONTEXT);
-    using AreEqual = BOOL WINAPI(DPI_AWARENESS_CONTEXT, DPI_AWARENESS_CONTEXT);
     const SystemLibrary user(L"user32.dll");
     Get* get = user.find<Get>("GetThreadDpiAwarenessContext");
-    Set* set = user.find<Set>("SetThreadDpiAwarenessContext");
-    AreEqual* areEqual = user.find<AreEqual>("AreDpiAwarenessContextsEqual");
-    if (!get || !set || !areEqual)
+    if (!get)
         QSKIP("this system has one DPI awareness for a whole process");
-    const auto before = set(DPI_AWARENESS_CONTEXT_UNAWARE);
-    // Older systems know no second version and refuse it; then nothing may change either.
-    const auto refused = set(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2) == nullptr;
-    set(DPI_AWARENESS_CONTEXT_UNAWARE);
-    bool isAwareWhileShown = false;
-    m_script.whileShown = [&](IFileDialog*, const std::vector<IFileDialogEvents*>&) {
-        isAwareWhileShown = areEqual(get(), DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
-    };
+    const auto before = get();
     m_driver.open(m_request);
-    const bool isRestored = areEqual(get(), DPI_AWARENESS_CONTEXT_UNAWARE);
+    QCOMPARE(get(), before);
     m_script.calls.failCalls(QStringLiteral("SetTitle"), s_failure);
     m_driver.open(m_request);
-    const bool isRestoredAfterFailure = areEqual(get(), DPI_AWARENESS_CONTEXT_UNAWARE);
-    set(before);
-    QCOMPARE(isAwareWhileShown, !refused);
-    QVERIFY(isRestored);
-    QVERIFY(isRestoredAfterFailure);
+    QCOMPARE(get(), before);
 }
 
 void CommonItemDialogTest::facadeTakesTheNativeDialog()

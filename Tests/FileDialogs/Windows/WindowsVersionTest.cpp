@@ -1,0 +1,92 @@
+#include "FileDialogs/NativeFileDialog.h"
+#include "Tests/Support/TestCase.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QFileInfo>
+#include <QtCore/QProcess>
+#include <QtCore/QSettings>
+
+#include <windows.h>
+
+using namespace Zorvane;
+
+namespace {
+
+constexpr char s_tellDriver[] = "--tell-driver";
+
+enum Answer
+{
+    NoDriver = 40,
+    Driver = 41
+};
+
+int tellDriver()
+{
+    return createNativeFileDialogDriver() ? Driver : NoDriver;
+}
+
+/** As long as it lives, Wine shows this program another version of Windows when it starts. */
+class ShownVersion
+{
+public:
+    explicit ShownVersion(const QString& version)
+        : m_settings(QStringLiteral("HKEY_CURRENT_USER\\Software\\Wine\\AppDefaults\\") +
+                         QFileInfo(QCoreApplication::applicationFilePath()).fileName(),
+                     QSettings::NativeFormat)
+    {
+        m_settings.setValue(QStringLiteral("Version"), version);
+        m_settings.sync();
+    }
+    ~ShownVersion() { m_settings.clear(); }
+
+private:
+    QSettings m_settings;
+};
+
+bool isWine()
+{
+    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+}
+
+} // namespace
+
+/** Whether there is a native dialog, by the version of Windows: this program, started again, tells. */
+class WindowsVersionTest : public Testing::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void driverByVersion_data();
+    void driverByVersion();
+};
+
+void WindowsVersionTest::driverByVersion_data()
+{
+    QTest::addColumn<QString>("version");
+    QTest::addColumn<int>("answer");
+    QTest::newRow("5.2") << QStringLiteral("winxp64") << int(NoDriver);
+    QTest::newRow("6.0") << QStringLiteral("vista") << int(Driver);
+    QTest::newRow("6.1") << QStringLiteral("win7") << int(Driver);
+    QTest::newRow("10.0") << QStringLiteral("win10") << int(Driver);
+}
+
+void WindowsVersionTest::driverByVersion()
+{
+    if (!isWine())
+        QSKIP("only Wine can pretend to be another version of Windows");
+    QFETCH(QString, version);
+    const ShownVersion shown(version);
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(s_tellDriver)});
+    QVERIFY(child.waitForFinished());
+    QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+    QTEST(child.exitCode(), "answer");
+}
+
+int main(int argc, char** argv)
+{
+    if (argc == 2 && qstrcmp(argv[1], s_tellDriver) == 0)
+        return tellDriver();
+    return Testing::runTest<WindowsVersionTest>(argc, argv);
+}
+#include "WindowsVersionTest.moc"
