@@ -3,6 +3,8 @@
 #include "Files/FileCopier.h"
 #include "Files/PathText.h"
 #include "Tests/Support/ExpectedModals.h"
+#include "Tests/Support/PlatformCopies.h"
+#include "Tests/Support/PlatformFacts.h"
 #include "Tests/Support/TestCase.h"
 
 #include <QtCore/QPointer>
@@ -88,6 +90,7 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_root;
     CopierScript m_script;
+    Testing::PlatformCopies m_copies;
     std::unique_ptr<FileCopierReplacement> m_replacement;
 };
 
@@ -156,10 +159,12 @@ void FileCopyServiceTest::checkCode()
     addFile(QStringLiteral("target/x"));
     QDir(m_root->path()).mkdir(QStringLiteral("target/sub"));
     addFile(QStringLiteral("target/sub/y"));
-    QFile::link(m_root->filePath(QStringLiteral("target")),
-                m_root->filePath(QStringLiteral("link")));
-    QFile::link(m_root->filePath(QStringLiteral("target/x")),
-                m_root->filePath(QStringLiteral("source/to-x")));
+    const bool areLinks = Testing::makeLink(m_root->filePath(QStringLiteral("target")),
+                                            m_root->filePath(QStringLiteral("link"))) &&
+                          Testing::makeLink(m_root->filePath(QStringLiteral("target/x")),
+                                            m_root->filePath(QStringLiteral("source/to-x")));
+    if (!areLinks && QByteArray(QTest::currentDataTag()).contains("link"))
+        QSKIP("programs may not make links on this platform");
     for (QString& source : sources)
         source = m_root->filePath(source);
     QCOMPARE(FileCopyUtility::check(sources, m_root->filePath(target)), code);

@@ -40,8 +40,8 @@ class SetupTest(unittest.TestCase):
     def user(self, number):
         self.command("id", f"echo {number}")
 
-    def run_setup(self):
-        return subprocess.run([TOOLS / "setup"], env={"PATH": str(self.bin), "CI": "true"},
+    def run_setup(self, *lists):
+        return subprocess.run([TOOLS / "setup", *lists], env={"PATH": str(self.bin), "CI": "true"},
                               stdin=subprocess.DEVNULL, capture_output=True, text=True, check=False)
 
     def recorded(self):
@@ -61,6 +61,17 @@ class SetupTest(unittest.TestCase):
         update, install = self.recorded()
         self.assertTrue(update.startswith("noninteractive apt-get ") and update.endswith(" update"))
         self.assertTrue(install.endswith(" install --no-install-recommends cmake fontconfig"))
+
+    def test_installs_what_the_windows_build_needs_only_for_it(self):
+        self.debian(PACKAGES)
+        self.user(0)
+        self.assertEqual(self.run_setup().returncode, 0)
+        self.assertEqual(self.recorded(), [])
+        result = self.run_setup("windows")
+        self.assertEqual(result.returncode, 0, result.stderr)
+        wanted = self.recorded()[-1].rpartition("--no-install-recommends ")[2].split()
+        self.assertIn("wine64", wanted)
+        self.assertEqual(sorted(set(wanted) & set(PACKAGES)), [])
 
     def test_uses_sudo_when_not_root(self):
         self.debian(PACKAGES[1:])

@@ -1,5 +1,7 @@
 #include "Tests/Support/TestCase.h"
 
+#include "Tests/Support/PlatformFacts.h"
+
 #include <QtCore/QSettings>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryDir>
@@ -30,12 +32,7 @@ bool takeExpected(const QString& message)
 
 void failOnWarning(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    // The offscreen screen says so of windows of a fixed size, of tool tips and of menus.
-    const bool isAboutScreen =
-        message == QLatin1String("This plugin does not support propagateSizeHints()") ||
-        message == QLatin1String("This plugin does not support raise()") ||
-        message == QLatin1String("This plugin does not support grabbing the keyboard");
-    if (isAboutScreen)
+    if (isRemarkOfPlatform(message))
         return;
     if (type == QtDebugMsg || type == QtInfoMsg || type == QtFatalMsg) {
         s_testLog(type, context, message);
@@ -75,6 +72,8 @@ void prepareApplication()
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QStandardPaths::setTestModeEnabled(true);
+    // A test can answer only dialogs that Qt draws; those of the system have tests of their own.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QCoreApplication::setOrganizationName(QStringLiteral("Zorvane"));
     QCoreApplication::setApplicationName(QStringLiteral("Tests"));
     QSettings::setDefaultFormat(QSettings::IniFormat);

@@ -1,5 +1,6 @@
 #include "Host/FileHandling/FileName.h"
 #include "Host/FileHandling/FileUtilities.h"
+#include "Tests/Support/PlatformFacts.h"
 #include "Tests/Support/TestCase.h"
 
 #include <QtCore/QDir>
@@ -136,11 +137,10 @@ void FileNameTest::equivalentFollowsDotsAndLinks()
     QVERIFY(
         FileUtilities::isEquivalent(real, FileName(dir.filePath(QStringLiteral("other/../real")))));
     QVERIFY(!FileUtilities::isEquivalent(real, FileName(dir.filePath(QStringLiteral("other")))));
-    if (QDir::separator() == QLatin1Char('/')) {
-        const QString link = dir.filePath(QStringLiteral("link"));
-        QVERIFY(QFile::link(real.toQString(), link));
-        QVERIFY(FileUtilities::isEquivalent(real, FileName(link)));
-    }
+    const QString link = dir.filePath(QStringLiteral("link"));
+    if (!Testing::makeLink(real.toQString(), link))
+        QSKIP("programs may not make links on this platform; dots were followed");
+    QVERIFY(FileUtilities::isEquivalent(real, FileName(link)));
 }
 
 void FileNameTest::equivalentOfMissingFilesComparesTidiedNames()

@@ -105,8 +105,8 @@ Gen<T> inRange(T min, T max)
             throw std::logic_error("An empty range to draw from");
         const auto range = static_cast<std::uint64_t>(max) - static_cast<std::uint64_t>(min) - 1;
         const auto size = static_cast<std::uint64_t>(std::min(from.size, kNominalSize));
-        const auto scaled =
-            range / kNominalSize * size + range % kNominalSize * size / kNominalSize;
+        const auto scaled = range / kNominalSize * size +
+                            (range % kNominalSize * size + kNominalSize - 1) / kNominalSize;
         const auto offset = std::uniform_int_distribution<std::uint64_t>(0, scaled)(from.random);
         return static_cast<T>(static_cast<std::uint64_t>(min) + offset);
     });

@@ -2,6 +2,7 @@
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Design/DesignFiles.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 
@@ -13,6 +14,11 @@ using Change = std::function<void(QJsonObject&)>;
 Q_DECLARE_METATYPE(Change)
 
 namespace {
+
+QString designsFolder()
+{
+    return QDir::rootPath() + QStringLiteral("designs");
+}
 
 GUIdentifier id(int number)
 {
@@ -68,12 +74,12 @@ private Q_SLOTS:
 void DesignReaderTest::readsEveryPiece()
 {
     const DesignReading reading =
-        DesignReader().parse(toText(smallDesign()), QStringLiteral("/designs/small.dsg"));
+        DesignReader().parse(toText(smallDesign()), designsFolder() + QStringLiteral("/small.dsg"));
     QVERIFY(reading.problems.empty());
     const Design& design = reading.design.value();
     QVERIFY(design.id == id(1));
     QCOMPARE(design.name, QStringLiteral("Small"));
-    QCOMPARE(design.folder(), QStringLiteral("/designs"));
+    QCOMPARE(design.folder(), designsFolder());
     QCOMPARE(design.blank->name, QStringLiteral("Blank"));
     QCOMPARE(design.blank->thickness, 1.25);
     QVERIFY(design.blank->material == id(30));
@@ -170,7 +176,7 @@ void DesignReaderTest::refusesFile()
     QFETCH(QByteArray, content);
     QFETCH(QString, where);
     QFETCH(QString, reason);
-    const QString file = QStringLiteral("/designs/small.dsg");
+    const QString file = designsFolder() + QStringLiteral("/small.dsg");
     const DesignReading reading = DesignReader().parse(content, file);
     QVERIFY(!reading.design);
     QCOMPARE(reading.problems.size(), std::size_t(1));

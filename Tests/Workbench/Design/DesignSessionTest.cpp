@@ -439,13 +439,15 @@ void DesignSessionTest::failedSaveStaysModified()
     const QString file = writeFile(path("d/small.dsg"), toText(smallDesign()));
     m_session->open({file});
     m_session->rename(id(21), QStringLiteral("Other"));
-    QVERIFY(QDir(path("d")).removeRecursively());
+    // A folder under the file's name is in the way on every platform.
+    QVERIFY(QFile::remove(file));
+    QVERIFY(QDir().mkdir(file));
     const Problems problems = m_session->save();
     QCOMPARE(problems.size(), std::size_t(1));
     QCOMPARE(problems.front().file, file);
     QVERIFY(m_session->isModified(id(21)));
     QCOMPARE(m_session->name(id(21)), QStringLiteral("Other"));
-    QVERIFY(QDir().mkdir(path("d")));
+    QVERIFY(QDir().rmdir(file));
     QVERIFY(m_session->save().empty());
     QVERIFY(readFile(file).contains("Other"));
 }

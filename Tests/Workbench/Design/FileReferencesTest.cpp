@@ -1,4 +1,5 @@
 #include "Workbench/Design/FileReferences.h"
+#include "Tests/Support/PlatformFacts.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Design/DesignFiles.h"
 
@@ -72,10 +73,10 @@ void FileReferencesTest::linksAreFollowed()
     const QString secret = writeFile(folder.filePath(QStringLiteral("secret.stl")), "x");
     const QString inside = writeFile(design + QStringLiteral("/a.stl"), "x");
     const auto link = [&](const QString& target, const QString& name) {
-        if (!QFile::link(target, design + QLatin1Char('/') + name))
-            qFatal("cannot make a link");
+        return makeLink(target, design + QLatin1Char('/') + name);
     };
-    link(inside, QStringLiteral("in.stl"));
+    if (!link(inside, QStringLiteral("in.stl")))
+        QSKIP("programs may not make links on this platform");
     link(secret, QStringLiteral("out.stl"));
     link(folder.path(), QStringLiteral("up"));
     link(folder.filePath(QStringLiteral("nothing.stl")), QStringLiteral("dead.stl"));
@@ -99,7 +100,8 @@ void FileReferencesTest::folderMayBeReachedByLink()
     const QTemporaryDir folder;
     writeFile(folder.filePath(QStringLiteral("design/a.stl")), "x");
     const QString link = folder.filePath(QStringLiteral("link"));
-    QVERIFY(QFile::link(folder.filePath(QStringLiteral("design")), link));
+    if (!makeLink(folder.filePath(QStringLiteral("design")), link))
+        QSKIP("programs may not make links on this platform");
     QCOMPARE(resolveReference(link, QStringLiteral("a.stl")).state, FileState::Exists);
 }
 

@@ -1,5 +1,6 @@
 #include "Workbench/Import/FileExchange.h"
 #include "Tests/Support/ExpectedModals.h"
+#include "Tests/Support/PlatformCopies.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Import/ImportFixture.h"
 #include "Workbench/Window/MainWindow.h"
@@ -40,6 +41,7 @@ private:
     void openDesign();
     QString message() const { return m_window->messageBar().text(); }
 
+    Testing::PlatformCopies m_copies;
     std::unique_ptr<Testing::ImportFixture> m_files;
     std::unique_ptr<MainWindow> m_window;
     Testing::ScriptedChooser::Script m_script;

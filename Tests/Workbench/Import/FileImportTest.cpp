@@ -1,6 +1,8 @@
 #include "Workbench/Import/FileImport.h"
 #include "Files/CopyCollisionDialog.h"
 #include "Tests/Support/ExpectedModals.h"
+#include "Tests/Support/PlatformCopies.h"
+#include "Tests/Support/PlatformFacts.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Import/ImportFixture.h"
 #include "Workbench/Import/SessionDesign.h"
@@ -53,6 +55,7 @@ private:
                m_files->designPaths().size() == 2 && m_files->partNames().size() == 1;
     }
 
+    Testing::PlatformCopies m_copies;
     std::unique_ptr<Testing::ImportFixture> m_files;
     QStringList m_entries;
 };
@@ -165,6 +168,8 @@ void FileImportTest::aTakenNameIsAskedAbout_data()
 
 void FileImportTest::aTakenNameIsAskedAbout()
 {
+    if (!Testing::PlatformCopies::askByOurDialog())
+        QSKIP("the system asks about names that are taken, by windows of its own");
     QFETCH(int, decision);
     QFETCH(bool, imported);
     const QString taken = Testing::writeFile(m_files->path(QStringLiteral("forces.csv")), "old");
@@ -189,6 +194,8 @@ void FileImportTest::aTakenNameIsAskedAbout()
 
 void FileImportTest::whatIsReplacedIsReferredToOnce()
 {
+    if (!Testing::PlatformCopies::askByOurDialog())
+        QSKIP("the system asks about names that are taken, by windows of its own");
     const QString source = m_files->outside(QStringLiteral("steel.json"), "{\"new\": 1}");
     ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("Copy File"), QMessageBox::Yes);
@@ -248,6 +255,8 @@ void FileImportTest::oneFileThatCannotBeImportedKeepsAllOut_data()
 void FileImportTest::oneFileThatCannotBeImportedKeepsAllOut()
 {
     QFETCH(QString, name);
+    if (name.endsWith(QLatin1String("b.csv")) && !Testing::mayBeFileName(name))
+        QSKIP("no file can have such a name on this platform");
     const QString good = m_files->outsideMesh(QStringLiteral("sub/good.stl"));
     const QString bad = m_files->elsewhere.filePath(name);
     if (name.endsWith(QLatin1String("b.csv")))
@@ -273,7 +282,8 @@ void FileImportTest::aLinkThatLeadsOutIsRefused()
 {
     const QString target = m_files->outside(QStringLiteral("forces.csv"), "1");
     const QString link = m_files->path(QStringLiteral("link.csv"));
-    QVERIFY(QFile::link(target, link));
+    if (!Testing::makeLink(target, link))
+        QSKIP("programs may not make links on this platform");
     m_entries = m_files->entries();
     ExpectedModals modals;
     const ImportOutcome outcome = run({link});

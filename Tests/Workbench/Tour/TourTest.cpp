@@ -1,3 +1,4 @@
+#include "Tests/Support/PlatformCopies.h"
 #include "Tests/Support/TestCase.h"
 
 #include <QtCore/QDir>
@@ -62,7 +63,8 @@ void TourTest::showsEverythingAndEndsWell()
 void TourTest::leavesPicturesThatAreNotBlank()
 {
     const QStringList pictures = QDir(s_folder).entryList({QStringLiteral("*.png")});
-    QVERIFY(pictures.size() >= 23);
+    // Five are of questions and progress that a system with a shell shows itself.
+    QVERIFY(pictures.size() >= (Testing::PlatformCopies::askByOurDialog() ? 23 : 18));
     for (const QString& picture : pictures) {
         const QImage image(QDir(s_folder).filePath(picture));
         QVERIFY2(image.width() >= 1000 && image.height() >= 600, qPrintable(picture));
@@ -80,9 +82,12 @@ void TourTest::tellsWhatEachPictureShows()
     for (const char* shown :
          {"Operations (3)", "the operation's new name", "File missing", "Mesh files (500)",
           "Mesh files (501)", "truncated.stl: ", "shopping-list.stl: ", "sparse.stl: ", "cut.dsg: ",
-          "1 design · 3 of 14 objects shown", "no place lost in 120 refreshes", "both questions",
+          "1 design · 3 of 14 objects shown", "no place lost in 120 refreshes",
           "Mesh view, Details"})
         QVERIFY2(text.contains(QString::fromUtf8(shown)), shown);
+    QVERIFY(text.contains(Testing::PlatformCopies::askByOurDialog()
+                              ? QStringLiteral("both questions")
+                              : QStringLiteral("The system's own dialogs ask here.")));
     QVERIFY(!text.contains(QStringLiteral("NOT SHOWN")));
 }
 

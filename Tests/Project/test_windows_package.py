@@ -1,0 +1,67 @@
+"""Packs the Windows program, unpacks it elsewhere, and takes its tour in an empty Wine prefix.
+
+Takes the build folder, and a folder for what comes of it.
+"""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import unittest
+import zipfile
+
+SOURCES = pathlib.Path(__file__).resolve().parents[2]
+BUILD, WORK = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
+# Nothing of the build is in reach: neither its Wine prefix nor the folders of its libraries.
+ENVIRONMENT = {**os.environ, "ZORVANE_WINEPREFIX": str(WORK / "wine/prefix"),
+               "ZORVANE_WINE_BARE": "1", "QT_QPA_PLATFORM": "windows"}
+
+
+def run(*command, **options):
+    return subprocess.run(list(map(str, command)), text=True, stdin=subprocess.DEVNULL,
+                          stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False, **options)
+
+
+def wine(*command):
+    return run(SOURCES / "Tools/wine", *command, env=ENVIRONMENT, timeout=400)
+
+
+class WindowsPackageTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        shutil.rmtree(WORK, ignore_errors=True)
+        WORK.mkdir(parents=True)
+        packed = run("cpack", "--config", BUILD / "CPackConfig.cmake", "-B", WORK / "zip")
+        if packed.returncode != 0:
+            raise AssertionError(packed.stdout)
+        archive, = (WORK / "zip").glob("*.zip")
+        with zipfile.ZipFile(archive) as content:
+            content.extractall(WORK / "Program Files")
+        cls.folder, = (WORK / "Program Files").iterdir()
+
+    @classmethod
+    def tearDownClass(cls):
+        wine("--stop")
+        shutil.rmtree(WORK / "wine", ignore_errors=True)
+
+    def test_holds_the_program_and_what_it_needs(self):
+        names = {path.relative_to(self.folder).as_posix() for path in self.folder.rglob("*")}
+        for name in ("bin/workbench.exe", "bin/Qt5Core.dll", "bin/platforms/qwindows.dll",
+                     "bin/libstdc++-6.dll", "bin/libassimp-5.dll", "README.md",
+                     "samples/drawn-cup/drawn-cup.dsg", "samples/door-panel/door-panel.dsg"):
+            with self.subTest(name):
+                self.assertIn(name, names)
+        self.assertFalse([name for name in names if "Test" in name])
+
+    def test_starts_in_an_empty_prefix_and_shows_everything(self):
+        version = wine(self.folder / "bin/workbench.exe", "--version")
+        self.assertEqual(version.returncode, 0, version.stdout)
+        self.assertIn("Workbench ", version.stdout)
+        tour = wine(self.folder / "bin/workbench.exe", "--tour", WORK / "tour")
+        self.assertEqual(tour.returncode, 0, tour.stdout)
+        self.assertGreater(len(list((WORK / "tour").glob("*.png"))), 15)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])

@@ -1,0 +1,64 @@
+#include "Tests/Support/PlatformFacts.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QRegularExpression>
+
+#include <windows.h>
+
+namespace Zorvane::Testing {
+
+namespace {
+
+/** Links without the rights of an administrator, where the system is set up to allow them. */
+constexpr DWORD s_unprivileged = 0x2;
+
+const wchar_t* wide(const QString& path)
+{
+    return reinterpret_cast<const wchar_t*>(path.utf16());
+}
+
+} // namespace
+
+bool makeLink(const QString& target, const QString& link)
+{
+    const QString to = QDir::toNativeSeparators(target);
+    const QString from = QDir::toNativeSeparators(link);
+    const DWORD kind = QFileInfo(target).isDir() ? SYMBOLIC_LINK_FLAG_DIRECTORY : 0;
+    CreateSymbolicLinkW(wide(from), wide(to), kind | s_unprivileged);
+    // Wine says that it has made one, and makes none.
+    return GetFileAttributesW(wide(from)) != INVALID_FILE_ATTRIBUTES;
+}
+
+bool mayBeFileName(const QString& name)
+{
+    static const QRegularExpression forbidden(
+        QStringLiteral("[\\x00-\\x1f<>:\"/\\\\|?*]|[. ]$|^(CON|PRN|AUX|NUL|COM\\d|LPT\\d)(\\.|$)"),
+        QRegularExpression::CaseInsensitiveOption);
+    return !name.isEmpty() && !forbidden.match(name).hasMatch();
+}
+
+bool openFilesCanBeReplaced()
+{
+    return false;
+}
+
+bool librariesEndFirst()
+{
+    return false;
+}
+
+bool memoryLimitsHold()
+{
+    // Wine takes the limits of a job and does nothing about them.
+    const HMODULE system = GetModuleHandleW(L"ntdll.dll");
+    return !system || !GetProcAddress(system, "wine_get_version");
+}
+
+bool isRemarkOfPlatform(const QString& warning)
+{
+    // Wine's shell has no stock icons for message boxes; Qt then draws its own.
+    return warning.startsWith(QLatin1String("QPixmap::fromWinHICON(), failed to GetIconInfo()"));
+}
+
+} // namespace Zorvane::Testing

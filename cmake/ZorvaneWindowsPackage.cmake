@@ -1,0 +1,52 @@
+# What `cpack` makes of a Windows build: a zip of the Workbench with all that it needs besides
+# Windows itself, to be unpacked and started anywhere.
+
+set(component Workbench)
+install(TARGETS workbench ZorvaneUiTools RUNTIME DESTINATION bin COMPONENT ${component})
+if(NOT ZORVANE_HOST_FROM_PACKAGE)
+    install(TARGETS ZorvaneHost RUNTIME DESTINATION bin COMPONENT ${component})
+endif()
+install(DIRECTORY ${CMAKE_BINARY_DIR}/samples DESTINATION . COMPONENT ${component})
+install(FILES README.md CHANGELOG.md DESTINATION . COMPONENT ${component})
+
+foreach(library Core Gui Widgets Svg)
+    install(FILES $<TARGET_FILE:Qt5::${library}> DESTINATION bin COMPONENT ${component})
+endforeach()
+get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
+get_filename_component(qt_folder ${qmake}/../.. ABSOLUTE)
+foreach(plugin platforms/qwindows styles/qwindowsvistastyle imageformats/qsvg iconengines/qsvgicon)
+    get_filename_component(kind ${plugin} DIRECTORY)
+    install(FILES ${qt_folder}/plugins/${plugin}.dll
+        DESTINATION bin/${kind} COMPONENT ${component})
+endforeach()
+
+# assimp's own needs lie beside it.
+find_package(assimp REQUIRED)
+install(DIRECTORY $<TARGET_FILE_DIR:assimp::assimp>/ DESTINATION bin COMPONENT ${component}
+    FILES_MATCHING PATTERN "*.dll")
+
+if(MINGW)
+    foreach(library libgcc_s_seh-1 libstdc++-6 libwinpthread-1)
+        execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${library}.dll
+            OUTPUT_VARIABLE file OUTPUT_STRIP_TRAILING_WHITESPACE)
+        # Debian's hold all of their symbols, which is most of their size.
+        set(stripped ${PROJECT_BINARY_DIR}/runtime/${library}.dll)
+        file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/runtime)
+        execute_process(COMMAND ${CMAKE_STRIP} -o ${stripped} ${file})
+        install(FILES ${stripped} DESTINATION bin COMPONENT ${component})
+    endforeach()
+else()
+    set(CMAKE_INSTALL_SYSTEM_RUNTIME_COMPONENT ${component})
+    include(InstallRequiredSystemLibraries)
+endif()
+
+set(CPACK_GENERATOR ZIP)
+set(CPACK_PACKAGE_NAME ZorvaneWorkbench)
+set(CPACK_PACKAGE_VENDOR Zorvane)
+set(CPACK_PACKAGE_FILE_NAME ZorvaneWorkbench-${PROJECT_VERSION}-win64)
+set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY ON)
+set(CPACK_COMPONENTS_ALL ${component})
+set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+set(CPACK_STRIP_FILES ON)
+include(CPack)
