@@ -492,6 +492,10 @@
         <source>The simulation of %1 is done. Save the design to keep its results.</source>
         <translation>Die Simulation von %1 ist fertig. Speichern Sie den Entwurf, um die Ergebnisse zu behalten.</translation>
     </message>
+    <message>
+        <source>The design is no longer open.</source>
+        <translation>Der Entwurf ist nicht mehr geöffnet.</translation>
+    </message>
 </context>
 <context>
     <name>Zorvane::Workbench::DesignSession</name>

@@ -148,6 +148,8 @@ private Q_SLOTS:
 void FileConverterDialogTest::initTestCase()
 {
     TestCase::initTestCase();
+    // The folder is always chosen in Qt's own dialog, which the tests can drive.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QVERIFY(QDir().mkpath(folder()));
     QFile mesh(file());
     QVERIFY(mesh.open(QIODevice::WriteOnly));

@@ -85,6 +85,11 @@ bool DesignSaving::save(const GUIdentifier& designId)
 
 bool DesignSaving::write(const GUIdentifier& designId)
 {
+    // Events go on while a question is asked.
+    if (m_parts.session.findDesign(designId) == nullptr) {
+        Q_EMIT failed(tr("The design is no longer open."));
+        return false;
+    }
     // Also where questions are suppressed: the simulation's file must stay as it is.
     if (saveStateOf(SessionDesign(m_parts.session, designId)).isJobRunning) {
         Q_EMIT failed(tr("%1 is not saved while its simulation is running.")

@@ -288,9 +288,13 @@ void Tour::chooseAndConvert(ZVConverterDialog& window, const QString& file)
 {
     const NativeFileDialogReplacement chooser(
         [file] { return std::make_unique<TourFileDialog>(file); });
+    // Nobody is there to answer a dialog of the system.
+    const bool isNative = !QCoreApplication::testAttribute(Qt::AA_DontUseNativeDialogs);
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     Q_EMIT window.inputWasClicked();
     Q_EMIT window.outputWasClicked();
     Q_EMIT window.convertWasClicked();
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, !isNative);
 }
 
 } // namespace Zorvane::Workbench

@@ -78,6 +78,7 @@ private Q_SLOTS:
     void cancelledSaveAsLeavesEverything();
     void changeByAnotherProgramIsReplacedOnlyOnTheUsersWord();
     void failedSaveBringsDroppedResultsBack();
+    void designThatGoesWhileAskedAboutIsTold();
     void cancelAtOneDesignKeepsTheRest();
     void unmodifiedDesignsCloseWithoutAQuestion();
     void closingAsks_data();
@@ -280,6 +281,18 @@ void DesignSavingTest::failedSaveBringsDroppedResultsBack()
     QVERIFY(!m_saving->saveAll());
     QVERIFY(hasResult());
     QCOMPARE(m_failures.size(), 1);
+}
+
+void DesignSavingTest::designThatGoesWhileAskedAboutIsTold()
+{
+    edit();
+    ExpectedModals modals;
+    modals.expectMessageBox(s_question, [this](QMessageBox& box) {
+        session().close();
+        box.button(QMessageBox::Save)->click();
+    });
+    QVERIFY(!m_saving->mayClose());
+    QCOMPARE(m_failures, QStringList(QStringLiteral("The design is no longer open.")));
 }
 
 void DesignSavingTest::cancelAtOneDesignKeepsTheRest()
