@@ -14,24 +14,27 @@ namespace {
 constexpr int s_nameWidth = 300;
 
 // clang-format off
-/** By the bits of the facts. Some cannot all be told in one sentence, some are never asked for. */
+/**
+ * By the bits of the facts. While a simulation is running little else counts. 0, 14 and 15 are no
+ * sentences; the suite has shipped them so, and its catalogues have them.
+ */
 constexpr std::array<const char*, 16> s_factTexts = {
-    /*  0                                */ QT_TRANSLATE_NOOP("ZVSaveDialog", "!"),
-    /*  1 not saved                      */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design has not been saved since the last change."),
-    /*  2            results             */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design contains simulation results."),
-    /*  3 not saved, results             */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design has not been saved since the last change and contains simulation results."),
-    /*  4                     running    */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design is still running a simulation."),
-    /*  5 not saved,          running    */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design has not been saved since the last change and is still running a simulation."),
-    /*  6            results, running    */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design is still running a simulation."),
-    /*  7 not saved, results, running    */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design is still running a simulation."),
-    /*  8                            old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design was created with a previous version."),
-    /*  9 not saved,                 old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design has not been saved since the last change and was created with a previous version."),
-    /* 10            results,        old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design contains simulation results and was created with a previous version."),
-    /* 11 not saved, results,        old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design has not been saved since the last change, contains simulation results and was created with a previous version."),
-    /* 12                    running,old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design is still running a simulation."),
-    /* 13 not saved,         running,old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design is still running a simulation."),
-    /* 14            results,running,old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "%"),
-    /* 15 all                            */ QT_TRANSLATE_NOOP("ZVSaveDialog", "\xEF\xBF\xBD"),
+    /*  0                                  */ QT_TRANSLATE_NOOP("ZVSaveDialog", "!"),
+    /*  1 not saved                        */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design has not been saved since the last change."),
+    /*  2            results               */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design contains simulation results."),
+    /*  3 not saved, results               */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design has not been saved since the last change and contains simulation results."),
+    /*  4                     running      */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design is still running a simulation."),
+    /*  5 not saved,          running      */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design has not been saved since the last change and is still running a simulation."),
+    /*  6            results, running      */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design is still running a simulation."),
+    /*  7 not saved, results, running      */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design is still running a simulation."),
+    /*  8                              old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design was created with a previous version."),
+    /*  9 not saved,                   old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design has not been saved since the last change and was created with a previous version."),
+    /* 10            results,          old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design contains simulation results and was created with a previous version."),
+    /* 11 not saved, results,          old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design has not been saved since the last change, contains simulation results and was created with a previous version."),
+    /* 12                     running, old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design is still running a simulation."),
+    /* 13 not saved,          running, old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "The current design is still running a simulation."),
+    /* 14            results, running, old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "%"),
+    /* 15 not saved, results, running, old */ QT_TRANSLATE_NOOP("ZVSaveDialog", "\xEF\xBF\xBD"),
 };
 // clang-format on
 
