@@ -277,9 +277,13 @@ void ConfiguredFileDialog::tellSelection()
 {
     const auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     QStringList paths;
+    // A folder that was entered stays selected while its name stands in the box.
+    const QModelIndex folder = findChild<QListView*>(QStringLiteral("listView"))->rootIndex();
     const QModelIndexList rows = m_selection->selectedRows();
     for (const QModelIndex& row : rows)
-        paths.append(QDir::toNativeSeparators(row.data(QFileSystemModel::FilePathRole).toString()));
+        if (row.parent() == folder)
+            paths.append(
+                QDir::toNativeSeparators(row.data(QFileSystemModel::FilePathRole).toString()));
     m_handler->onSelectionChanged(inOrderOfFileNameBox(paths, name->text()), Callbacks(*this));
 }
 

@@ -71,8 +71,11 @@ PreviewPane::PreviewPane(QWidget* parent)
     QFont bold = font();
     bold.setBold(true);
     m_title->setFont(bold);
-    m_title->setMinimumWidth(1);
-    m_note->setMinimumWidth(1);
+    for (QLabel* line : {m_title, m_note}) {
+        line->setMinimumWidth(1);
+        // As high without a text, so that what lies between keeps its size.
+        line->setFixedHeight(QFontMetrics(line->font()).height() + 2);
+    }
     m_message->setWordWrap(true);
     m_message->setAlignment(Qt::AlignCenter);
     m_message->setMargin(24);

@@ -70,6 +70,7 @@ private Q_SLOTS:
     void cleanup();
     void opensAMeshSeenBefore();
     void walksThroughTheList();
+    void enteringAFolderClearsThePreview();
     void previewIsSwitchedOffAndOn();
     void escapeOpensNothing();
     void everyControlIsReachedByTab();
@@ -170,6 +171,21 @@ void OpenByKeyboardTest::walksThroughTheList()
         press(dialog, Qt::Key_Return);
     });
     QCOMPARE(int(m_window->session().looseParts().size()), 1);
+}
+
+void OpenByKeyboardTest::enteringAFolderClearsThePreview()
+{
+    QVERIFY(QDir(m_folder->path()).mkdir(QStringLiteral("sub")));
+    withDialog([](QFileDialog& dialog) {
+        const PreviewPane& pane = previewWindow()->pane();
+        type(dialog, QStringLiteral("sub"));
+        QTRY_COMPARE(pane.message(), QStringLiteral("sub cannot be shown:\nis a folder"));
+        press(dialog, Qt::Key_Return);
+        QCOMPARE(dialog.directory().dirName(), QStringLiteral("sub"));
+        QTRY_COMPARE(pane.message(), QStringLiteral("Select a file to see it here."));
+        QVERIFY(!previewWindow()->isReading());
+        press(dialog, Qt::Key_Escape);
+    });
 }
 
 void OpenByKeyboardTest::previewIsSwitchedOffAndOn()
