@@ -117,6 +117,7 @@ QStringList Tour::perform(const QStringList& paths)
     refuseAName();
     followAnotherProgram();
     missFile();
+    openWithPreview();
     importAndExport();
     saveAndCompute();
     openDoor();

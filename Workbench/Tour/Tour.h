@@ -6,6 +6,10 @@
 #include <QtCore/QStringList>
 #include <QtCore/QTemporaryDir>
 
+QT_BEGIN_NAMESPACE
+class QFileDialog;
+QT_END_NAMESPACE
+
 namespace Zorvane {
 class ZVConverterDialog;
 }
@@ -36,6 +40,8 @@ private:
     void refuseAName();
     void followAnotherProgram();
     void missFile();
+    void openWithPreview();
+    void lookAtFiles(QFileDialog& dialog, const QString& folder);
     void importAndExport();
     void importFiles();
     void cancelAnImport();

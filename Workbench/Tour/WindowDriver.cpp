@@ -16,6 +16,8 @@ namespace Zorvane::Workbench {
 namespace {
 
 constexpr qint64 s_patienceMilliseconds = 120'000;
+/** Between a dialog and the window beside it, in pictures. */
+constexpr int s_gap = 5;
 constexpr int s_mostTabStops = 40;
 
 QString accessibleName(QWidget* widget)
@@ -144,23 +146,47 @@ QImage WindowDriver::picture() const
     return m_window.grab().toImage();
 }
 
-QImage WindowDriver::pictureWith(QWidget& dialog) const
+QImage WindowDriver::pictureWith(QWidget& dialog, QWidget* beside) const
 {
     QImage whole = m_window.grab().toImage();
-    const QImage inner = dialog.grab().toImage();
-    // A frameless window draws its title itself.
-    const bool hasTitle = !dialog.windowFlags().testFlag(Qt::FramelessWindowHint);
-    const int titleHeight = hasTitle ? 2 * m_window.fontMetrics().height() : 1;
-    QRect frame(0, 0, inner.width() + 2, inner.height() + titleHeight + 1);
-    frame.moveCenter(whole.rect().center());
+    std::vector<QWidget*> windows{&dialog};
+    if (beside != nullptr)
+        windows.push_back(beside);
+    int width = (int(windows.size()) - 1) * s_gap;
+    for (const QWidget* window : windows)
+        width += frameSize(*window).width();
     QPainter painter(&whole);
+    int left = (whole.width() - width) / 2;
+    const int top = (whole.height() - frameSize(dialog).height()) / 2;
+    for (QWidget* window : windows) {
+        drawWindow(painter, *window, QPoint(left, top));
+        left += frameSize(*window).width() + s_gap;
+    }
+    return whole;
+}
+
+/** With a title, unless it is a frameless window, which draws its title itself. */
+int WindowDriver::titleHeight(const QWidget& window) const
+{
+    const bool hasTitle = !window.windowFlags().testFlag(Qt::FramelessWindowHint);
+    return hasTitle ? 2 * m_window.fontMetrics().height() : 1;
+}
+
+QSize WindowDriver::frameSize(const QWidget& window) const
+{
+    return window.size() + QSize(2, titleHeight(window) + 1);
+}
+
+void WindowDriver::drawWindow(QPainter& painter, QWidget& window, const QPoint& corner) const
+{
+    const QRect frame(corner, frameSize(window));
+    const int title = titleHeight(window);
     painter.fillRect(frame, m_window.palette().color(QPalette::Highlight));
     painter.setPen(m_window.palette().color(QPalette::HighlightedText));
-    if (hasTitle)
-        painter.drawText(QRect(frame.topLeft(), QSize(frame.width(), titleHeight)), Qt::AlignCenter,
-                         dialog.windowTitle());
-    painter.drawImage(frame.topLeft() + QPoint(1, titleHeight), inner);
-    return whole;
+    if (title > 1)
+        painter.drawText(QRect(corner, QSize(frame.width(), title)), Qt::AlignCenter,
+                         window.windowTitle());
+    painter.drawPixmap(corner + QPoint(1, title), window.grab());
 }
 
 } // namespace Zorvane::Workbench

@@ -11,6 +11,7 @@
 
 QT_BEGIN_NAMESPACE
 class QModelIndex;
+class QPainter;
 class QWidget;
 QT_END_NAMESPACE
 
@@ -48,10 +49,13 @@ public:
     QStringList tabStops() const;
 
     QImage picture() const;
-    /** The window with a dialog over it, under its title. */
-    QImage pictureWith(QWidget& dialog) const;
+    /** The window with a dialog over it, under its title, and with the window beside that. */
+    QImage pictureWith(QWidget& dialog, QWidget* beside = nullptr) const;
 
 private:
+    int titleHeight(const QWidget& window) const;
+    QSize frameSize(const QWidget& window) const;
+    void drawWindow(QPainter& painter, QWidget& window, const QPoint& corner) const;
     void addVisibleNames(const QModelIndex& parent, QStringList& names) const;
 
     MainWindow& m_window;

@@ -1,0 +1,101 @@
+#include "Workbench/Tour/Tour.h"
+
+#include "FileDialogs/NativeFileDialog.h"
+#include "Files/LastPathProvider.h"
+#include "Workbench/Commands/FileCommands.h"
+#include "Workbench/Preview/PreviewWindow.h"
+#include "Workbench/Tour/DialogAnswers.h"
+#include "Workbench/Window/Appearance.h"
+#include "Workbench/Window/MainWindow.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLineEdit>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+constexpr QSize s_dialogSize(600, 600);
+
+PreviewWindow* previewWindow()
+{
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (auto* preview = qobject_cast<PreviewWindow*>(widget))
+            return preview;
+    return nullptr;
+}
+
+void typeName(QFileDialog& dialog, const QString& name)
+{
+    if (auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+        edit->setText(name);
+}
+
+} // namespace
+
+void Tour::openWithPreview()
+{
+    m_report.beginStep(QStringLiteral("Files seen before they are opened"),
+                       QStringLiteral("File > Open with the preview beside the dialog: a mesh, in "
+                                      "light and dark colours, a table, a text, and a damaged "
+                                      "file, which says what is wrong with it."));
+    // Qt's dialog on every system: those of the system itself cannot be driven from here.
+    const NativeFileDialogReplacement qtDialogs([] { return nullptr; });
+    const QString folder = workFolder(QStringLiteral("drawn-cup"));
+    QFile damaged(folder + QStringLiteral("/geometry/damaged.stl"));
+    m_report.expect(damaged.open(QIODevice::WriteOnly) && damaged.write("solid cup\nfacet") > 0,
+                    QStringLiteral("the damaged file is made"));
+    damaged.close();
+    LastPathProvider::getInstance()->setPathToScope(folder + QStringLiteral("/geometry/cup.stl"),
+                                                    FileCommands::scope());
+    DialogAnswers answers;
+    answers.add([this, &folder](QDialog& dialog) {
+        if (auto* files = qobject_cast<QFileDialog*>(&dialog))
+            lookAtFiles(*files, folder);
+        dialog.reject();
+    });
+    m_window.fileCommands().openFiles();
+    m_report.expect(answers.allGiven(), QStringLiteral("the dialog"));
+    m_report.expect(damaged.remove(), QStringLiteral("the damaged file is gone"));
+}
+
+void Tour::lookAtFiles(QFileDialog& dialog, const QString& folder)
+{
+    PreviewWindow* preview = previewWindow();
+    m_report.expect(preview != nullptr && preview->isVisible(),
+                    QStringLiteral("the preview beside the dialog"));
+    if (preview == nullptr)
+        return;
+    const auto look = [&](const QString& file, PreviewContent::Kind kind, const QString& name) {
+        dialog.setDirectory(folder + QLatin1Char('/') + QFileInfo(file).path());
+        dialog.selectNameFilter(dialog.nameFilters().last());
+        dialog.resize(s_dialogSize);
+        // Once the folder is read, the name in the box selects its file.
+        const QString wanted = QFileInfo(file).fileName();
+        const bool isShown = m_driver.waitFor([&] {
+            if (preview->pane().title() != wanted && !preview->isReading()) {
+                typeName(dialog, QString());
+                typeName(dialog, wanted);
+            }
+            return preview->pane().title() == wanted && preview->pane().shownKind() == kind;
+        });
+        m_report.expect(isShown, QStringLiteral("the preview of ") + wanted);
+        m_report.addPicture(name, m_driver.pictureWith(dialog, preview));
+    };
+    using Kind = PreviewContent::Kind;
+    const QString mesh = QStringLiteral("geometry/draw-die.stl");
+    look(mesh, Kind::Picture, QStringLiteral("preview-mesh"));
+    applyAppearance(*qApp, Appearance::Dark);
+    m_driver.waitFor([preview] { return !preview->isReading(); });
+    look(mesh, Kind::Picture, QStringLiteral("preview-mesh-dark"));
+    look(QStringLiteral("results/draw.csv"), Kind::Table, QStringLiteral("preview-table-dark"));
+    applyAppearance(*qApp, Appearance::Light);
+    look(QStringLiteral("results/draw.csv"), Kind::Table, QStringLiteral("preview-table"));
+    look(QStringLiteral("drawn-cup.dsg"), Kind::Text, QStringLiteral("preview-text"));
+    look(QStringLiteral("geometry/damaged.stl"), Kind::Message, QStringLiteral("preview-damaged"));
+}
+
+} // namespace Zorvane::Workbench
