@@ -1,0 +1,69 @@
+"""Tests of what ./test-windows leans on: the summary must find what is wrong with a run."""
+
+import importlib.machinery
+import importlib.util
+import pathlib
+import tempfile
+import unittest
+
+TOOLS = pathlib.Path(__file__).resolve().parents[2] / "Tools"
+
+
+def load(name):
+    loader = importlib.machinery.SourceFileLoader(name.replace("-", "_"), str(TOOLS / name))
+    module = importlib.util.module_from_spec(importlib.util.spec_from_loader(loader.name, loader))
+    loader.exec_module(module)
+    return module
+
+
+SUMMARY = load("windows-summary")
+RUN = """<?xml version="1.0"?><testsuite>
+<testcase name="Files.A" status="run"><system-out>
+SKIP   : ATest::links() no links here
+   Loc: [ATest.cpp(3)]
+Totals: 7 passed, 0 failed, 1 skipped, 0 blacklisted, 2ms</system-out></testcase>
+<testcase name="Files.B" status="run"><system-out>
+Totals: 5 passed, 0 failed, 0 skipped, 0 blacklisted, 2ms</system-out></testcase>
+<testcase name="Files.C" status="fail"><failure message="Failed"/><system-out/></testcase>
+</testsuite>"""
+
+
+class SummaryTest(unittest.TestCase):
+    def summary(self, run=RUN, here=("Files.A", "Files.B", "Files.C"),
+                windows=("Files.A", "Files.B", "Files.C"), reasons=()):
+        with tempfile.TemporaryDirectory() as folder:
+            path = pathlib.Path(folder) / "tests.xml"
+            path.write_text(run, encoding="utf-8")
+            results = SUMMARY.Results(path)
+        return SUMMARY.summarize(results, set(here), set(windows), list(reasons))
+
+    def test_counts_and_names_what_failed(self):
+        lines, faults = self.summary()
+        self.assertEqual(lines[-1], "2 passed, 1 failed")
+        self.assertIn("FAILED: Files.C", lines)
+        self.assertIn("On both platforms: 3 tests, the same sources", lines)
+        self.assertIn("Test functions that passed: 12", lines)
+        self.assertEqual(faults, [])
+
+    def test_tells_what_was_skipped_and_why(self):
+        lines, _ = self.summary()
+        self.assertIn("  no links here: ATest::links", "\n".join(lines))
+
+    def test_one_platform_needs_a_reason(self):
+        lines, faults = self.summary(here=("Files.A", "Files.B"))
+        self.assertEqual(len(faults), 1)
+        self.assertIn("Files.C runs under Windows only", faults[0])
+        self.assertIn("TO MEND: " + faults[0], lines)
+        lines, faults = self.summary(here=("Files.A", "Files.B"),
+                                     reasons=[("Files.C*", "the shell's")])
+        self.assertEqual(faults, [])
+        self.assertIn("  Files.C: the shell's", lines)
+
+    def test_a_reason_that_nothing_needs_must_go(self):
+        _, faults = self.summary(reasons=[("Files.C", "the shell's")])
+        self.assertEqual(len(faults), 1)
+        self.assertIn("names no test", faults[0])
+
+
+if __name__ == "__main__":
+    unittest.main()
