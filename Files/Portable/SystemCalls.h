@@ -53,7 +53,7 @@ struct ZORVANE_UITOOLS_EXPORT SystemCalls
     std::function<qint64()> milliseconds; /**< Of a clock that only goes forward. */
     std::function<quint32()> random;
 
-    /** Flags of `openAt` for a file without a name in the folder; 0 where there is no such thing. */
+    /** Flags of `openAt` for a file without a name in the folder; 0 where there are none such. */
     int unnamedFileFlags = 0;
 
     static const SystemCalls& real();

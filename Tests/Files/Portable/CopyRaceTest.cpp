@@ -13,6 +13,19 @@
 using namespace Zorvane;
 using namespace Zorvane::Testing;
 
+namespace {
+
+/** What becomes of "a", which has that content, if a file with the content "1" is to be "a". */
+FolderContent decidedUpon(const std::string& existing, int decision)
+{
+    FolderContent content{{"a", decision == int(CopyDecision::Replace) ? "1" : existing}};
+    if (decision == int(CopyDecision::KeepBoth))
+        content["a (2)"] = "1";
+    return content;
+}
+
+} // namespace
+
 /** Others work in the same folders meanwhile. */
 class CopyRaceTest : public Testing::TestCase
 {
@@ -115,24 +128,16 @@ void CopyRaceTest::targetAppearsBeforePublishing()
     CopyFixture fixture;
     FaultySystem system;
     restrictTo(system, means);
-    system.before = [&](const FaultySystem::Call& call) {
-        if (call.name == "flush" && call.sameIndex == 0)
-            fixture.addTarget("a", "appeared");
-        return 0;
-    };
+    system.beforeFirst("flush", [&] { fixture.addTarget("a", "appeared"); });
     fixture.questions.answers = {{static_cast<CopyDecision>(decision), true}};
     const auto outcomes =
         fixture.copy({fixture.addSource("a", "1"), fixture.addSource("b", "2")}, system.calls);
     QCOMPARE(int(fixture.questions.asked.size()), 1);
     QCOMPARE(fixture.questions.asked[0].target.size, qint64(8));
     QCOMPARE(fixture.questions.asked[0].remaining, 0);
-    FolderContent expected{{"a", "appeared"}, {"b", "2"}};
-    if (decision == int(CopyDecision::Replace))
-        expected["a"] = "1";
-    if (decision == int(CopyDecision::KeepBoth))
-        expected["a (2)"] = "1";
-    if (decision == int(CopyDecision::Cancel))
-        expected.erase("b");
+    FolderContent expected = decidedUpon("appeared", decision);
+    if (decision != int(CopyDecision::Cancel))
+        expected["b"] = "2";
     QVERIFY2(fixture.targetContent() == expected, describe(fixture.targetContent()));
     QVERIFY(expected ==
             Testing::reportedContent({{"a", "appeared"}}, outcomes, fixture.sourceContent()));
@@ -145,11 +150,7 @@ void CopyRaceTest::madeUpNameIsTakenMeanwhile()
     fixture.addTarget("a", "old");
     FaultySystem system;
     restrictTo(system, means);
-    system.before = [&](const FaultySystem::Call& call) {
-        if (call.name == "flush" && call.sameIndex == 0)
-            fixture.addTarget("a (2)", "appeared");
-        return 0;
-    };
+    system.beforeFirst("flush", [&] { fixture.addTarget("a (2)", "appeared"); });
     fixture.questions.answers = {{CopyDecision::KeepBoth, false}};
     const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
     QCOMPARE(int(fixture.questions.asked.size()), 1);
@@ -171,21 +172,13 @@ void CopyRaceTest::targetToReplaceChangesMeanwhile()
     fixture.addTarget("a", "old");
     FaultySystem system;
     restrictTo(system, means);
-    system.before = [&](const FaultySystem::Call& call) {
-        if (call.name == "flush" && call.sameIndex == 0)
-            fixture.addTarget("a", "edited since");
-        return 0;
-    };
+    system.beforeFirst("flush", [&] { fixture.addTarget("a", "edited since"); });
     fixture.questions.answers = {{CopyDecision::Replace, true},
                                  {static_cast<CopyDecision>(decision), false}};
     const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
     QCOMPARE(int(fixture.questions.asked.size()), 2);
     QCOMPARE(fixture.questions.asked[1].target.size, qint64(12));
-    FolderContent expected{{"a", "edited since"}};
-    if (decision == int(CopyDecision::Replace))
-        expected["a"] = "1";
-    if (decision == int(CopyDecision::KeepBoth))
-        expected["a (2)"] = "1";
+    const FolderContent expected = decidedUpon("edited since", decision);
     QVERIFY2(fixture.targetContent() == expected, describe(fixture.targetContent()));
     QVERIFY(expected ==
             Testing::reportedContent({{"a", "edited since"}}, outcomes, fixture.sourceContent()));
@@ -198,11 +191,7 @@ void CopyRaceTest::targetToReplaceVanishes()
     fixture.addTarget("a", "old");
     FaultySystem system;
     restrictTo(system, means);
-    system.before = [&](const FaultySystem::Call& call) {
-        if (call.name == "flush" && call.sameIndex == 0)
-            unlink(fixture.target("a").c_str());
-        return 0;
-    };
+    system.beforeFirst("flush", [&] { unlink(fixture.target("a").c_str()); });
     fixture.questions.answers = {{CopyDecision::Replace, false}};
     const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
     QCOMPARE(outcomes[0].fate, CopyFate::Copied);
@@ -217,13 +206,10 @@ void CopyRaceTest::linkSwappedInAtTheTarget()
     fixture.addTarget("precious", "precious");
     FaultySystem system;
     restrictTo(system, means);
-    system.before = [&](const FaultySystem::Call& call) {
-        if (call.name == "flush" && call.sameIndex == 0) {
-            unlink(fixture.target("a").c_str());
-            [[maybe_unused]] const int made = symlink("precious", fixture.target("a").c_str());
-        }
-        return 0;
-    };
+    system.beforeFirst("flush", [&] {
+        unlink(fixture.target("a").c_str());
+        [[maybe_unused]] const int made = symlink("precious", fixture.target("a").c_str());
+    });
     fixture.questions.answers = {{CopyDecision::Replace, false}, {CopyDecision::Skip, false}};
     const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
     QCOMPARE(int(fixture.questions.asked.size()), 2);
@@ -257,13 +243,10 @@ void CopyRaceTest::targetFolderSwappedForALink()
     const std::string elsewhere = pathToBytes(fixture.sourceFolder()) + "/elsewhere";
     QCOMPARE(mkdir(elsewhere.c_str(), 0755), 0);
     FaultySystem system;
-    system.before = [&](const FaultySystem::Call& call) {
-        if (call.name == "flush" && call.sameIndex == 0) {
-            rename(folder.c_str(), moved.c_str());
-            [[maybe_unused]] const int made = symlink(elsewhere.c_str(), folder.c_str());
-        }
-        return 0;
-    };
+    system.beforeFirst("flush", [&] {
+        rename(folder.c_str(), moved.c_str());
+        [[maybe_unused]] const int made = symlink(elsewhere.c_str(), folder.c_str());
+    });
     fixture.copy({fixture.addSource("a", "1")}, system.calls);
     QVERIFY(Testing::contentOf(elsewhere).empty());
     QVERIFY(Testing::contentOf(moved) == FolderContent({{"a", "1"}}));
@@ -293,31 +276,39 @@ void ignoreCase(FaultySystem& system, const CopyFixture& fixture)
     calls.linkUnnamed = [=, real = calls.linkUnnamed](int file, int folder, const char* name) {
         return real(file, folder, onDisk(name).c_str());
     };
-    calls.rename = [=, real = calls.rename](int folder, const char* from, const char* to) {
-        return real(folder, from, onDisk(to).c_str());
-    };
+    for (auto* entry : {&calls.rename, &calls.renameNoReplace, &calls.link}) {
+        *entry = [=, real = *entry](int folder, const char* from, const char* to) {
+            return real(folder, from, onDisk(to).c_str());
+        };
+    }
 }
 
 } // namespace
 
 void CopyRaceTest::caseOnlyCollision_data()
 {
+    addMeansColumn();
     QTest::addColumn<bool>("withinBatch");
     QTest::addColumn<int>("decision");
-    for (const bool within : {true, false}) {
-        const char* where = within ? "within the batch" : "with a file that is there";
-        for (const CopyDecision decision :
-             {CopyDecision::Replace, CopyDecision::Skip, CopyDecision::KeepBoth})
-            QTest::addRow("%s, decision %d", where, int(decision)) << within << int(decision);
+    for (const int means : {LinkUnnamed, RenameNoReplace, Link}) {
+        for (const bool within : {true, false}) {
+            const char* where = within ? "within the batch" : "with a file that is there";
+            for (const CopyDecision decision :
+                 {CopyDecision::Replace, CopyDecision::Skip, CopyDecision::KeepBoth})
+                QTest::addRow("means %d, %s, decision %d", means, where, int(decision))
+                    << means << within << int(decision);
+        }
     }
 }
 
 void CopyRaceTest::caseOnlyCollision()
 {
+    QFETCH(int, means);
     QFETCH(bool, withinBatch);
     QFETCH(int, decision);
     CopyFixture fixture;
     FaultySystem system;
+    restrictTo(system, means);
     ignoreCase(system, fixture);
     QStringList sources;
     if (withinBatch)

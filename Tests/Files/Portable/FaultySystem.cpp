@@ -54,6 +54,15 @@ void FaultySystem::failAlways(const std::string& name, int error)
     before = [=](const Call& call) { return call.name == name ? error : 0; };
 }
 
+void FaultySystem::beforeFirst(const std::string& name, const std::function<void()>& doing)
+{
+    before = [=](const Call& call) {
+        if (call.name == name && call.sameIndex == 0)
+            doing();
+        return 0;
+    };
+}
+
 void FaultySystem::dontWaitForDisks()
 {
     const auto onlyAnnounce = [this](const char* name) {

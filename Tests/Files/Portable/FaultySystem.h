@@ -37,6 +37,9 @@ public:
     /** Fails each call of the name. */
     void failAlways(const std::string& name, int error);
 
+    /** Does something before the first call of the name. */
+    void beforeFirst(const std::string& name, const std::function<void()>& doing);
+
     /** Takes features away, so that the engine falls back on others. */
     void removeUnnamedFiles() { calls.unnamedFileFlags = 0; }
     void removeNoReplaceRename() { failFeature(calls.renameNoReplace); }
