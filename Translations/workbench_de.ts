@@ -682,6 +682,10 @@
         <source>State</source>
         <translation>Zustand</translation>
     </message>
+    <message>
+        <source>Used by</source>
+        <translation>Benutzt von</translation>
+    </message>
 </context>
 <context>
     <name>Zorvane::Workbench::EditCommand</name>

@@ -9,7 +9,8 @@ namespace Zorvane::Workbench {
 
 namespace {
 
-constexpr double s_most = 1e12;
+/** Nearly the largest float, from where on a number tells that nothing was measured. */
+constexpr double s_most = 3e38;
 
 } // namespace
 

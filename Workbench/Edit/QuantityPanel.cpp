@@ -7,6 +7,8 @@
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 
+#include <cmath>
+
 namespace Zorvane::Workbench {
 
 namespace {
@@ -21,6 +23,12 @@ struct Fineness
 Fineness finenessOf(Quantity quantity)
 {
     return quantity == Quantity::Thickness ? Fineness{0.1, 6} : Fineness{1000, 3};
+}
+
+/** As far as the places of the box go. */
+bool isShown(const EngineeringSpinBox& box, double value)
+{
+    return std::abs(box.value() - value) < 0.6 * std::pow(10.0, -box.decimals());
 }
 
 QString labelText(Quantity quantity)
@@ -84,7 +92,7 @@ bool QuantityPanel::showRow(Quantity quantity)
     row.label->setVisible(value.has_value());
     row.spinBox->setVisible(value.has_value());
     // A number that is being typed stays while the rest of the design changes.
-    if (value && row.spinBox->value() != *value) {
+    if (value && !isShown(*row.spinBox, *value)) {
         const QSignalBlocker silence(row.spinBox);
         row.spinBox->setValue(*value);
     }

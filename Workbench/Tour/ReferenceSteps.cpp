@@ -4,6 +4,7 @@
 #include "Workbench/Edit/EngineeringSpinBox.h"
 #include "Workbench/Edit/QuantityPanel.h"
 #include "Workbench/MeshView/MeshView.h"
+#include "Workbench/Window/Language.h"
 #include "Workbench/Window/MainWindow.h"
 #include "Workbench/Window/WindowActions.h"
 
@@ -130,6 +131,33 @@ void Tour::mirror()
     picture(QStringLiteral("from-right-to-left"));
     QApplication::setLayoutDirection(Qt::LeftToRight);
     m_driver.settle();
+}
+
+void Tour::speakGerman()
+{
+    m_report.beginStep(QStringLiteral("In German"),
+                       QStringLiteral("Another window, as on a German system."));
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    {
+        const Language language{QLocale()};
+        MainWindow window;
+        window.resizeAndDivide(m_window.size());
+        window.show();
+        window.open({workFolder(QStringLiteral("drawn-cup"))});
+        m_report.expect(m_driver.waitFor([&window] { return !window.loader().isBusy(); }),
+                        QStringLiteral("all meshes are read"));
+        window.tree().refreshNow();
+        const QAbstractItemModel& model = window.tree().model();
+        const QString title = model.headerData(TreeColumn::UsedBy, Qt::Horizontal).toString();
+        m_report.expect(title == QStringLiteral("Benutzt von"),
+                        QStringLiteral("the title ") + title);
+        m_report.addPicture(QStringLiteral("in-german"), window.grab().toImage());
+    }
+    QLocale::setDefault(before);
+    m_window.activateWindow();
+    m_report.expect(m_driver.waitFor([this] { return m_window.isActiveWindow(); }),
+                    QStringLiteral("the first window again"));
 }
 
 } // namespace Zorvane::Workbench

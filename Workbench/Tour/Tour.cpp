@@ -133,6 +133,7 @@ QStringList Tour::perform(const QStringList& paths)
     goDark();
     lookClosely();
     mirror();
+    speakGerman();
     walkByTab();
     if (!paths.isEmpty())
         openPathsOfUser(paths);

@@ -66,6 +66,7 @@ private:
     void goDark();
     void lookClosely();
     void mirror();
+    void speakGerman();
     void walkByTab();
     void openPathsOfUser(const QStringList& paths);
 

@@ -6,10 +6,10 @@
 #include "TreeModel/ZVTreeItemDataProviderManager.h"
 #include "Utilities/ReferenceIndicatorDelegate.h"
 #include "Workbench/Design/DesignSession.h"
+#include "Workbench/MeshView/PartIcon.h"
 #include "Workbench/Tree/DesignTreeDelegate.h"
 #include "Workbench/Tree/KindFilter.h"
 #include "Workbench/Tree/NameFilter.h"
-#include "Workbench/MeshView/PartIcon.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QHeaderView>

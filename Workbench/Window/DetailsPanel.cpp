@@ -22,6 +22,14 @@ QString pointText(const QVector3D& point)
         .arg(number(point.x()), number(point.y()), number(point.z()));
 }
 
+QString namesOf(const DesignCatalog& catalog, const std::vector<IDCombiner>& ids)
+{
+    QStringList names;
+    for (const IDCombiner& id : ids)
+        names << catalog.find(id)->name;
+    return names.join(QStringLiteral(", "));
+}
+
 } // namespace
 
 DetailsPanel::DetailsPanel(QWidget* parent)
@@ -56,6 +64,8 @@ DetailsPanel::Rows DetailsPanel::rowsFor(const DesignCatalog& catalog,
 {
     Rows rows{{tr("Name"), entry.name}, {tr("Kind"), entry.kindText}};
     rows.insert(rows.end(), entry.particulars.begin(), entry.particulars.end());
+    if (!entry.referrers.empty())
+        rows.emplace_back(tr("Used by"), namesOf(catalog, entry.referrers));
     if (const std::optional<MeshFacts> facts = catalog.facts(entry)) {
         rows.emplace_back(tr("Triangles"), QLocale().toString(qulonglong(facts->triangles)));
         rows.emplace_back(tr("Size"), sizeText(facts->box.size(), QLocale()));

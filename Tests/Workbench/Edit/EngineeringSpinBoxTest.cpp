@@ -161,7 +161,7 @@ void EngineeringSpinBoxTest::refusesWhatIsNoNumber_data()
     QTest::newRow("negative") << QStringLiteral("-5");
     QTest::newRow("not a number") << QStringLiteral("nan");
     QTest::newRow("infinite") << QStringLiteral("inf");
-    QTest::newRow("too large") << QStringLiteral("1e13");
+    QTest::newRow("too large") << QStringLiteral("1e39");
     QTest::newRow("two points") << QStringLiteral("1.2.3");
 }
 

@@ -22,6 +22,9 @@ private Q_SLOTS:
     void asksForAnEdit();
     void showingAnotherObjectEditsNothing();
     void whatIsTypedGoesToTheObjectItWasTypedFor();
+    void whatIsTypedStaysWhileTheDesignIsRefreshed_data();
+    void whatIsTypedStaysWhileTheDesignIsRefreshed();
+    void aRefusedValueIsPutBack();
     void namesItsBoxes();
 
 private:
@@ -116,6 +119,38 @@ void QuantityPanelTest::whatIsTypedGoesToTheObjectItWasTypedFor()
     m_panel->show(objectId(10));
     QCOMPARE(*m_opened->session.quantity(objectId(2), Quantity::Thickness), 2.0);
     QCOMPARE(*m_opened->session.quantity(objectId(10), Quantity::Thickness), 0.0);
+}
+
+void QuantityPanelTest::whatIsTypedStaysWhileTheDesignIsRefreshed_data()
+{
+    QTest::addColumn<double>("before");
+    QTest::newRow("as shown") << 1.25;
+    QTest::newRow("of more places than are kept") << 1.23456789012;
+    QTest::newRow("huge") << 1.5e30;
+}
+
+void QuantityPanelTest::whatIsTypedStaysWhileTheDesignIsRefreshed()
+{
+    QFETCH(double, before);
+    m_opened->session.setQuantity(objectId(2), Quantity::Thickness, before);
+    m_panel->show(objectId(2));
+    EngineeringSpinBox& box = m_panel->spinBox(Quantity::Thickness);
+    box.selectAll();
+    QTest::keyClicks(&box, QStringLiteral("77"));
+    m_opened->session.rename(objectId(2), QStringLiteral("Other"));
+    m_panel->show(objectId(2));
+    QVERIFY2(box.text().startsWith(QStringLiteral("77")), qPrintable(box.text()));
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(*m_opened->session.quantity(objectId(2), Quantity::Thickness), 77.0);
+}
+
+void QuantityPanelTest::aRefusedValueIsPutBack()
+{
+    m_panel->disconnect(&m_opened->session);
+    m_panel->show(objectId(2));
+    m_panel->spinBox(Quantity::Thickness).stepBy(1);
+    m_panel->show(objectId(2));
+    QCOMPARE(m_panel->spinBox(Quantity::Thickness).value(), 1.25);
 }
 
 void QuantityPanelTest::namesItsBoxes()
