@@ -587,7 +587,7 @@
     </message>
     <message>
         <source>Used by</source>
-        <translation>Benutzt von</translation>
+        <translation>Nutzer</translation>
     </message>
     <message>
         <source>Triangles</source>
@@ -599,11 +599,11 @@
     </message>
     <message>
         <source>Surface in mm²</source>
-        <translation>Oberfläche in mm²</translation>
+        <translation>Fläche in mm²</translation>
     </message>
     <message>
         <source>Watertight</source>
-        <translation>Geschlossen</translation>
+        <translation>Dicht</translation>
     </message>
     <message>
         <source>State</source>

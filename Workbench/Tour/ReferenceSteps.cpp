@@ -150,8 +150,7 @@ void Tour::speakGerman()
         window.tree().refreshNow();
         const QAbstractItemModel& model = window.tree().model();
         const QString title = model.headerData(TreeColumn::UsedBy, Qt::Horizontal).toString();
-        m_report.expect(title == QStringLiteral("Benutzt von"),
-                        QStringLiteral("the title ") + title);
+        m_report.expect(title == QStringLiteral("Nutzer"), QStringLiteral("the title ") + title);
         m_report.addPicture(QStringLiteral("in-german"), window.grab().toImage());
     }
     QLocale::setDefault(before);

@@ -161,6 +161,11 @@ void Tour::openCup()
          {TreeColumn::Triangles, TreeColumn::Size, TreeColumn::Surface, TreeColumn::Watertight})
         m_report.expect(!m_driver.cell(cup, column).isEmpty(),
                         text("the part's fact ") + m_driver.cell(cup, column));
+    QTreeView& view = m_window.treeView();
+    const QModelIndex blank =
+        m_window.tree().indexOf(m_driver.find(ObjectKind::Blank, text("Round blank 170 mm")));
+    m_report.expect(view.visualRect(blank).width() >= view.sizeHintForIndex(blank).width(),
+                    text("the longest name whole"));
     m_report.expect(m_window.meshView().hasMesh(), text("its mesh"));
     m_report.expect(m_window.countsText() == text("1 design · 14 objects"), m_window.countsText());
     m_report.expect(m_window.problemsPanel().problems().empty(), text("no problems"));

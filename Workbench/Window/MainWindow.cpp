@@ -44,6 +44,7 @@
 #include <QtWidgets/QTreeView>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 // Resources of a static library must be asked for, outside of any namespace, unnamed ones too.
@@ -147,7 +148,7 @@ void MainWindow::layOut()
 void MainWindow::resizeAndDivide(const QSize& size)
 {
     resize(size);
-    m_sides->setSizes({size.width() * 67 / 100, size.width() * 33 / 100});
+    m_sides->setSizes({size.width() * 68 / 100, size.width() * 32 / 100});
     m_meshAndDetails->setSizes({size.height() * 60 / 100, size.height() * 30 / 100});
 }
 
@@ -167,8 +168,10 @@ QWidget* MainWindow::createTreeSide()
     header->setStretchLastSection(true);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     const double widths[] = {30.5, 14.75, 7, 8.75, 20.5, 13, 9.25, 8.5};
+    // Titles of other languages may need more.
     for (int column = 0; column < header->count(); ++column)
-        header->resizeSection(column, int(widths[column] * digitWidth()));
+        header->resizeSection(
+            column, std::max(int(widths[column] * digitWidth()), header->sectionSizeHint(column)));
     auto* side = new QWidget(this);
     auto* layout = new QVBoxLayout(side);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -55,7 +55,7 @@ private Q_SLOTS:
 void LanguageTest::speaksGermanThroughout()
 {
     const Language language(s_german);
-    QCOMPARE(treeColumnTitles().at(TreeColumn::UsedBy), QStringLiteral("Benutzt von"));
+    QCOMPARE(treeColumnTitles().at(TreeColumn::UsedBy), QStringLiteral("Nutzer"));
     QCOMPARE(quantityName(Quantity::Thickness), QStringLiteral("Dicke"));
     QCOMPARE(noValue(), QStringLiteral("Kein Wert"));
 }
