@@ -34,7 +34,7 @@ class ToolTest(unittest.TestCase):
 
 class LayersTest(ToolTest):
     FILES = ("UiToolsExport.h", "Host/HostExport.h", "Host/Identifiers/IDCombiner.h",
-             "Host/Containers/WaitingSlots.h", "Host/Widgets/ZVTreeViewItem.h",
+             "Host/Widgets/WaitingSlots.h", "Host/Widgets/ZVTreeViewItem.h",
              "Host/Widgets/ZVMessageBox.h", "Files/PathProvider.h", "Files/Portable/Engine.h",
              "Files/Windows/Shell.h", "FileDialogs/FileDialog.h", "Dialogs/ZVSaveDialog.h",
              "Actions/ZVMainActions.h", "TreeModel/ModelItem.h", "Utilities/PostEventTask.h",
@@ -72,7 +72,6 @@ class LayersTest(ToolTest):
         ("Actions/A.cpp", '#include "Host/Widgets/ZVMessageBox.h"'),
         ("TreeModel/A.cpp", '#include "Host/Widgets/ZVTreeViewItem.h"'),
         ("TreeModel/A.cpp", '#include "Host/Identifiers/IDCombiner.h"'),
-        ("TreeModel/A.h", '#include "Host/Containers/WaitingSlots.h"'),
         ("Host/Widgets/A.cpp", '#include "Host/Identifiers/IDCombiner.h"'),
         ("Host/Signals/A.h", "#include <boost/signals2.hpp>"),
         ("Host/A.cpp", '#include "moc_A.cpp"'),
