@@ -2,6 +2,8 @@
 
 #include "Files/Windows/ComPointer.h"
 
+#include <utility>
+
 #include <windows.h>
 
 #include <shobjidl.h>

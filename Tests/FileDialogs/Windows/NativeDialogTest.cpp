@@ -32,7 +32,8 @@ private Q_SLOTS:
     void saveShowsWhatWasAskedFor();
     void presetFileIsShownSelected();
     void laterSelectionsAreTheUsers();
-    void missingFolderIsLeftToTheDialog();
+    void pathsOfEveryKind_data();
+    void pathsOfEveryKind();
     void forwardSlashesAreFine();
     void unicodeNames();
     void defaultSaveConfirmsOverwriting();
@@ -212,16 +213,34 @@ void NativeDialogTest::laterSelectionsAreTheUsers()
     QVERIFY(pilot.isDone());
 }
 
-void NativeDialogTest::missingFolderIsLeftToTheDialog()
+void NativeDialogTest::pathsOfEveryKind_data()
 {
-    for (const QString& folder : {path("missing"), QString(), QStringLiteral("?:\\<>"),
-                                  QStringLiteral("\\\\nowhere.invalid\\share")}) {
-        m_request.folder = folder;
-        DialogPilot pilot;
-        pilot.then([](const DialogWindow& dialog) { dialog.cancel(); });
-        QVERIFY2(open().isCancelled(), qPrintable(folder));
-        QVERIFY(pilot.isDone());
-    }
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("fileName");
+    const QString longName(255, QLatin1Char('n'));
+    QTest::newRow("no folder") << QString() << QString();
+    QTest::newRow("missing folder") << QStringLiteral("C:\\no such folder") << QString();
+    QTest::newRow("no path at all") << QStringLiteral("?:\\<>") << QString();
+    QTest::newRow("network that is not there")
+        << QStringLiteral("\\\\nowhere.invalid\\share") << QString();
+    QTest::newRow("root of a drive") << QDir::toNativeSeparators(QDir::rootPath()) << QString();
+    QTest::newRow("more than 260 characters")
+        << QStringLiteral("C:\\") + longName + QLatin1Char('\\') + longName << QString();
+    QTest::newRow("reserved file name") << QString() << QStringLiteral("NUL");
+    QTest::newRow("long file name") << QString() << longName;
+    QTest::newRow("file name with quotes") << QString() << QStringLiteral("\"a\" \"b\"");
+}
+
+void NativeDialogTest::pathsOfEveryKind()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, fileName);
+    m_request.folder = folder;
+    m_request.fileName = fileName;
+    DialogPilot pilot;
+    pilot.then([](const DialogWindow& dialog) { dialog.cancel(); });
+    QVERIFY(open().isCancelled());
+    QVERIFY(pilot.isDone());
 }
 
 void NativeDialogTest::forwardSlashesAreFine()
