@@ -73,11 +73,12 @@ void SimulationRunner::stop()
 
 void SimulationRunner::runSlice()
 {
+    const DrawSimulation* const run = m_simulation.get();
     m_simulation->advance();
-    const bool isDone = m_simulation->isDone();
-    Q_EMIT progressed(m_simulation->done(), m_simulation->total());
-    // Whoever listens may have stopped it.
-    if (isDone && isRunning())
+    const bool isDone = run->isDone();
+    Q_EMIT progressed(run->done(), run->total());
+    // Whoever listens may have stopped it, and started another one.
+    if (isDone && m_simulation.get() == run)
         finish();
 }
 
