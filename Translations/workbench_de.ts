@@ -50,142 +50,6 @@
         <source>All siblings get another order</source>
         <translation>Alle Geschwister erhalten eine andere Reihenfolge</translation>
     </message>
-    <message>
-        <source>&amp;Open Files…</source>
-        <translation>Dateien ö&amp;ffnen …</translation>
-    </message>
-    <message>
-        <source>Open &amp;Folder…</source>
-        <translation>Ordner &amp;öffnen …</translation>
-    </message>
-    <message>
-        <source>&amp;Import…</source>
-        <translation>&amp;Importieren …</translation>
-    </message>
-    <message>
-        <source>&amp;Export…</source>
-        <translation>&amp;Exportieren …</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Speichern</translation>
-    </message>
-    <message>
-        <source>Save &amp;As…</source>
-        <translation>Speichern &amp;unter …</translation>
-    </message>
-    <message>
-        <source>Save a Cop&amp;y…</source>
-        <translation>&amp;Kopie speichern …</translation>
-    </message>
-    <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Neu laden</translation>
-    </message>
-    <message>
-        <source>&amp;Close All</source>
-        <translation>Alles s&amp;chließen</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>&amp;Rename</source>
-        <translation>&amp;Umbenennen</translation>
-    </message>
-    <message>
-        <source>&amp;Find</source>
-        <translation>&amp;Suchen</translation>
-    </message>
-    <message>
-        <source>&amp;Go to Reference</source>
-        <translation>Zum &amp;Bezug gehen</translation>
-    </message>
-    <message>
-        <source>&amp;Fit</source>
-        <translation>&amp;Einpassen</translation>
-    </message>
-    <message>
-        <source>Zoom &amp;In</source>
-        <translation>&amp;Vergrößern</translation>
-    </message>
-    <message>
-        <source>Zoom &amp;Out</source>
-        <translation>Ver&amp;kleinern</translation>
-    </message>
-    <message>
-        <source>From a &amp;Corner</source>
-        <translation>Von einer E&amp;cke</translation>
-    </message>
-    <message>
-        <source>From the &amp;Top</source>
-        <translation>Von &amp;oben</translation>
-    </message>
-    <message>
-        <source>From &amp;Below</source>
-        <translation>Von &amp;unten</translation>
-    </message>
-    <message>
-        <source>From the F&amp;ront</source>
-        <translation>Von vor&amp;n</translation>
-    </message>
-    <message>
-        <source>From Be&amp;hind</source>
-        <translation>Von &amp;hinten</translation>
-    </message>
-    <message>
-        <source>From the &amp;Left</source>
-        <translation>Von &amp;links</translation>
-    </message>
-    <message>
-        <source>From the Ri&amp;ght</source>
-        <translation>Von &amp;rechts</translation>
-    </message>
-    <message>
-        <source>&amp;Expand All</source>
-        <translation>&amp;Alles ausklappen</translation>
-    </message>
-    <message>
-        <source>Co&amp;llapse All</source>
-        <translation>Alles ein&amp;klappen</translation>
-    </message>
-    <message>
-        <source>&amp;Convert Meshes…</source>
-        <translation>Netze &amp;konvertieren …</translation>
-    </message>
-    <message>
-        <source>&amp;Stress a Tree…</source>
-        <translation>Baum &amp;belasten …</translation>
-    </message>
-    <message>
-        <source>&amp;About the Workbench</source>
-        <translation>Ü&amp;ber die Workbench</translation>
-    </message>
-    <message>
-        <source>About &amp;Qt</source>
-        <translation>Über &amp;Qt</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
-        <source>Start S&amp;imulation</source>
-        <translation>S&amp;imulation starten</translation>
-    </message>
-    <message>
-        <source>Sto&amp;p Simulation</source>
-        <translation>Simulation sto&amp;ppen</translation>
-    </message>
-    <message>
-        <source>Re&amp;move from Design</source>
-        <translation>Aus dem Entwurf ent&amp;fernen</translation>
-    </message>
-    <message>
-        <source>Re&amp;do</source>
-        <translation>&amp;Wiederherstellen</translation>
-    </message>
 </context>
 <context>
     <name>Zorvane::Workbench::DesignCatalog</name>
@@ -1018,42 +882,29 @@
     </message>
 </context>
 <context>
+    <name>Zorvane::Workbench::HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>The documentation is not installed.</source>
+        <translation>Die Dokumentation ist nicht installiert.</translation>
+    </message>
+</context>
+<context>
     <name>Zorvane::Workbench::MainWindow</name>
     <message>
         <source>Objects</source>
         <translation>Objekte</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;Tools</source>
-        <translation>E&amp;xtras</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>Open Re&amp;cent</source>
-        <translation>&amp;Zuletzt geöffnet</translation>
-    </message>
-    <message>
-        <source>Open Sa&amp;mple</source>
-        <translation>Beis&amp;piel öffnen</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>&amp;Appearance</source>
-        <translation>&amp;Erscheinungsbild</translation>
     </message>
     <message>
         <source>&amp;System</source>
@@ -1074,10 +925,6 @@
     <message>
         <source>Clear</source>
         <translation>Leeren</translation>
-    </message>
-    <message>
-        <source>Tools</source>
-        <translation>Werkzeuge</translation>
     </message>
     <message>
         <source>Zorvane Workbench</source>
@@ -1138,10 +985,6 @@
         <translation>&lt;p&gt;&lt;b&gt;Zorvane Workbench&lt;/b&gt; %1&lt;/p&gt;&lt;p&gt;Zeigt Entwürfe der Blechumformung: Teile, Werkzeuge, Werkstoffe und die Dateien dahinter.&lt;/p&gt;</translation>
     </message>
     <message>
-        <source>Another program has changed the file of %1, which has unsaved changes here. Save replaces its version, Reload drops yours.</source>
-        <translation>Ein anderes Programm hat die Datei von %1 geändert, das hier nicht gespeicherte Änderungen hat. Speichern ersetzt dessen Fassung, Neu laden verwirft Ihre.</translation>
-    </message>
-    <message>
         <source>&amp;Undo: %1</source>
         <translation>&amp;Rückgängig: %1</translation>
     </message>
@@ -1150,8 +993,20 @@
         <translation>&amp;Rückgängig</translation>
     </message>
     <message>
-        <source>%1 was removed; its file stays.</source>
-        <translation>%1 wurde entfernt; die Datei bleibt.</translation>
+        <source>&amp;Forming</source>
+        <translation>&amp;Umformen</translation>
+    </message>
+    <message>
+        <source>&amp;Tube</source>
+        <translation>&amp;Rohr</translation>
+    </message>
+    <message>
+        <source>Tan&amp;drel</source>
+        <translation>Tan&amp;drel</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file of %1, which has unsaved changes here. Save replaces its version, Reopen drops yours.</source>
+        <translation>Ein anderes Programm hat die Datei von %1 geändert, zu der es hier ungespeicherte Änderungen gibt. Speichern ersetzt die andere Fassung, Neu öffnen verwirft Ihre.</translation>
     </message>
     <message>
         <source>Re&amp;do: %1</source>
@@ -1160,6 +1015,10 @@
     <message>
         <source>Re&amp;do</source>
         <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>%1 was removed; its file stays.</source>
+        <translation>%1 wurde entfernt; die Datei bleibt.</translation>
     </message>
 </context>
 <context>
@@ -1403,10 +1262,6 @@
         <source>This mesh has no triangles.</source>
         <translation>Dieses Netz hat keine Dreiecke.</translation>
     </message>
-    <message>
-        <source>Arrow keys turn, Shift and arrow keys move, plus and minus zoom, Home fits.</source>
-        <translation>Pfeiltasten drehen, Umschalt und Pfeiltasten verschieben, Plus und Minus zoomen, Pos1 passt ein.</translation>
-    </message>
     <message numerus="yes">
         <source>%1, %2, %n triangles. %3</source>
         <translation>
@@ -1417,6 +1272,14 @@
     <message>
         <source>%1 mm</source>
         <translation>%1 mm</translation>
+    </message>
+    <message>
+        <source>No side of this mesh is shown.</source>
+        <translation>Von diesem Netz wird keine Seite gezeigt.</translation>
+    </message>
+    <message>
+        <source>Arrow keys turn, Ctrl and arrow keys move, plus and minus zoom, Home fits.</source>
+        <translation>Pfeiltasten drehen, Strg und Pfeiltasten verschieben, Plus und Minus zoomen, Pos1 passt ein.</translation>
     </message>
 </context>
 <context>
@@ -1828,6 +1691,168 @@
     <message>
         <source>dashed: average</source>
         <translation>gestrichelt: Mittel</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::Workbench::WindowCommands</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Display</source>
+        <translation>An&amp;zeige</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>E&amp;xtras</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Open Recen&amp;t</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Open Sa&amp;mple</source>
+        <translation>&amp;Beispiel öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Mode</source>
+        <translation>&amp;Modus</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>&amp;Erscheinungsbild</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message>
+        <source>Help &amp;Contents</source>
+        <translation>&amp;Inhalt der Hilfe</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::Workbench::WorkbenchActions</name>
+    <message>
+        <source>Open &amp;Folder…</source>
+        <translation>&amp;Ordner öffnen…</translation>
+    </message>
+    <message>
+        <source>Open the designs of a folder</source>
+        <translation>Die Entwürfe eines Ordners öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importieren…</translation>
+    </message>
+    <message>
+        <source>Bring files into the selected design</source>
+        <translation>Dateien in den gewählten Entwurf holen</translation>
+    </message>
+    <message>
+        <source>Save a Cop&amp;y…</source>
+        <translation>&amp;Kopie speichern…</translation>
+    </message>
+    <message>
+        <source>Write a copy beside the design</source>
+        <translation>Eine Kopie neben den Entwurf schreiben</translation>
+    </message>
+    <message>
+        <source>Re&amp;name</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>Change the name of the selected object</source>
+        <translation>Den Namen des gewählten Objekts ändern</translation>
+    </message>
+    <message>
+        <source>&amp;Find</source>
+        <translation>&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>Filter the tree by words</source>
+        <translation>Den Baum nach Wörtern filtern</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Reference</source>
+        <translation>Zum &amp;Bezug gehen</translation>
+    </message>
+    <message>
+        <source>Select an object that uses this one</source>
+        <translation>Ein Objekt auswählen, das dieses verwendet</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>&amp;Expand All</source>
+        <translation>Alles a&amp;ufklappen</translation>
+    </message>
+    <message>
+        <source>Co&amp;llapse All</source>
+        <translation>Alles &amp;zuklappen</translation>
+    </message>
+    <message>
+        <source>Show &amp;Only Geometry</source>
+        <translation>Nur &amp;Geometrie zeigen</translation>
+    </message>
+    <message>
+        <source>Hide blanks, tools and sheets for the time being</source>
+        <translation>Platinen, Werkzeuge und Bleche vorübergehend ausblenden</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p Simulation</source>
+        <translation>Simulation an&amp;halten</translation>
+    </message>
+    <message>
+        <source>&amp;Convert Meshes…</source>
+        <translation>Netze &amp;umwandeln…</translation>
+    </message>
+    <message>
+        <source>&amp;Stress a Tree…</source>
+        <translation>Einen Baum &amp;belasten…</translation>
+    </message>
+    <message>
+        <source>&amp;About the Workbench</source>
+        <translation>&amp;Über die Workbench</translation>
+    </message>
+    <message>
+        <source>About &amp;Qt</source>
+        <translation>Über &amp;Qt</translation>
+    </message>
+    <message>
+        <source>Re&amp;move from Design</source>
+        <translation>Aus dem Entwurf ent&amp;fernen</translation>
+    </message>
+    <message>
+        <source>The file of the object stays</source>
+        <translation>Die Datei des Objekts bleibt</translation>
     </message>
 </context>
 <context>

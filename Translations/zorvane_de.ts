@@ -408,6 +408,13 @@ Sollen sie nach %1 kopiert werden?</translation>
     </message>
 </context>
 <context>
+    <name>Zorvane::GenericMainActions</name>
+    <message>
+        <source>???</source>
+        <translation>???</translation>
+    </message>
+</context>
+<context>
     <name>Zorvane::ZVConverterDialog</name>
     <message>
         <source>Input file</source>
@@ -468,6 +475,860 @@ Sollen sie nach %1 kopiert werden?</translation>
     <message>
         <source>Ready to convert.</source>
         <translation>Bereit zum Konvertieren.</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::ZVGlobalActions</name>
+    <message>
+        <source>HelpContents</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Open Help File</source>
+        <translation>Hilfe öffnen</translation>
+    </message>
+    <message>
+        <source>F8</source>
+        <translation>F8</translation>
+    </message>
+    <message>
+        <source>Shift+F1</source>
+        <translation>Shift+F1</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::ZVMainActions</name>
+    <message>
+        <source>The export of the complete VanTrel Data is disabled. Select a VanTrel Export Standards are required.</source>
+        <translation>Der Export der vollständigen VanTrel-Daten ist gesperrt. Wählen Sie einen VanTrel-Exportstandard.</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Neu</translation>
+    </message>
+    <message>
+        <source>New Design</source>
+        <translation>Neuer Entwurf</translation>
+    </message>
+    <message>
+        <source>New Multi Blank</source>
+        <translation>Neu mit mehreren Platinen</translation>
+    </message>
+    <message>
+        <source>New Multi Blank Design</source>
+        <translation>Neuer Entwurf mit mehreren Platinen</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Datei öffnen</translation>
+    </message>
+    <message>
+        <source>Open with Standards</source>
+        <translation>Mit Standards öffnen</translation>
+    </message>
+    <message>
+        <source>Open Read-Only...</source>
+        <translation>Schreibgeschützt öffnen...</translation>
+    </message>
+    <message>
+        <source>Open File Read-Only</source>
+        <translation>Datei schreibgeschützt öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Reopen</source>
+        <translation>&amp;Neu öffnen</translation>
+    </message>
+    <message>
+        <source>Reopen Current Design</source>
+        <translation>Aktuellen Entwurf neu öffnen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+O</source>
+        <translation>Ctrl+Shift+O</translation>
+    </message>
+    <message>
+        <source>Open &amp;Template...</source>
+        <translation>&amp;Vorlage öffnen...</translation>
+    </message>
+    <message>
+        <source>Open Template</source>
+        <translation>Vorlage öffnen</translation>
+    </message>
+    <message>
+        <source>Ctrl+T</source>
+        <translation>Ctrl+T</translation>
+    </message>
+    <message>
+        <source>New with Standards</source>
+        <translation>Neu mit Standards</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save Design</source>
+        <translation>Entwurf speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Save Design As...</source>
+        <translation>Entwurf speichern unter...</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>Save Package</source>
+        <translation>Paket speichern</translation>
+    </message>
+    <message>
+        <source>Save the design and create a zip archive together with all required .asm files.</source>
+        <translation>Den Entwurf speichern und ein ZIP-Archiv mit allen benötigten .asm-Dateien anlegen.</translation>
+    </message>
+    <message>
+        <source>Save As (No Cost)...</source>
+        <translation>Speichern unter (ohne Kosten)...</translation>
+    </message>
+    <message>
+        <source>Save to PDM</source>
+        <translation>In PDM speichern</translation>
+    </message>
+    <message>
+        <source>Remove Time Steps from File...</source>
+        <translation>Zeitschritte aus der Datei entfernen...</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>Print Current</source>
+        <translation>Aktuelle Ansicht drucken</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>&amp;Einstellungen...</translation>
+    </message>
+    <message>
+        <source>Preferences &amp; Options</source>
+        <translation>Einstellungen und Optionen</translation>
+    </message>
+    <message>
+        <source>Open Press Generator...</source>
+        <translation>Pressengenerator öffnen...</translation>
+    </message>
+    <message>
+        <source>Open Press Generator</source>
+        <translation>Pressengenerator öffnen</translation>
+    </message>
+    <message>
+        <source>Open Press Converter...</source>
+        <translation>Pressenkonverter öffnen...</translation>
+    </message>
+    <message>
+        <source>Open Press Converter</source>
+        <translation>Pressenkonverter öffnen</translation>
+    </message>
+    <message>
+        <source>Open Guideline Converter...</source>
+        <translation>Richtlinienkonverter öffnen...</translation>
+    </message>
+    <message>
+        <source>Open Guideline Converter</source>
+        <translation>Richtlinienkonverter öffnen</translation>
+    </message>
+    <message>
+        <source>Open Material Generator...</source>
+        <translation>Werkstoffgenerator öffnen...</translation>
+    </message>
+    <message>
+        <source>Open Material Generator</source>
+        <translation>Werkstoffgenerator öffnen</translation>
+    </message>
+    <message>
+        <source>Open Lubrication File Generator...</source>
+        <translation>Schmierstoffgenerator öffnen...</translation>
+    </message>
+    <message>
+        <source>Open Lubrication File Generator</source>
+        <translation>Schmierstoffgenerator öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Standards...</source>
+        <translation>&amp;Standards...</translation>
+    </message>
+    <message>
+        <source>Standards Editor</source>
+        <translation>Editor für Standards</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Close Current Design</source>
+        <translation>Aktuellen Entwurf schließen</translation>
+    </message>
+    <message>
+        <source>New Window</source>
+        <translation>Neues Fenster</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+W</source>
+        <translation>Ctrl+Shift+W</translation>
+    </message>
+    <message>
+        <source>New Forming Window</source>
+        <translation>Neues Umformfenster</translation>
+    </message>
+    <message>
+        <source>New Tandrel Window</source>
+        <translation>Neues Tandrel-Fenster</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Exit the Application</source>
+        <translation>Die Anwendung beenden</translation>
+    </message>
+    <message>
+        <source>Alt+F4</source>
+        <translation>Alt+F4</translation>
+    </message>
+    <message>
+        <source>Clone Design</source>
+        <translation>Entwurf duplizieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>Start Reporting...</source>
+        <translation>Bericht beginnen...</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Clear Template</source>
+        <translation>Vorlage leeren</translation>
+    </message>
+    <message>
+        <source>Close Crop</source>
+        <translation>Ausschnitt schließen</translation>
+    </message>
+    <message>
+        <source>Close the Crop View</source>
+        <translation>Die Ausschnittsansicht schließen</translation>
+    </message>
+    <message>
+        <source>Shift+K</source>
+        <translation>Shift+K</translation>
+    </message>
+    <message>
+        <source>Toggle show roll angle</source>
+        <translation>Rollwinkel ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>Toggle Show Roll Angle</source>
+        <translation>Rollwinkel ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>Shift+R</source>
+        <translation>Shift+R</translation>
+    </message>
+    <message>
+        <source>Toggle shading in 3d view</source>
+        <translation>Schattierung in der 3D-Ansicht umschalten</translation>
+    </message>
+    <message>
+        <source>Toggle Shading in 3d View</source>
+        <translation>Schattierung in der 3D-Ansicht umschalten</translation>
+    </message>
+    <message>
+        <source>Alt+L</source>
+        <translation>Alt+L</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportieren...</translation>
+    </message>
+    <message>
+        <source>Show Export Dialog</source>
+        <translation>Dialog zum Exportieren zeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+E</source>
+        <translation>Ctrl+E</translation>
+    </message>
+    <message>
+        <source>&amp;Export Image</source>
+        <translation>Bild &amp;exportieren</translation>
+    </message>
+    <message>
+        <source>Export the current 3D view to file</source>
+        <translation>Die aktuelle 3D-Ansicht in eine Datei exportieren</translation>
+    </message>
+    <message>
+        <source>Quick Export Image</source>
+        <translation>Bild schnell exportieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+P</source>
+        <translation>Ctrl+Shift+P</translation>
+    </message>
+    <message>
+        <source>Export for Gallivor...</source>
+        <translation>Für Gallivor exportieren...</translation>
+    </message>
+    <message>
+        <source>Export design as file for Gallivor</source>
+        <translation>Den Entwurf als Datei für Gallivor exportieren</translation>
+    </message>
+    <message>
+        <source>Export &amp;Offset Surface...</source>
+        <translation>&amp;Offsetfläche exportieren...</translation>
+    </message>
+    <message>
+        <source>Export current offset surface</source>
+        <translation>Die aktuelle Offsetfläche exportieren</translation>
+    </message>
+    <message>
+        <source>Open from VanTrel...</source>
+        <translation>Aus VanTrel öffnen...</translation>
+    </message>
+    <message>
+        <source>Update from VanTrel...</source>
+        <translation>Aus VanTrel aktualisieren...</translation>
+    </message>
+    <message>
+        <source>Update From VanTrel...</source>
+        <translation>Aus VanTrel aktualisieren...</translation>
+    </message>
+    <message>
+        <source>Export to VanTrel...</source>
+        <translation>Nach VanTrel exportieren...</translation>
+    </message>
+    <message>
+        <source>Execute Script...</source>
+        <translation>Skript ausführen...</translation>
+    </message>
+    <message>
+        <source>Export to VanTrel with Standards</source>
+        <translation>Mit Standards nach VanTrel exportieren</translation>
+    </message>
+    <message>
+        <source>Export to VanTrel Standards...</source>
+        <translation>In VanTrel-Standards exportieren...</translation>
+    </message>
+    <message>
+        <source>Import from VanTrel...</source>
+        <translation>Aus VanTrel importieren...</translation>
+    </message>
+    <message>
+        <source>Rollers, Roller Paths and Hemming Definition...</source>
+        <translation>Rollen, Rollenbahnen und Falzdefinition...</translation>
+    </message>
+    <message>
+        <source>In this export only rollers, roller paths geometries and Hemming Definition are covered. The complete Hemming Process setup is not included.</source>
+        <translation>Dieser Export umfasst nur Rollen, die Geometrie der Rollenbahnen und die Falzdefinition. Der vollständige Aufbau des Falzprozesses ist nicht enthalten.</translation>
+    </message>
+    <message>
+        <source>shortcut to be defined</source>
+        <translation>shortcut to be defined</translation>
+    </message>
+    <message>
+        <source>Product for Testing...</source>
+        <translation>Produkt zum Prüfen...</translation>
+    </message>
+    <message>
+        <source>Joining Parameters...</source>
+        <translation>Fügeparameter...</translation>
+    </message>
+    <message>
+        <source>Fixation...</source>
+        <translation>Fixierung...</translation>
+    </message>
+    <message>
+        <source>Process Joining...</source>
+        <translation>Prozessfügen...</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Undo Last Action</source>
+        <translation>Letzte Aktion rückgängig machen</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Redo Last Action</source>
+        <translation>Letzte Aktion wiederholen</translation>
+    </message>
+    <message>
+        <source>Compute</source>
+        <translation>Berechnen</translation>
+    </message>
+    <message>
+        <source>Creates, computes and loads a simulation</source>
+        <translation>Legt eine Simulation an, berechnet und lädt sie</translation>
+    </message>
+    <message>
+        <source>Load...</source>
+        <translation>Laden...</translation>
+    </message>
+    <message>
+        <source>Loads a simulation from file</source>
+        <translation>Lädt eine Simulation aus einer Datei</translation>
+    </message>
+    <message>
+        <source>Single View</source>
+        <translation>Eine Ansicht</translation>
+    </message>
+    <message>
+        <source>Two Horizontal Views</source>
+        <translation>Zwei Ansichten nebeneinander</translation>
+    </message>
+    <message>
+        <source>Two Vertical Views</source>
+        <translation>Zwei Ansichten übereinander</translation>
+    </message>
+    <message>
+        <source>Four Views</source>
+        <translation>Vier Ansichten</translation>
+    </message>
+    <message>
+        <source>Auto Fit 2 Monitors</source>
+        <translation>An zwei Bildschirme anpassen</translation>
+    </message>
+    <message>
+        <source>Alt+2</source>
+        <translation>Alt+2</translation>
+    </message>
+    <message>
+        <source>Sketch View</source>
+        <translation>Skizzenansicht</translation>
+    </message>
+    <message>
+        <source>Show sheet reference(s) for visible sheet(s) (Set to current time step with R)</source>
+        <translation>Blechreferenzen zu sichtbaren Blechen zeigen (mit R auf den aktuellen Zeitschritt setzen)</translation>
+    </message>
+    <message>
+        <source>Show Sheet</source>
+        <translation>Blech zeigen</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>Show Mirrored Sheet</source>
+        <translation>Gespiegeltes Blech zeigen</translation>
+    </message>
+    <message>
+        <source>Show Geometry on both Symmetric Sides</source>
+        <translation>Geometrie auf beiden symmetrischen Seiten zeigen</translation>
+    </message>
+    <message>
+        <source>Show Geometry only on secondary Symmetric Side</source>
+        <translation>Geometrie nur auf der zweiten symmetrischen Seite zeigen</translation>
+    </message>
+    <message>
+        <source>Show Geometry only on primary Symmetric Side</source>
+        <translation>Geometrie nur auf der ersten symmetrischen Seite zeigen</translation>
+    </message>
+    <message>
+        <source>Show Connectors</source>
+        <translation>Verbinder zeigen</translation>
+    </message>
+    <message>
+        <source>Show Tools of Current Operation</source>
+        <translation>Werkzeuge der aktuellen Operation zeigen</translation>
+    </message>
+    <message>
+        <source>T</source>
+        <translation>T</translation>
+    </message>
+    <message>
+        <source>Show Upper Forming Tools of Current Operation</source>
+        <translation>Obere Werkzeuge der aktuellen Operation zeigen</translation>
+    </message>
+    <message>
+        <source>Show Lower Forming Tools of Current Operation</source>
+        <translation>Untere Werkzeuge der aktuellen Operation zeigen</translation>
+    </message>
+    <message>
+        <source>Show Tools</source>
+        <translation>Werkzeuge zeigen</translation>
+    </message>
+    <message>
+        <source>Show Upper Forming Tools</source>
+        <translation>Obere Umformwerkzeuge zeigen</translation>
+    </message>
+    <message>
+        <source>Show Lower Forming Tools</source>
+        <translation>Untere Umformwerkzeuge zeigen</translation>
+    </message>
+    <message>
+        <source>Show Current Parts</source>
+        <translation>Aktuelle Teile zeigen</translation>
+    </message>
+    <message>
+        <source>G</source>
+        <translation>G</translation>
+    </message>
+    <message>
+        <source>Show Blank</source>
+        <translation>Platine zeigen</translation>
+    </message>
+    <message>
+        <source>Show Press Bed of Current Operation</source>
+        <translation>Pressentisch der aktuellen Operation zeigen</translation>
+    </message>
+    <message>
+        <source>Show Drawbeads of All Operations incl. Force</source>
+        <translation>Ziehsicken aller Operationen mit Kräften zeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+B</source>
+        <translation>Ctrl+B</translation>
+    </message>
+    <message>
+        <source>Show Tube</source>
+        <translation>Rohr zeigen</translation>
+    </message>
+    <message>
+        <source>Show Formed Tube</source>
+        <translation>Umgeformtes Rohr zeigen</translation>
+    </message>
+    <message>
+        <source>Fit to Window</source>
+        <translation>In Fenster einpassen</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>View all From +X</source>
+        <translation>Alles von +X</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>View all From -X</source>
+        <translation>Alles von -X</translation>
+    </message>
+    <message>
+        <source>Shift+X</source>
+        <translation>Shift+X</translation>
+    </message>
+    <message>
+        <source>View all From +Y</source>
+        <translation>Alles von +Y</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>View all From -Y</source>
+        <translation>Alles von -Y</translation>
+    </message>
+    <message>
+        <source>Shift+Y</source>
+        <translation>Shift+Y</translation>
+    </message>
+    <message>
+        <source>View all From +Z</source>
+        <translation>Alles von +Z</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>View all From -Z</source>
+        <translation>Alles von -Z</translation>
+    </message>
+    <message>
+        <source>Shift+Z</source>
+        <translation>Shift+Z</translation>
+    </message>
+    <message>
+        <source>Isometric View</source>
+        <translation>Isometrische Ansicht</translation>
+    </message>
+    <message>
+        <source>Isometric View and Fit Scene</source>
+        <translation>Isometrische Ansicht, Szene eingepasst</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>Isometric View (%1 Around Z)</source>
+        <translation>Isometrische Ansicht (%1 um Z)</translation>
+    </message>
+    <message>
+        <source>Isometric View (%1 Around Z) and Fit Scene</source>
+        <translation>Isometrische Ansicht (%1 um Z), Szene eingepasst</translation>
+    </message>
+    <message>
+        <source>Shift+E</source>
+        <translation>Shift+E</translation>
+    </message>
+    <message>
+        <source>View From X (Short Path)</source>
+        <translation>Von X (kürzester Weg)</translation>
+    </message>
+    <message>
+        <source>Alt+X</source>
+        <translation>Alt+X</translation>
+    </message>
+    <message>
+        <source>View From Y (Short Path)</source>
+        <translation>Von Y (kürzester Weg)</translation>
+    </message>
+    <message>
+        <source>Alt+Y</source>
+        <translation>Alt+Y</translation>
+    </message>
+    <message>
+        <source>View From Z (Short Path)</source>
+        <translation>Von Z (kürzester Weg)</translation>
+    </message>
+    <message>
+        <source>Alt+Z</source>
+        <translation>Alt+Z</translation>
+    </message>
+    <message>
+        <source>%1 Around Screen Z</source>
+        <translation>%1 um Z des Bildschirms</translation>
+    </message>
+    <message>
+        <source>Rotate View Around Screen +Z</source>
+        <translation>Die Ansicht um +Z des Bildschirms drehen</translation>
+    </message>
+    <message>
+        <source>Shift+Right</source>
+        <translation>Shift+Right</translation>
+    </message>
+    <message>
+        <source>Rotate View Around Screen -Z</source>
+        <translation>Die Ansicht um -Z des Bildschirms drehen</translation>
+    </message>
+    <message>
+        <source>Shift+Left</source>
+        <translation>Shift+Left</translation>
+    </message>
+    <message>
+        <source>Flip View</source>
+        <translation>Ansicht wenden</translation>
+    </message>
+    <message>
+        <source>Flip the view</source>
+        <translation>Die Ansicht wenden</translation>
+    </message>
+    <message>
+        <source>Shift+V</source>
+        <translation>Shift+V</translation>
+    </message>
+    <message>
+        <source>Last View</source>
+        <translation>Letzte Ansicht</translation>
+    </message>
+    <message>
+        <source>Restore the last view</source>
+        <translation>Zur letzten Ansicht zurückkehren</translation>
+    </message>
+    <message>
+        <source>Shift+L</source>
+        <translation>Shift+L</translation>
+    </message>
+    <message>
+        <source>Zoom to Feature</source>
+        <translation>Auf Merkmal zoomen</translation>
+    </message>
+    <message>
+        <source>Alt+F</source>
+        <translation>Alt+F</translation>
+    </message>
+    <message>
+        <source>Toggle Overview</source>
+        <translation>Übersicht umschalten</translation>
+    </message>
+    <message>
+        <source>Shift+D</source>
+        <translation>Shift+D</translation>
+    </message>
+    <message>
+        <source>Make Snapshot for Preview</source>
+        <translation>Vorschaubild aufnehmen</translation>
+    </message>
+    <message>
+        <source>A Screenshot was manually captured and saved for File Preview.</source>
+        <translation>Ein Bild wurde von Hand aufgenommen und für die Dateivorschau gespeichert.</translation>
+    </message>
+    <message>
+        <source>Automatic Snapshot for Preview</source>
+        <translation>Vorschaubild selbsttätig aufnehmen</translation>
+    </message>
+    <message>
+        <source>Automatic Screenshot capturing is enabled. Manually captured ones will be overwritten.</source>
+        <translation>Bilder werden selbsttätig aufgenommen. Von Hand aufgenommene werden überschrieben.</translation>
+    </message>
+    <message>
+        <source>Next Time Step</source>
+        <translation>Nächster Zeitschritt</translation>
+    </message>
+    <message>
+        <source>Previous Time Step</source>
+        <translation>Voriger Zeitschritt</translation>
+    </message>
+    <message>
+        <source>Simulation Begin</source>
+        <translation>Beginn der Simulation</translation>
+    </message>
+    <message>
+        <source>Simulation End</source>
+        <translation>Ende der Simulation</translation>
+    </message>
+    <message>
+        <source>End of Previous Operation</source>
+        <translation>Ende der vorigen Operation</translation>
+    </message>
+    <message>
+        <source>End of Current/Next Operation</source>
+        <translation>Ende der aktuellen/nächsten Operation</translation>
+    </message>
+    <message>
+        <source>Start/Stop Animation</source>
+        <translation>Animation starten/anhalten</translation>
+    </message>
+    <message>
+        <source>A</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>Continuous</source>
+        <translation>Kontinuierlich</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>Out of Spec</source>
+        <translation>Außerhalb der Vorgabe</translation>
+    </message>
+    <message>
+        <source>P</source>
+        <translation>P</translation>
+    </message>
+    <message>
+        <source>Out of Range</source>
+        <translation>Außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>O</source>
+        <translation>O</translation>
+    </message>
+    <message>
+        <source>Discrete</source>
+        <translation>Diskret</translation>
+    </message>
+    <message>
+        <source>D</source>
+        <translation>D</translation>
+    </message>
+    <message>
+        <source>Operation Coordinates</source>
+        <translation>Koordinaten der Operation</translation>
+    </message>
+    <message>
+        <source>Non-Pitched Station Coordinates</source>
+        <translation>Stationskoordinaten ohne Vorschub</translation>
+    </message>
+    <message>
+        <source>Product Coordinates</source>
+        <translation>Produktkoordinaten</translation>
+    </message>
+    <message>
+        <source>Pressline View</source>
+        <translation>Ansicht der Pressenlinie</translation>
+    </message>
+    <message>
+        <source>Pitched Station Coordinates</source>
+        <translation>Stationskoordinaten mit Vorschub</translation>
+    </message>
+    <message>
+        <source>Show Current Station/Feature</source>
+        <translation>Aktuelle Station/aktuelles Merkmal zeigen</translation>
+    </message>
+    <message>
+        <source>Show Current and Neighboring Stations/Features</source>
+        <translation>Aktuelle und benachbarte Stationen/Merkmale zeigen</translation>
+    </message>
+    <message>
+        <source>Show All Stations/Features</source>
+        <translation>Alle Stationen/Merkmale zeigen</translation>
+    </message>
+    <message>
+        <source>Follow Sheet</source>
+        <translation>Dem Blech folgen</translation>
+    </message>
+    <message>
+        <source>Increase Font Size</source>
+        <translation>Schrift vergrößern</translation>
+    </message>
+    <message>
+        <source>Decrease Font Size</source>
+        <translation>Schrift verkleinern</translation>
+    </message>
+    <message>
+        <source>Enable/Disable Lighter Version</source>
+        <translation>Leichtere Fassung ein-/ausschalten</translation>
+    </message>
+    <message>
+        <source>Shift+Ctrl+L</source>
+        <translation>Shift+Ctrl+L</translation>
+    </message>
+    <message>
+        <source>Toggle White 3D-View Background</source>
+        <translation>Weißen Hintergrund der 3D-Ansicht umschalten</translation>
+    </message>
+    <message>
+        <source>Shift+W</source>
+        <translation>Shift+W</translation>
+    </message>
+    <message>
+        <source>Enable/disable display item spotlighting</source>
+        <translation>Hervorheben von Anzeigeobjekten ein-/ausschalten</translation>
+    </message>
+    <message>
+        <source>*</source>
+        <translation>*</translation>
     </message>
 </context>
 <context>

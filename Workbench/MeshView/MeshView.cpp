@@ -9,6 +9,7 @@
 #include <QtGui/QWheelEvent>
 
 #include <cmath>
+#include <utility>
 
 namespace Zorvane::Workbench {
 
@@ -53,18 +54,61 @@ void MeshView::setMesh(std::shared_ptr<const TriangleMesh> mesh, const QString& 
         m_colour = colour;
         m_picture = {};
     }
-    if (mesh != m_drawable.mesh) {
-        m_drawable = prepareForDrawing(std::move(mesh));
-        m_fastPictureTime = 0;
-        m_message = hasMesh() ? QString() : tr("This mesh has no triangles.");
-        fit();
+    if (mesh != m_mesh) {
+        m_mesh = std::move(mesh);
+        prepareMesh();
+        fitToView();
+        m_lastCamera = m_camera;
     }
     describe();
     update();
 }
 
+void MeshView::prepareMesh()
+{
+    m_drawable = prepareForDrawing(sidesOf(m_mesh, m_sides));
+    m_fastPictureTime = 0;
+    m_message.clear();
+    if (!hasMesh())
+        m_message = m_mesh && !m_mesh->isEmpty() ? tr("No side of this mesh is shown.")
+                                                 : tr("This mesh has no triangles.");
+}
+
+void MeshView::setSides(const MeshSides& sides)
+{
+    m_sides = sides;
+    if (!m_mesh)
+        return;
+    prepareMesh();
+    describe();
+    redraw(false);
+}
+
+void MeshView::setLook(MeshLook look)
+{
+    m_look = look;
+    redraw(false);
+}
+
+void MeshView::setWhiteBackground(bool white)
+{
+    m_whiteBackground = white;
+    redraw(false);
+}
+
+MeshColours MeshView::colours() const
+{
+    MeshColours colours = meshColours(isDark(palette()) && !m_whiteBackground, m_colour);
+    if (m_whiteBackground) {
+        colours.backgroundTop = Qt::white;
+        colours.backgroundBottom = Qt::white;
+    }
+    return colours;
+}
+
 void MeshView::showMessage(const QString& message)
 {
+    m_mesh.reset();
     m_drawable = {};
     m_title.clear();
     m_message = message;
@@ -91,7 +135,7 @@ void MeshView::placeLegend()
 
 void MeshView::describe()
 {
-    const QString keys = tr("Arrow keys turn, Shift and arrow keys move, plus and minus zoom, "
+    const QString keys = tr("Arrow keys turn, Ctrl and arrow keys move, plus and minus zoom, "
                             "Home fits.");
     if (!hasMesh()) {
         setAccessibleDescription(m_message);
@@ -104,12 +148,49 @@ void MeshView::describe()
 
 void MeshView::setDirection(ViewDirection direction)
 {
+    rememberView();
     m_camera.setDirection(direction);
-    fit();
+    fitToView();
+}
+
+void MeshView::setNearestAlong(ViewAxis axis)
+{
+    rememberView();
+    m_camera.setNearestAlong(axis);
+    redraw(false);
+}
+
+void MeshView::roll(double degrees)
+{
+    rememberView();
+    m_camera.roll(degrees);
+    redraw(false);
+}
+
+void MeshView::flip()
+{
+    rememberView();
+    m_camera.flip();
+    redraw(false);
+}
+
+void MeshView::showLastView()
+{
+    std::swap(m_camera, m_lastCamera);
+    m_fitted = false;
+    redraw(false);
+}
+
+/** One turn with the mouse, or of the wheel, is one change, however many steps it has. */
+void MeshView::rememberView()
+{
+    if (!m_moving)
+        m_lastCamera = m_camera;
 }
 
 void MeshView::turn(double rightDegrees, double downDegrees)
 {
+    rememberView();
     m_camera.orbit(rightDegrees, downDegrees);
     m_fitted = false;
     redraw(true);
@@ -126,6 +207,12 @@ QSize MeshView::minimumSizeHint() const
 }
 
 void MeshView::fit()
+{
+    rememberView();
+    fitToView();
+}
+
+void MeshView::fitToView()
 {
     m_camera.fit(m_drawable.box, size());
     m_fitted = true;
@@ -144,6 +231,7 @@ void MeshView::zoomOut()
 
 void MeshView::zoom(const QPointF& cursor, double factor)
 {
+    rememberView();
     m_camera.zoomAt(cursor, factor, size());
     m_fitted = false;
     redraw(true);
@@ -168,14 +256,14 @@ void MeshView::renderIfNeeded()
     QElapsedTimer timer;
     timer.start();
     const ViewTransform view = m_camera.transform(QSizeF(size()));
-    const MeshColours colours = meshColours(isDark(palette()), m_colour);
+    const MeshColours inks = colours();
     if (m_moving && m_fastPictureTime > s_slowMilliseconds) {
-        const QImage coarse =
-            renderMesh(m_rasterizer, m_drawable, view.scaled(ratio / 2), pixels / 2, colours, 1);
+        const QImage coarse = renderMesh(m_rasterizer, m_drawable, view.scaled(ratio / 2),
+                                         pixels / 2, inks, 1, m_look);
         m_picture = coarse.scaled(pixels);
     } else {
-        m_picture = renderMesh(m_rasterizer, m_drawable, view.scaled(ratio), pixels, colours,
-                               m_moving ? 1 : 2);
+        m_picture = renderMesh(m_rasterizer, m_drawable, view.scaled(ratio), pixels, inks,
+                               m_moving ? 1 : 2, m_look);
         if (m_moving)
             m_fastPictureTime = timer.elapsed();
     }
@@ -197,7 +285,8 @@ void MeshView::paintEvent(QPaintEvent*)
 
 void MeshView::paintOverlay(QPainter& painter) const
 {
-    const QColor ink = isDark(palette()) ? QColor(0xd6, 0xdd, 0xe6) : QColor(0x2b, 0x36, 0x42);
+    const QColor ink = isDark(palette()) && !m_whiteBackground ? QColor(0xd6, 0xdd, 0xe6)
+                                                               : QColor(0x2b, 0x36, 0x42);
     painter.setPen(ink);
     if (!hasMesh()) {
         painter.drawText(rect().adjusted(24, 24, -24, -24), Qt::AlignCenter | Qt::TextWordWrap,
@@ -268,6 +357,7 @@ void MeshView::mouseMoveEvent(QMouseEvent* event)
     m_dragged = event->pos();
     if (m_drag == Drag::None || way.isNull())
         return;
+    rememberView();
     if (m_drag == Drag::Turn)
         m_camera.orbit(way.x() * s_degreesPerPixel, way.y() * s_degreesPerPixel);
     else
@@ -302,6 +392,7 @@ void MeshView::wheelEvent(QWheelEvent* event)
 void MeshView::moveOrTurn(int right, int down, bool move)
 {
     if (move) {
+        rememberView();
         m_camera.pan(QPointF(right, down) * s_pixelsPerKey);
         m_fitted = false;
         redraw(true);
@@ -312,16 +403,16 @@ void MeshView::moveOrTurn(int right, int down, bool move)
 
 void MeshView::keyPressEvent(QKeyEvent* event)
 {
-    const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
+    const bool move = event->modifiers().testFlag(Qt::ControlModifier);
     switch (event->key()) {
     case Qt::Key_Left:
-        return moveOrTurn(-1, 0, shift);
+        return moveOrTurn(-1, 0, move);
     case Qt::Key_Right:
-        return moveOrTurn(1, 0, shift);
+        return moveOrTurn(1, 0, move);
     case Qt::Key_Up:
-        return moveOrTurn(0, -1, shift);
+        return moveOrTurn(0, -1, move);
     case Qt::Key_Down:
-        return moveOrTurn(0, 1, shift);
+        return moveOrTurn(0, 1, move);
     case Qt::Key_Plus:
     case Qt::Key_Equal:
         return zoomIn();

@@ -2,6 +2,7 @@
 
 #include "Workbench/MeshView/DrawableMesh.h"
 #include "Workbench/MeshView/MeshLegend.h"
+#include "Workbench/MeshView/MeshSides.h"
 #include "Workbench/MeshView/OrbitCamera.h"
 #include "Workbench/MeshView/Rasterizer.h"
 
@@ -16,8 +17,8 @@ namespace Zorvane::Workbench {
  * Shows one mesh, shaded, from any side.
  *
  * Mouse: drag with the left button turns, with the middle button or Shift moves, the wheel zooms
- * to the pointer, a double click fits. Keys: arrows turn, Shift and arrows move, + and - zoom,
- * Home fits. Draws without a graphics card. While it is being turned it draws as fast as it can,
+ * to the pointer, a double click fits. Keys: arrows turn, Ctrl and arrows move, + and - zoom,
+ * Home fits. The view before the last change can be had back. Draws without a graphics card. While it is being turned it draws as fast as it can,
  * and once it rests it smooths the outlines.
  * Not supported: several meshes at once, picking, touch gestures.
  */
@@ -44,6 +45,18 @@ public:
     bool hasMesh() const { return !m_drawable.isEmpty(); }
     const OrbitCamera& camera() const { return m_camera; }
     void setDirection(ViewDirection direction);
+    void setNearestAlong(ViewAxis axis);
+    /** Rolls the picture counter-clockwise, by degrees. */
+    void roll(double degrees);
+
+    const MeshSides& sides() const { return m_sides; }
+    /** Shows these sides of this mesh and of the next ones, from where one looks. */
+    void setSides(const MeshSides& sides);
+    MeshLook look() const { return m_look; }
+    void setLook(MeshLook look);
+    bool hasWhiteBackground() const { return m_whiteBackground; }
+    /** For pictures to be printed, whatever the palette. */
+    void setWhiteBackground(bool white);
     /** Turns by degrees; for keys, menus and demonstrations. */
     void turn(double rightDegrees, double downDegrees);
 
@@ -54,6 +67,9 @@ public Q_SLOTS:
     void fit();
     void zoomIn();
     void zoomOut();
+    void flip();
+    /** Back to the view before the last change, and from there to the one left now. */
+    void showLastView();
 
 Q_SIGNALS:
     void cameraChanged();
@@ -81,6 +97,10 @@ private:
         Move
     };
 
+    void rememberView();
+    void fitToView();
+    void prepareMesh();
+    MeshColours colours() const;
     void zoom(const QPointF& cursor, double factor);
     void moveOrTurn(int right, int down, bool move);
     void redraw(bool moving);
@@ -89,12 +109,18 @@ private:
     void describe();
     void placeLegend();
 
+    std::shared_ptr<const TriangleMesh> m_mesh;
+    /** What is shown of it. */
     DrawableMesh m_drawable;
+    MeshSides m_sides;
+    MeshLook m_look = MeshLook::Surfaces;
+    bool m_whiteBackground = false;
     QString m_title;
     QColor m_colour;
     MeshLegend* m_legend;
     QString m_message;
     OrbitCamera m_camera;
+    OrbitCamera m_lastCamera;
     Rasterizer m_rasterizer;
     QImage m_picture;
     QTimer m_rest;

@@ -34,10 +34,17 @@ Angles anglesOf(ViewDirection direction)
         return {-90, 0};
     case ViewDirection::Right:
         return {90, 0};
+    case ViewDirection::RotatedIsometric:
+        return {55, 30};
     case ViewDirection::Isometric:
         break;
     }
     return {-35, 30};
+}
+
+double toQuarter(double degrees)
+{
+    return std::remainder(std::round(degrees / 90) * 90, 360.0);
 }
 
 /** The box's width or height as seen along the other two axes of the view. */
@@ -72,12 +79,48 @@ void OrbitCamera::setDirection(ViewDirection direction)
     const Angles angles = anglesOf(direction);
     m_yaw = angles.yaw;
     m_pitch = angles.pitch;
+    m_roll = 0;
+}
+
+void OrbitCamera::setNearestAlong(ViewAxis axis)
+{
+    const QVector3D viewer = transform({}).toViewer;
+    const double roll = toQuarter(m_roll);
+    switch (axis) {
+    case ViewAxis::X:
+        setDirection(viewer.x() < 0 ? ViewDirection::Left : ViewDirection::Right);
+        break;
+    case ViewAxis::Y:
+        setDirection(viewer.y() > 0 ? ViewDirection::Back : ViewDirection::Front);
+        break;
+    case ViewAxis::Z:
+        m_pitch = viewer.z() < 0 ? -90 : 90;
+        m_yaw = toQuarter(m_yaw);
+        break;
+    }
+    m_roll = roll;
+}
+
+void OrbitCamera::roll(double degrees)
+{
+    m_roll = std::remainder(m_roll + degrees, 360.0);
+}
+
+void OrbitCamera::flip()
+{
+    m_yaw = std::remainder(m_yaw + 180, 360.0);
+    m_pitch = -m_pitch;
+    m_roll = -m_roll;
 }
 
 void OrbitCamera::orbit(double rightDegrees, double downDegrees)
 {
-    m_yaw = std::remainder(m_yaw - rightDegrees, 360.0);
-    m_pitch = std::clamp(m_pitch + downDegrees, -90.0, 90.0);
+    // Along the picture's own right and down, which roll with it.
+    const double angle = qDegreesToRadians(m_roll);
+    const double right = rightDegrees * std::cos(angle) - downDegrees * std::sin(angle);
+    const double down = rightDegrees * std::sin(angle) + downDegrees * std::cos(angle);
+    m_yaw = std::remainder(m_yaw - right, 360.0);
+    m_pitch = std::clamp(m_pitch + down, -90.0, 90.0);
 }
 
 void OrbitCamera::pan(const QPointF& pixels)
@@ -121,10 +164,14 @@ ViewTransform OrbitCamera::transform(const QSizeF& viewport) const
     const double yaw = qDegreesToRadians(m_yaw);
     const double pitch = qDegreesToRadians(m_pitch);
     ViewTransform view;
-    view.right = {float(std::cos(yaw)), float(std::sin(yaw)), 0};
+    const QVector3D level(float(std::cos(yaw)), float(std::sin(yaw)), 0);
     view.toViewer = {float(std::sin(yaw) * std::cos(pitch)),
                      float(-std::cos(yaw) * std::cos(pitch)), float(std::sin(pitch))};
-    view.up = QVector3D::crossProduct(view.toViewer, view.right);
+    const QVector3D upright = QVector3D::crossProduct(view.toViewer, level);
+    const auto sine = float(std::sin(qDegreesToRadians(m_roll)));
+    const auto cosine = float(std::cos(qDegreesToRadians(m_roll)));
+    view.right = level * cosine - upright * sine;
+    view.up = upright * cosine + level * sine;
     view.target = m_target;
     view.middle = {viewport.width() / 2, viewport.height() / 2};
     view.pixelsPerMm = m_pixelsPerMm;

@@ -35,18 +35,35 @@ enum class ViewDirection
     Back,
     Left,
     Right,
-    Isometric
+    Isometric,
+    /** The corner view from the corner on the right. */
+    RotatedIsometric
+};
+
+enum class ViewAxis
+{
+    X,
+    Y,
+    Z
 };
 
 /**
  * Looks at a point in parallel projection, so that lengths compare wherever they are, and walks
- * around the vertical z axis. Angles in degrees, screen distances in logical pixels. A plain value.
- * Not supported: perspective, rolling to the side.
+ * around the vertical z axis; the picture may be rolled to the side. Angles in degrees, screen
+ * distances in logical pixels. A plain value.
+ * Not supported: perspective.
  */
 class OrbitCamera
 {
 public:
+    /** Upright, whatever the roll was. */
     void setDirection(ViewDirection direction);
+    /** Looks along the axis from the nearer end, with the next edge of the picture upwards. */
+    void setNearestAlong(ViewAxis axis);
+    /** Rolls the picture counter-clockwise. */
+    void roll(double degrees);
+    /** Looks from the opposite side; what is up stays up. */
+    void flip();
     /** Turns the object as if its near side were dragged; stops straight above and below. */
     void orbit(double rightDegrees, double downDegrees);
     /** Moves the object along with the pointer. */
@@ -58,12 +75,14 @@ public:
 
     double yaw() const { return m_yaw; }
     double pitch() const { return m_pitch; }
+    double rolled() const { return m_roll; }
     double pixelsPerMm() const { return m_pixelsPerMm; }
     ViewTransform transform(const QSizeF& viewport) const;
 
 private:
     double m_yaw = -35;
     double m_pitch = 30;
+    double m_roll = 0;
     double m_pixelsPerMm = 1;
     double m_fittedPixelsPerMm = 1;
     QVector3D m_target;

@@ -246,11 +246,12 @@ void Rasterizer::drawPoint(int x, int y, float depth)
 }
 
 QImage renderMesh(Rasterizer& rasterizer, const DrawableMesh& mesh, const ViewTransform& view,
-                  const QSize& pixels, const MeshColours& colours, int samples)
+                  const QSize& pixels, const MeshColours& colours, int samples, MeshLook look)
 {
     rasterizer.begin(pixels * samples, colours);
     const ViewTransform scaled = view.scaled(samples);
-    rasterizer.drawTriangles(mesh, scaled);
+    if (look == MeshLook::Surfaces)
+        rasterizer.drawTriangles(mesh, scaled);
     rasterizer.drawEdges(mesh, scaled, samples);
     if (samples == 1)
         return rasterizer.image();

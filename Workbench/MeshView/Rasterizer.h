@@ -69,8 +69,16 @@ private:
     QRgb m_edge = 0;
 };
 
+enum class MeshLook
+{
+    Surfaces,
+    /** Borders and folds alone, also those behind. */
+    Outlines
+};
+
 /** One picture. With `samples` 2, drawn twice as large and averaged, for smooth outlines. */
 QImage renderMesh(Rasterizer& rasterizer, const DrawableMesh& mesh, const ViewTransform& view,
-                  const QSize& pixels, const MeshColours& colours, int samples);
+                  const QSize& pixels, const MeshColours& colours, int samples,
+                  MeshLook look = MeshLook::Surfaces);
 
 } // namespace Zorvane::Workbench

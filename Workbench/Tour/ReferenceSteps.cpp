@@ -1,12 +1,12 @@
 #include "Workbench/Tour/Tour.h"
 
 #include "Utilities/ReferenceIndicatorDelegate.h"
+#include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/Edit/EngineeringSpinBox.h"
 #include "Workbench/Edit/QuantityPanel.h"
 #include "Workbench/MeshView/MeshView.h"
 #include "Workbench/Window/Language.h"
 #include "Workbench/Window/MainWindow.h"
-#include "Workbench/Window/WindowActions.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
@@ -49,7 +49,7 @@ void Tour::showReferences()
                     QStringLiteral("read aloud: ") + usedBy(row, Qt::AccessibleTextRole));
     m_report.expect(usedBy(row, Qt::ToolTipRole).contains(QStringLiteral("Trimmed panel")),
                     QStringLiteral("the names as tool tip"));
-    (*m_window.findChild<WindowActions*>())[WindowActions::GoToReference]->trigger();
+    m_window.commands()[WorkbenchActions::GoToReference]->trigger();
     m_driver.settle();
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     m_report.expect(menu != nullptr && menu->actions().size() == 5,

@@ -117,7 +117,7 @@ bool makeVersion1(const QString& file)
 /** Wherever the menus have it. */
 QAction* commandNamed(QWidget& window, const QString& text)
 {
-    for (QAction* action : window.findChildren<QAction*>())
+    for (QAction* action : window.actions())
         if (QString(action->text()).remove(QLatin1Char('&')).startsWith(text))
             return action;
     return nullptr;
@@ -196,7 +196,7 @@ void Tour::runASimulation()
     int done = 0;
     const auto progress = QObject::connect(&runner, &SimulationRunner::progressed, &m_window,
                                            [&done](int strokes, int) { done = strokes; });
-    QAction* start = commandNamed(m_window, QStringLiteral("Start Simulation"));
+    QAction* start = commandNamed(m_window, QStringLiteral("Compute"));
     if (start != nullptr)
         start->trigger();
     m_report.expect(runner.isRunning(), QStringLiteral("it runs"));

@@ -1,5 +1,6 @@
 #include "Workbench/Tour/Tour.h"
 
+#include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/MeshView/MeshView.h"
 #include "Workbench/Meshes/MeshWriter.h"
 #include "Workbench/Stress/StressWindow.h"
@@ -12,7 +13,6 @@
 #include "Workbench/Window/ProblemsPanel.h"
 #include "Workbench/Window/ReadingProgress.h"
 #include "Workbench/Window/SampleDesigns.h"
-#include "Workbench/Window/WindowActions.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
@@ -374,7 +374,7 @@ void Tour::lookAndCancel()
 void Tour::takeUpReading()
 {
     m_report.beginStep(text("Reading cancelled, and taken up again"),
-                       text("Cancel has stopped the reading; Reload reads what is wanting."));
+                       text("Cancel has stopped the reading; Reopen reads what is wanting."));
     m_report.expect(m_driver.waitUntilRead(), text("the reading has stopped"));
     m_report.expect(!m_window.readingProgress().isVisible(), text("no progress any more"));
     const IDCombiner last = m_window.session().looseParts().back().id;
@@ -460,7 +460,7 @@ void Tour::stressATree()
     m_report.beginStep(text("A tree under stress"),
                        text("A tree of 10,000 rows, refreshed over and over with edits at random "
                             "places: few announcements, and every row keeps its place."));
-    (*m_window.findChild<WindowActions*>())[WindowActions::StressTree]->trigger();
+    m_window.commands()[WorkbenchActions::StressTree]->trigger();
     auto* stress = m_window.findChild<StressWindow*>();
     m_report.expect(stress && stress->isVisible(), text("the window of the menu Tools"));
     if (!stress)

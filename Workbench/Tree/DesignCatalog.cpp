@@ -231,6 +231,7 @@ void DesignCatalog::addOperations(const Design& design) const
             CatalogEntry entry{ObjectKind::Tool, tool.name,
                                wordText(s_toolWords, tool.kind, tr("Tool"))};
             addQuantities(entry, tool.id, design);
+            entry.toolSide = toolSideFromWord(tool.kind);
             entry.particulars.emplace_back(tr("Operation"), operation.name);
             add(tool.id, std::move(entry), design, design.findGeometry(tool.id));
         }

@@ -32,6 +32,8 @@ struct CatalogEntry
     bool hasFile = false;
     bool isMesh = false;
     FileState fileState = FileState::Exists;
+    /** Of a tool. */
+    ToolSide toolSide = ToolSide::Unknown;
     bool modified = false;
     bool changedOnDisk = false;
     /** Such as "Thickness" and "0.8 mm", translated; beyond what every object has. */

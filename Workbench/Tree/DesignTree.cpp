@@ -120,6 +120,11 @@ void DesignTree::setKindShown(ObjectKind kind, bool shown)
     m_kindFilter->setShown(kind, shown);
 }
 
+void DesignTree::setToolSideShown(ToolSide side, bool shown)
+{
+    m_kindFilter->setToolSideShown(side, shown);
+}
+
 bool DesignTree::isFiltered() const
 {
     return m_nameFilter->isActive() || m_kindFilter->isActive();

@@ -52,6 +52,8 @@ public:
 
     void setFilterText(const QString& text);
     void setKindShown(ObjectKind kind, bool shown);
+    /** Of the tools, as far as they are shown at all. */
+    void setToolSideShown(ToolSide side, bool shown);
     bool isFiltered() const;
 
     /** The id of a row; null for an invalid index. */

@@ -15,12 +15,19 @@ void KindFilter::setShown(ObjectKind kind, bool shown)
         m_changed();
 }
 
+void KindFilter::setToolSideShown(ToolSide side, bool shown)
+{
+    const bool differs = shown ? m_hiddenSides.erase(side) > 0 : m_hiddenSides.insert(side).second;
+    if (differs)
+        m_changed();
+}
+
 bool KindFilter::accept(const IDCombiner& id)
 {
-    if (m_hidden.empty())
+    if (!isActive())
         return true;
     const CatalogEntry* entry = m_catalog.find(id);
-    return entry != nullptr && isShown(entry->kind);
+    return entry != nullptr && isShown(entry->kind) && m_hiddenSides.count(entry->toolSide) == 0;
 }
 
 Signals::Connection KindFilter::connectToChanged(const Signals::Slot<void()>& slot)

@@ -10,7 +10,7 @@ namespace Zorvane::Workbench {
 
 class DesignCatalog;
 
-/** Accepts objects of the kinds not hidden; none is at first. The catalog must outlive it. */
+/** Accepts objects of the kinds not hidden, and tools of the sides not hidden; none is at first. The catalog must outlive it. */
 class KindFilter : public GenericTreeViewModelHandling::ModelItemFilterInterface
 {
 public:
@@ -18,8 +18,9 @@ public:
 
     /** Announced when it makes a difference. */
     void setShown(ObjectKind kind, bool shown);
+    void setToolSideShown(ToolSide side, bool shown);
     bool isShown(ObjectKind kind) const { return m_hidden.count(kind) == 0; }
-    bool isActive() const { return !m_hidden.empty(); }
+    bool isActive() const { return !m_hidden.empty() || !m_hiddenSides.empty(); }
 
     using ModelItemFilterInterface::accept;
     bool accept(const IDCombiner& id) override;
@@ -28,6 +29,7 @@ public:
 private:
     const DesignCatalog& m_catalog;
     std::set<ObjectKind> m_hidden;
+    std::set<ToolSide> m_hiddenSides;
     Signals::Signal<void()> m_changed;
 };
 

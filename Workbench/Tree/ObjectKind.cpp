@@ -32,6 +32,17 @@ const KindRow& rowOf(ObjectKind kind)
 
 } // namespace
 
+ToolSide toolSideFromWord(const QString& word)
+{
+    for (const char* const upper : {"die", "pad", "steel"})
+        if (word == QLatin1String(upper))
+            return ToolSide::Upper;
+    for (const char* const lower : {"punch", "binder", "post"})
+        if (word == QLatin1String(lower))
+            return ToolSide::Lower;
+    return ToolSide::Unknown;
+}
+
 QString pluralText(ObjectKind kind)
 {
     return QCoreApplication::translate("Zorvane::Workbench::ObjectKind", rowOf(kind).plural);

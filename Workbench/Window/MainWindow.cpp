@@ -2,9 +2,13 @@
 
 #include "Files/LastPathProvider.h"
 #include "Host/Widgets/ZVMessageBox.h"
+#include "Workbench/Commands/DisplayToggles.h"
 #include "Workbench/Commands/FileCommands.h"
+#include "Workbench/Commands/ViewCommands.h"
+#include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/Edit/QuantityPanel.h"
 #include "Workbench/Edit/ReferenceMenu.h"
+#include "Workbench/Help/HelpWindow.h"
 #include "Workbench/Import/FileExchange.h"
 #include "Workbench/MeshView/MeshView.h"
 #include "Workbench/Meshes/MeshReader.h"
@@ -22,7 +26,6 @@
 #include "Workbench/Window/ReadingProgress.h"
 #include "Workbench/Window/RecentPaths.h"
 #include "Workbench/Window/SampleDesigns.h"
-#include "Workbench/Window/WindowActions.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -77,7 +80,7 @@ QStringList localPaths(const QMimeData& data)
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
     , m_tree((initializeResources(), new DesignTree(m_session, m_loader, this)))
-    , m_actions(new WindowActions(this))
+    , m_commands(new WindowCommands(*this))
     , m_history(new EditHistory(m_session, this))
     , m_factsReader(new FactsReader(m_session, m_loader, this))
     , m_designView(new BaseView(this))
@@ -96,17 +99,16 @@ MainWindow::MainWindow(QWidget* parent)
     , m_messageBar(new MessageBar(this))
     , m_progress(new ReadingProgress(m_loader, this))
     , m_counts(new QLabel(this))
+    , m_toggles(new DisplayToggles(*m_commands, *m_filterBar, *m_tree, *m_meshView, this))
 {
     // What the library's dialogs look for: whom to block, and where to open.
     qApp->setProperty(s_mainWindowProperty, QVariant::fromValue<QWidget*>(this));
     setWindowIcon(QIcon(QStringLiteral(":/workbench/application.svg")));
     setAcceptDrops(true);
     layOut();
-    fillMenus();
-    fillToolBar();
+    fillSubMenus();
     fillStatusBar();
     connectActions();
-    connectViewActions();
     connectParts();
     connectFileCommands();
     connectSaving();
@@ -197,48 +199,17 @@ QWidget* MainWindow::createMeshSide()
     return m_meshAndDetails;
 }
 
-void MainWindow::fillMenus()
+void MainWindow::fillSubMenus()
 {
-    fillFileMenu();
-    fillEditMenu();
-    fillViewMenu();
-    m_actions->addTo(*menuBar()->addMenu(tr("&Tools")),
-                     {WindowActions::StartSimulation, WindowActions::StopSimulation,
-                      WindowActions::ConvertMeshes, WindowActions::StressTree});
-    m_actions->addTo(*menuBar()->addMenu(tr("&Help")),
-                     {WindowActions::About, WindowActions::AboutQt});
-}
-
-void MainWindow::fillFileMenu()
-{
-    QMenu* file = menuBar()->addMenu(tr("&File"));
-    m_actions->addTo(*file, {WindowActions::OpenFolder, WindowActions::OpenFiles});
-    QMenu* recent = file->addMenu(tr("Open Re&cent"));
-    connect(recent, &QMenu::aboutToShow, this, [this, recent] { showRecent(*recent); });
-    QMenu* samples = file->addMenu(tr("Open Sa&mple"));
+    QMenu& recent = m_commands->subMenu(CommandSubMenu::Recent);
+    connect(&recent, &QMenu::aboutToShow, this, [this, &recent] { showRecent(recent); });
+    QMenu& samples = m_commands->subMenu(CommandSubMenu::Samples);
     for (const SampleDesign& sample : sampleDesigns())
-        connect(samples->addAction(sample.name), &QAction::triggered, this,
+        connect(samples.addAction(sample.name), &QAction::triggered, this,
                 [this, folder = sample.folder] { open({folder}); });
-    samples->setEnabled(!samples->isEmpty());
-    file->addSeparator();
-    m_actions->addTo(*file, {WindowActions::Import, WindowActions::Export});
-    file->addSeparator();
-    m_actions->addTo(*file, {WindowActions::Save, WindowActions::SaveAs, WindowActions::SaveCopy});
-    file->addSeparator();
-    m_actions->addTo(*file, {WindowActions::Reload, WindowActions::CloseAll});
-    file->addSeparator();
-    m_actions->addTo(*file, {WindowActions::Quit});
-}
-
-void MainWindow::fillEditMenu()
-{
-    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
-    m_actions->addTo(*edit, {WindowActions::Undo, WindowActions::Redo});
-    edit->addSeparator();
-    m_actions->addTo(*edit, {WindowActions::Rename, WindowActions::Remove, WindowActions::Find,
-                             WindowActions::GoToReference});
-    showHistory();
-    connect(&m_history->stack(), &QUndoStack::indexChanged, this, &MainWindow::showHistory);
+    samples.setEnabled(!samples.isEmpty());
+    addModes(m_commands->subMenu(CommandSubMenu::Mode));
+    addAppearances(m_commands->subMenu(CommandSubMenu::Appearance));
 }
 
 void MainWindow::showHistory()
@@ -248,27 +219,28 @@ void MainWindow::showHistory()
         // A name's own "&" marks no key.
         return text.arg(edit.replace(QLatin1Char('&'), QLatin1String("&&")));
     };
-    (*m_actions)[WindowActions::Undo]->setEnabled(stack.canUndo());
-    (*m_actions)[WindowActions::Undo]->setText(
-        stack.canUndo() ? command(tr("&Undo: %1"), stack.undoText()) : tr("&Undo"));
-    (*m_actions)[WindowActions::Redo]->setEnabled(stack.canRedo());
-    (*m_actions)[WindowActions::Redo]->setText(
-        stack.canRedo() ? command(tr("Re&do: %1"), stack.redoText()) : tr("Re&do"));
+    QAction* const undo = (*m_commands)[ZVMainActions::Undo];
+    undo->setEnabled(stack.canUndo());
+    undo->setText(stack.canUndo() ? command(tr("&Undo: %1"), stack.undoText()) : tr("&Undo"));
+    QAction* const redo = (*m_commands)[ZVMainActions::Redo];
+    redo->setEnabled(stack.canRedo());
+    redo->setText(stack.canRedo() ? command(tr("Re&do: %1"), stack.redoText()) : tr("Re&do"));
 }
 
-void MainWindow::fillViewMenu()
+void MainWindow::addModes(QMenu& menu)
 {
-    QMenu* view = menuBar()->addMenu(tr("&View"));
-    m_actions->addTo(*view, {WindowActions::Fit, WindowActions::ZoomIn, WindowActions::ZoomOut});
-    view->addSeparator();
-    m_actions->addTo(*view,
-                     {WindowActions::ViewIsometric, WindowActions::ViewTop,
-                      WindowActions::ViewBottom, WindowActions::ViewFront, WindowActions::ViewBack,
-                      WindowActions::ViewLeft, WindowActions::ViewRight});
-    view->addSeparator();
-    m_actions->addTo(*view, {WindowActions::ExpandAll, WindowActions::CollapseAll});
-    view->addSeparator();
-    addAppearances(*view->addMenu(tr("&Appearance")));
+    auto* group = new QActionGroup(this);
+    const std::pair<WindowMode, QString> choices[] = {{WindowMode::Forming, tr("&Forming")},
+                                                      {WindowMode::Tube, tr("&Tube")},
+                                                      {WindowMode::Tandrel, tr("Tan&drel")}};
+    for (const auto& [mode, text] : choices) {
+        QAction* action = menu.addAction(text);
+        action->setCheckable(true);
+        action->setChecked(mode == m_commands->mode());
+        group->addAction(action);
+        connect(action, &QAction::triggered, this,
+                [this, chosen = mode] { m_commands->setMode(chosen); });
+    }
 }
 
 void MainWindow::addAppearances(QMenu& menu)
@@ -301,19 +273,6 @@ void MainWindow::showRecent(QMenu& menu)
     connect(menu.addAction(tr("Clear")), &QAction::triggered, &RecentPaths::clear);
 }
 
-void MainWindow::fillToolBar()
-{
-    QToolBar* bar = addToolBar(tr("Tools"));
-    bar->setObjectName(QStringLiteral("tools"));
-    bar->setIconSize(QSize(18, 18));
-    bar->setMovable(false);
-    m_actions->addTo(*bar, {WindowActions::OpenFolder, WindowActions::Save, WindowActions::Reload});
-    bar->addSeparator();
-    m_actions->addTo(*bar,
-                     {WindowActions::Fit, WindowActions::ViewIsometric, WindowActions::ViewTop,
-                      WindowActions::ViewFront, WindowActions::ViewRight});
-}
-
 void MainWindow::fillStatusBar()
 {
     m_counts->setContentsMargins(6, 0, 6, 0);
@@ -325,59 +284,41 @@ void MainWindow::fillStatusBar()
 
 void MainWindow::connectActions()
 {
-    const auto on = [this](WindowActions::Id id, auto operation) {
-        connect((*m_actions)[id], &QAction::triggered, this, operation);
-    };
-    on(WindowActions::OpenFiles, [this] { m_fileCommands->openFiles(); });
-    on(WindowActions::OpenFolder, [this] { m_fileCommands->openFolder(); });
-    on(WindowActions::Import, &MainWindow::importFiles);
-    on(WindowActions::Export, &MainWindow::exportFiles);
-    on(WindowActions::Save, [this] {
+    const auto on = [this](auto id, auto operation) { m_commands->on(id, this, operation); };
+    on(ZVMainActions::Open, [this] { m_fileCommands->openFiles(); });
+    on(ZVMainActions::Export, &MainWindow::exportFiles);
+    on(ZVMainActions::Save, [this] {
         hideMessages();
         m_saving->saveAll();
     });
-    on(WindowActions::StartSimulation, [this] {
+    on(ZVMainActions::ComputeSimulation, [this] {
         hideMessages();
         m_saving->start(currentDesign());
     });
-    on(WindowActions::StopSimulation, [this] { m_runner->stop(); });
-    on(WindowActions::SaveAs, [this] { m_fileCommands->saveAs(currentDesign()); });
-    on(WindowActions::SaveCopy, [this] { m_fileCommands->saveCopy(currentDesign()); });
-    on(WindowActions::Reload, &MainWindow::reload);
-    on(WindowActions::CloseAll, &MainWindow::closeAll);
-    on(WindowActions::Quit, &MainWindow::close);
-    on(WindowActions::Undo, [this] { m_history->undo(); });
-    on(WindowActions::Redo, [this] { m_history->redo(); });
-    on(WindowActions::Rename, &MainWindow::rename);
-    on(WindowActions::Remove, &MainWindow::removeCurrent);
-    on(WindowActions::Find, [this] { m_filterBar->focusText(); });
-    on(WindowActions::GoToReference, &MainWindow::goToReference);
-    on(WindowActions::ExpandAll, [this] { m_tree->expandAll(); });
-    on(WindowActions::CollapseAll, [this] { m_tree->collapseAll(); });
-    on(WindowActions::ConvertMeshes, [this] { m_converter.run(); });
-    on(WindowActions::StressTree, &MainWindow::showStress);
-    on(WindowActions::About, &MainWindow::about);
-    on(WindowActions::AboutQt, [] { QApplication::aboutQt(); });
-}
-
-void MainWindow::connectViewActions()
-{
-    const auto on = [this](WindowActions::Id id, auto operation) {
-        connect((*m_actions)[id], &QAction::triggered, m_meshView, operation);
-    };
-    const auto direction = [&](WindowActions::Id id, ViewDirection from) {
-        on(id, [this, from] { m_meshView->setDirection(from); });
-    };
-    on(WindowActions::Fit, &MeshView::fit);
-    on(WindowActions::ZoomIn, &MeshView::zoomIn);
-    on(WindowActions::ZoomOut, &MeshView::zoomOut);
-    direction(WindowActions::ViewIsometric, ViewDirection::Isometric);
-    direction(WindowActions::ViewTop, ViewDirection::Top);
-    direction(WindowActions::ViewBottom, ViewDirection::Bottom);
-    direction(WindowActions::ViewFront, ViewDirection::Front);
-    direction(WindowActions::ViewBack, ViewDirection::Back);
-    direction(WindowActions::ViewLeft, ViewDirection::Left);
-    direction(WindowActions::ViewRight, ViewDirection::Right);
+    on(WorkbenchActions::StopSimulation, [this] { m_runner->stop(); });
+    on(ZVMainActions::SaveAs, [this] { m_fileCommands->saveAs(currentDesign()); });
+    on(WorkbenchActions::SaveCopy, [this] { m_fileCommands->saveCopy(currentDesign()); });
+    on(ZVMainActions::ReOpen, &MainWindow::reload);
+    on(ZVMainActions::Close, &MainWindow::closeAll);
+    on(ZVMainActions::Exit, &MainWindow::close);
+    on(WorkbenchActions::OpenFolder, [this] { m_fileCommands->openFolder(); });
+    on(WorkbenchActions::Import, &MainWindow::importFiles);
+    on(ZVMainActions::Undo, [this] { m_history->undo(); });
+    on(ZVMainActions::Redo, [this] { m_history->redo(); });
+    on(WorkbenchActions::Rename, &MainWindow::rename);
+    on(WorkbenchActions::Remove, &MainWindow::removeCurrent);
+    on(WorkbenchActions::Find, [this] { m_filterBar->focusText(); });
+    on(WorkbenchActions::GoToReference, &MainWindow::goToReference);
+    on(WorkbenchActions::ExpandAll, [this] { m_tree->expandAll(); });
+    on(WorkbenchActions::CollapseAll, [this] { m_tree->collapseAll(); });
+    on(WorkbenchActions::ConvertMeshes, [this] { m_converter.run(); });
+    on(WorkbenchActions::StressTree, &MainWindow::showStress);
+    on(WorkbenchActions::About, &MainWindow::about);
+    on(WorkbenchActions::AboutQt, [] { QApplication::aboutQt(); });
+    on(ZVGlobalActions::HelpContents, &MainWindow::showHelp);
+    connectViewCommands(*m_commands, *m_meshView);
+    showHistory();
+    connect(&m_history->stack(), &QUndoStack::indexChanged, this, &MainWindow::showHistory);
 }
 
 void MainWindow::connectParts()
@@ -452,10 +393,10 @@ void MainWindow::showCurrent()
     m_meshPresenter->show(m_tree->currentId());
     m_details->show(m_tree->catalog(), m_tree->currentId());
     const GUIdentifier object = m_tree->currentId().getCombinedPart();
-    (*m_actions)[WindowActions::Rename]->setEnabled(m_session.canRename(object));
-    (*m_actions)[WindowActions::Remove]->setEnabled(m_session.canTake(object));
-    (*m_actions)[WindowActions::Export]->setEnabled(m_exchange->canExport(object));
-    (*m_actions)[WindowActions::GoToReference]->setEnabled(
+    (*m_commands)[WorkbenchActions::Rename]->setEnabled(m_session.canRename(object));
+    (*m_commands)[WorkbenchActions::Remove]->setEnabled(m_session.canTake(object));
+    (*m_commands)[ZVMainActions::Export]->setEnabled(m_exchange->canExport(object));
+    (*m_commands)[WorkbenchActions::GoToReference]->setEnabled(
         m_references->leadsAnywhere(m_tree->currentId()));
     m_quantities->show(object);
 }
@@ -471,14 +412,16 @@ void MainWindow::showSession()
     const QString program = tr("Zorvane Workbench");
     setWindowTitle(subject.isEmpty() ? program : tr("%1[*] – %2").arg(subject, program));
     setWindowModified(!subject.isEmpty() && m_session.isModified());
-    (*m_actions)[WindowActions::Save]->setEnabled(m_session.isModified());
+    (*m_commands)[ZVMainActions::Save]->setEnabled(m_session.isModified());
     const bool something = !designs.empty() || !m_session.looseParts().empty();
-    for (const WindowActions::Id id :
-         {WindowActions::Import, WindowActions::SaveAs, WindowActions::SaveCopy})
-        (*m_actions)[id]->setEnabled(!designs.empty());
+    for (QAction* const action :
+         {(*m_commands)[WorkbenchActions::Import], (*m_commands)[ZVMainActions::SaveAs],
+          (*m_commands)[WorkbenchActions::SaveCopy]})
+        action->setEnabled(!designs.empty());
     const bool anything = something || !m_session.problems().empty();
-    (*m_actions)[WindowActions::Reload]->setEnabled(anything);
-    (*m_actions)[WindowActions::CloseAll]->setEnabled(anything);
+    (*m_commands)[ZVMainActions::ReOpen]->setEnabled(anything);
+    (*m_commands)[ZVMainActions::Close]->setEnabled(anything);
+    m_toggles->setEnabled(something);
 }
 
 QString MainWindow::countsText() const
@@ -541,9 +484,9 @@ void MainWindow::connectSaving()
     connect(m_saving, &DesignSaving::done, this,
             [this](const QString& text) { statusBar()->showMessage(text, s_noticeMilliseconds); });
     const auto showRun = [this] {
-        (*m_actions)[WindowActions::StartSimulation]->setEnabled(!m_runner->isRunning() &&
-                                                                 !m_session.designs().empty());
-        (*m_actions)[WindowActions::StopSimulation]->setEnabled(m_runner->isRunning());
+        (*m_commands)[ZVMainActions::ComputeSimulation]->setEnabled(!m_runner->isRunning() &&
+                                                                    !m_session.designs().empty());
+        (*m_commands)[WorkbenchActions::StopSimulation]->setEnabled(m_runner->isRunning());
     };
     connect(m_runner, &SimulationRunner::progressed, this, showRun);
     connect(m_runner, &SimulationRunner::finished, this, showRun);
@@ -657,6 +600,15 @@ void MainWindow::showStress()
     m_stress->activateWindow();
 }
 
+void MainWindow::showHelp()
+{
+    if (!m_help)
+        m_help = new HelpWindow(this);
+    m_help->show();
+    m_help->raise();
+    m_help->activateWindow();
+}
+
 void MainWindow::about()
 {
     QMessageBox::about(this, tr("About the Workbench"),
@@ -668,7 +620,7 @@ void MainWindow::about()
 void MainWindow::tellConflict(const GUIdentifier& designId)
 {
     m_messageBar->say(tr("Another program has changed the file of %1, which has unsaved changes "
-                         "here. Save replaces its version, Reload drops yours.")
+                         "here. Save replaces its version, Reopen drops yours.")
                           .arg(m_session.name(designId)));
 }
 

@@ -20,11 +20,13 @@ namespace Zorvane::Workbench {
 
 class DesignSaving;
 class DetailsPanel;
+class DisplayToggles;
 class EditHistory;
 class FactsReader;
 class FileCommands;
 class FileExchange;
 class FilterBar;
+class HelpWindow;
 class MeshPresenter;
 class MeshView;
 class MessageBar;
@@ -34,7 +36,7 @@ class ReadingProgress;
 class ReferenceMenu;
 class SimulationRunner;
 class StressWindow;
-class WindowActions;
+class WindowCommands;
 
 /**
  * The Workbench's window: the tree of what is open with its filters, the mesh and the details of
@@ -71,6 +73,7 @@ public:
     DesignSaving& saving() { return *m_saving; }
     SimulationRunner& simulation() { return *m_runner; }
     EditHistory& history() { return *m_history; }
+    WindowCommands& commands() { return *m_commands; }
     FileExchange& fileExchange() { return *m_exchange; }
     FilterBar& filterBar() { return *m_filterBar; }
     QuantityPanel& quantityPanel() { return *m_quantities; }
@@ -89,17 +92,13 @@ private:
     double digitWidth() const;
     QWidget* createTreeSide();
     QWidget* createMeshSide();
-    void fillMenus();
-    void fillFileMenu();
-    void fillEditMenu();
-    void fillViewMenu();
-    void fillToolBar();
+    void fillSubMenus();
     void fillStatusBar();
     void connectActions();
-    void connectViewActions();
     void connectParts();
     void connectFileCommands();
     void connectSaving();
+    void addModes(QMenu& menu);
     void addAppearances(QMenu& menu);
     void showRecent(QMenu& menu);
 
@@ -113,6 +112,7 @@ private:
     void setQuantity(const GUIdentifier& object, Quantity quantity, double value);
     void showStress();
     void hideMessages();
+    void showHelp();
     void about();
 
     void showCurrent();
@@ -126,7 +126,7 @@ private:
     DesignSession m_session;
     MeshLoader m_loader;
     DesignTree* m_tree;
-    WindowActions* m_actions;
+    WindowCommands* m_commands;
     EditHistory* m_history;
     FactsReader* m_factsReader;
     BaseView* m_designView;
@@ -145,6 +145,8 @@ private:
     MessageBar* m_messageBar;
     ReadingProgress* m_progress;
     QLabel* m_counts;
+    DisplayToggles* m_toggles;
+    QPointer<HelpWindow> m_help;
     QPointer<StressWindow> m_stress;
     MeshConverter m_converter{this};
     QSplitter* m_sides = nullptr;

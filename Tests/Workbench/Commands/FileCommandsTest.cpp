@@ -77,7 +77,7 @@ void FileCommandsTest::cleanup()
 
 QAction* FileCommandsTest::action(const char* text) const
 {
-    for (QAction* found : m_window->findChildren<QAction*>())
+    for (QAction* found : m_window->actions())
         if (found->text().remove(QLatin1Char('&')) == QString::fromUtf8(text))
             return found;
     return nullptr;
@@ -87,7 +87,7 @@ void FileCommandsTest::openFilesOpensWhatWasChosen()
 {
     m_script.files =
         QStringList{m_files->designFile(), m_files->outsideMesh(QStringLiteral("a.stl"))};
-    trigger("Open Files…");
+    trigger("Open...");
     QCOMPARE(int(m_window->session().designs().size()), 1);
     QCOMPARE(int(m_window->session().looseParts().size()), 1);
     QCOMPARE(m_script.asked.filters,
@@ -105,7 +105,7 @@ void FileCommandsTest::openFolderOpensIt()
 void FileCommandsTest::cancelledDialogsChangeNothing_data()
 {
     QTest::addColumn<QString>("command");
-    for (const char* command : {"Open Files…", "Open Folder…", "Save As…", "Save a Copy…"})
+    for (const char* command : {"Open...", "Open Folder…", "Save As...", "Save a Copy…"})
         QTest::newRow(command) << QString::fromUtf8(command);
 }
 
@@ -126,7 +126,7 @@ void FileCommandsTest::cancelledDialogsChangeNothing()
 void FileCommandsTest::dialogsOpenWhereTheLastDesignWas()
 {
     openDesign();
-    trigger("Open Files…");
+    trigger("Open...");
     QCOMPARE(QDir(m_script.opened), QDir(m_files->folder.path()));
     trigger("Open Folder…");
     QCOMPARE(QDir(m_script.opened), QDir(m_files->folder.path()));
@@ -134,12 +134,12 @@ void FileCommandsTest::dialogsOpenWhereTheLastDesignWas()
 
 void FileCommandsTest::savingWantsADesign()
 {
-    QVERIFY(!action("Save As…")->isEnabled());
+    QVERIFY(!action("Save As...")->isEnabled());
     QVERIFY(!action("Save a Copy…")->isEnabled());
     m_window->open({m_files->outsideMesh(QStringLiteral("a.stl"))});
-    QVERIFY(!action("Save As…")->isEnabled());
+    QVERIFY(!action("Save As...")->isEnabled());
     openDesign();
-    QVERIFY(action("Save As…")->isEnabled());
+    QVERIFY(action("Save As...")->isEnabled());
     QVERIFY(action("Save a Copy…")->isEnabled());
     QVERIFY(!m_window->fileCommands().saveAs(GUIdentifier::create()));
     QVERIFY(!m_window->fileCommands().saveCopy(GUIdentifier()));
@@ -186,7 +186,7 @@ void FileCommandsTest::saveAsBesideTheDesign()
     openDesign();
     const GUIdentifier part = firstPart();
     m_script.saved = m_files->path(QStringLiteral("second.dsg"));
-    trigger("Save As…");
+    trigger("Save As...");
     QCOMPARE(m_script.proposed, QStringLiteral("small.dsg"));
     QCOMPARE(int(m_window->session().designs().size()), 1);
     QCOMPARE(QFileInfo(m_window->session().designs().front().file).fileName(),
@@ -203,7 +203,7 @@ void FileCommandsTest::saveAsElsewhereTakesTheFilesAlong()
 {
     openDesign();
     m_script.saved = m_files->elsewhere.filePath(QStringLiteral("moved.dsg"));
-    trigger("Save As…");
+    trigger("Save As...");
     const Design& design = m_window->session().designs().front();
     QCOMPARE(QDir(design.folder()), QDir(m_files->elsewhere.path()));
     for (const FileReference& file : design.files)
@@ -218,7 +218,7 @@ void FileCommandsTest::saveAsLeavesTheFormerDesign()
     const QByteArray before = Testing::readFile(m_files->designFile());
     m_window->session().rename(firstPart(), QStringLiteral("Other"));
     m_script.saved = m_files->path(QStringLiteral("second.dsg"));
-    trigger("Save As…");
+    trigger("Save As...");
     QCOMPARE(Testing::readFile(m_files->designFile()), before);
     QVERIFY(Testing::readFile(m_script.saved).contains("\"Other\""));
     QVERIFY(!m_window->session().isModified());
@@ -241,7 +241,7 @@ void FileCommandsTest::saveAsInTheOrderOfDesigns()
 void FileCommandsTest::openDesignsAreNotReplaced_data()
 {
     QTest::addColumn<QString>("command");
-    QTest::newRow("as") << QStringLiteral("Save As…");
+    QTest::newRow("as") << QStringLiteral("Save As...");
     QTest::newRow("copy") << QStringLiteral("Save a Copy…");
 }
 
@@ -262,7 +262,7 @@ void FileCommandsTest::otherEndingsAreRefused()
 {
     openDesign();
     m_script.saved = m_files->path(QStringLiteral("second.txt"));
-    trigger("Save As…");
+    trigger("Save As...");
     QVERIFY(message().endsWith(QStringLiteral("it must end with .dsg")));
     QVERIFY(!QFile::exists(m_script.saved));
 }
@@ -275,7 +275,7 @@ void FileCommandsTest::whatCannotBeWrittenIsTold()
     m_script.saved = m_files->path(QStringLiteral("folder.dsg"));
     trigger("Save a Copy…");
     QVERIFY2(message().contains(QStringLiteral("cannot be written")), qPrintable(message()));
-    trigger("Save As…");
+    trigger("Save As...");
     QVERIFY2(message().contains(QStringLiteral("cannot be written")), qPrintable(message()));
     QCOMPARE(firstPart(), part);
 }

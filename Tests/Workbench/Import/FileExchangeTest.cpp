@@ -65,7 +65,7 @@ void FileExchangeTest::cleanup()
 
 QAction* FileExchangeTest::action(const QString& text) const
 {
-    for (QAction* found : m_window->findChildren<QAction*>())
+    for (QAction* found : m_window->actions())
         if (found->text().remove(QLatin1Char('&')) == text)
             return found;
     return nullptr;
@@ -168,7 +168,7 @@ void FileExchangeTest::exportCopiesTheSelection()
     m_window->tree().select(objectId(30));
     m_script.folder = m_files->elsewhere.path();
     ExpectedModals modals;
-    action(QStringLiteral("Export…"))->trigger();
+    action(QStringLiteral("Export..."))->trigger();
     QCOMPARE(Testing::readFile(m_files->elsewhere.filePath(QStringLiteral("steel.json"))),
              QByteArray("{}"));
     QVERIFY(m_window->statusBar()->currentMessage().startsWith(QStringLiteral("1 file copied")));
@@ -179,7 +179,7 @@ void FileExchangeTest::exportCancelledDoesNothing()
 {
     openDesign();
     ExpectedModals modals;
-    action(QStringLiteral("Export…"))->trigger();
+    action(QStringLiteral("Export..."))->trigger();
     QVERIFY(message().isEmpty());
     QVERIFY(m_window->statusBar()->currentMessage().isEmpty());
 }
@@ -190,20 +190,20 @@ void FileExchangeTest::exportTellsWhatIsWrongAndWhy()
     m_window->tree().select(objectId(30));
     m_script.folder = m_files->folder.path();
     ExpectedModals modals;
-    action(QStringLiteral("Export…"))->trigger();
+    action(QStringLiteral("Export..."))->trigger();
     QCOMPARE(message(), QDir::toNativeSeparators(m_files->path(QStringLiteral("steel.json"))) +
                             QStringLiteral(": lies in that folder already"));
 }
 
 void FileExchangeTest::exportNeedsAFile()
 {
-    QVERIFY(!action(QStringLiteral("Export…"))->isEnabled());
+    QVERIFY(!action(QStringLiteral("Export..."))->isEnabled());
     openDesign();
-    QVERIFY(action(QStringLiteral("Export…"))->isEnabled());
+    QVERIFY(action(QStringLiteral("Export..."))->isEnabled());
     m_window->tree().select(objectId(22));
-    QVERIFY(!action(QStringLiteral("Export…"))->isEnabled());
+    QVERIFY(!action(QStringLiteral("Export..."))->isEnabled());
     m_window->tree().select(objectId(1));
-    QVERIFY(!action(QStringLiteral("Export…"))->isEnabled());
+    QVERIFY(!action(QStringLiteral("Export..."))->isEnabled());
 }
 
 } // namespace Zorvane::Workbench

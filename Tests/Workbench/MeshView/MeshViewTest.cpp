@@ -141,7 +141,7 @@ void MeshViewTest::keysTurnMoveZoomAndFit_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("opposite");
-    QTest::addColumn<bool>("shift");
+    QTest::addColumn<bool>("control");
     QTest::newRow("turn left and right") << int(Qt::Key_Left) << int(Qt::Key_Right) << false;
     QTest::newRow("turn up and down") << int(Qt::Key_Up) << int(Qt::Key_Down) << false;
     QTest::newRow("move left and right") << int(Qt::Key_Left) << int(Qt::Key_Right) << true;
@@ -154,8 +154,8 @@ void MeshViewTest::keysTurnMoveZoomAndFit()
 {
     QFETCH(int, key);
     QFETCH(int, opposite);
-    QFETCH(bool, shift);
-    const Qt::KeyboardModifier modifier = shift ? Qt::ShiftModifier : Qt::NoModifier;
+    QFETCH(bool, control);
+    const Qt::KeyboardModifier modifier = control ? Qt::ControlModifier : Qt::NoModifier;
     m_view->setMesh(block(), QStringLiteral("Block"));
     const ViewTransform before = m_view->camera().transform(QSizeF(300, 200));
     const QVector3D corner = before.project({60, 40, 20});

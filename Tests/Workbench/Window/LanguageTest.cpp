@@ -66,7 +66,7 @@ void LanguageTest::tablesOfTextsAreTranslated()
     MainWindow window;
     QVERIFY(menuTitles(window).contains(QStringLiteral("Bearbeiten")));
     QStringList commands;
-    for (const QAction* action : window.findChildren<QAction*>())
+    for (const QAction* action : window.actions())
         commands << action->text().remove(QLatin1Char('&'));
     QVERIFY(commands.contains(QStringLiteral("Zum Bezug gehen")));
     QVERIFY(commands.contains(QStringLiteral("Umbenennen")));

@@ -11,7 +11,6 @@
 #include "Workbench/Window/MessageBar.h"
 #include "Workbench/Window/ProblemsPanel.h"
 #include "Workbench/Window/ReadingProgress.h"
-#include "Workbench/Window/WindowActions.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QAccessible>
@@ -119,7 +118,7 @@ void MainWindowTest::openDesign()
 
 void MainWindowTest::triggerText(const QString& text)
 {
-    for (QAction* action : m_window->findChildren<QAction*>())
+    for (QAction* action : m_window->actions())
         if (action->text().remove(QLatin1Char('&')) == text)
             return action->trigger();
     QFAIL(qPrintable(QStringLiteral("no action ") + text));
@@ -319,7 +318,7 @@ void MainWindowTest::reloadReadsWhatWasCancelled()
     m_window->readingProgress().findChild<QPushButton*>()->click();
     QTRY_VERIFY(!m_window->loader().isBusy());
     QVERIFY(!m_window->readingProgress().isVisible());
-    triggerText(QStringLiteral("Reload"));
+    triggerText(QStringLiteral("Reopen"));
     const QString file = m_files->path(QStringLiteral("geometry/die.stl"));
     QTRY_VERIFY(m_window->loader().facts(file));
 }
@@ -333,7 +332,7 @@ void MainWindowTest::reloadTriesAgainWhatCouldNotBeOpened()
     QVERIFY(m_window->session().designs().empty());
     Testing::writeFile(folder + QStringLiteral("/small.dsg"),
                        Testing::toText(Testing::smallDesign()));
-    triggerText(QStringLiteral("Reload"));
+    triggerText(QStringLiteral("Reopen"));
     QCOMPARE(m_window->session().designs().size(), std::size_t(1));
     QVERIFY(m_window->session().problems().empty());
 }
@@ -349,7 +348,7 @@ void MainWindowTest::aReferenceLeadsToThePart()
     triggerText(QStringLiteral("Go to Reference"));
     QVERIFY(m_window->tree().currentId() == IDCombiner(objectId(40)));
     QVERIFY(m_window->tree().select(objectId(20)));
-    for (const QAction* action : m_window->findChildren<QAction*>())
+    for (const QAction* action : m_window->actions())
         if (action->text().remove(QLatin1Char('&')) == QStringLiteral("Go to Reference"))
             QVERIFY(!action->isEnabled());
 }
@@ -414,7 +413,7 @@ void MainWindowTest::aMeasuredValueIsEdited()
 void MainWindowTest::closeAllForgetsEverything()
 {
     openDesign();
-    triggerText(QStringLiteral("Close All"));
+    triggerText(QStringLiteral("Close"));
     m_window->tree().refreshNow();
     QCOMPARE(m_window->tree().model().rowCount(), 0);
     QVERIFY(!m_window->meshView().hasMesh());

@@ -63,7 +63,7 @@ void WindowEditsTest::cleanup()
 /** The first one whose text begins so. */
 QAction* WindowEditsTest::action(const QString& text) const
 {
-    for (QAction* found : m_window->findChildren<QAction*>())
+    for (QAction* found : m_window->actions())
         if (QString(found->text()).remove(QLatin1Char('&')).startsWith(text))
             return found;
     return nullptr;
@@ -133,7 +133,7 @@ void WindowEditsTest::onlyWhatNothingRefersToIsRemoved()
 
 void WindowEditsTest::startAndStopFollowTheSimulation()
 {
-    QAction* start = action(QStringLiteral("Start Simulation"));
+    QAction* start = action(QStringLiteral("Compute"));
     QAction* stop = action(QStringLiteral("Stop Simulation"));
     QVERIFY(start->isEnabled() && !stop->isEnabled());
     m_window->simulation().setSteps(100000);
@@ -149,7 +149,7 @@ void WindowEditsTest::startAndStopFollowTheSimulation()
 void WindowEditsTest::resultsAreShownWhenTheSimulationIsDone()
 {
     m_window->simulation().setSteps(2);
-    action(QStringLiteral("Start Simulation"))->trigger();
+    action(QStringLiteral("Compute"))->trigger();
     QTRY_VERIFY_WITH_TIMEOUT(!m_window->simulation().isRunning(), patience);
     m_window->tree().refreshNow();
     const Design& design = m_window->session().designs().front();
@@ -161,7 +161,7 @@ void WindowEditsTest::resultsAreShownWhenTheSimulationIsDone()
 void WindowEditsTest::closingWhileSimulatingAsks()
 {
     m_window->simulation().setSteps(100000);
-    action(QStringLiteral("Start Simulation"))->trigger();
+    action(QStringLiteral("Compute"))->trigger();
     Testing::ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("Stop it and lose"), QMessageBox::No);
     QVERIFY(!m_window->close());

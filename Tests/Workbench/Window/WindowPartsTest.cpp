@@ -5,9 +5,7 @@
 #include "Workbench/Window/MessageBar.h"
 #include "Workbench/Window/ProblemsPanel.h"
 #include "Workbench/Window/RecentPaths.h"
-#include "Workbench/Window/WindowActions.h"
 
-#include <QtWidgets/QAction>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QToolButton>
@@ -38,7 +36,6 @@ class WindowPartsTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyActionHasATextAndAKeyOfItsOwn();
     void recentPathsComeNewestFirstOnceAndTenAtMost();
     void theAppearanceIsKept();
     void theFilterBarTellsTextsAndKinds();
@@ -47,20 +44,6 @@ private Q_SLOTS:
     void theMessageBarFollowsTheAppearance();
     void problemsAreListedAndActivated();
 };
-
-void WindowPartsTest::everyActionHasATextAndAKeyOfItsOwn()
-{
-    QObject parent;
-    const WindowActions actions(&parent);
-    QSet<QString> keys;
-    for (int id = WindowActions::OpenFiles; id <= WindowActions::AboutQt; ++id) {
-        const QAction* action = actions[WindowActions::Id(id)];
-        QVERIFY(!action->text().isEmpty());
-        const QString key = action->shortcut().toString();
-        QVERIFY2(key.isEmpty() || !keys.contains(key), qPrintable(key));
-        keys.insert(key);
-    }
-}
 
 void WindowPartsTest::recentPathsComeNewestFirstOnceAndTenAtMost()
 {

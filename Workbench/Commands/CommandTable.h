@@ -1,0 +1,69 @@
+#pragma once
+
+#include <vector>
+
+namespace Zorvane::Workbench {
+
+/** What one works on. Each mode has commands of its own, some of them under the same keys. */
+enum class WindowMode : unsigned
+{
+    Forming = 1U << 0,
+    Tube = 1U << 1,
+    Tandrel = 1U << 2
+};
+
+enum class CommandMenu
+{
+    File,
+    Edit,
+    View,
+    Display,
+    Tools,
+    Help
+};
+
+enum class CommandBar
+{
+    None,
+    File,
+    View,
+    Display
+};
+
+/** Whose action a command is. */
+enum class CommandSource
+{
+    Main,
+    Global,
+    Workbench,
+    Separator,
+    /** A menu that the window fills. */
+    SubMenu
+};
+
+enum class CommandSubMenu
+{
+    Recent,
+    Samples,
+    Mode,
+    Appearance
+};
+
+/** One line of a menu, and whether a tool bar has it too. */
+struct Command
+{
+    CommandMenu menu;
+    CommandSource source;
+    /** An id of the source's table, or a `CommandSubMenu`. */
+    int id;
+    CommandBar bar;
+    /** Of `WindowMode`. */
+    unsigned modes;
+
+    bool isIn(WindowMode mode) const { return (modes & unsigned(mode)) != 0; }
+};
+
+/** The commands of all modes in the order of the menus. */
+const std::vector<Command>& commandTable();
+
+} // namespace Zorvane::Workbench
