@@ -150,7 +150,7 @@ void MainWindow::layOut()
 void MainWindow::resizeAndDivide(const QSize& size)
 {
     resize(size);
-    m_sides->setSizes({size.width() * 68 / 100, size.width() * 32 / 100});
+    m_sides->setSizes({size.width() * 69 / 100, size.width() * 31 / 100});
     m_meshAndDetails->setSizes({size.height() * 60 / 100, size.height() * 30 / 100});
 }
 
@@ -169,7 +169,7 @@ QWidget* MainWindow::createTreeSide()
     QHeaderView* header = m_treeView->header();
     header->setStretchLastSection(true);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const double widths[] = {30.5, 14.75, 7, 8.75, 20.5, 13, 9.25, 8.5};
+    const double widths[] = {30.5, 14.5, 7, 8.25, 19.75, 13, 9.25, 8};
     // Titles of other languages may need more.
     for (int column = 0; column < header->count(); ++column)
         header->resizeSection(

@@ -24,9 +24,8 @@ QColor colourOf(const DesignCatalog& catalog, const IDCombiner& id)
     const CatalogEntry* entry = catalog.find(id);
     if (entry == nullptr)
         return {};
-    if (entry->referrers.size() == 1)
-        return catalog.find(entry->referrers.front())->colour;
-    return entry->colour;
+    const bool isOfOne = !entry->colour.isValid() && entry->referrers.size() == 1;
+    return isOfOne ? catalog.find(entry->referrers.front())->colour : entry->colour;
 }
 
 /** Those of a design, or the mesh files opened by themselves, that have colours. */
