@@ -1,8 +1,6 @@
 #include "FileDialogs/Windows/CommonItemDialogDriver.h"
 
 #include "FileDialogs/FileDialog.h"
-#include "FileDialogs/Windows/CFileInitializeSelectHandler.h"
-#include "FileDialogs/Windows/CFileOpenDialogEventHandler.h"
 #include "FileDialogs/Windows/DpiAwarenessScope.h"
 #include "FileDialogs/Windows/WinFileDialogCallbacks.h"
 #include "Files/Windows/ComApartment.h"
@@ -70,7 +68,6 @@ class CommonItemDialogTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void cleanup();
 
@@ -115,13 +112,6 @@ private:
     std::unique_ptr<FakeItemDialogs> m_dialogs;
     CommonItemDialogDriver m_driver;
 };
-
-void CommonItemDialogTest::initTestCase()
-{
-    // Qt's own dialogs, in place of the native ones that Qt would show as well.
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    TestCase::initTestCase();
-}
 
 void CommonItemDialogTest::init()
 {

@@ -2,7 +2,6 @@
 
 #include "Files/Windows/ShellPath.h"
 
-#include <algorithm>
 #include <functional>
 
 #include <commctrl.h>

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QtCore/QRect>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 

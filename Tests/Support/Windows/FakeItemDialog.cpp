@@ -7,7 +7,7 @@
 #include "Tests/Support/Windows/SpyItemArray.h"
 #include "Tests/Support/Windows/SpyShellItem.h"
 
-#include <QtCore/QHash>
+#include <cstring>
 
 #include <oleidl.h>
 #include <servprov.h>
@@ -166,7 +166,7 @@ public:
         if (SUCCEEDED(result)) {
             const std::size_t size = std::size_t(m_script.fileNameBox.size() + 1) * sizeof(wchar_t);
             *name = static_cast<LPWSTR>(CoTaskMemAlloc(size));
-            memcpy(*name, wide(m_script.fileNameBox), size);
+            std::memcpy(*name, wide(m_script.fileNameBox), size);
         }
         return result;
     }
