@@ -1,6 +1,7 @@
 #include "TreeModel/AddStaticParentToModuleProvider.h"
 
 #include "Tests/Support/TestCase.h"
+#include "Tests/TreeModel/InputCallbackRules.h"
 #include "Tests/TreeModel/ModelFixtures.h"
 #include "TreeModel/IdsOfModelProviderExtractor.h"
 
@@ -8,6 +9,7 @@
 
 using namespace Zorvane;
 using namespace Zorvane::GenericTreeViewModelHandling;
+namespace InputCallbackRules = Testing::InputCallbackRules;
 using Testing::FixedModelProvider;
 using Testing::idOf;
 using Testing::Items;
@@ -199,45 +201,26 @@ void AddStaticParentToModuleProviderTest::nameStaysBareWithoutTheWish()
 
 void AddStaticParentToModuleProviderTest::callbackReachesTheInput()
 {
-    const auto input = std::make_shared<FixedModelProvider>();
-    int calls = 0;
-    AddStaticParentToModuleProvider provider(idOf(100), "Parts");
-    provider.setInputModelProvider(input);
-    QCOMPARE(input->registrations, 0);
-    provider.registerUpdateCallback([&calls] { ++calls; });
-    input->callback();
-    QCOMPARE(calls, 1);
+    InputCallbackRules::callbackReachesTheInput(
+        AddStaticParentToModuleProvider(idOf(100), "Parts"));
 }
 
 void AddStaticParentToModuleProviderTest::callbackReachesALaterInput()
 {
-    const auto input = std::make_shared<FixedModelProvider>();
-    int calls = 0;
-    AddStaticParentToModuleProvider provider(idOf(100), "Parts");
-    provider.registerUpdateCallback([&calls] { ++calls; });
-    provider.setInputModelProvider(input);
-    input->callback();
-    QCOMPARE(calls, 1);
+    InputCallbackRules::callbackReachesALaterInput(
+        AddStaticParentToModuleProvider(idOf(100), "Parts"));
 }
 
 void AddStaticParentToModuleProviderTest::emptyCallbackReachesTheInput()
 {
-    const auto input = std::make_shared<FixedModelProvider>();
-    AddStaticParentToModuleProvider provider(idOf(100), "Parts");
-    provider.setInputModelProvider(input);
-    provider.registerUpdateCallback([] {});
-    provider.registerUpdateCallback({});
-    QCOMPARE(input->registrations, 2);
-    QVERIFY(!input->callback);
+    InputCallbackRules::emptyCallbackReachesTheInput(
+        AddStaticParentToModuleProvider(idOf(100), "Parts"));
 }
 
 void AddStaticParentToModuleProviderTest::emptyCallbackDoesNotReachALaterInput()
 {
-    const auto input = std::make_shared<FixedModelProvider>();
-    AddStaticParentToModuleProvider provider(idOf(100), "Parts");
-    provider.registerUpdateCallback({});
-    provider.setInputModelProvider(input);
-    QCOMPARE(input->registrations, 0);
+    InputCallbackRules::emptyCallbackDoesNotReachALaterInput(
+        AddStaticParentToModuleProvider(idOf(100), "Parts"));
 }
 
 void AddStaticParentToModuleProviderTest::replacedInputIsToldNothing()

@@ -1,12 +1,14 @@
 #include "TreeModel/IdsOfModelProviderExtractor.h"
 
 #include "Tests/Support/TestCase.h"
+#include "Tests/TreeModel/InputCallbackRules.h"
 #include "Tests/TreeModel/ModelFixtures.h"
 
 #include <algorithm>
 
 using namespace Zorvane;
 using namespace Zorvane::GenericTreeViewModelHandling;
+namespace InputCallbackRules = Testing::InputCallbackRules;
 using Testing::FixedModelProvider;
 using Testing::idOf;
 using Testing::Items;
@@ -159,44 +161,22 @@ void IdsOfModelProviderExtractorTest::assignmentKeepsTheCollectionObject()
 
 void IdsOfModelProviderExtractorTest::callbackReachesTheInput()
 {
-    const auto input = std::make_shared<FixedModelProvider>();
-    int calls = 0;
-    IdsOfModelProviderExtractor extractor;
-    extractor.setInputModelProvider(input);
-    QCOMPARE(input->registrations, 0);
-    extractor.registerUpdateCallback([&calls] { ++calls; });
-    input->callback();
-    QCOMPARE(calls, 1);
+    InputCallbackRules::callbackReachesTheInput(IdsOfModelProviderExtractor());
 }
 
 void IdsOfModelProviderExtractorTest::callbackReachesALaterInput()
 {
-    const auto input = std::make_shared<FixedModelProvider>();
-    IdsOfModelProviderExtractor extractor;
-    extractor.registerUpdateCallback([] {});
-    extractor.setInputModelProvider(input);
-    QCOMPARE(input->registrations, 1);
-    QVERIFY(input->callback);
+    InputCallbackRules::callbackReachesALaterInput(IdsOfModelProviderExtractor());
 }
 
 void IdsOfModelProviderExtractorTest::emptyCallbackReachesTheInput()
 {
-    const auto input = std::make_shared<FixedModelProvider>();
-    IdsOfModelProviderExtractor extractor;
-    extractor.setInputModelProvider(input);
-    extractor.registerUpdateCallback([] {});
-    extractor.registerUpdateCallback({});
-    QCOMPARE(input->registrations, 2);
-    QVERIFY(!input->callback);
+    InputCallbackRules::emptyCallbackReachesTheInput(IdsOfModelProviderExtractor());
 }
 
 void IdsOfModelProviderExtractorTest::emptyCallbackDoesNotReachALaterInput()
 {
-    const auto input = std::make_shared<FixedModelProvider>();
-    IdsOfModelProviderExtractor extractor;
-    extractor.registerUpdateCallback({});
-    extractor.setInputModelProvider(input);
-    QCOMPARE(input->registrations, 0);
+    InputCallbackRules::emptyCallbackDoesNotReachALaterInput(IdsOfModelProviderExtractor());
 }
 
 ZORVANE_TEST_MAIN(IdsOfModelProviderExtractorTest)

@@ -1,11 +1,10 @@
 #include "Workbench/Design/DesignSession.h"
 #include "Tests/Support/TestCase.h"
-#include "Tests/Workbench/Design/DesignFiles.h"
+#include "Tests/Workbench/Design/SessionFolder.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QJsonDocument>
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QSignalSpy>
 
 #include <set>
@@ -16,11 +15,6 @@ using namespace Zorvane::Testing;
 using namespace Zorvane::Workbench;
 
 namespace {
-
-GUIdentifier id(int number)
-{
-    return GUIdentifier(uuidText(number).toStdString());
-}
 
 QByteArray namedDesign(const QString& name)
 {
@@ -39,12 +33,12 @@ QString allProblems(const DesignSession& session)
 
 } // namespace
 
-class DesignSessionTest : public TestCase
+class DesignSessionTest : public TestCase, private SessionFolder
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { renew(); }
 
     void opensDesignFile();
     void opensFolderWithDesigns();
@@ -90,25 +84,8 @@ private Q_SLOTS:
     void keepsModifiedDesignNoLongerReferredTo();
 
 private:
-    QString path(const QString& name) const { return m_folder->filePath(name); }
-    QString path(const char* name) const { return path(QString::fromUtf8(name)); }
-    QString openSmallDesign()
-    {
-        const QString file = writeFile(path("small.dsg"), toText(smallDesign()));
-        m_session->open({file});
-        return file;
-    }
     QString designName() const { return m_session->designs().at(0).name; }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<DesignSession> m_session;
 };
-
-void DesignSessionTest::init()
-{
-    m_session = std::make_unique<DesignSession>();
-    m_folder = std::make_unique<QTemporaryDir>();
-}
 
 void DesignSessionTest::opensDesignFile()
 {

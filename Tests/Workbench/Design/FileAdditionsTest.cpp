@@ -1,33 +1,21 @@
 #include "Workbench/Design/FileAdditions.h"
 #include "Tests/Support/PlatformFacts.h"
 #include "Tests/Support/TestCase.h"
-#include "Tests/Workbench/Design/DesignFiles.h"
+#include "Tests/Workbench/Design/SessionFolder.h"
 #include "Workbench/Design/DesignSession.h"
 
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QSignalSpy>
-
-#include <memory>
 
 using namespace Zorvane;
 using namespace Zorvane::Testing;
 using namespace Zorvane::Workbench;
 
-namespace {
-
-GUIdentifier id(int number)
-{
-    return GUIdentifier(uuidText(number).toStdString());
-}
-
-} // namespace
-
-class FileAdditionsTest : public TestCase
+class FileAdditionsTest : public TestCase, private SessionFolder
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { renew(); }
 
     void kindsAreToldByEndings_data();
     void kindsAreToldByEndings();
@@ -37,25 +25,7 @@ private Q_SLOTS:
     void addsAllFilesOrNone();
     void addedObjectsMayBeRenamed();
     void keepsAddedFilesOnConflict();
-
-private:
-    QString path(const char* name) const { return m_folder->filePath(QString::fromUtf8(name)); }
-    QString openSmallDesign()
-    {
-        const QString file = writeFile(path("small.dsg"), toText(smallDesign()));
-        m_session->open({file});
-        return file;
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<DesignSession> m_session;
 };
-
-void FileAdditionsTest::init()
-{
-    m_session = std::make_unique<DesignSession>();
-    m_folder = std::make_unique<QTemporaryDir>();
-}
 
 void FileAdditionsTest::kindsAreToldByEndings_data()
 {

@@ -1,11 +1,10 @@
 #include "Workbench/Design/Quantity.h"
 #include "Tests/Support/TestCase.h"
-#include "Tests/Workbench/Design/DesignFiles.h"
+#include "Tests/Workbench/Design/SessionFolder.h"
 #include "Workbench/Design/DesignSession.h"
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QLocale>
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QSignalSpy>
 
 #include <limits>
@@ -14,18 +13,9 @@ using namespace Zorvane;
 using namespace Zorvane::Testing;
 using namespace Zorvane::Workbench;
 
-namespace {
-
-GUIdentifier id(int number)
-{
-    return GUIdentifier(uuidText(number).toStdString());
-}
-
-} // namespace
-
 Q_DECLARE_METATYPE(Zorvane::Workbench::Quantity)
 
-class QuantityTest : public TestCase
+class QuantityTest : public TestCase, private SessionFolder
 {
     Q_OBJECT
 
@@ -48,18 +38,14 @@ private Q_SLOTS:
     void revertBringsTheFilesValueBack();
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<DesignSession> m_session;
     QString m_file;
 };
 
 void QuantityTest::init()
 {
     QLocale::setDefault(QLocale::c());
-    m_session = std::make_unique<DesignSession>();
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_file = writeFile(m_folder->filePath(QStringLiteral("small.dsg")), toText(smallDesign()));
-    m_session->open({m_file});
+    renew();
+    m_file = openSmallDesign();
 }
 
 void QuantityTest::textsAreEngineeringNotation_data()
