@@ -296,8 +296,14 @@ void MainWindow::connectActions()
         m_saving->start(currentDesign());
     });
     on(WorkbenchActions::StopSimulation, [this] { m_runner->stop(); });
-    on(ZVMainActions::SaveAs, [this] { m_fileCommands->saveAs(currentDesign()); });
-    on(WorkbenchActions::SaveCopy, [this] { m_fileCommands->saveCopy(currentDesign()); });
+    on(ZVMainActions::SaveAs, [this] {
+        hideMessages();
+        m_fileCommands->saveAs(currentDesign());
+    });
+    on(WorkbenchActions::SaveCopy, [this] {
+        hideMessages();
+        m_fileCommands->saveCopy(currentDesign());
+    });
     on(ZVMainActions::ReOpen, &MainWindow::reload);
     on(ZVMainActions::Close, &MainWindow::closeAll);
     on(ZVMainActions::Exit, &MainWindow::close);
