@@ -2,6 +2,7 @@
 
 #include "Host/Widgets/MessageBoxTitleBar.h"
 
+#include <QtCore/QPointer>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QAbstractButton>
@@ -26,11 +27,15 @@ QMessageBox::StandardButton ask(QMessageBox::Icon icon, QWidget* parent, const Q
                                 const QString& text, QMessageBox::StandardButtons buttons,
                                 QMessageBox::StandardButton defaultButton)
 {
-    ZVMessageBox box(icon, title, text, buttons, parent);
+    // The parent may go away while the box is open, and takes it along.
+    const QPointer<ZVMessageBox> box = new ZVMessageBox(icon, title, text, buttons, parent);
     if (defaultButton != QMessageBox::NoButton)
-        box.setDefaultButton(defaultButton);
-    box.exec();
-    return box.standardButton(box.clickedButton());
+        box->setDefaultButton(defaultButton);
+    box->exec();
+    const QMessageBox::StandardButton pressed =
+        box ? box->standardButton(box->clickedButton()) : QMessageBox::NoButton;
+    delete box;
+    return pressed;
 }
 
 } // namespace

@@ -36,7 +36,10 @@ public:
     /** In pixels. Buttons and single words that need more get it. */
     void setMaximumWidth(int width);
 
-    /** Show a box of the kind and return the button pressed, as `QMessageBox`'s do. */
+    /**
+     * Show a box of the kind and return the button pressed, as `QMessageBox`'s do; no button if the
+     * parent goes away meanwhile.
+     */
     static StandardButton critical(QWidget* parent, const QString& title, const QString& text,
                                    StandardButtons buttons = Ok,
                                    StandardButton defaultButton = NoButton);

@@ -2,6 +2,8 @@
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/TestCase.h"
 
+#include <QtCore/QPointer>
+#include <QtCore/QTimer>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QDesktopWidget>
 #include <QtWidgets/QLabel>
@@ -34,6 +36,7 @@ private Q_SLOTS:
     void pressedButtonIsReturned();
     void staticBoxesShowTheirIcon_data();
     void staticBoxesShowTheirIcon();
+    void staticBoxThatGoesWithItsParentPressesNothing();
     void staticWarningTakesTheDesktopAsParent();
     void defaultButtonAnswersReturn();
     void flagsAreTakenAsGiven();
@@ -95,6 +98,16 @@ void ZVMessageBoxTest::staticBoxesShowTheirIcon()
     QCOMPARE(show(nullptr, QStringLiteral("title"), QStringLiteral("text"),
                   QMessageBox::Retry | QMessageBox::Abort, QMessageBox::Abort),
              QMessageBox::Retry);
+}
+
+void ZVMessageBoxTest::staticBoxThatGoesWithItsParentPressesNothing()
+{
+    const QPointer<QWidget> parent = new QWidget;
+    parent->show();
+    QTimer::singleShot(0, parent, [parent] { delete parent; });
+    QCOMPARE(ZVMessageBox::question(parent, QStringLiteral("Save"), QStringLiteral("Really?")),
+             QMessageBox::NoButton);
+    QVERIFY(!parent);
 }
 
 void ZVMessageBoxTest::staticWarningTakesTheDesktopAsParent()
