@@ -25,9 +25,10 @@ class PathProvider;
  * is kept: its controls, events and geometry work alike.
  *
  * Filters are written as for `QFileDialog`: "Designs (*.dsg);;Meshes (*.stl *.obj)". Every call
- * returns when the dialog is closed; cancel gives an empty result. Meanwhile the widgets from the
- * owner up to the main window (the application's property "MainWindow") are disabled; an owner
- * that is destroyed takes its dialog along, as a cancel.
+ * returns when the dialog is closed; cancel gives an empty result. A dialog of the system, or Qt's
+ * under a configuration, belongs to the parent or else to the main window (the application's
+ * property "MainWindow"): the widgets from there up to the main window are disabled meanwhile, and
+ * an owner that is destroyed takes the dialog along, as a cancel. Qt's plain dialogs have no owner.
  *
  * Nothing is owned: provider, configuration and parent must live until the call returns (the
  * parent may go earlier). The provider must not be null unless a function says so. GUI thread only.
