@@ -124,6 +124,7 @@ QStringList Tour::perform(const QStringList& paths)
     showReferences();
     showColours();
     measure();
+    useCommands();
     openManyFiles();
     takeUpReading();
     keepTheScrollPosition();

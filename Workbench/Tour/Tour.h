@@ -53,6 +53,11 @@ private:
     void convertAMesh();
     void chooseAndConvert(ZVConverterDialog& window, const QString& file);
     void openDoor();
+    void useCommands();
+    void useShortcuts();
+    void showOnlyGeometry();
+    void showMenus();
+    void readHelp();
     void showReferences();
     void showColours();
     void measure();
