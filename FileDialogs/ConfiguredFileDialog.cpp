@@ -70,10 +70,11 @@ QString typeForQt(const QString& type)
 } // namespace
 
 ConfiguredFileDialog::ConfiguredFileDialog(const NativeFileDialogRequest& request,
-                                           QFileDialog::Options options)
+                                           QFileDialog::Options options, std::exception_ptr& thrown)
     : QFileDialog(request.owner, request.caption)
     , m_configuration(request.configuration)
     , m_handler(request.configuration->getEventHandler())
+    , m_thrown(thrown)
     , m_types(request.filters.names)
 {
     setOptions(options | QFileDialog::DontUseNativeDialog);
@@ -155,10 +156,10 @@ void ConfiguredFileDialog::addControls()
 void ConfiguredFileDialog::connectEvents()
 {
     connect(m_controls, &CustomControls::toggled, this, [this](bool checked, int controlId) {
-        m_handler->onCheckBoxToggled(checked, controlId, Callbacks(*this));
+        tell([&] { m_handler->onCheckBoxToggled(checked, controlId, Callbacks(*this)); });
     });
     connect(m_controls, &CustomControls::itemSelected, this, [this](int controlId, int itemIndex) {
-        m_handler->onItemSelected(controlId, itemIndex);
+        tell([&] { m_handler->onItemSelected(controlId, itemIndex); });
     });
     connect(this, &QFileDialog::filterSelected, this, &ConfiguredFileDialog::tellType);
     connect(m_selection, &QItemSelectionModel::selectionChanged, this,
@@ -268,9 +269,23 @@ void ConfiguredFileDialog::showEvent(QShowEvent* event)
     });
 }
 
+template <typename Event>
+void ConfiguredFileDialog::tell(Event event)
+{
+    if (m_thrown)
+        return;
+    try {
+        event();
+    } catch (...) {
+        m_thrown = std::current_exception();
+        // Later, since an event may come before the dialog waits for its end.
+        QTimer::singleShot(0, this, &QDialog::reject);
+    }
+}
+
 void ConfiguredFileDialog::tellType()
 {
-    m_handler->onTypeChanged(Callbacks(*this));
+    tell([this] { m_handler->onTypeChanged(Callbacks(*this)); });
 }
 
 void ConfiguredFileDialog::tellSelection()
@@ -280,11 +295,13 @@ void ConfiguredFileDialog::tellSelection()
     // A folder that was entered stays selected while its name stands in the box.
     const QModelIndex folder = findChild<QListView*>(QStringLiteral("listView"))->rootIndex();
     const QModelIndexList rows = m_selection->selectedRows();
-    for (const QModelIndex& row : rows)
+    for (const QModelIndex& row : rows) {
+        const QString path = row.data(QFileSystemModel::FilePathRole).toString();
         if (row.parent() == folder)
-            paths.append(
-                QDir::toNativeSeparators(row.data(QFileSystemModel::FilePathRole).toString()));
-    m_handler->onSelectionChanged(inOrderOfFileNameBox(paths, name->text()), Callbacks(*this));
+            paths.append(QDir::toNativeSeparators(path));
+    }
+    const QStringList files = inOrderOfFileNameBox(paths, name->text());
+    tell([&] { m_handler->onSelectionChanged(files, Callbacks(*this)); });
 }
 
 NativeFileDialogResult openConfiguredFileDialog(const NativeFileDialogRequest& request,
@@ -292,7 +309,9 @@ NativeFileDialogResult openConfiguredFileDialog(const NativeFileDialogRequest& r
                                                 QString* selectedFilter)
 {
     // Its owner may be destroyed while the dialog is open, and takes it along.
-    const QPointer<ConfiguredFileDialog> dialog = new ConfiguredFileDialog(request, options);
+    std::exception_ptr thrown;
+    const QPointer<ConfiguredFileDialog> dialog =
+        new ConfiguredFileDialog(request, options, thrown);
     if (selectedFilter)
         dialog->selectType(*selectedFilter);
     NativeFileDialogResult result{NativeFileDialogResult::s_cancelled, {}};
@@ -305,6 +324,8 @@ NativeFileDialogResult openConfiguredFileDialog(const NativeFileDialogRequest& r
             *selectedFilter = dialog->selectedType();
     }
     delete dialog;
+    if (thrown)
+        std::rethrow_exception(thrown);
     return result;
 }
 

@@ -7,6 +7,8 @@
 #include <QtCore/QUrl>
 #include <QtWidgets/QFileDialog>
 
+#include <exception>
+
 class QItemSelectionModel;
 
 namespace Zorvane {
@@ -27,8 +29,12 @@ class ConfiguredFileDialog : public QFileDialog
     Q_OBJECT
 
 public:
-    /** The request's configuration must not be null and must outlive the dialog. */
-    ConfiguredFileDialog(const NativeFileDialogRequest& request, QFileDialog::Options options);
+    /**
+     * The request's configuration must not be null and must outlive the dialog. What a handler
+     * throws, which Qt's event loop must not see, ends the dialog and is kept in `thrown`.
+     */
+    ConfiguredFileDialog(const NativeFileDialogRequest& request, QFileDialog::Options options,
+                         std::exception_ptr& thrown);
     ~ConfiguredFileDialog() override;
 
     void selectType(const QString& type);
@@ -53,11 +59,14 @@ private:
     void giveOuterGeometry(const QRect& rect);
     void storeGeometry();
     void closeDown();
+    template <typename Event>
+    void tell(Event event);
     void tellType();
     void tellSelection();
 
     FileDialogConfiguration* const m_configuration;
     FileDialogEventHandler* const m_handler;
+    std::exception_ptr& m_thrown;
     /** As the caller wrote them, where the dialog shows them in another form. */
     QStringList m_types;
     QList<QUrl> m_addedPlaces;
@@ -70,7 +79,10 @@ private:
     bool m_isClosedDown = false;
 };
 
-/** Shows the dialog and waits for its end; the user's filter is written to `selectedFilter`. */
+/**
+ * Shows the dialog and waits for its end; the user's filter is written to `selectedFilter`. Throws
+ * what a handler has thrown, once the dialog is gone.
+ */
 NativeFileDialogResult openConfiguredFileDialog(const NativeFileDialogRequest& request,
                                                 QFileDialog::Options options,
                                                 QString* selectedFilter);

@@ -3,7 +3,10 @@
 #include "Tests/FileDialogs/ConfiguredDialogTestCase.h"
 #include "Tests/Support/PlatformFacts.h"
 
+#include <QtCore/QTimer>
 #include <QtCore/QUrl>
+
+#include <stdexcept>
 
 using namespace Zorvane;
 using namespace Zorvane::Testing;
@@ -32,6 +35,8 @@ private Q_SLOTS:
     void typeIsToldWhenItChanges();
     void selectionIsToldInTheOrderOfTheNames();
     void typedNameSelects();
+    void handlerThatThrowsEndsTheDialog_data();
+    void handlerThatThrowsEndsTheDialog();
     void placesAreOfferedForOneDialogOnly();
 };
 
@@ -240,6 +245,37 @@ void ConfiguredFileDialogTest::typedNameSelects()
                      QStringLiteral("selected ") + path(QStringLiteral("b.stl")));
         dialog.reject();
     });
+}
+
+void ConfiguredFileDialogTest::handlerThatThrowsEndsTheDialog_data()
+{
+    QTest::addColumn<bool>("isWhileOpening");
+    QTest::newRow("while the dialog opens") << true;
+    QTest::newRow("at an event of the user's") << false;
+}
+
+void ConfiguredFileDialogTest::handlerThatThrowsEndsTheDialog()
+{
+    QFETCH(bool, isWhileOpening);
+    QWidget owner;
+    m_handler->onType = [&](const FileDialogCallbackInterface&) {
+        const bool isFirst = m_handler->events.count(QStringLiteral("type")) == 1;
+        if (isFirst == isWhileOpening)
+            throw std::runtime_error("the handler gives up");
+    };
+    ExpectedModals modals;
+    modals.tolerate<QFileDialog>();
+    QTimer pressesDown;
+    connect(&pressesDown, &QTimer::timeout, this, [] {
+        if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()))
+            QTest::keyClick(part<QComboBox>(*dialog, "fileTypeCombo"), Qt::Key_Down);
+    });
+    pressesDown.start(0);
+    QVERIFY_EXCEPTION_THROWN(FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope,
+                                                         m_configuration.get(), &owner),
+                             std::runtime_error);
+    QVERIFY(owner.isEnabled());
+    QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
 }
 
 void ConfiguredFileDialogTest::placesAreOfferedForOneDialogOnly()
