@@ -24,6 +24,7 @@ private Q_SLOTS:
     void fileNamesCompareLetterByLetter();
     void bytesThatAreNoUtf8AreKept();
     void existsSeesFilesAndFolders();
+    void longPathsAreFound();
     void equivalentFollowsDotsAndLinks();
     void equivalentOfMissingFilesComparesTidiedNames();
     void emptyNameIsEquivalentOnlyToItself();
@@ -125,6 +126,21 @@ void FileNameTest::existsSeesFilesAndFolders()
     QVERIFY(QFile(file.toQString()).open(QIODevice::WriteOnly));
     QVERIFY(FileUtilities::exists(file));
     QVERIFY(!FileUtilities::exists(FileName()));
+}
+
+void FileNameTest::longPathsAreFound()
+{
+    // Windows takes 260 characters, and more only of programs that ask in a way of its own.
+    const QTemporaryDir dir;
+    QString folder = dir.path();
+    while (folder.size() < 400)
+        folder += QLatin1Char('/') + QString(60, QLatin1Char('a'));
+    QVERIFY(QDir().mkpath(folder));
+    const FileName file(folder + QStringLiteral("/part.stl"));
+    QVERIFY(!FileUtilities::exists(file));
+    QVERIFY(QFile(file.toQString()).open(QIODevice::WriteOnly));
+    QVERIFY(FileUtilities::exists(file));
+    QVERIFY(FileUtilities::isEquivalent(file, FileName(folder + QStringLiteral("/./part.stl"))));
 }
 
 void FileNameTest::equivalentFollowsDotsAndLinks()
