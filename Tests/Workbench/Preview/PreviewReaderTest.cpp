@@ -389,7 +389,8 @@ void PreviewReaderTest::theReadersEndEndsItsProcess()
         QTRY_VERIFY(hasStarted(path));
         QVERIFY(isAlive(path));
     }
-    QVERIFY(!isAlive(path));
+    // Windows lets go of an ended process's files a moment later.
+    QTRY_VERIFY(!isAlive(path));
 }
 
 void PreviewReaderTest::readsOnAfterAFailure()
