@@ -5,7 +5,6 @@
 #include <QtGui/QIconEngine>
 
 #include <array>
-#include <memory>
 
 namespace Zorvane {
 

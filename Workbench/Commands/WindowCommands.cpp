@@ -5,6 +5,9 @@
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QToolBar>
 
+#include <tuple>
+#include <utility>
+
 namespace Zorvane::Workbench {
 
 namespace {

@@ -39,6 +39,8 @@ HelpWindow::HelpWindow(QWidget* parent)
     setWindowTitle(tr("Help"));
     setAttribute(Qt::WA_DeleteOnClose);
     m_pages->setAccessibleName(tr("Pages"));
+    m_pages->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_pages->setTextElideMode(Qt::ElideRight);
     m_text->setAccessibleName(tr("Page"));
     m_text->setOpenLinks(false);
     auto* const sides = new QSplitter(this);
@@ -78,6 +80,7 @@ void HelpWindow::listPages()
     for (const QString& file :
          folder.entryList({QStringLiteral("*.md")}, QDir::Files, QDir::Name)) {
         auto* const item = new QListWidgetItem(titleOf(folder.filePath(file)));
+        item->setToolTip(item->text());
         item->setData(Qt::UserRole, file);
         // What people come for stands first.
         m_pages->insertItem(file == s_firstPage ? 0 : m_pages->count(), item);

@@ -58,11 +58,12 @@ void Tour::showOnlyGeometry()
     m_driver.settle();
     m_report.expect(m_window.tree().pipeline().shownCount() == before,
                     QStringLiteral("all objects again"));
-    m_window.commands()[Main::HidePrimarySymmetricSide]->trigger();
-    m_window.commands()[Main::ViewFromPosZAndFitScene]->trigger();
-    picture(QStringLiteral("one-side"));
-    m_window.commands()[Main::ShowBothSymmetricSides]->trigger();
-    m_report.expect(m_window.meshView().sides().isAll(), QStringLiteral("both sides again"));
+    m_window.commands()[Main::ShowMirroredSheet]->trigger();
+    m_window.commands()[Main::ViewFitToWindow]->trigger();
+    m_report.expect(m_window.meshView().sides().mirrored, QStringLiteral("with its mirror image"));
+    picture(QStringLiteral("mirror-image"));
+    m_window.commands()[Main::ShowMirroredSheet]->trigger();
+    m_window.commands()[Main::ViewFitToWindow]->trigger();
 }
 
 void Tour::showMenus()

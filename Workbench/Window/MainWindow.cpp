@@ -117,6 +117,8 @@ MainWindow::MainWindow(QWidget* parent)
 
 MainWindow::~MainWindow()
 {
+    // May give toggles back, which takes the table of actions and everything that they act on.
+    delete m_toggles;
     if (qApp->property(s_mainWindowProperty).value<QWidget*>() == this)
         qApp->setProperty(s_mainWindowProperty, QVariant());
 }

@@ -49,6 +49,8 @@ private Q_SLOTS:
     void togglesNeedSomethingOpen();
     void showingOnlyTheGeometryGivesTheTogglesBack();
 
+    void theWindowMayCloseWhileOnlyTheGeometryIsShown();
+
     void viewCommandsTurnTheView_data();
     void viewCommandsTurnTheView();
     void theFontGrowsAndShrinks();
@@ -337,6 +339,14 @@ void WindowCommandsTest::showingOnlyTheGeometryGivesTheTogglesBack()
     QVERIFY(commands()[Main::ShowMirroredSheet]->isChecked());
     QVERIFY(commands()[Main::ShowSheet]->isChecked());
     QVERIFY(m_window->meshView().sides().mirrored);
+}
+
+void WindowCommandsTest::theWindowMayCloseWhileOnlyTheGeometryIsShown()
+{
+    openDesign();
+    commands()[WorkbenchActions::ShowOnlyGeometry]->trigger();
+    m_window.reset();
+    QVERIFY(!Main::getInstance());
 }
 
 void WindowCommandsTest::viewCommandsTurnTheView_data()
