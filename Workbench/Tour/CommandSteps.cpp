@@ -107,7 +107,7 @@ void Tour::readHelp()
     if (!help)
         return;
     m_driver.settle();
-    m_report.addPicture(QStringLiteral("help"), help->grab().toImage());
+    m_report.addPicture(QStringLiteral("help"), m_driver.pictureWith(*help));
     delete help;
     m_window.activateWindow();
     m_report.expect(m_driver.waitFor([this] { return m_window.isActiveWindow(); }),
