@@ -135,9 +135,9 @@ QString DesignCopy::proposedFile(const QString& designFile)
     const QFileInfo info(designFile);
     const QDir folder = info.dir();
     for (int number = 1;; ++number) {
-        const QString name = number == 1
-                                 ? tr("%1 copy").arg(info.completeBaseName())
-                                 : tr("%1 copy %2").arg(info.completeBaseName()).arg(number);
+        const QString name =
+            number == 1 ? tr("%1 copy").arg(info.completeBaseName())
+                        : tr("%1 copy %2").arg(info.completeBaseName(), QString::number(number));
         const QString file = folder.filePath(name + QStringLiteral(".dsg"));
         if (!QFileInfo::exists(file))
             return file;

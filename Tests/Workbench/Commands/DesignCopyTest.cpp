@@ -102,6 +102,10 @@ void DesignCopyTest::proposesNamesThatAreFree()
     Testing::writeFile(folder.filePath(QStringLiteral("door.v2 copy 2.dsg")), "x");
     QCOMPARE(DesignCopy::proposedFile(design),
              folder.filePath(QStringLiteral("door.v2 copy 3.dsg")));
+    // Names are taken as they are.
+    Testing::writeFile(folder.filePath(QStringLiteral("50%1 copy.dsg")), "x");
+    QCOMPARE(DesignCopy::proposedFile(folder.filePath(QStringLiteral("50%1.dsg"))),
+             folder.filePath(QStringLiteral("50%1 copy 2.dsg")));
 }
 
 void DesignCopyTest::filesComeAlong()
