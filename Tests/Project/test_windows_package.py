@@ -15,7 +15,7 @@ SOURCES = pathlib.Path(__file__).resolve().parents[2]
 BUILD, WORK = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
 # Nothing of the build is in reach: neither its Wine prefix nor the folders of its libraries.
 ENVIRONMENT = {**os.environ, "ZORVANE_WINEPREFIX": str(WORK / "wine/prefix"),
-               "ZORVANE_WINE_BARE": "1", "QT_QPA_PLATFORM": "windows"}
+               "ZORVANE_WINE_BARE": "1", "ZORVANE_WINE_IS_UP": "", "QT_QPA_PLATFORM": "windows"}
 
 
 def run(*command, **options):

@@ -1,5 +1,6 @@
 #include "Workbench/Commands/FileCommands.h"
 
+#include "Tests/Support/PlatformCopies.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Import/ImportFixture.h"
 #include "Workbench/Window/MainWindow.h"
@@ -53,6 +54,7 @@ private:
     QString message() const { return m_window->messageBar().text(); }
     QString status() const { return m_window->statusBar()->currentMessage(); }
 
+    Testing::PlatformCopies m_copies;
     std::unique_ptr<Testing::ImportFixture> m_files;
     std::unique_ptr<MainWindow> m_window;
     Testing::ScriptedChooser::Script m_script;
