@@ -36,11 +36,10 @@ void ReferenceIndicatorDelegate::paint(QPainter* painter, const QStyleOptionView
                                        const QModelIndex& index) const
 {
     ZVItemDelegate::paint(painter, option, index);
-    // The direction is all of the painter's state that changes: keeping the rest costs more.
-    const Qt::LayoutDirection direction = painter->layoutDirection();
+    painter->save();
     painter->setLayoutDirection(option.direction);
     drawPatch(painter, option, index);
-    painter->setLayoutDirection(direction);
+    painter->restore();
 }
 
 void ReferenceIndicatorDelegate::drawPatch(QPainter* painter, const QStyleOptionViewItem& option,

@@ -36,7 +36,7 @@ uint qHash(const KeptPatch& kept, uint seed = 0)
 {
     const auto& colors = kept.patch.colors;
     return qHashRange(colors.begin(), colors.end(), seed) ^
-           ::qHash((kept.size.width() << 16) ^ kept.size.height(), seed);
+           ::qHash(qMakePair(kept.size.width(), kept.size.height()), seed);
 }
 
 /** Images rather than pixmaps: they may outlive the application object. */

@@ -28,9 +28,13 @@ EngineeringSpinBox::EngineeringSpinBox(double firstStep, int places, QWidget* pa
 void EngineeringSpinBox::stepBy(int steps)
 {
     const double finest = std::pow(10.0, -decimals());
-    const double suited = NumberRepresentation::optimalSpinnerIncrement(value());
-    setSingleStep(value() > 0 ? std::max(suited, finest) : m_firstStep);
-    QDoubleSpinBox::stepBy(steps);
+    // A number that has just been typed is stepped on from; the base class would step from the
+    // value before it, or tell two changes.
+    const double shown = hasAcceptableInput() ? valueFromText(text()) : value();
+    const double suited = NumberRepresentation::optimalSpinnerIncrement(shown);
+    setSingleStep(shown > 0 ? std::max(suited, finest) : m_firstStep);
+    setValue(shown + steps * singleStep());
+    selectAll();
 }
 
 QString EngineeringSpinBox::textFromValue(double value) const

@@ -15,6 +15,8 @@
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QTreeView>
 
+#include <utility>
+
 namespace Zorvane::Workbench {
 
 namespace {
@@ -66,7 +68,11 @@ DesignTree::DesignTree(DesignSession& session, MeshLoader& loader, QObject* pare
                               Qt::TextAlignmentRole);
     m_synchronizer.setDataProvider(m_decoration.provider());
     const std::shared_ptr<ZVTreeItemDataProviderInterface> rows = m_decoration.provider();
-    rows->registerUpdateCallback([this] { schedule(Scope::Values, When::Soon); });
+    // A refresh writes values itself; all else that changes meanwhile is shown by the next one.
+    rows->registerUpdateCallback([this] {
+        if (!m_busy)
+            schedule(Scope::Values, When::Soon);
+    });
     connect(&session, &DesignSession::changed, this, [this] { schedule(Scope::Rows, When::Next); });
     // A file that cannot be read, or can again, changes the row's state too, which only a full
     // refresh rewrites.
@@ -184,8 +190,6 @@ void DesignTree::collapseAll()
 
 void DesignTree::schedule(Scope scope, When when)
 {
-    if (m_busy)
-        return;
     m_scheduled = true;
     m_structureChanged = m_structureChanged || scope == Scope::Rows;
     if (when == When::Soon) {
@@ -204,9 +208,10 @@ void DesignTree::refreshNow()
     m_soon.stop();
     m_refresh.unpost();
     const QScopedValueRollback<bool> busy(m_busy, true);
+    m_expansionDue = std::exchange(m_structureChanged, false);
     {
         const ZVTreeViewModelBatch batch(&m_model);
-        if (m_structureChanged) {
+        if (m_expansionDue) {
             m_decoration.objectsChanged();
             m_synchronizer.syncronizeAndUpdateViewModel(&m_model, m_pipeline.provideModel());
         } else {
@@ -221,10 +226,10 @@ void DesignTree::refreshNow()
 void DesignTree::expandNewRows()
 {
     // Others' batches are none of a refresh that is yet to come.
-    if (!m_busy || !m_structureChanged)
+    if (!m_busy || !m_expansionDue)
         return;
     applyExpansion({});
-    m_structureChanged = false;
+    m_expansionDue = false;
 }
 
 void DesignTree::applyExpansion(const QModelIndex& parent)

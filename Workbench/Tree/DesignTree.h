@@ -117,6 +117,7 @@ private:
     QSet<QString> m_unreadable;
     bool m_scheduled = false;
     bool m_structureChanged = false;
+    bool m_expansionDue = false;
     bool m_busy = false;
 };
 

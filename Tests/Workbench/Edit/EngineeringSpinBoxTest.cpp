@@ -21,6 +21,8 @@ private Q_SLOTS:
     void showsAndReadsTheLocalesNumbers();
     void stepsByWhatSuitsTheValue_data();
     void stepsByWhatSuitsTheValue();
+    void stepsBySuitTheNumberTyped_data();
+    void stepsBySuitTheNumberTyped();
     void stepsUpFromZero();
     void neverStepsBelowZero();
     void smallStepsAreStillSeen();
@@ -112,6 +114,28 @@ void EngineeringSpinBoxTest::stepsByWhatSuitsTheValue()
     m_box->stepBy(steps);
     QTEST(m_box->value(), "expected");
     QCOMPARE(m_box->singleStep(), NumberRepresentation::optimalSpinnerIncrement(value));
+}
+
+void EngineeringSpinBoxTest::stepsBySuitTheNumberTyped_data()
+{
+    QTest::addColumn<double>("before");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("expected");
+    QTest::newRow("from none") << 0.0 << QStringLiteral("97800") << 97900.0;
+    QTest::newRow("from a smaller one") << 1.0 << QStringLiteral("5000") << 5010.0;
+    QTest::newRow("no number yet") << 123.0 << QStringLiteral("2e") << 124.0;
+}
+
+void EngineeringSpinBoxTest::stepsBySuitTheNumberTyped()
+{
+    QFETCH(double, before);
+    QFETCH(QString, typed);
+    m_box->setSpecialValueText(QStringLiteral("No value"));
+    m_box->setValue(before);
+    m_box->selectAll();
+    QTest::keyClicks(m_box.get(), typed);
+    QTest::keyClick(m_box.get(), Qt::Key_Up);
+    QTEST(m_box->value(), "expected");
 }
 
 void EngineeringSpinBoxTest::stepsUpFromZero()

@@ -73,8 +73,6 @@ void ReferenceMenuTest::severalAreOfferedInAMenu()
 
 void ReferenceMenuTest::theMenuWorksByKeyboard()
 {
-    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
-        expectWarning(QStringLiteral("does not support grabbing the keyboard"));
     QWidget window;
     window.show();
     m_menu->follow(objectId(40), &window, window.mapToGlobal({10, 10}));
