@@ -5,13 +5,15 @@
 
 namespace Zorvane {
 
+// Delegates so that the destructor runs, too, if what a widget throws ends this one halfway.
 ApplicationBlock::ApplicationBlock(QWidget* owner, QWidget* mainWindow)
+    : ApplicationBlock()
 {
     for (QWidget* widget = owner; widget && widget != mainWindow; widget = widget->parentWidget()) {
         if (!widget->isEnabled())
             continue;
-        widget->setEnabled(false);
         m_disabled.emplace_back(widget);
+        widget->setEnabled(false);
     }
     if (!mainWindow)
         return;

@@ -11,7 +11,7 @@ namespace Zorvane {
  * While it lives, the widgets from the owner up to the main window, and not that itself, are
  * disabled, as a dialog of the system blocks only the owner's window. The main window is told that
  * the application loses its place. Widgets that were disabled before stay so; widgets that go
- * meanwhile are forgotten.
+ * meanwhile are forgotten. What a widget throws meanwhile leaves none of them disabled.
  */
 class ApplicationBlock
 {
@@ -23,6 +23,8 @@ public:
     ApplicationBlock& operator=(const ApplicationBlock&) = delete;
 
 private:
+    ApplicationBlock() = default;
+
     std::vector<QPointer<QWidget>> m_disabled;
 };
 

@@ -67,6 +67,8 @@ private Q_SLOTS:
     void disabledWidgetsStayDisabled();
     void withoutMainWindowAllAreBlocked();
     void blockEndsWithAnException();
+    void blockThatFailsHalfwayEnds_data();
+    void blockThatFailsHalfwayEnds();
     void blockEndsWithTheOwner();
     void mainWindowIsTold();
 
@@ -321,6 +323,41 @@ void FileDialogTest::blockEndsWithAnException()
         std::runtime_error);
     QVERIFY(window.isEnabled());
     QVERIFY(panel.isEnabled());
+}
+
+void FileDialogTest::blockThatFailsHalfwayEnds_data()
+{
+    QTest::addColumn<QEvent::Type>("failing");
+    QTest::newRow("the main window, told of the dialog") << QEvent::ApplicationDeactivate;
+    QTest::newRow("a widget, as it is disabled") << QEvent::EnabledChange;
+}
+
+void FileDialogTest::blockThatFailsHalfwayEnds()
+{
+    struct Failing : QWidget
+    {
+        QEvent::Type failing = QEvent::None;
+
+        bool event(QEvent* event) override
+        {
+            if (event->type() != failing)
+                return QWidget::event(event);
+            failing = QEvent::None;
+            throw std::runtime_error("the window gives up");
+        }
+    };
+    QFETCH(QEvent::Type, failing);
+    Failing window;
+    window.failing = failing;
+    QWidget panel(&window);
+    // Only what lies below the main window is disabled.
+    const MainWindowProperty property(failing == QEvent::EnabledChange ? nullptr : &window);
+    QVERIFY_EXCEPTION_THROWN(
+        FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope, nullptr, &panel),
+        std::runtime_error);
+    QVERIFY(window.isEnabled());
+    QVERIFY(panel.isEnabled());
+    QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
 }
 
 void FileDialogTest::blockEndsWithTheOwner()
