@@ -192,6 +192,8 @@ void ConfiguredFileDialog::placeLater(FileDialogConfiguration* configuration)
             placeLater(configuration);
             return;
         }
+        if (isMaximized())
+            showNormal();
         giveOuterGeometry(dialogPlacement(*configuration));
         m_isPlaced = true;
     });

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void frameDoesNotGrow();
     void movedDialogIsRecordedBeforeItCloses();
     void handlerPlacesTheDialog();
+    void maximizedDialogIsRestoredAndPlaced();
     void dialogGeometryIsTheOuterOne();
     void ownerIsBlocked();
     void windowWithoutParentStaysUsable();
@@ -101,6 +102,26 @@ void ConfiguredDialogWindowTest::handlerPlacesTheDialog()
     };
     open([](QFileDialog& dialog) {
         QTRY_COMPARE(dialog.frameGeometry(), QRect(11, 22, 633, 504));
+        dialog.reject();
+    });
+}
+
+void ConfiguredDialogWindowTest::maximizedDialogIsRestoredAndPlaced()
+{
+    m_configuration->storeFileDialogGeometry(QRect(40, 50, 610, 500));
+    m_configuration->addCustomControl(checkBox(1, "Place"));
+    FileDialogConfiguration other(QStringLiteral("Other"));
+    other.storeFileDialogGeometry(QRect(11, 22, 633, 504));
+    m_handler->onToggle = [&other](bool, const FileDialogCallbackInterface& callbacks) {
+        callbacks.placeDialog(&other);
+    };
+    open([](QFileDialog& dialog) {
+        QTRY_COMPARE(dialog.frameGeometry(), QRect(40, 50, 610, 500));
+        dialog.showMaximized();
+        QTRY_VERIFY(dialog.frameGeometry().width() > 633);
+        custom<QCheckBox>(dialog, "Place")->click();
+        QTRY_COMPARE(dialog.frameGeometry(), QRect(11, 22, 633, 504));
+        QVERIFY(!dialog.isMaximized());
         dialog.reject();
     });
 }
