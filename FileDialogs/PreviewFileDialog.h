@@ -25,6 +25,11 @@ class PreviewFileDialogEventHandler;
  *     PreviewFileDialog dialog(editor, configuration, mainWindow);
  *     const QStringList files = dialog.getOpenFileNames(nullptr);
  *
+ * The check box starts as the setting was when the configuration got its handler
+ * (`setEventHandler`, in this object's constructor), and the preview as the setting is now. Asked a
+ * second time after the user has switched the preview, one object shows the two apart: make a new
+ * one, with a new configuration, for every dialog.
+ *
  * With the command-line option "alternativeFileDialog" there is no preview. The configuration must
  * not be used for another dialog, neither during this object's life nor after it.
  * Not supported: save dialogs, several preview windows.

@@ -55,23 +55,26 @@ void PreviewFileDialogEventHandler::onTypeChanged(const FileDialogCallbackInterf
     m_isFirstTypeChangePending = false;
 }
 
-QString PreviewFileDialogEventHandler::showPreviewKey() const
+const PreviewFileDialogConfiguration* PreviewFileDialogEventHandler::previewConfiguration() const
 {
-    const auto* configuration =
-        dynamic_cast<const PreviewFileDialogConfiguration*>(m_configuration);
-    return configuration ? configuration->getShowPreviewKey() : QString();
+    return dynamic_cast<const PreviewFileDialogConfiguration*>(m_configuration);
 }
 
 bool PreviewFileDialogEventHandler::isPreviewWanted() const
 {
-    const QString key = showPreviewKey();
-    return !key.isEmpty() && QSettings().value(key, true).toBool();
+    const PreviewFileDialogConfiguration* configuration = previewConfiguration();
+    if (!configuration)
+        return false;
+    const QString key = configuration->getShowPreviewKey();
+    return key.isEmpty() || QSettings().value(key, true).toBool();
 }
 
 void PreviewFileDialogEventHandler::storePreviewWanted(bool wanted) const
 {
-    const QString key = showPreviewKey();
+    const PreviewFileDialogConfiguration* configuration = previewConfiguration();
+    const QString key = configuration ? configuration->getShowPreviewKey() : QString();
     QSettings settings;
+    // The settings have no place for what has no key.
     if (!key.isEmpty() && (!settings.contains(key) || settings.value(key).toBool() != wanted))
         settings.setValue(key, wanted);
 }

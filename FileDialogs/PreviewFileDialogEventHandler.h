@@ -7,6 +7,7 @@
 namespace Zorvane {
 
 class PreviewEditorInterface;
+class PreviewFileDialogConfiguration;
 
 /**
  * Lets a preview window follow an open dialog: it shows the file that is selected, and a check box
@@ -32,14 +33,18 @@ public:
     /** Places the first dialog of this handler; later ones stay where they open. */
     void onTypeChanged(const FileDialogCallbackInterface& callbacks) override;
 
-    /** Whether the user wants a preview, at first yes; no without a preview configuration. */
+    /**
+     * Whether the user wants a preview, at first yes; no without a preview configuration. Always
+     * yes where the configuration's key is empty, since nothing is remembered then.
+     */
     bool isPreviewWanted() const;
     /** Shows the window where the configuration puts it, or hides it. */
     void showPreview(bool visible);
     const std::shared_ptr<PreviewEditorInterface>& editor() const { return m_editor; }
 
 private:
-    QString showPreviewKey() const;
+    /** Null if the configuration is none or another. */
+    const PreviewFileDialogConfiguration* previewConfiguration() const;
     void storePreviewWanted(bool wanted) const;
 
     std::shared_ptr<PreviewEditorInterface> m_editor;

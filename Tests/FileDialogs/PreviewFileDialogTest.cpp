@@ -95,6 +95,7 @@ private Q_SLOTS:
     void checkBoxSwitchesThePreviewOff();
     void otherCheckBoxesAreNotOurs();
     void stateIsWrittenOnlyWhenItChanges();
+    void withoutKeyThePreviewIsWantedAndNotRemembered();
     void handlerWithoutPreviewConfiguration();
     void alternativeDialogHasNoPreview();
     void configurationOutlivesTheDialog();
@@ -332,6 +333,19 @@ void PreviewFileDialogTest::stateIsWrittenOnlyWhenItChanges()
     QSettings().remove(QStringLiteral("PreviewTest/ShowPreview"));
     setup.handler().onCheckBoxToggled(true, 0, setup.callbacks);
     QVERIFY(storedShowPreview().isValid());
+}
+
+void PreviewFileDialogTest::withoutKeyThePreviewIsWantedAndNotRemembered()
+{
+    Setup setup;
+    PreviewFileDialogEventHandler handler(setup.editor);
+    PreviewFileDialogConfiguration keyless("Keyless", "", "", "", "", {}, true);
+    keyless.setEventHandler(&handler);
+    QCOMPARE(keyless.getCustomControl(0).initialValue, QVariant(true));
+    handler.onCheckBoxToggled(false, 0, setup.callbacks);
+    QCOMPARE(setup.editor->takeCalls().last(), QStringLiteral("setVisible 0"));
+    QVERIFY(handler.isPreviewWanted());
+    QVERIFY(QSettings().allKeys().filter(QStringLiteral("Preview")).isEmpty());
 }
 
 void PreviewFileDialogTest::handlerWithoutPreviewConfiguration()
