@@ -6,6 +6,8 @@
 #include "Files/PathText.h"
 #include "Host/Widgets/ZVMessageBox.h"
 
+#include <QtCore/QPointer>
+#include <QtCore/QScopeGuard>
 #include <QtCore/QVariant>
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QPushButton>
@@ -70,16 +72,19 @@ ZVSaveDialog::Result ZVSaveDialog::showDialog(QWidget* parent,
     switches.isSilent = silent;
     switches.isSaveDisabled = saveDisabled;
 
-    ZVMessageBox box(QMessageBox::Warning, tr("Warning"), message.toHtml(),
-                     saveButtonsFor(action, switches), parent, saveWindowFlags(switches));
-    box.setTitleCloseButtonVisible(!switches.suppressesCancel);
-    box.setMaximumWidth(s_maximumWidth);
-    labelButtons(box, action);
-    prepareKeys(box, isSaveShown(state, switches));
+    // The parent may go away while the box is open, and takes it along.
+    const QPointer<ZVMessageBox> box =
+        new ZVMessageBox(QMessageBox::Warning, tr("Warning"), message.toHtml(),
+                         saveButtonsFor(action, switches), parent, saveWindowFlags(switches));
+    const auto owner = qScopeGuard([&box] { delete box; });
+    box->setTitleCloseButtonVisible(!switches.suppressesCancel);
+    box->setMaximumWidth(s_maximumWidth);
+    labelButtons(*box, action);
+    prepareKeys(*box, isSaveShown(state, switches));
     if (silent)
         return ResultContinue;
-    box.exec();
-    return saveResultOf(box.standardButton(box.clickedButton()), action);
+    box->exec();
+    return box ? saveResultOf(box->standardButton(box->clickedButton()), action) : ResultCancel;
 }
 
 } // namespace Zorvane

@@ -6,6 +6,7 @@
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/TestCase.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QSet>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTranslator>
@@ -117,6 +118,7 @@ private Q_SLOTS:
     void boxWithoutCancelLooksAsItShould();
     void boxWithNothingToPressHasAWayOut();
     void onlyDontSaveTakesADeliberateKey();
+    void boxThatGoesWithItsParentCancels();
     void suppressedDialogAsksNothing();
     void silentCallShowsNothing();
     void modificationIsAskedOfTheLastSave();
@@ -344,6 +346,19 @@ void ZVSaveDialogTest::onlyDontSaveTakesADeliberateKey()
         QTest::keyClick(dontSave, Qt::Key_Space);
     });
     QCOMPARE(result, ZVSaveDialog::ResultContinue);
+}
+
+void ZVSaveDialogTest::boxThatGoesWithItsParentCancels()
+{
+    SaveCase given;
+    given.action = ZVSaveDialog::ActionClose;
+    const QPointer<QWidget> parent = new QWidget;
+    parent->show();
+    Testing::ExpectedModals modals;
+    modals.expectMessageBox(s_warning, [parent](QMessageBox&) { delete parent; });
+    QCOMPARE(ZVSaveDialog::showDialog(parent, design(given), given.action, false, false),
+             ZVSaveDialog::ResultCancel);
+    QVERIFY(!parent);
 }
 
 void ZVSaveDialogTest::suppressedDialogAsksNothing()

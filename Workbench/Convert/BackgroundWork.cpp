@@ -2,6 +2,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>
+#include <QtCore/QPointer>
 #include <QtCore/QThreadPool>
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
@@ -64,15 +65,19 @@ void waitPatiently(const Completion& completion)
 
 void waitWithDialog(const Completion& completion, const QString& text)
 {
-    QProgressDialog progress(text, QCoreApplication::translate("BackgroundWork", "Cancel"), 0, 0,
-                             QApplication::activeWindow());
-    progress.setWindowModality(Qt::ApplicationModal);
-    progress.setMinimumDuration(0);
+    // The window may go away meanwhile, and takes the dialog along.
+    const QPointer<QProgressDialog> progress =
+        new QProgressDialog(text, QCoreApplication::translate("BackgroundWork", "Cancel"), 0, 0,
+                            QApplication::activeWindow());
+    progress->setWindowModality(Qt::ApplicationModal);
+    progress->setMinimumDuration(0);
     QEventLoop loop;
     QObject::connect(&completion, &Completion::done, &loop, &QEventLoop::quit);
-    QObject::connect(&progress, &QProgressDialog::canceled, &loop, &QEventLoop::quit);
-    progress.show();
+    QObject::connect(progress, &QProgressDialog::canceled, &loop, &QEventLoop::quit);
+    QObject::connect(progress, &QObject::destroyed, &loop, &QEventLoop::quit);
+    progress->show();
     loop.exec();
+    delete progress;
 }
 
 } // namespace

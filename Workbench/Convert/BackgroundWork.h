@@ -11,7 +11,7 @@ namespace Zorvane::Workbench {
  * but take no input; work that takes long shows a dialog with `text` and a button to cancel, over
  * the window that is active.
  *
- * Cancelling returns false at once and leaves the work running, so that it must own all that it
+ * Cancelling, which that window's end is too, returns false at once and leaves the work running, so that it must own all that it
  * uses. What it throws is thrown here.
  */
 bool workInBackground(const QString& text, std::function<void()> work);

@@ -3,6 +3,7 @@
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/TestCase.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QSemaphore>
 #include <QtCore/QThread>
 #include <QtCore/QThreadPool>
@@ -37,6 +38,7 @@ private Q_SLOTS:
     void eventsGoOnMeanwhile();
     void longWorkShowsADialogUntilItIsDone();
     void cancelledWorkEndsByItself();
+    void windowThatGoesMeanwhileCancels();
     void exceptionsArriveWhereTheWorkIsWaitedFor();
 };
 
@@ -91,6 +93,26 @@ void BackgroundWorkTest::cancelledWorkEndsByItself()
     QThreadPool::globalInstance()->waitForDone();
     QVERIFY(work->hasEnded);
     // The word of its end finds nobody.
+    QCoreApplication::processEvents();
+    QCOMPARE(work.use_count(), 1L);
+}
+
+void BackgroundWorkTest::windowThatGoesMeanwhileCancels()
+{
+    const QPointer<QWidget> window = new QWidget;
+    window->show();
+    window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window));
+    const auto work = std::make_shared<LongWork>();
+    Testing::ExpectedModals modals;
+    modals.expectDialog<QProgressDialog>(QStringLiteral("progress"), [window](QProgressDialog& d) {
+        QCOMPARE(d.parentWidget(), window.data());
+        delete window;
+    });
+    QVERIFY(!workInBackground(QStringLiteral("text"), [work] { work->mayEnd.acquire(); }));
+    QVERIFY(!window);
+    work->mayEnd.release();
+    QThreadPool::globalInstance()->waitForDone();
     QCoreApplication::processEvents();
     QCOMPARE(work.use_count(), 1L);
 }
