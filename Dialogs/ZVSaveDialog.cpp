@@ -9,6 +9,7 @@
 #include <QtCore/QPointer>
 #include <QtCore/QScopeGuard>
 #include <QtCore/QVariant>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QPushButton>
 
@@ -17,6 +18,28 @@ namespace Zorvane {
 namespace {
 
 constexpr int s_maximumWidth = 300;
+
+/**
+ * Buttons have keys with Alt only: QMessageBox presses the button of a letter that is typed without
+ * it, too, and typing on must not drop changes.
+ */
+class SaveBox : public ZVMessageBox
+{
+public:
+    using ZVMessageBox::ZVMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        // Keys that type nothing begin there.
+        const bool types = event->key() < Qt::Key_Escape;
+        if (types &&
+            !(event->modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier)))
+            event->ignore();
+        else
+            ZVMessageBox::keyPressEvent(event);
+    }
+};
 
 SaveSubject subjectOf(const DesignInterface& design)
 {
@@ -74,8 +97,8 @@ ZVSaveDialog::Result ZVSaveDialog::showDialog(QWidget* parent,
 
     // The parent may go away while the box is open, and takes it along.
     const QPointer<ZVMessageBox> box =
-        new ZVMessageBox(QMessageBox::Warning, tr("Warning"), message.toHtml(),
-                         saveButtonsFor(action, switches), parent, saveWindowFlags(switches));
+        new SaveBox(QMessageBox::Warning, tr("Warning"), message.toHtml(),
+                    saveButtonsFor(action, switches), parent, saveWindowFlags(switches));
     const auto owner = qScopeGuard([&box] { delete box; });
     box->setTitleCloseButtonVisible(!switches.suppressesCancel);
     box->setMaximumWidth(s_maximumWidth);

@@ -26,7 +26,8 @@ namespace Zorvane {
  * - "AddSaveAsToSaveDialog": closing a design offers Save As, too.
  *
  * Enter presses Save. Where the design cannot be saved, Enter presses Cancel, else Save As; never
- * "Don't Save". Escape and closing the box are Cancel, where there is one.
+ * "Don't Save". Escape and closing the box are Cancel, where there is one. Letters press buttons with
+ * Alt only.
  */
 class ZORVANE_UITOOLS_EXPORT ZVSaveDialog
 {

@@ -114,6 +114,8 @@ private Q_SLOTS:
     void titleCloseButtonCancels();
     void keysPressButtons_data();
     void keysPressButtons();
+    void lettersWithoutAltPressNothing_data();
+    void lettersWithoutAltPressNothing();
     void boxLooksAsItShould();
     void boxWithoutCancelLooksAsItShould();
     void boxWithNothingToPressHasAWayOut();
@@ -275,6 +277,46 @@ void ZVSaveDialogTest::keysPressButtons()
         QTRY_VERIFY(!box.isVisible());
     });
     QCOMPARE(int(answer), result);
+}
+
+void ZVSaveDialogTest::lettersWithoutAltPressNothing_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("dontSave");
+    QTest::newRow("English") << "en"
+                             << "Don't Save";
+    QTest::newRow("German") << "de"
+                            << "&Nicht speichern";
+}
+
+void ZVSaveDialogTest::lettersWithoutAltPressNothing()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, dontSave);
+    QTranslator translator;
+    if (language != QStringLiteral("en")) {
+        if (!translator.load(QStringLiteral(":/Zorvane/Translations/zorvane_") + language))
+            QSKIP("built without lrelease, and so without translations");
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+    }
+    Testing::ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("door.dsg"), [&dontSave](QMessageBox& box) {
+        QCOMPARE(box.button(QMessageBox::Discard)->text(), dontSave);
+        for (int letter = Qt::Key_A; letter <= Qt::Key_Z; ++letter) {
+            for (const auto modifier : {Qt::NoModifier, Qt::ShiftModifier}) {
+                QTest::keyClick(box.focusWidget(), Qt::Key(letter), modifier);
+                // What a key presses stays down for a moment.
+                for (const QAbstractButton* button : box.buttons())
+                    QVERIFY2(!button->isDown(), qPrintable(button->text()));
+            }
+        }
+        box.button(QMessageBox::Cancel)->click();
+    });
+    SaveCase given;
+    given.action = ZVSaveDialog::ActionClose;
+    setSwitch("AddSaveAsToSaveDialog", true);
+    QCOMPARE(ZVSaveDialog::showDialog(nullptr, design(given), given.action, false, false),
+             ZVSaveDialog::ResultCancel);
 }
 
 void ZVSaveDialogTest::boxLooksAsItShould()
