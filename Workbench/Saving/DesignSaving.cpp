@@ -3,6 +3,7 @@
 #include "Dialogs/SaveState.h"
 #include "Host/Widgets/ZVMessageBox.h"
 #include "Workbench/Commands/FileCommands.h"
+#include "Workbench/Design/DesignEdit.h"
 #include "Workbench/Design/DesignSession.h"
 #include "Workbench/Import/SessionDesign.h"
 #include "Workbench/Solver/SimulationRunner.h"
@@ -96,14 +97,14 @@ bool DesignSaving::write(const GUIdentifier& designId)
                           .arg(m_parts.session.name(designId)));
         return false;
     }
-    const bool hasDropped = dropOutdatedResults(designId);
+    const TakenObjects dropped = dropOutdatedResults(designId);
     Problems problems = m_parts.session.save(designId, DesignSession::OnConflict::Refuse);
     if (!problems.empty() && m_parts.session.hasConflict(designId) && mayOverwrite())
         problems = m_parts.session.save(designId, DesignSession::OnConflict::Overwrite);
     if (problems.empty())
         return true;
-    if (hasDropped)
-        m_parts.history.undo();
+    // Others may have edited the design while the user was asked.
+    m_parts.history.putBack(dropped);
     Q_EMIT failed(problems.front().text());
     return false;
 }
@@ -119,30 +120,27 @@ bool DesignSaving::mayOverwrite()
 
 bool DesignSaving::saveAs(const GUIdentifier& designId)
 {
-    const bool hasDropped = dropOutdatedResults(designId);
+    const TakenObjects dropped = dropOutdatedResults(designId);
     const bool isSaved = m_parts.files.saveAs(designId);
-    if (!isSaved && hasDropped)
-        m_parts.history.undo();
+    if (!isSaved)
+        m_parts.history.putBack(dropped);
     return isSaved;
 }
 
-bool DesignSaving::dropOutdatedResults(const GUIdentifier& designId)
+TakenObjects DesignSaving::dropOutdatedResults(const GUIdentifier& designId)
 {
     const SaveState state = saveStateOf(SessionDesign(m_parts.session, designId));
-    if (!state.hasResults || !state.areResultsOutdated)
-        return false;
-    dropResults(designId);
-    return true;
+    return state.hasResults && state.areResultsOutdated ? dropResults(designId) : TakenObjects();
 }
 
-void DesignSaving::dropResults(const GUIdentifier& designId)
+TakenObjects DesignSaving::dropResults(const GUIdentifier& designId)
 {
     const Design* design = m_parts.session.findDesign(designId);
     std::vector<GUIdentifier> results;
     for (const FileReference& file : design->files)
         if (file.kind == FileKind::Result)
             results.push_back(file.id);
-    m_parts.session.take(designId, results);
+    return m_parts.session.take(designId, results);
 }
 
 bool DesignSaving::mayClose()
@@ -202,12 +200,12 @@ bool DesignSaving::start(const GUIdentifier& designId)
 bool DesignSaving::run(const GUIdentifier& designId)
 {
     const SaveState state = saveStateOf(SessionDesign(m_parts.session, designId));
+    TakenObjects dropped;
     if (state.hasResults && !state.isJobRunning)
-        dropResults(designId);
+        dropped = dropResults(designId);
     const bool mustBeSaved = state.hasResults || state.isModified || !state.isCurrentVersion;
     if (mustBeSaved && !write(designId)) {
-        if (state.hasResults && !state.isJobRunning)
-            m_parts.history.undo();
+        m_parts.history.putBack(dropped);
         return false;
     }
     const Design* design = m_parts.session.findDesign(designId);

@@ -16,6 +16,7 @@ class DesignSession;
 class EditHistory;
 class FileCommands;
 class SimulationRunner;
+struct TakenObjects;
 
 /**
  * Saves designs, closes them and starts their simulation, and asks before it does what cannot be
@@ -61,8 +62,9 @@ private:
     bool write(const GUIdentifier& designId);
     bool mayOverwrite();
     bool saveAs(const GUIdentifier& designId);
-    bool dropOutdatedResults(const GUIdentifier& designId);
-    void dropResults(const GUIdentifier& designId);
+    /** Returns what was taken out. */
+    TakenObjects dropOutdatedResults(const GUIdentifier& designId);
+    TakenObjects dropResults(const GUIdentifier& designId);
     bool run(const GUIdentifier& designId);
     GUIdentifier designOf(const QString& file) const;
     std::vector<GUIdentifier> modifiedDesigns() const;

@@ -52,6 +52,12 @@ int EditCommand::id() const
     return std::holds_alternative<QuantityEdit>(m_edit) ? s_quantityId : s_notMerged;
 }
 
+bool EditCommand::isRemovalOf(const TakenObjects& objects) const
+{
+    const auto* removal = std::get_if<RemovalEdit>(&m_edit);
+    return removal && removal->objects.ids() == objects.ids();
+}
+
 bool EditCommand::mergeWith(const QUndoCommand* other)
 {
     auto* mine = std::get_if<QuantityEdit>(&m_edit);

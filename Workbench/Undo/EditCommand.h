@@ -24,6 +24,8 @@ public:
     void undo() override;
     void redo() override;
     int id() const override;
+    /** Whether it took just these out. */
+    bool isRemovalOf(const TakenObjects& objects) const;
     /** Steps of one value, one after the other, are one change. */
     bool mergeWith(const QUndoCommand* other) override;
 

@@ -5,6 +5,8 @@
 
 #include <QtCore/QScopedValueRollback>
 
+#include <algorithm>
+
 namespace Zorvane::Workbench {
 
 EditHistory::EditHistory(DesignSession& session, QObject* parent)
@@ -32,6 +34,19 @@ void EditHistory::redo()
 {
     const QScopedValueRollback<bool> replaying(m_isReplaying, true);
     m_stack.redo();
+}
+
+void EditHistory::putBack(const TakenObjects& taken)
+{
+    const std::vector<GUIdentifier> ids = taken.ids();
+    const auto isBack = [this](const GUIdentifier& id) { return m_session.findDesign(id); };
+    if (std::any_of(ids.begin(), ids.end(), isBack) || ids.empty())
+        return;
+    const auto* last = static_cast<const EditCommand*>(m_stack.command(m_stack.index() - 1));
+    if (last && last->isRemovalOf(taken))
+        undo();
+    else
+        m_session.putBack(taken);
 }
 
 void EditHistory::note(const DesignEdit& edit)

@@ -27,6 +27,12 @@ public:
     /** For actions and texts; push nothing. */
     QUndoStack& stack() { return m_stack; }
 
+    /**
+     * Puts back what was taken out of a design, and nothing else: undoes the taking if that was the
+     * last edit, else is an edit of its own. What is back already stays.
+     */
+    void putBack(const TakenObjects& taken);
+
 public Q_SLOTS:
     void undo();
     void redo();

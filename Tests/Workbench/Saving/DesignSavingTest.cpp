@@ -53,7 +53,9 @@ private:
     void edit() { session().rename(objectId(10), QStringLiteral("Left door")); }
     bool isEditOnDisk() const { return onDisk().contains("Left door"); }
     void addResult();
-    bool hasResult();
+    bool hasResult() { return results() > 0; }
+    int results();
+    void changeFileElsewhere();
     void reopenAsVersion1();
     std::unique_ptr<QLockFile> computeElsewhere();
     void chooseForSaveAs(const QString& name);
@@ -78,6 +80,9 @@ private Q_SLOTS:
     void cancelledSaveAsLeavesEverything();
     void changeByAnotherProgramIsReplacedOnlyOnTheUsersWord();
     void failedSaveBringsDroppedResultsBack();
+    void failedSaveLeavesWhatOthersEditedMeanwhile();
+    void failedStartLeavesWhatOthersEditedMeanwhile();
+    void resultsBroughtBackMeanwhileAreThereOnce();
     void designThatGoesWhileAskedAboutIsTold();
     void cancelAtOneDesignKeepsTheRest();
     void unmodifiedDesignsCloseWithoutAQuestion();
@@ -129,12 +134,19 @@ void DesignSavingTest::addResult()
     QVERIFY(session().save().empty());
 }
 
-bool DesignSavingTest::hasResult()
+int DesignSavingTest::results()
 {
+    int count = 0;
     for (const FileReference& file : design().files)
-        if (file.kind == FileKind::Result)
-            return true;
-    return false;
+        count += file.kind == FileKind::Result ? 1 : 0;
+    return count;
+}
+
+void DesignSavingTest::changeFileElsewhere()
+{
+    QJsonObject theirs = smallDesign();
+    theirs.insert(QStringLiteral("name"), QStringLiteral("Theirs"));
+    replaceFile(m_opened->designFile(), toText(theirs));
 }
 
 void DesignSavingTest::reopenAsVersion1()
@@ -255,9 +267,7 @@ void DesignSavingTest::cancelledSaveAsLeavesEverything()
 void DesignSavingTest::changeByAnotherProgramIsReplacedOnlyOnTheUsersWord()
 {
     edit();
-    QJsonObject theirs = smallDesign();
-    theirs.insert(QStringLiteral("name"), QStringLiteral("Theirs"));
-    replaceFile(m_opened->designFile(), toText(theirs));
+    changeFileElsewhere();
     ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("Another program"), QMessageBox::Cancel);
     QVERIFY(!m_saving->saveAll());
@@ -272,15 +282,72 @@ void DesignSavingTest::failedSaveBringsDroppedResultsBack()
 {
     addResult();
     session().setQuantity(objectId(2), Quantity::Thickness, 1.75);
-    QJsonObject theirs = smallDesign();
-    theirs.insert(QStringLiteral("name"), QStringLiteral("Theirs"));
-    replaceFile(m_opened->designFile(), toText(theirs));
+    changeFileElsewhere();
     ExpectedModals modals;
     modals.expectMessageBox(s_anyBox, QMessageBox::Save);
     modals.expectMessageBox(QStringLiteral("Another program"), QMessageBox::Cancel);
+    const int edits = m_history->stack().index();
     QVERIFY(!m_saving->saveAll());
     QVERIFY(hasResult());
+    QCOMPARE(m_history->stack().index(), edits);
     QCOMPARE(m_failures.size(), 1);
+}
+
+void DesignSavingTest::failedSaveLeavesWhatOthersEditedMeanwhile()
+{
+    addResult();
+    session().setQuantity(objectId(2), Quantity::Thickness, 1.75);
+    changeFileElsewhere();
+    ExpectedModals modals;
+    modals.expectMessageBox(s_anyBox, QMessageBox::Save);
+    modals.expectMessageBox(QStringLiteral("Another program"), [this](QMessageBox& box) {
+        QVERIFY(!hasResult());
+        edit();
+        box.button(QMessageBox::Cancel)->click();
+    });
+    QVERIFY(!m_saving->saveAll());
+    QCOMPARE(session().name(objectId(10)), QStringLiteral("Left door"));
+    QCOMPARE(results(), 1);
+    // One step each, the last first.
+    m_history->undo();
+    QCOMPARE(results(), 0);
+    QCOMPARE(session().name(objectId(10)), QStringLiteral("Left door"));
+    m_history->undo();
+    QVERIFY(session().name(objectId(10)) != QStringLiteral("Left door"));
+    m_history->undo();
+    QCOMPARE(results(), 1);
+}
+
+void DesignSavingTest::failedStartLeavesWhatOthersEditedMeanwhile()
+{
+    addResult();
+    changeFileElsewhere();
+    ExpectedModals modals;
+    modals.expectMessageBox(s_anyBox, QMessageBox::Save);
+    modals.expectMessageBox(QStringLiteral("Another program"), [this](QMessageBox& box) {
+        QVERIFY(!hasResult());
+        edit();
+        box.button(QMessageBox::Cancel)->click();
+    });
+    QVERIFY(!m_saving->start(design().id));
+    QCOMPARE(session().name(objectId(10)), QStringLiteral("Left door"));
+    QCOMPARE(results(), 1);
+}
+
+void DesignSavingTest::resultsBroughtBackMeanwhileAreThereOnce()
+{
+    addResult();
+    session().setQuantity(objectId(2), Quantity::Thickness, 1.75);
+    changeFileElsewhere();
+    ExpectedModals modals;
+    modals.expectMessageBox(s_anyBox, QMessageBox::Save);
+    modals.expectMessageBox(QStringLiteral("Another program"), [this](QMessageBox& box) {
+        m_history->undo();
+        box.button(QMessageBox::Cancel)->click();
+    });
+    QVERIFY(!m_saving->saveAll());
+    QCOMPARE(results(), 1);
+    QVERIFY(session().areQuantitiesModified(design().id));
 }
 
 void DesignSavingTest::designThatGoesWhileAskedAboutIsTold()
