@@ -11,6 +11,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QSaveFile>
 
 #include <memory>
 
@@ -26,6 +27,15 @@ bool needsQuestion(const SaveState& state, ZVSaveDialog::Action action)
                                                    state.areResultsLostByConversion);
     return state.isJobRunning || losesResults || !state.isCurrentVersion ||
            (isStarting && state.isModified);
+}
+
+/** Tries what saving begins with, which leaves the design's file as it is. */
+bool canBeSaved(const Design& design)
+{
+    QSaveFile file(design.file);
+    const bool isWritable = file.open(QIODevice::WriteOnly);
+    file.cancelWriting();
+    return isWritable;
 }
 
 } // namespace
@@ -57,8 +67,11 @@ std::vector<GUIdentifier> DesignSaving::modifiedDesigns() const
 ZVSaveDialog::Result DesignSaving::ask(const GUIdentifier& designId,
                                        ZVSaveDialog::Action action) const
 {
-    return ZVSaveDialog::showDialog(
-        m_window, std::make_shared<SessionDesign>(m_parts.session, designId), action, false, false);
+    const Design* design = m_parts.session.findDesign(designId);
+    const bool isSaveDisabled = design == nullptr || !canBeSaved(*design);
+    return ZVSaveDialog::showDialog(m_window,
+                                    std::make_shared<SessionDesign>(m_parts.session, designId),
+                                    action, false, isSaveDisabled);
 }
 
 bool DesignSaving::saveAll()

@@ -8,10 +8,14 @@
 #include "Workbench/Solver/SimulationRunner.h"
 #include "Workbench/Undo/EditHistory.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLockFile>
+#include <QtCore/QScopeGuard>
+#include <QtCore/QTemporaryFile>
 #include <QtWidgets/QAbstractButton>
 
+#include <functional>
 #include <memory>
 
 using namespace Zorvane;
@@ -40,7 +44,17 @@ private:
     QString m_file;
 };
 
+/** Keeps a design's file from being written; false where it cannot. */
+using Obstacle = std::function<bool(const QString& file)>;
+
+bool putFolderInTheWay(const QString& file)
+{
+    return QFile::remove(file) && QDir().mkdir(file);
+}
+
 } // namespace
+
+Q_DECLARE_METATYPE(Obstacle)
 
 class DesignSavingTest : public TestCase
 {
@@ -83,6 +97,9 @@ private Q_SLOTS:
     void failedSaveLeavesWhatOthersEditedMeanwhile();
     void failedStartLeavesWhatOthersEditedMeanwhile();
     void resultsBroughtBackMeanwhileAreThereOnce();
+    void designThatCannotBeSavedIsNotOfferedSave_data();
+    void designThatCannotBeSavedIsNotOfferedSave();
+    void designThatCannotBeSavedIsSavedElsewhere();
     void designThatGoesWhileAskedAboutIsTold();
     void cancelAtOneDesignKeepsTheRest();
     void unmodifiedDesignsCloseWithoutAQuestion();
@@ -348,6 +365,57 @@ void DesignSavingTest::resultsBroughtBackMeanwhileAreThereOnce()
     QVERIFY(!m_saving->saveAll());
     QCOMPARE(results(), 1);
     QVERIFY(session().areQuantitiesModified(design().id));
+}
+
+void DesignSavingTest::designThatCannotBeSavedIsNotOfferedSave_data()
+{
+    QTest::addColumn<Obstacle>("putInTheWay");
+    QTest::newRow("folder is gone")
+        << Obstacle([](const QString& file) { return QFileInfo(file).dir().removeRecursively(); });
+    QTest::newRow("folder of that name") << Obstacle(putFolderInTheWay);
+    QTest::newRow("read-only file") << Obstacle([](const QString& file) {
+        return QFile::setPermissions(file, QFile::ReadOwner) && !QFileInfo(file).isWritable();
+    });
+    QTest::newRow("read-only folder") << Obstacle([](const QString& file) {
+        const QString folder = QFileInfo(file).path();
+        return QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner) &&
+               !QTemporaryFile(folder + QStringLiteral("/XXXXXX")).open();
+    });
+}
+
+void DesignSavingTest::designThatCannotBeSavedIsNotOfferedSave()
+{
+    QFETCH(Obstacle, putInTheWay);
+    edit();
+    const bool isInTheWay = putInTheWay(m_opened->designFile());
+    const auto unlock = qScopeGuard([this] {
+        for (const QString& path : {m_opened->folder.path(), m_opened->designFile()})
+            QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    });
+    if (!isInTheWay)
+        QSKIP("nothing of the kind keeps this user from writing on this platform");
+    ExpectedModals modals;
+    for (int i = 0; i < 2; ++i) {
+        modals.expectMessageBox(s_anyBox, [](QMessageBox& box) {
+            QVERIFY(!box.button(QMessageBox::Save));
+            QVERIFY(box.button(QMessageBox::SaveAll)->isVisible());
+            box.button(QMessageBox::Cancel)->click();
+        });
+    }
+    QVERIFY(!m_saving->mayClose());
+    QVERIFY(!m_saving->start(design().id));
+    QVERIFY(session().isModified());
+}
+
+void DesignSavingTest::designThatCannotBeSavedIsSavedElsewhere()
+{
+    edit();
+    QVERIFY(putFolderInTheWay(m_opened->designFile()));
+    chooseForSaveAs(QStringLiteral("other.dsg"));
+    ExpectedModals modals;
+    modals.expectMessageBox(s_anyBox, QMessageBox::SaveAll);
+    QVERIFY(m_saving->mayClose());
+    QVERIFY(readFile(m_opened->path(QStringLiteral("other.dsg"))).contains("Left door"));
 }
 
 void DesignSavingTest::designThatGoesWhileAskedAboutIsTold()
