@@ -2,6 +2,7 @@
 
 #include "Dialogs/FileConverterLogInterface.h"
 #include "Host/FileHandling/StlContent.h"
+#include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Meshes/MeshFiles.h"
 #include "Workbench/Meshes/MeshFacts.h"
@@ -9,9 +10,15 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QSemaphore>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QThreadPool>
+#include <QtWidgets/QProgressDialog>
+#include <QtWidgets/QPushButton>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 using namespace Zorvane;
 using namespace Zorvane::Workbench;
@@ -21,10 +28,46 @@ namespace {
 class MessageList : public FileConverterLogInterface
 {
 public:
-    void addMessage(const QString& message) override { messages.append(message); }
+    void addMessage(const QString& message) override
+    {
+        messages.append(message);
+        if (listener)
+            listener(message);
+    }
 
     QStringList messages;
+    std::function<void(const QString& message)> listener;
 };
+
+/** Keeps all threads busy, so that work begun then waits, and lets it go on in the end. */
+class BusyThreads
+{
+public:
+    ~BusyThreads() { finish(); }
+
+    void begin()
+    {
+        for (; m_count < m_pool.maxThreadCount(); ++m_count)
+            m_pool.start([this] { m_mayEnd.acquire(); });
+    }
+    /** Returns when what waited is done, too. */
+    void finish()
+    {
+        m_mayEnd.release(std::exchange(m_count, 0));
+        m_pool.waitForDone();
+    }
+
+private:
+    QThreadPool& m_pool = *QThreadPool::globalInstance();
+    QSemaphore m_mayEnd;
+    int m_count = 0;
+};
+
+QStringList everythingIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
+                                  QDir::NoDotAndDotDot);
+}
 
 QByteArray contentOf(const QString& path)
 {
@@ -61,6 +104,8 @@ private Q_SLOTS:
     void missingInputIsTold();
     void unusableFolderIsTold_data();
     void unusableFolderIsTold();
+    void cancelledConversionLeavesNothingBehind_data();
+    void cancelledConversionLeavesNothingBehind();
     void choosersAreSetUp();
 };
 
@@ -68,7 +113,7 @@ void MeshConversionTest::init()
 {
     m_in = std::make_unique<QTemporaryDir>();
     m_out = std::make_unique<QTemporaryDir>();
-    m_log.messages.clear();
+    m_log = {};
 }
 
 QString MeshConversionTest::write(const QString& name, const QByteArray& content) const
@@ -211,6 +256,41 @@ void MeshConversionTest::unusableFolderIsTold()
     const QString file = write(QStringLiteral("die.obj"), Testing::obj(Testing::cube()));
     QCOMPARE(convert(file, folder), 2);
     QVERIFY(m_log.messages.last().contains(QStringLiteral("there is no such folder")));
+}
+
+void MeshConversionTest::cancelledConversionLeavesNothingBehind_data()
+{
+    QTest::addColumn<QString>("step");
+    QTest::newRow("while reading") << "Reading";
+    QTest::newRow("while writing") << "Writing";
+}
+
+void MeshConversionTest::cancelledConversionLeavesNothingBehind()
+{
+    QFETCH(QString, step);
+    const QByteArray content = Testing::obj(Testing::cube());
+    const QString file = write(QStringLiteral("die.obj"), content);
+    BusyThreads threads;
+    m_log.listener = [&](const QString& message) {
+        if (message.startsWith(step))
+            threads.begin();
+    };
+    Testing::ExpectedModals modals;
+    modals.expectDialog<QProgressDialog>(QStringLiteral("progress"), [&](QProgressDialog& shown) {
+        QVERIFY(shown.labelText().startsWith(step));
+        QTest::mouseClick(shown.findChild<QPushButton*>(), Qt::LeftButton);
+    });
+    QCOMPARE(convert(file), int(MeshConversion::Cancelled));
+    QCOMPARE(m_log.messages.last(), QStringLiteral("Cancelled. Nothing was written."));
+    // The work that was left goes on to its end, and takes what it has written away.
+    threads.finish();
+    QCOMPARE(everythingIn(m_out->path()), QStringList());
+    QCOMPARE(everythingIn(m_in->path()), QStringList(QStringLiteral("die.obj")));
+    QCOMPARE(contentOf(file), content);
+
+    m_log.listener = nullptr;
+    QCOMPARE(convert(file), 0);
+    QCOMPARE(everythingIn(m_out->path()), QStringList(QStringLiteral("die.stl")));
 }
 
 void MeshConversionTest::choosersAreSetUp()
