@@ -1,5 +1,7 @@
 #include "Workbench/Preview/PreviewWorker.h"
 
+#include "Workbench/Window/Language.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLocale>
 
@@ -21,7 +23,9 @@ PreviewRequest requestFrom(const QStringList& arguments)
     request.limits.milliseconds = arguments[3].toInt();
     request.look.pixels = QSize(arguments[4].toInt(), arguments[5].toInt());
     request.look.dark = arguments[6].toInt() != 0;
-    QLocale::setDefault(QLocale(arguments[7]));
+    // The system's own knows more of what the user wants than its name tells.
+    if (arguments[7] != QLocale().name())
+        QLocale::setDefault(QLocale(arguments[7]));
     request.path = arguments[8];
     return request;
 }
@@ -62,6 +66,7 @@ std::optional<int> runPreviewWorker(int argc, char** argv)
         return std::nullopt;
     const QCoreApplication application(argc, argv);
     const PreviewRequest request = requestFrom(QCoreApplication::arguments());
+    const Language language{QLocale()};
     // Without limits, nothing that somebody else wrote is read.
     if (!limitThisProcess(request.limits))
         return EXIT_FAILURE;

@@ -22,8 +22,9 @@ struct PreviewRequest
 
 /**
  * The other end of `PreviewReader`. A program whose main() begins with this call can be asked to
- * read a file for a preview: then it limits itself, reads, writes the content to its standard
- * output, and main() ends with the result. None if the program was started for something else.
+ * read a file for a preview: then it limits itself, reads, writes the content, in the user's
+ * language, to its standard output, and main() ends with the result. None if the program was
+ * started for something else.
  */
 std::optional<int> runPreviewWorker(int argc, char** argv);
 

@@ -4,8 +4,10 @@
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Meshes/MeshFiles.h"
 #include "Workbench/Meshes/MeshWriter.h"
+#include "Workbench/Window/Language.h"
 
 #include <QtCore/QEventLoop>
+#include <QtCore/QLocale>
 #include <QtCore/QLockFile>
 #include <QtCore/QTemporaryDir>
 
@@ -142,8 +144,11 @@ private:
     const QTemporaryDir m_folder;
 
 private Q_SLOTS:
+    void init() { QLocale::setDefault(QLocale::c()); }
     void readsFiles_data();
     void readsFiles();
+    void speaksTheLanguageOfTheUser_data();
+    void speaksTheLanguageOfTheUser();
     void namesOfAllKindsArrive_data();
     void namesOfAllKindsArrive();
     void answersComeFromTheEventLoop();
@@ -188,6 +193,7 @@ void PreviewReaderTest::readsFiles()
     QTRY_COMPARE(answers.count(), 1);
     QCOMPARE(answers.paths.first(), request.path);
     // The same as read here, which for these files is safe.
+    const Language language{QLocale()};
     const PreviewContent wanted = FilePreview::read(request.path, request.look);
     QCOMPARE(answers.last.kind, kind);
     QCOMPARE(answers.last.note, wanted.note);
@@ -195,6 +201,39 @@ void PreviewReaderTest::readsFiles()
     QVERIFY(answers.last.rows == wanted.rows);
     QCOMPARE(answers.last.text, wanted.text);
     QVERIFY(!reader.isReading());
+}
+
+void PreviewReaderTest::speaksTheLanguageOfTheUser_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("told");
+    const QLocale german(QLocale::German, QLocale::Germany);
+    const QLocale english(QLocale::English, QLocale::UnitedStates);
+    const QLocale icelandic(QLocale::Icelandic, QLocale::Iceland);
+    const auto row = [](const char* rule, const QLocale& locale, const char* name,
+                        const char* told) {
+        QTest::newRow(rule) << locale << QString::fromUtf8(name) << QString::fromUtf8(told);
+    };
+    row("note in German", german, "a.txt", "2 Zeilen");
+    row("reason in German", german, "none.txt", "gibt es nicht");
+    row("note in English", english, "a.txt", "2 lines");
+    row("reason in English", english, "none.txt", "doesn't exist");
+    row("English for a language without texts", icelandic, "none.txt", "doesn't exist");
+}
+
+void PreviewReaderTest::speaksTheLanguageOfTheUser()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, name);
+    QFETCH(QString, told);
+    make(QStringLiteral("a.txt"), "one\ntwo\n");
+    QLocale::setDefault(locale);
+    PreviewReader reader;
+    const Answers answers(reader);
+    reader.request(of(m_folder.filePath(name)));
+    QTRY_COMPARE(answers.count(), 1);
+    QVERIFY2(answers.last.note.startsWith(told), qPrintable(answers.last.note));
 }
 
 void PreviewReaderTest::namesOfAllKindsArrive_data()

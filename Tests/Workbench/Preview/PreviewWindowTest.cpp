@@ -4,6 +4,7 @@
 #include "Tests/Workbench/Meshes/MeshFiles.h"
 #include "Workbench/Preview/FilePreviewEditor.h"
 
+#include <QtCore/QLocale>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QScreen>
 #include <QtWidgets/QHeaderView>
@@ -33,6 +34,7 @@ private:
     const QTemporaryDir m_folder;
 
 private Q_SLOTS:
+    void init() { QLocale::setDefault(QLocale::c()); }
     void showsMeshes();
     void showsTables();
     void showsTexts();
