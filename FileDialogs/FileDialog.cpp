@@ -79,6 +79,7 @@ QString textOfWrongFolder(const QString& message, const QString& folder)
 } // namespace
 
 int FileDialog::s_openDialogsCount = 0;
+bool FileDialog::s_wasEndingAdded = false;
 
 QString FileDialog::getOpenFileName(const QString& caption, const QString& startDirectory,
                                     const QString& filter, PathProvider* provider,
@@ -124,8 +125,11 @@ QString FileDialog::getSaveFileName(const QString& caption, const QString& filte
     const QString start = getLastDirectoryOpened(provider, scope, fileName);
     QString selected = selectedFilter.isEmpty() ? lastSaveFilters().value(scope) : selectedFilter;
     QString result = getSaveFileNameWrapper(caption, start, filter, &selected, places, parent);
-    if (!result.isEmpty() && findFileEnding(result) < 0)
-        result += defaultSuffix(selected, filter);
+    const QString suffix = result.isEmpty() || findFileEnding(result) >= 0
+                               ? QString()
+                               : defaultSuffix(selected, filter);
+    result += suffix;
+    s_wasEndingAdded = !suffix.isEmpty();
     provider->setPathToScope(result, scope);
     lastSaveFilters().insert(scope, selected);
     return result;
@@ -136,6 +140,11 @@ QString FileDialog::getSaveFileName(const QString& caption, const QString& filte
                                     const QString& fileName, QWidget* parent)
 {
     return getSaveFileName(caption, filter, QString(), provider, scope, fileName, parent);
+}
+
+bool FileDialog::wasEndingAdded()
+{
+    return s_wasEndingAdded;
 }
 
 QString FileDialog::getSaveFileNameInDir(const QString& caption, const QString& filter,

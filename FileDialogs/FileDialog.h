@@ -32,7 +32,9 @@ class PathProvider;
  *
  * Nothing is owned: provider, configuration and parent must live until the call returns (the
  * parent may go earlier). The provider must not be null unless a function says so. GUI thread only.
- * Not supported: several files in a save dialog, remote (URL) files, a configuration on saving.
+ * Not supported: several files in a save dialog, remote (URL) files, a configuration on saving, and
+ * double quotes in a name typed into Qt's dialog, which takes them for the ends of names: of
+ * `12" blank.dsg` it gives ` blank.dsg`. Propose names without them.
  */
 class ZORVANE_UITOOLS_EXPORT FileDialog
 {
@@ -61,9 +63,9 @@ public:
 
     /**
      * A file to write, proposed as `fileName` in the scope's folder; the user has agreed to
-     * replacing one that exists. A name without an ending gets what stands behind the first "*" of
-     * the selected filter, or of the first one. An empty `selectedFilter` stands for the one that
-     * the scope used last, in this run of the application.
+     * replacing one that exists, unless `wasEndingAdded`. A name without an ending gets what stands
+     * behind the first "*" of the selected filter, or of the first one. An empty `selectedFilter`
+     * stands for the one that the scope used last, in this run of the application.
      */
     static QString getSaveFileName(const QString& caption, const QString& filter,
                                    const QString& selectedFilter, PathProvider* provider,
@@ -73,6 +75,11 @@ public:
     static QString getSaveFileName(const QString& caption, const QString& filter,
                                    PathProvider* provider, const QString& scope,
                                    const QString& fileName, QWidget* parent = nullptr);
+    /**
+     * Whether the last `getSaveFileName` added an ending to what the user chose. The dialog knew the
+     * name without it, so nobody has agreed to replacing a file of the name that came out.
+     */
+    static bool wasEndingAdded();
     /**
      * A file to write in the folder of `filePath`, or of the process when that is empty. A choice
      * elsewhere is answered by a box with `message` (empty: a text that names the folder), and the
@@ -120,6 +127,7 @@ private:
     static int findFileEnding(const QString& path);
 
     static int s_openDialogsCount;
+    static bool s_wasEndingAdded;
 };
 
 } // namespace Zorvane

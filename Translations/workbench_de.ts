@@ -552,6 +552,17 @@
     </message>
 </context>
 <context>
+    <name>Zorvane::Workbench::DialogFileChooser</name>
+    <message>
+        <source>%1 already exists. Is it to be replaced?</source>
+        <translation>%1 gibt es schon. Soll die Datei ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+</context>
+<context>
     <name>Zorvane::Workbench::EditCommand</name>
     <message>
         <source>Rename %1</source>

@@ -24,6 +24,8 @@ private Q_SLOTS:
     void defaultSuffix();
     void defaultSuffixOfTheSelectedFilter();
     void suffixIsToldToTheProvider();
+    void addedEndingsAreKnown_data();
+    void addedEndingsAreKnown();
 
     void filterIsRememberedByScope();
     void chosenFilterGoesBeforeTheRememberedOne();
@@ -173,6 +175,34 @@ void FileDialogSaveTest::suffixIsToldToTheProvider()
     m_script.answer({QStringLiteral("C:/parts/part")});
     saveIn("told", QStringLiteral("A (*.a)"), QString());
     QCOMPARE(m_provider.calls.last(), QStringLiteral("set told to 'C:/parts/part.a'"));
+}
+
+void FileDialogSaveTest::addedEndingsAreKnown_data()
+{
+    QTest::addColumn<QStringList>("chosen");
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<bool>("isAdded");
+    const QString file = QStringLiteral("/b/part");
+    const QString parts = QStringLiteral("Parts (*.prt)");
+    QTest::newRow("without an ending") << QStringList(file) << parts << true;
+    QTest::newRow("with one") << QStringList(file + QStringLiteral(".x")) << parts << false;
+    QTest::newRow("none to add") << QStringList(file) << QStringLiteral("All (*)") << false;
+    QTest::newRow("cancelled") << QStringList() << parts << false;
+}
+
+void FileDialogSaveTest::addedEndingsAreKnown()
+{
+    QFETCH(QStringList, chosen);
+    QFETCH(QString, filter);
+    // Whatever was before it.
+    for (const char* before : {"/b/other", "/b/other.prt"}) {
+        m_script.answer({QString::fromLatin1(before)});
+        saveIn("added endings, before", QStringLiteral("Parts (*.prt)"), QString());
+        if (!chosen.isEmpty())
+            m_script.answer(chosen);
+        saveIn("added endings", filter, filter);
+        QTEST(FileDialog::wasEndingAdded(), "isAdded");
+    }
 }
 
 void FileDialogSaveTest::filterIsRememberedByScope()

@@ -130,10 +130,15 @@ Design DesignCopy::of(const Design& design, const QString& file)
     return copy;
 }
 
+QString DesignCopy::typableName(const QString& designFile)
+{
+    return QFileInfo(designFile).fileName().replace(QLatin1Char('"'), QLatin1String("''"));
+}
+
 QString DesignCopy::proposedFile(const QString& designFile)
 {
-    const QFileInfo info(designFile);
-    const QDir folder = info.dir();
+    const QDir folder = QFileInfo(designFile).dir();
+    const QFileInfo info(typableName(designFile));
     for (int number = 1;; ++number) {
         const QString name =
             number == 1 ? tr("%1 copy").arg(info.completeBaseName())

@@ -25,7 +25,10 @@ public:
      */
     static Design of(const Design& design, const QString& file);
 
-    /** A name for a copy beside the design's file that nothing has yet. */
+    /** The file's name as every file dialog takes it: inches in two single quotes. */
+    static QString typableName(const QString& designFile);
+
+    /** A typable name for a copy beside the design's file that nothing has yet. */
     static QString proposedFile(const QString& designFile);
 
     /**

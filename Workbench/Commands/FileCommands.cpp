@@ -78,7 +78,7 @@ bool FileCommands::saveAs(const GUIdentifier& objectId)
     if (design == nullptr)
         return false;
     const QString target = m_chooser->fileToSave(m_window, choiceFor(*design, tr("Save Design As")),
-                                                 QFileInfo(design->file).fileName());
+                                                 DesignCopy::typableName(design->file));
     design = m_session.findDesign(objectId);
     if (target.isEmpty() || design == nullptr)
         return false;
@@ -100,8 +100,8 @@ bool FileCommands::saveCopy(const GUIdentifier& objectId)
     const Design* design = m_session.findDesign(objectId);
     if (design == nullptr)
         return false;
-    const QString target = m_chooser->fileToSaveBeside(choiceFor(*design, tr("Save a Copy")),
-                                                       DesignCopy::proposedFile(design->file));
+    const QString target = m_chooser->fileToSaveBeside(
+        m_window, choiceFor(*design, tr("Save a Copy")), DesignCopy::proposedFile(design->file));
     design = m_session.findDesign(objectId);
     if (target.isEmpty() || design == nullptr ||
         !write(DesignCopy::of(*design, target), obstacleTo(target)))

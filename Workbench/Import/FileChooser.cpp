@@ -1,11 +1,16 @@
 #include "Workbench/Import/FileChooser.h"
 
+#include "FileDialogs/DialogPaths.h"
 #include "FileDialogs/FileDialog.h"
 #include "FileDialogs/PreviewFileDialog.h"
 #include "FileDialogs/PreviewFileDialogConfiguration.h"
+#include "Files/PathProvider.h"
+#include "Host/Widgets/ZVMessageBox.h"
 #include "Workbench/Preview/FilePreviewEditor.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtWidgets/QPushButton>
 
 #include <memory>
 
@@ -15,6 +20,23 @@ namespace {
 
 const std::string s_geometryKey = "Workbench/FileDialog";
 const std::string s_showPreviewKey = "Workbench/FileDialog/ShowPreview";
+
+/** The dialog has asked about the name without the ending, which is another file. */
+bool mayReplace(QWidget* parent, const QString& caption, const QString& file)
+{
+    if (!QFileInfo::exists(file))
+        return true;
+    ZVMessageBox box(QMessageBox::Warning, caption,
+                     DialogFileChooser::tr("%1 already exists. Is it to be replaced?")
+                         .arg(QDir::toNativeSeparators(file)),
+                     QMessageBox::Cancel, parent);
+    box.setTextFormat(Qt::PlainText);
+    const QPushButton* replace =
+        box.addButton(DialogFileChooser::tr("&Replace"), QMessageBox::DestructiveRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == replace;
+}
 
 } // namespace
 
@@ -44,14 +66,25 @@ QString DialogFileChooser::folder(QWidget*, const FileChoice& choice)
 QString DialogFileChooser::fileToSave(QWidget* parent, const FileChoice& choice,
                                       const QString& fileName)
 {
-    return QDir::fromNativeSeparators(FileDialog::getSaveFileName(
+    const QString file = QDir::fromNativeSeparators(FileDialog::getSaveFileName(
         choice.caption, choice.filters, choice.paths, choice.scope, fileName, parent));
+    if (FileDialog::wasEndingAdded() && !mayReplace(parent, choice.caption, file))
+        return {};
+    return file;
 }
 
-QString DialogFileChooser::fileToSaveBeside(const FileChoice& choice, const QString& path)
+QString DialogFileChooser::fileToSaveBeside(QWidget* parent, const FileChoice& choice,
+                                            const QString& path)
 {
-    return QDir::fromNativeSeparators(FileDialog::getSaveFileNameInDir(
+    const QString file = QDir::fromNativeSeparators(FileDialog::getSaveFileNameInDir(
         choice.caption, choice.filters, path, choice.paths, choice.scope, {}, {}));
+    if (file.isEmpty() || fileEndingIndex(file) >= 0)
+        return file;
+    const QString whole = file + suffixOfFilter(choice.filters.section(QLatin1Char(';'), 0, 0));
+    if (!mayReplace(parent, choice.caption, whole))
+        return {};
+    choice.paths->setPathToScope(QDir::toNativeSeparators(whole), choice.scope);
+    return whole;
 }
 
 } // namespace Zorvane::Workbench

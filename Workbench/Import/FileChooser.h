@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -39,23 +40,28 @@ public:
     /** The absolute path of a folder; empty when cancelled. */
     virtual QString folder(QWidget* parent, const FileChoice& choice) = 0;
     /**
-     * The absolute path of a file to write, `fileName` proposed; empty when cancelled. The user has
-     * agreed to replace one that exists.
+     * The absolute path of a file to write, `fileName` proposed; empty when cancelled. A name
+     * without an ending has got the first one of the filters. The user has agreed to replace a file
+     * that exists.
      */
     virtual QString fileToSave(QWidget* parent, const FileChoice& choice,
                                const QString& fileName) = 0;
     /** The same for a file in the folder of `path`, which is proposed. */
-    virtual QString fileToSaveBeside(const FileChoice& choice, const QString& path) = 0;
+    virtual QString fileToSaveBeside(QWidget* parent, const FileChoice& choice,
+                                     const QString& path) = 0;
 };
 
 /** Asks by the library's dialogs; files are shown beside the dialog while the user selects. */
 class DialogFileChooser : public FileChooser
 {
+    Q_DECLARE_TR_FUNCTIONS(Zorvane::Workbench::DialogFileChooser)
+
 public:
     QStringList files(QWidget* parent, const FileChoice& choice) override;
     QString folder(QWidget* parent, const FileChoice& choice) override;
     QString fileToSave(QWidget* parent, const FileChoice& choice, const QString& fileName) override;
-    QString fileToSaveBeside(const FileChoice& choice, const QString& path) override;
+    QString fileToSaveBeside(QWidget* parent, const FileChoice& choice,
+                             const QString& path) override;
 };
 
 } // namespace Zorvane::Workbench

@@ -33,7 +33,7 @@ public:
     QStringList files(QWidget*, const FileChoice&) override { return m_files; }
     QString folder(QWidget*, const FileChoice&) override { return m_folder; }
     QString fileToSave(QWidget*, const FileChoice&, const QString&) override { return {}; }
-    QString fileToSaveBeside(const FileChoice&, const QString&) override { return {}; }
+    QString fileToSaveBeside(QWidget*, const FileChoice&, const QString&) override { return {}; }
 
 private:
     QStringList m_files;

@@ -102,6 +102,11 @@ void DesignCopyTest::proposesNamesThatAreFree()
     Testing::writeFile(folder.filePath(QStringLiteral("door.v2 copy 2.dsg")), "x");
     QCOMPARE(DesignCopy::proposedFile(design),
              folder.filePath(QStringLiteral("door.v2 copy 3.dsg")));
+    // But for what not every dialog takes.
+    QCOMPARE(DesignCopy::proposedFile(folder.filePath(QStringLiteral("12\" blank.dsg"))),
+             folder.filePath(QStringLiteral("12'' blank copy.dsg")));
+    QCOMPARE(DesignCopy::typableName(folder.filePath(QStringLiteral("12\" blank.dsg"))),
+             QStringLiteral("12'' blank.dsg"));
     // Names are taken as they are.
     Testing::writeFile(folder.filePath(QStringLiteral("50%1 copy.dsg")), "x");
     QCOMPARE(DesignCopy::proposedFile(folder.filePath(QStringLiteral("50%1.dsg"))),

@@ -1,9 +1,11 @@
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/TestCase.h"
+#include "Tests/Workbench/Commands/Keyboard.h"
 #include "Tests/Workbench/Tree/TreeFixture.h"
 #include "Workbench/Preview/PreviewWindow.h"
 #include "Workbench/Window/MainWindow.h"
 
+#include <QtCore/QLocale>
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
 #include <QtWidgets/QAbstractItemView>
@@ -17,7 +19,11 @@
 namespace Zorvane::Workbench {
 
 using Kind = PreviewContent::Kind;
+using Testing::activate;
 using Testing::ExpectedModals;
+using Testing::isFocused;
+using Testing::press;
+using Testing::type;
 
 namespace {
 
@@ -29,29 +35,6 @@ PreviewWindow* previewWindow()
     return nullptr;
 }
 
-/** The offscreen screen activates whatever is shown, which others leave to whoever is active. */
-void activate(QWidget& window)
-{
-    window.activateWindow();
-    QTRY_VERIFY(window.isActiveWindow() && QApplication::focusWidget());
-}
-
-/** To whatever has the focus, as a keyboard does. */
-void press(QWidget& window, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-{
-    activate(window);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
-}
-
-void type(QWidget& window, const QString& text)
-{
-    activate(window);
-    QTest::keyClicks(QApplication::focusWidget(), text);
-    // Names that the dialog knows are proposed in a list that takes the next keys.
-    if (QWidget* proposals = QApplication::activePopupWidget())
-        proposals->hide();
-}
-
 /** In the order shown. */
 QStringList namesIn(const QFileDialog& dialog)
 {
@@ -60,12 +43,6 @@ QStringList namesIn(const QFileDialog& dialog)
     for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
         names << list->model()->index(row, 0, list->rootIndex()).data().toString();
     return names;
-}
-
-bool isFocused(const char* objectName)
-{
-    const QWidget* focused = QApplication::focusWidget();
-    return focused != nullptr && focused->objectName() == QLatin1String(objectName);
 }
 
 } // namespace
@@ -98,6 +75,7 @@ private:
 
 void OpenByKeyboardTest::init()
 {
+    QLocale::setDefault(QLocale::c());
     QSettings().clear();
     m_folder = std::make_unique<QTemporaryDir>();
     Testing::writeFile(file("a-mesh.stl"), Testing::binaryStl(Testing::cube()));

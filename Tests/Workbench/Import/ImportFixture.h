@@ -82,7 +82,8 @@ public:
         ask(choice, m_script.saved);
         return m_script.saved;
     }
-    QString fileToSaveBeside(const Workbench::FileChoice& choice, const QString& path) override
+    QString fileToSaveBeside(QWidget*, const Workbench::FileChoice& choice,
+                             const QString& path) override
     {
         m_script.proposed = path;
         ask(choice, m_script.saved);

@@ -38,7 +38,10 @@ public:
     QStringList files(QWidget*, const FileChoice&) override { return {}; }
     QString folder(QWidget*, const FileChoice&) override { return {}; }
     QString fileToSave(QWidget*, const FileChoice&, const QString&) override { return m_file; }
-    QString fileToSaveBeside(const FileChoice&, const QString&) override { return m_file; }
+    QString fileToSaveBeside(QWidget*, const FileChoice&, const QString&) override
+    {
+        return m_file;
+    }
 
 private:
     QString m_file;

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
+
+namespace Zorvane::Testing {
+
+/** The offscreen screen activates whatever is shown, which others leave to whoever is active. */
+inline void activate(QWidget& window)
+{
+    window.activateWindow();
+    QTRY_VERIFY(window.isActiveWindow() && QApplication::focusWidget());
+}
+
+/** To whatever has the focus, as a keyboard does. */
+inline void press(QWidget& window, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    activate(window);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), modifiers);
+}
+
+inline void type(QWidget& window, const QString& text)
+{
+    activate(window);
+    QTest::keyClicks(QApplication::focusWidget(), text);
+    // Names that the dialog knows are proposed in a list that takes the next keys.
+    if (QWidget* proposals = QApplication::activePopupWidget())
+        proposals->hide();
+}
+
+inline bool isFocused(const char* objectName)
+{
+    const QWidget* focused = QApplication::focusWidget();
+    return focused != nullptr && focused->objectName() == QLatin1String(objectName);
+}
+
+} // namespace Zorvane::Testing
