@@ -1762,6 +1762,10 @@
         <source>Help &amp;Contents</source>
         <translation>&amp;Inhalt der Hilfe</translation>
     </message>
+    <message>
+        <source>&amp;Directions</source>
+        <translation>&amp;Richtungen</translation>
+    </message>
 </context>
 <context>
     <name>Zorvane::Workbench::WorkbenchActions</name>
@@ -1864,6 +1868,22 @@
     <message>
         <source>The file of the object stays</source>
         <translation>Die Datei des Objekts bleibt</translation>
+    </message>
+    <message>
+        <source>Reope&amp;n All</source>
+        <translation>Alles &amp;neu öffnen</translation>
+    </message>
+    <message>
+        <source>Read everything again</source>
+        <translation>Alles noch einmal lesen</translation>
+    </message>
+    <message>
+        <source>Close A&amp;ll</source>
+        <translation>Alles s&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Close all designs and meshes</source>
+        <translation>Alle Entwürfe und Netze schließen</translation>
     </message>
 </context>
 <context>

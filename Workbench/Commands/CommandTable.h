@@ -17,6 +17,8 @@ enum class CommandMenu
     File,
     Edit,
     View,
+    /** A menu in the one before it. */
+    Directions,
     Display,
     Tools,
     Help
@@ -37,7 +39,7 @@ enum class CommandSource
     Global,
     Workbench,
     Separator,
-    /** A menu that the window fills. */
+    /** A menu in a menu; the window fills it, or other lines of the table do. */
     SubMenu
 };
 
@@ -45,6 +47,7 @@ enum class CommandSubMenu
 {
     Recent,
     Samples,
+    Directions,
     Mode,
     Appearance
 };

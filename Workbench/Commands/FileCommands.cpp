@@ -10,6 +10,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 namespace Zorvane::Workbench {
@@ -33,6 +34,18 @@ FileChoice choiceFor(const Design& design, const QString& caption)
 {
     return {caption, DesignPathProvider::getInstance(design.id, FileName(design.file)), s_scope,
             FileCommands::tr("Designs (%1)").arg(s_pattern)};
+}
+
+Design copyOf(const Design& design, const QString& file, FileCommands::Results results)
+{
+    Design copy = DesignCopy::of(design, file);
+    if (results == FileCommands::Results::LeaveOut)
+        copy.files.erase(std::remove_if(copy.files.begin(), copy.files.end(),
+                                        [](const FileReference& reference) {
+                                            return reference.kind == FileKind::Result;
+                                        }),
+                         copy.files.end());
+    return copy;
 }
 
 } // namespace
@@ -72,7 +85,7 @@ void FileCommands::openFolder()
         Q_EMIT chosen({folder});
 }
 
-bool FileCommands::saveAs(const GUIdentifier& objectId)
+bool FileCommands::saveAs(const GUIdentifier& objectId, Results results)
 {
     const Design* design = m_session.findDesign(objectId);
     if (design == nullptr)
@@ -83,7 +96,7 @@ bool FileCommands::saveAs(const GUIdentifier& objectId)
     if (target.isEmpty() || design == nullptr)
         return false;
     std::optional<Problem> obstacle = obstacleTo(target);
-    Design copy = DesignCopy::of(*design, target);
+    Design copy = copyOf(*design, target, results);
     const GUIdentifier replaced = design->id;
     if (!obstacle)
         obstacle = DesignCopy::bringFiles(m_window, copy, design->folder());
@@ -95,7 +108,7 @@ bool FileCommands::saveAs(const GUIdentifier& objectId)
     return true;
 }
 
-bool FileCommands::saveCopy(const GUIdentifier& objectId)
+bool FileCommands::saveCopy(const GUIdentifier& objectId, Results results)
 {
     const Design* design = m_session.findDesign(objectId);
     if (design == nullptr)
@@ -104,7 +117,7 @@ bool FileCommands::saveCopy(const GUIdentifier& objectId)
         m_window, choiceFor(*design, tr("Save a Copy")), DesignCopy::proposedFile(design->file));
     design = m_session.findDesign(objectId);
     if (target.isEmpty() || design == nullptr ||
-        !write(DesignCopy::of(*design, target), obstacleTo(target)))
+        !write(copyOf(*design, target, results), obstacleTo(target)))
         return false;
     Q_EMIT done(tr("A copy is saved as %1").arg(QDir::toNativeSeparators(target)));
     return true;

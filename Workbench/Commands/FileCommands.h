@@ -24,6 +24,13 @@ class FileCommands : public QObject
     Q_OBJECT
 
 public:
+    /** Whether what is written refers to the results that the design has. */
+    enum class Results
+    {
+        Keep,
+        LeaveOut
+    };
+
     FileCommands(DesignSession& session, QWidget* window);
     ~FileCommands() override;
 
@@ -41,9 +48,9 @@ public:
      * that: its files come along into another folder. The design that it was is closed as it lies
      * on the disk. False if nothing was saved: the user gave up, or it failed, which is told.
      */
-    bool saveAs(const GUIdentifier& objectId);
+    bool saveAs(const GUIdentifier& objectId, Results results = Results::Keep);
     /** Writes a copy of the design beside it, unsaved changes included; the session stays as is. */
-    bool saveCopy(const GUIdentifier& objectId);
+    bool saveCopy(const GUIdentifier& objectId, Results results = Results::Keep);
 
 Q_SIGNALS:
     /** What the user wants to have opened. */

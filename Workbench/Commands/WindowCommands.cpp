@@ -54,10 +54,12 @@ void WindowCommands::createMenus()
     const std::pair<CommandSubMenu, QString> subMenus[] = {
         {CommandSubMenu::Recent, tr("Open Recen&t")},
         {CommandSubMenu::Samples, tr("Open Sa&mple")},
+        {CommandSubMenu::Directions, tr("&Directions")},
         {CommandSubMenu::Mode, tr("&Mode")},
         {CommandSubMenu::Appearance, tr("&Appearance")}};
     for (const auto& [menu, title] : subMenus)
         m_subMenus[menu] = new QMenu(title, &m_window);
+    m_menus[CommandMenu::Directions] = m_subMenus.at(CommandSubMenu::Directions);
 }
 
 void WindowCommands::createToolBars()

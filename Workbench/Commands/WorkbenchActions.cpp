@@ -29,6 +29,8 @@ void WorkbenchActions::initActions()
         {OpenFolder,       "OpenFolderAction",       QT_TR_NOOP("Open &Folder…"),        QT_TR_NOOP("Open the designs of a folder"),                "Ctrl+Alt+O",       ":/workbench/open.svg"},
         {Import,           "ImportAction",           QT_TR_NOOP("&Import…"),             QT_TR_NOOP("Bring files into the selected design"),        "Ctrl+I",           ""},
         {SaveCopy,         "SaveCopyAction",         QT_TR_NOOP("Save a Cop&y…"),        QT_TR_NOOP("Write a copy beside the design"),              "",                 ""},
+        {ReopenAll,        "ReopenAllAction",        QT_TR_NOOP("Reope&n All"),          QT_TR_NOOP("Read everything again"),                       "",                 ""},
+        {CloseAll,         "CloseAllAction",         QT_TR_NOOP("Close A&ll"),           QT_TR_NOOP("Close all designs and meshes"),                "",                 ""},
         {Rename,           "RenameAction",           QT_TR_NOOP("Re&name"),              QT_TR_NOOP("Change the name of the selected object"),      "F2",               ""},
         {Remove,           "RemoveAction",           QT_TR_NOOP("Re&move from Design"),  QT_TR_NOOP("The file of the object stays"),                "Del",              ""},
         {Find,             "FindAction",             QT_TR_NOOP("&Find"),                QT_TR_NOOP("Filter the tree by words"),                    "Ctrl+F",           ""},

@@ -15,6 +15,8 @@ public:
         OpenFolder,
         Import,
         SaveCopy,
+        ReopenAll,
+        CloseAll,
         Rename,
         Remove,
         Find,

@@ -105,11 +105,25 @@ void DesignSession::close()
     Q_EMIT changed();
 }
 
+bool DesignSession::canClose(const GUIdentifier& designId) const
+{
+    return m_store.canClose(designId);
+}
+
+void DesignSession::close(const GUIdentifier& designId)
+{
+    if (!canClose(designId))
+        return;
+    m_store.close(designId);
+    watch();
+    Q_EMIT reread();
+    Q_EMIT changed();
+}
+
 void DesignSession::replace(const GUIdentifier& designId, const QString& file)
 {
     m_store.replace(designId, QFileInfo(file).canonicalFilePath());
     watch();
-    Q_EMIT reread();
     Q_EMIT reread();
     Q_EMIT changed();
 }

@@ -49,6 +49,16 @@ public:
     void open(const QStringList& paths);
     /** Forgets everything, unsaved changes too. */
     void close();
+    /**
+     * Whether the design can be closed by itself: no other one refers to it. Designs that refer to
+     * one another in a circle can only be closed with everything else.
+     */
+    bool canClose(const GUIdentifier& designId) const;
+    /**
+     * Forgets one design, its unsaved changes too, and designs that only it refers to, unless they
+     * have unsaved changes. Does nothing if it cannot be closed.
+     */
+    void close(const GUIdentifier& designId);
     /** Opens the design file in place of the design, whose unsaved changes are dropped. */
     void replace(const GUIdentifier& designId, const QString& file);
 

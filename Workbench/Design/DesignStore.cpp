@@ -71,13 +71,32 @@ void DesignStore::replace(const GUIdentifier& designId, const QString& file)
     const int place = m_opened.indexOf(replaced);
     m_opened.removeAll(file);
     m_opened.insert(place < 0 ? m_opened.size() : place, file);
-    m_opened.removeAll(replaced);
-    m_records.erase(replaced);
     // If others refer to it, it is read again.
-    m_designs.erase(std::remove_if(m_designs.begin(), m_designs.end(),
-                                   [&](const Design& design) { return design.file == replaced; }),
-                    m_designs.end());
+    forget(replaced);
     arrange();
+}
+
+bool DesignStore::canClose(const GUIdentifier& designId) const
+{
+    const Design* const found = find(designId);
+    return found != nullptr && !m_referred.contains(found->file);
+}
+
+void DesignStore::close(const GUIdentifier& designId)
+{
+    if (!canClose(designId))
+        return;
+    forget(QString(find(designId)->file));
+    arrange();
+}
+
+void DesignStore::forget(const QString& file)
+{
+    m_opened.removeAll(file);
+    m_records.erase(file);
+    m_designs.erase(std::remove_if(m_designs.begin(), m_designs.end(),
+                                   [&](const Design& design) { return design.file == file; }),
+                    m_designs.end());
 }
 
 void DesignStore::clear()

@@ -43,6 +43,10 @@ public:
     void add(const QString& file);
     /** Opens the file in place of the design, whose unsaved changes are dropped. */
     void replace(const GUIdentifier& designId, const QString& file);
+    /** Whether no other design refers to it: one that is referred to stays open. */
+    bool canClose(const GUIdentifier& designId) const;
+    /** Forgets a design that can be closed, its unsaved changes too. */
+    void close(const GUIdentifier& designId);
     void clear();
 
     const std::vector<Design>& designs() const { return m_designs; }
@@ -110,6 +114,7 @@ private:
     };
     using Pool = std::map<QString, Design>;
 
+    void forget(const QString& file);
     void arrange();
     void placeOpened(const QString& file, Pool& pool);
     void place(const QString& file, QStringList& path, Pool& pool);

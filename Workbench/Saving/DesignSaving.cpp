@@ -64,11 +64,11 @@ std::vector<GUIdentifier> DesignSaving::modifiedDesigns() const
     return ids;
 }
 
-ZVSaveDialog::Result DesignSaving::ask(const GUIdentifier& designId,
-                                       ZVSaveDialog::Action action) const
+ZVSaveDialog::Result DesignSaving::ask(const GUIdentifier& designId, ZVSaveDialog::Action action,
+                                       bool saveDisabled) const
 {
     const Design* design = m_parts.session.findDesign(designId);
-    const bool isSaveDisabled = design == nullptr || !canBeSaved(*design);
+    const bool isSaveDisabled = saveDisabled || design == nullptr || !canBeSaved(*design);
     return ZVSaveDialog::showDialog(m_window,
                                     std::make_shared<SessionDesign>(m_parts.session, designId),
                                     action, false, isSaveDisabled);
@@ -89,7 +89,7 @@ bool DesignSaving::save(const GUIdentifier& designId)
         return write(designId);
     switch (ask(designId, ZVSaveDialog::ActionSave)) {
     case ZVSaveDialog::ResultSaveAs:
-        return saveAs(designId);
+        return writeAs(designId);
     case ZVSaveDialog::ResultCancel:
         return false;
     default:
@@ -133,17 +133,42 @@ bool DesignSaving::mayOverwrite()
 
 bool DesignSaving::saveAs(const GUIdentifier& designId)
 {
-    const TakenObjects dropped = dropOutdatedResults(designId);
-    const bool isSaved = m_parts.files.saveAs(designId);
-    if (!isSaved)
-        m_parts.history.putBack(dropped);
-    return isSaved;
+    return mayWriteElsewhere(designId) && writeAs(designId);
+}
+
+bool DesignSaving::saveCopy(const GUIdentifier& designId)
+{
+    using Results = FileCommands::Results;
+    return mayWriteElsewhere(designId) &&
+           m_parts.files.saveCopy(designId,
+                                  areResultsOutdated(designId) ? Results::LeaveOut : Results::Keep);
+}
+
+bool DesignSaving::mayWriteElsewhere(const GUIdentifier& designId) const
+{
+    SaveState state = saveStateOf(SessionDesign(m_parts.session, designId));
+    // What computes this file is not disturbed by another one.
+    state.isJobRunning = false;
+    return !needsQuestion(state, ZVSaveDialog::ActionSave) ||
+           ask(designId, ZVSaveDialog::ActionSave, true) != ZVSaveDialog::ResultCancel;
+}
+
+bool DesignSaving::writeAs(const GUIdentifier& designId)
+{
+    using Results = FileCommands::Results;
+    return m_parts.files.saveAs(designId,
+                                areResultsOutdated(designId) ? Results::LeaveOut : Results::Keep);
+}
+
+bool DesignSaving::areResultsOutdated(const GUIdentifier& designId) const
+{
+    const SaveState state = saveStateOf(SessionDesign(m_parts.session, designId));
+    return state.hasResults && state.areResultsOutdated;
 }
 
 TakenObjects DesignSaving::dropOutdatedResults(const GUIdentifier& designId)
 {
-    const SaveState state = saveStateOf(SessionDesign(m_parts.session, designId));
-    return state.hasResults && state.areResultsOutdated ? dropResults(designId) : TakenObjects();
+    return areResultsOutdated(designId) ? dropResults(designId) : TakenObjects();
 }
 
 TakenObjects DesignSaving::dropResults(const GUIdentifier& designId)
@@ -170,12 +195,26 @@ bool DesignSaving::mayCloseOne(const GUIdentifier& designId)
     case ZVSaveDialog::ResultSave:
         return write(designId);
     case ZVSaveDialog::ResultSaveAs:
-        return saveAs(designId);
+        return writeAs(designId);
     case ZVSaveDialog::ResultContinue:
         return true;
     default:
         return false;
     }
+}
+
+bool DesignSaving::close(const GUIdentifier& designId)
+{
+    if (!m_parts.session.canClose(designId))
+        return false;
+    const QString file = m_parts.session.findDesign(designId)->file;
+    m_savedAs.clear();
+    if (m_parts.session.isDesignModified(designId) && !mayCloseOne(designId))
+        return false;
+    if (m_parts.runner.designFile() == file && !mayStopSimulation())
+        return false;
+    m_parts.session.close(m_savedAs.isEmpty() ? designId : designOf(m_savedAs));
+    return true;
 }
 
 bool DesignSaving::mayStopSimulation()
@@ -201,7 +240,7 @@ bool DesignSaving::start(const GUIdentifier& designId)
         return run(designId);
     switch (ask(designId, ZVSaveDialog::ActionStart)) {
     case ZVSaveDialog::ResultSaveAs:
-        return m_parts.files.saveAs(designId) && run(designOf(m_savedAs));
+        return writeAs(designId) && run(designOf(m_savedAs));
     case ZVSaveDialog::ResultCancel:
         return false;
     default:

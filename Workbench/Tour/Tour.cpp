@@ -375,7 +375,7 @@ void Tour::lookAndCancel()
 void Tour::takeUpReading()
 {
     m_report.beginStep(text("Reading cancelled, and taken up again"),
-                       text("Cancel has stopped the reading; Reopen reads what is wanting."));
+                       text("Cancel has stopped the reading; Reopen All reads what is wanting."));
     m_report.expect(m_driver.waitUntilRead(), text("the reading has stopped"));
     m_report.expect(!m_window.readingProgress().isVisible(), text("no progress any more"));
     const IDCombiner last = m_window.session().looseParts().back().id;

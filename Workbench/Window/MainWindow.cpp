@@ -291,7 +291,7 @@ void MainWindow::connectActions()
     on(ZVMainActions::Export, &MainWindow::exportFiles);
     on(ZVMainActions::Save, [this] {
         hideMessages();
-        m_saving->saveAll();
+        m_saving->save(designAtHand());
     });
     on(ZVMainActions::ComputeSimulation, [this] {
         hideMessages();
@@ -300,14 +300,16 @@ void MainWindow::connectActions()
     on(WorkbenchActions::StopSimulation, [this] { m_runner->stop(); });
     on(ZVMainActions::SaveAs, [this] {
         hideMessages();
-        m_fileCommands->saveAs(currentDesign());
+        m_saving->saveAs(designAtHand());
     });
     on(WorkbenchActions::SaveCopy, [this] {
         hideMessages();
-        m_fileCommands->saveCopy(currentDesign());
+        m_saving->saveCopy(designAtHand());
     });
-    on(ZVMainActions::ReOpen, &MainWindow::reload);
-    on(ZVMainActions::Close, &MainWindow::closeAll);
+    on(ZVMainActions::ReOpen, &MainWindow::reopenDesign);
+    on(WorkbenchActions::ReopenAll, &MainWindow::reload);
+    on(ZVMainActions::Close, &MainWindow::closeDesign);
+    on(WorkbenchActions::CloseAll, &MainWindow::closeAll);
     on(ZVMainActions::Exit, &MainWindow::close);
     on(WorkbenchActions::OpenFolder, [this] { m_fileCommands->openFolder(); });
     on(WorkbenchActions::Import, &MainWindow::importFiles);
@@ -407,6 +409,13 @@ void MainWindow::showCurrent()
     (*m_commands)[WorkbenchActions::GoToReference]->setEnabled(
         m_references->leadsAnywhere(m_tree->currentId()));
     m_quantities->show(object);
+    const GUIdentifier design = designAtHand();
+    (*m_commands)[ZVMainActions::Save]->setEnabled(m_session.isDesignModified(design));
+    (*m_commands)[ZVMainActions::Close]->setEnabled(m_session.canClose(design));
+    for (QAction* const action :
+         {(*m_commands)[ZVMainActions::SaveAs], (*m_commands)[WorkbenchActions::SaveCopy],
+          (*m_commands)[ZVMainActions::ReOpen]})
+        action->setEnabled(!design.isNull());
 }
 
 void MainWindow::showSession()
@@ -420,15 +429,11 @@ void MainWindow::showSession()
     const QString program = tr("Zorvane Workbench");
     setWindowTitle(subject.isEmpty() ? program : tr("%1[*] – %2").arg(subject, program));
     setWindowModified(!subject.isEmpty() && m_session.isModified());
-    (*m_commands)[ZVMainActions::Save]->setEnabled(m_session.isModified());
     const bool something = !designs.empty() || !m_session.looseParts().empty();
-    for (QAction* const action :
-         {(*m_commands)[WorkbenchActions::Import], (*m_commands)[ZVMainActions::SaveAs],
-          (*m_commands)[WorkbenchActions::SaveCopy]})
-        action->setEnabled(!designs.empty());
+    (*m_commands)[WorkbenchActions::Import]->setEnabled(!designs.empty());
     const bool anything = something || !m_session.problems().empty();
-    (*m_commands)[ZVMainActions::ReOpen]->setEnabled(anything);
-    (*m_commands)[ZVMainActions::Close]->setEnabled(anything);
+    (*m_commands)[WorkbenchActions::ReopenAll]->setEnabled(anything);
+    (*m_commands)[WorkbenchActions::CloseAll]->setEnabled(anything);
     m_toggles->setEnabled(something);
 }
 
@@ -510,15 +515,24 @@ GUIdentifier MainWindow::currentDesign() const
     return m_exchange->targetFor(m_tree->currentId().getCombinedPart());
 }
 
-bool MainWindow::mayDropChanges()
+/** That of what is selected, else the only one; null where that leaves it open which. */
+GUIdentifier MainWindow::designAtHand() const
 {
-    if (!m_session.isModified())
+    if (const Design* design = m_session.findDesign(m_tree->currentId().getCombinedPart()))
+        return design->id;
+    return m_session.designs().size() == 1 ? m_session.designs().front().id : GUIdentifier();
+}
+
+/** Of one design, or of all for the null id. */
+bool MainWindow::mayDropChanges(const GUIdentifier& designId)
+{
+    if (!(designId.isNull() ? m_session.isModified() : m_session.isDesignModified(designId)))
         return true;
     const auto answer = ZVMessageBox::question(
         this, tr("Unsaved Changes"), tr("Save the changes of the design?"),
         ZVMessageBox::Save | ZVMessageBox::Discard | ZVMessageBox::Cancel, ZVMessageBox::Save);
     if (answer == ZVMessageBox::Save)
-        return m_saving->saveAll();
+        return designId.isNull() ? m_saving->saveAll() : m_saving->save(designId);
     return answer == ZVMessageBox::Discard;
 }
 
@@ -528,6 +542,21 @@ void MainWindow::reload()
         return;
     m_session.reload();
     m_factsReader->readAgain();
+}
+
+void MainWindow::reopenDesign()
+{
+    const GUIdentifier design = designAtHand();
+    if (design.isNull() || !mayDropChanges(design))
+        return;
+    m_session.revert(design);
+    m_factsReader->readAgain();
+}
+
+void MainWindow::closeDesign()
+{
+    hideMessages();
+    m_saving->close(designAtHand());
 }
 
 void MainWindow::closeAll()

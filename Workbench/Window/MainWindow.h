@@ -103,7 +103,10 @@ private:
     void showRecent(QMenu& menu);
 
     GUIdentifier currentDesign() const;
-    bool mayDropChanges();
+    GUIdentifier designAtHand() const;
+    bool mayDropChanges(const GUIdentifier& designId = {});
+    void reopenDesign();
+    void closeDesign();
     void closeAll();
     void rename();
     void removeCurrent();

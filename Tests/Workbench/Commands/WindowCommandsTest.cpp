@@ -39,6 +39,8 @@ private Q_SLOTS:
     void everyShortcutTriggersItsCommandAndNoOther();
     void lettersAreStillTypedIntoTheFilter();
     void modesAreChosenInTheMenu();
+    void everyMenuFitsASmallScreen_data() { addModes(); }
+    void everyMenuFitsASmallScreen();
 
     void togglesShowKindsInTheTree_data();
     void togglesShowKindsInTheTree();
@@ -117,8 +119,8 @@ void WindowCommandsTest::menusAndToolBarsHoldTheCommandsOfTheMode()
     commands().setMode(WindowMode::Tube);
     commands().setMode(mode);
     QList<QAction*> inMenus;
-    for (const QAction* const title : m_window->menuBar()->actions())
-        inMenus += title->menu()->actions();
+    for (const QMenu* const menu : m_window->findChildren<QMenu*>())
+        inMenus += menu->actions();
     QList<QAction*> inBars;
     for (const QToolBar* const bar : m_window->findChildren<QToolBar*>())
         inBars += bar->actions();
@@ -201,6 +203,21 @@ void WindowCommandsTest::modesAreChosenInTheMenu()
     QVERIFY(!m_window->actions().contains(commands()[Main::ShowSheet]));
     menu.actions()[0]->trigger();
     QVERIFY(m_window->actions().contains(commands()[Main::ShowSheet]));
+}
+
+void WindowCommandsTest::everyMenuFitsASmallScreen()
+{
+    QFETCH(WindowMode, mode);
+    commands().setMode(mode);
+    for (const QAction* const title : m_window->menuBar()->actions()) {
+        QMenu* const menu = title->menu();
+        menu->ensurePolished();
+        // A menu that is too tall breaks into columns.
+        for (QAction* const action : menu->actions())
+            QCOMPARE(menu->actionGeometry(action).left(),
+                     menu->actionGeometry(menu->actions().first()).left());
+        QVERIFY2(menu->sizeHint().height() < 768, qPrintable(title->text()));
+    }
 }
 
 void WindowCommandsTest::togglesShowKindsInTheTree_data()

@@ -50,6 +50,9 @@ private Q_SLOTS:
     void badPathDoesNotKeepOthersFromOpening();
     void opensNothingTwice();
     void closeForgetsAll();
+    void closesOneOfTwoDesigns();
+    void closesWhatOnlyTheClosedOneRefersTo();
+    void replacingIsToldOnce();
 
     void opensDesignsReferredTo();
     void opensDesignReferredToTwiceOnce();
@@ -219,6 +222,60 @@ void DesignSessionTest::closeForgetsAll()
     QVERIFY(m_session->looseParts().empty());
     QVERIFY(m_session->problems().empty());
     QVERIFY(!m_session->isModified());
+}
+
+void DesignSessionTest::closesOneOfTwoDesigns()
+{
+    openSmallDesign();
+    m_session->open(
+        {writeFile(path("other.dsg"), toText(designWithFiles(100, QStringLiteral("Other"), {})))});
+    m_session->rename(id(21), QStringLiteral("Upper die"));
+    const QSignalSpy changed(m_session.get(), &DesignSession::changed);
+    m_session->close(id(1));
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(m_session->designs().size(), std::size_t(1));
+    QCOMPARE(designName(), QStringLiteral("Other"));
+    QVERIFY2(!m_session->isModified(), "its changes are gone with it");
+    m_session->close(id(99));
+    QCOMPARE(changed.count(), 1);
+}
+
+void DesignSessionTest::closesWhatOnlyTheClosedOneRefersTo()
+{
+    const QString small = openSmallDesign();
+    const auto referring = [&](int first, const char* file, const QString& name) {
+        const QJsonArray files{fileEntry(first + 1, QStringLiteral("Small"),
+                                         QStringLiteral("design"), QStringLiteral("small.dsg"))};
+        return writeFile(path(file), toText(designWithFiles(first, name, files)));
+    };
+    m_session->close();
+    m_session->open({referring(100, "door.dsg", QStringLiteral("Door")),
+                     referring(200, "roof.dsg", QStringLiteral("Roof"))});
+    QCOMPARE(m_session->designs().size(), std::size_t(3));
+    QVERIFY(!m_session->canClose(id(1)));
+    m_session->close(id(1));
+    QCOMPARE(m_session->designs().size(), std::size_t(3));
+    m_session->close(id(100));
+    QCOMPARE(m_session->designs().size(), std::size_t(2));
+    QVERIFY(!m_session->canClose(id(1)));
+    m_session->rename(id(21), QStringLiteral("Upper die"));
+    m_session->close(id(200));
+    QVERIFY2(m_session->canClose(id(1)), "kept, for its changes are nowhere else");
+    QVERIFY(m_session->isModified(id(21)));
+    m_session->close(id(1));
+    QVERIFY(m_session->designs().empty());
+    QVERIFY(QFile::exists(small));
+}
+
+void DesignSessionTest::replacingIsToldOnce()
+{
+    openSmallDesign();
+    const QString other =
+        writeFile(path("other.dsg"), toText(designWithFiles(100, QStringLiteral("Other"), {})));
+    const QSignalSpy reread(m_session.get(), &DesignSession::reread);
+    m_session->replace(id(1), other);
+    QCOMPARE(reread.count(), 1);
+    QCOMPARE(designName(), QStringLiteral("Other"));
 }
 
 void DesignSessionTest::opensDesignsReferredTo()

@@ -67,6 +67,7 @@ private:
     DesignSession& session() { return m_opened->session; }
     const Design& design() { return session().designs().front(); }
     QByteArray onDisk() const { return readFile(m_opened->designFile()); }
+    QByteArray onOtherDisk() const { return readFile(m_opened->path(QStringLiteral("other.dsg"))); }
     void edit() { session().rename(objectId(10), QStringLiteral("Left door")); }
     bool isEditOnDisk() const { return onDisk().contains("Left door"); }
     void addResult();
@@ -95,6 +96,13 @@ private Q_SLOTS:
     void savingAnOlderDesignAsks();
     void runningDesignIsSavedElsewhereOrNotAtAll();
     void cancelledSaveAsLeavesEverything();
+    void saveAsThatCostsNothingAsksNothing();
+    void saveAsLeavesOutdatedResultsOnTheUsersWord();
+    void saveAsOfAnOlderDesignAsks();
+    void copyLeavesOutdatedResultsToTheDesign();
+    void closesOneDesign();
+    void closingOneUnderAnotherNameClosesThat();
+    void closingOneStopsItsSimulationOnlyOnTheUsersWord();
     void changeByAnotherProgramIsReplacedOnlyOnTheUsersWord();
     void failedSaveBringsDroppedResultsBack();
     void failedSaveLeavesWhatOthersEditedMeanwhile();
@@ -282,6 +290,124 @@ void DesignSavingTest::cancelledSaveAsLeavesEverything()
     QCOMPARE(onDisk(), before);
     QVERIFY(hasResult());
     QVERIFY(session().areQuantitiesModified(design().id));
+}
+
+void DesignSavingTest::saveAsThatCostsNothingAsksNothing()
+{
+    addResult();
+    edit();
+    const auto job = computeElsewhere();
+    chooseForSaveAs(QStringLiteral("other.dsg"));
+    const ExpectedModals none;
+    QVERIFY(m_saving->saveAs(design().id));
+    QCOMPARE(QFileInfo(design().file).fileName(), QStringLiteral("other.dsg"));
+    QVERIFY(onOtherDisk().contains("draw.csv"));
+    QVERIFY(!isEditOnDisk());
+    QVERIFY(!m_saving->saveAs(GUIdentifier()));
+}
+
+void DesignSavingTest::saveAsLeavesOutdatedResultsOnTheUsersWord()
+{
+    addResult();
+    session().setQuantity(objectId(2), Quantity::Thickness, 1.75);
+    chooseForSaveAs(QStringLiteral("other.dsg"));
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("The simulation results are deleted"),
+                            QMessageBox::Cancel);
+    QVERIFY(!m_saving->saveAs(design().id));
+    QVERIFY(!QFile::exists(m_opened->path(QStringLiteral("other.dsg"))));
+    QVERIFY(hasResult());
+    modals.expectMessageBox(QStringLiteral("The simulation results are deleted"),
+                            [](QMessageBox& box) {
+                                QVERIFY(!box.button(QMessageBox::Save));
+                                box.button(QMessageBox::SaveAll)->click();
+                            });
+    QVERIFY(m_saving->saveAs(design().id));
+    QVERIFY(onOtherDisk().contains("1.75"));
+    QVERIFY(!onOtherDisk().contains("draw.csv"));
+    QVERIFY2(onDisk().contains("draw.csv"), "the design that it was stays as it is");
+    QVERIFY(!hasResult());
+}
+
+void DesignSavingTest::saveAsOfAnOlderDesignAsks()
+{
+    reopenAsVersion1();
+    chooseForSaveAs(QStringLiteral("other.dsg"));
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("converted to the current version"),
+                            QMessageBox::Cancel);
+    QVERIFY(!m_saving->saveAs(design().id));
+    modals.expectMessageBox(QStringLiteral("converted to the current version"),
+                            QMessageBox::Cancel);
+    QVERIFY(!m_saving->saveCopy(design().id));
+    QVERIFY(!QFile::exists(m_opened->path(QStringLiteral("other.dsg"))));
+    modals.expectMessageBox(QStringLiteral("converted to the current version"),
+                            QMessageBox::SaveAll);
+    QVERIFY(m_saving->saveAs(design().id));
+    QVERIFY(onOtherDisk().contains("\"version\": 2"));
+    QVERIFY(onDisk().contains("\"version\": 1"));
+}
+
+void DesignSavingTest::copyLeavesOutdatedResultsToTheDesign()
+{
+    addResult();
+    session().setQuantity(objectId(2), Quantity::Thickness, 1.75);
+    chooseForSaveAs(QStringLiteral("other.dsg"));
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("The simulation results are deleted"),
+                            QMessageBox::SaveAll);
+    QVERIFY(m_saving->saveCopy(design().id));
+    QVERIFY(!onOtherDisk().contains("draw.csv"));
+    QVERIFY(hasResult());
+    QVERIFY(session().areQuantitiesModified(design().id));
+    QVERIFY(!m_history->stack().canRedo());
+}
+
+void DesignSavingTest::closesOneDesign()
+{
+    QJsonObject second = designWithFiles(60, QStringLiteral("Second"), {});
+    session().open({writeFile(m_opened->path(QStringLiteral("second.dsg")), toText(second))});
+    edit();
+    session().rename(objectId(60), QStringLiteral("Second, changed"));
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("second.dsg"), QMessageBox::Cancel);
+    QVERIFY(!m_saving->close(objectId(60)));
+    QCOMPARE(session().designs().size(), std::size_t(2));
+    modals.expectMessageBox(QStringLiteral("second.dsg"), QMessageBox::Discard);
+    QVERIFY(m_saving->close(objectId(60)));
+    QCOMPARE(session().designs().size(), std::size_t(1));
+    QVERIFY2(session().isModified(objectId(10)), "nobody asked about the other one");
+    QVERIFY(!m_saving->close(objectId(60)));
+}
+
+void DesignSavingTest::closingOneUnderAnotherNameClosesThat()
+{
+    qApp->setProperty("AddSaveAsToSaveDialog", true);
+    const auto restore = qScopeGuard([] { qApp->setProperty("AddSaveAsToSaveDialog", {}); });
+    edit();
+    chooseForSaveAs(QStringLiteral("other.dsg"));
+    ExpectedModals modals;
+    modals.expectMessageBox(s_question, QMessageBox::SaveAll);
+    QVERIFY(m_saving->close(design().id));
+    QVERIFY(session().designs().empty());
+    QVERIFY(onOtherDisk().contains("Left door"));
+}
+
+void DesignSavingTest::closingOneStopsItsSimulationOnlyOnTheUsersWord()
+{
+    QJsonObject second = designWithFiles(60, QStringLiteral("Second"), {});
+    session().open({writeFile(m_opened->path(QStringLiteral("second.dsg")), toText(second))});
+    m_runner->setSteps(100000);
+    QVERIFY(m_saving->start(objectId(1)));
+    ExpectedModals modals;
+    QVERIFY(m_saving->close(objectId(60)));
+    QVERIFY(m_runner->isRunning());
+    modals.expectMessageBox(QStringLiteral("Stop it and lose"), QMessageBox::No);
+    QVERIFY(!m_saving->close(objectId(1)));
+    modals.expectMessageBox(QStringLiteral("Stop it and lose"), QMessageBox::Yes);
+    QVERIFY(m_saving->close(objectId(1)));
+    QVERIFY(!m_runner->isRunning());
+    QVERIFY(session().designs().empty());
 }
 
 void DesignSavingTest::changeByAnotherProgramIsReplacedOnlyOnTheUsersWord()

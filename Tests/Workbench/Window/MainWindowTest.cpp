@@ -332,7 +332,7 @@ void MainWindowTest::reloadTriesAgainWhatCouldNotBeOpened()
     QVERIFY(m_window->session().designs().empty());
     Testing::writeFile(folder + QStringLiteral("/small.dsg"),
                        Testing::toText(Testing::smallDesign()));
-    triggerText(QStringLiteral("Reopen"));
+    triggerText(QStringLiteral("Reopen All"));
     QCOMPARE(m_window->session().designs().size(), std::size_t(1));
     QVERIFY(m_window->session().problems().empty());
 }
@@ -413,7 +413,7 @@ void MainWindowTest::aMeasuredValueIsEdited()
 void MainWindowTest::closeAllForgetsEverything()
 {
     openDesign();
-    triggerText(QStringLiteral("Close"));
+    triggerText(QStringLiteral("Close All"));
     m_window->tree().refreshNow();
     QCOMPARE(m_window->tree().model().rowCount(), 0);
     QVERIFY(!m_window->meshView().hasMesh());

@@ -34,10 +34,14 @@ private Q_SLOTS:
     void resultsAreShownWhenTheSimulationIsDone();
     void closingWhileSimulatingAsks();
     void reloadEndsTheHistory();
+    void fileCommandsActOnTheCurrentDesign();
+    void fileCommandsNeedOneDesign();
+    void aDesignReferredToIsNotClosedByItself();
     void convertShowsOneWindow();
 
 private:
     QAction* action(const QString& text) const;
+    void openSecond(const QJsonArray& files = {});
 
     std::unique_ptr<Testing::OpenedDesign> m_files;
     std::unique_ptr<MainWindow> m_window;
@@ -181,6 +185,72 @@ void WindowEditsTest::reloadEndsTheHistory()
     m_window->reload();
     QVERIFY(!m_window->session().isModified());
     QVERIFY(!action(QStringLiteral("Undo"))->isEnabled());
+}
+
+/** Which has the identifier 60. */
+void WindowEditsTest::openSecond(const QJsonArray& files)
+{
+    const QJsonObject second = Testing::designWithFiles(60, QStringLiteral("Second"), files);
+    m_window->open(
+        {Testing::writeFile(m_files->path(QStringLiteral("second.dsg")), Testing::toText(second))});
+    m_window->tree().refreshNow();
+}
+
+void WindowEditsTest::fileCommandsActOnTheCurrentDesign()
+{
+    openSecond();
+    DesignSession& session = m_window->session();
+    session.rename(objectId(10), QStringLiteral("Left door"));
+    QVERIFY(m_window->tree().select(objectId(60)));
+    QVERIFY2(!action(QStringLiteral("Save"))->isEnabled(), "this one is as it was saved");
+    session.rename(objectId(60), QStringLiteral("Changed"));
+    m_window->tree().refreshNow();
+    action(QStringLiteral("Save"))->trigger();
+    QVERIFY(!session.isDesignModified(objectId(60)));
+    QVERIFY(session.isDesignModified(objectId(1)));
+
+    session.rename(objectId(60), QStringLiteral("Changed again"));
+    Testing::ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("Save the changes"), QMessageBox::Discard);
+    action(QStringLiteral("Reopen"))->trigger();
+    QCOMPARE(session.name(objectId(60)), QStringLiteral("Changed"));
+    QVERIFY(session.isDesignModified(objectId(1)));
+
+    QVERIFY(m_window->tree().select(objectId(60)));
+    action(QStringLiteral("Close"))->trigger();
+    QCOMPARE(session.designs().size(), std::size_t(1));
+    QCOMPARE(session.name(objectId(10)), QStringLiteral("Left door"));
+}
+
+void WindowEditsTest::fileCommandsNeedOneDesign()
+{
+    const auto enabled = [this](const char* text) {
+        return action(QString::fromLatin1(text))->isEnabled();
+    };
+    m_window->treeView().setCurrentIndex({});
+    for (const char* text : {"Close", "Reopen", "Save As", "Save a Copy"})
+        QVERIFY2(enabled(text), text);
+    openSecond();
+    m_window->treeView().setCurrentIndex({});
+    for (const char* text : {"Close", "Reopen", "Save As", "Save a Copy"})
+        QVERIFY2(!enabled(text), text);
+    QVERIFY(enabled("Close All") && enabled("Reopen All"));
+    action(QStringLiteral("Close All"))->trigger();
+    QVERIFY(m_window->session().designs().empty());
+    m_window->tree().refreshNow();
+    QVERIFY(!enabled("Close") && !enabled("Close All"));
+}
+
+void WindowEditsTest::aDesignReferredToIsNotClosedByItself()
+{
+    openSecond({Testing::fileEntry(61, QStringLiteral("Small"), QStringLiteral("design"),
+                                   QStringLiteral("small.dsg"))});
+    QVERIFY(m_window->tree().select(objectId(1)));
+    QVERIFY(!action(QStringLiteral("Close"))->isEnabled());
+    QVERIFY(m_window->tree().select(objectId(60)));
+    QVERIFY(action(QStringLiteral("Close"))->isEnabled());
+    action(QStringLiteral("Close"))->trigger();
+    QVERIFY(m_window->session().canClose(objectId(1)));
 }
 
 void WindowEditsTest::convertShowsOneWindow()
