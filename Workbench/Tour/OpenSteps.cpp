@@ -34,6 +34,18 @@ void typeName(QFileDialog& dialog, const QString& name)
         edit->setText(name);
 }
 
+bool makeFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write("closed") > 0;
+}
+
+bool isClosedFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.readAll() == "closed";
+}
+
 } // namespace
 
 void Tour::openWithPreview()
@@ -96,6 +108,47 @@ void Tour::lookAtFiles(QFileDialog& dialog, const QString& folder)
     look(QStringLiteral("results/draw.csv"), Kind::Table, QStringLiteral("preview-table"));
     look(QStringLiteral("drawn-cup.dsg"), Kind::Text, QStringLiteral("preview-text"));
     look(QStringLiteral("geometry/damaged.stl"), Kind::Message, QStringLiteral("preview-damaged"));
+}
+
+void Tour::askForNames()
+{
+    m_report.beginStep(QStringLiteral("Asked for names"),
+                       QStringLiteral("Save As with a name whose ending makes it another design's, "
+                                      "which is asked about; Save a Copy and Open Folder."));
+    const NativeFileDialogReplacement qtDialogs([] { return nullptr; });
+    const bool isNative = !QCoreApplication::testAttribute(Qt::AA_DontUseNativeDialogs);
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    const QString taken = workFolder(QStringLiteral("drawn-cup/part.dsg"));
+    m_report.expect(makeFile(taken), QStringLiteral("the other design"));
+    const auto show = [this](QDialog& dialog, const char* name) {
+        dialog.resize(dialog.size().boundedTo(s_dialogSize));
+        m_driver.settle();
+        m_report.addPicture(QString::fromLatin1(name), m_driver.pictureWith(dialog));
+    };
+    DialogAnswers answers;
+    answers.add([&show](QDialog& dialog) {
+        if (auto* files = qobject_cast<QFileDialog*>(&dialog))
+            typeName(*files, QStringLiteral("part"));
+        show(dialog, "save-as");
+        dialog.accept();
+    });
+    const auto leave = [&](const char* name) {
+        answers.add([&show, name](QDialog& dialog) {
+            show(dialog, name);
+            dialog.reject();
+        });
+    };
+    for (const char* name : {"save-as-replaces", "save-a-copy", "open-folder"})
+        leave(name);
+    FileCommands& commands = m_window.fileCommands();
+    const GUIdentifier design = m_window.session().designs().front().id;
+    m_report.expect(!commands.saveAs(design) && isClosedFile(taken),
+                    QStringLiteral("nothing is replaced"));
+    m_report.expect(!commands.saveCopy(design), QStringLiteral("no copy"));
+    commands.openFolder();
+    m_report.expect(answers.allGiven(), QStringLiteral("four questions"));
+    m_report.expect(QFile::remove(taken), QStringLiteral("the other design is gone"));
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, !isNative);
 }
 
 } // namespace Zorvane::Workbench

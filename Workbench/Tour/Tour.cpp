@@ -118,6 +118,7 @@ QStringList Tour::perform(const QStringList& paths)
     followAnotherProgram();
     missFile();
     openWithPreview();
+    askForNames();
     importAndExport();
     saveAndCompute();
     openDoor();

@@ -42,6 +42,7 @@ private:
     void missFile();
     void openWithPreview();
     void lookAtFiles(QFileDialog& dialog, const QString& folder);
+    void askForNames();
     void importAndExport();
     void importFiles();
     void cancelAnImport();
