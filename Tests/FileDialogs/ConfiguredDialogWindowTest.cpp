@@ -121,7 +121,9 @@ void ConfiguredDialogWindowTest::maximizedDialogIsRestoredAndPlaced()
         QTRY_VERIFY(dialog.frameGeometry().width() > 633);
         custom<QCheckBox>(dialog, "Place")->click();
         QTRY_COMPARE(dialog.frameGeometry(), QRect(11, 22, 633, 504));
-        QVERIFY(!dialog.isMaximized());
+        // The widget takes any new size for the end of its being maximized; the window knows.
+        QCOMPARE(dialog.windowHandle()->windowState(), Qt::WindowNoState);
+        QTRY_COMPARE(dialog.windowHandle()->frameGeometry(), QRect(11, 22, 633, 504));
         dialog.reject();
     });
 }
