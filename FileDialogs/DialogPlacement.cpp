@@ -84,6 +84,11 @@ QRect fittedOntoScreens(const QRect& rect, const std::vector<QRect>& screens)
                              *std::min_element(screens.begin(), screens.end(), isNearer));
 }
 
+QSize offsetOnScreen(const QSize& offset, const QRect& screen)
+{
+    return offset + QSize(screen.x(), screen.y());
+}
+
 QRect dialogPlacement(FileDialogConfiguration& configuration)
 {
     QRect rect;

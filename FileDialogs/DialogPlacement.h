@@ -3,6 +3,7 @@
 #include "UiToolsExport.h"
 
 #include <QtCore/QRect>
+#include <QtCore/QSize>
 
 #include <vector>
 
@@ -28,6 +29,9 @@ ZORVANE_UITOOLS_EXPORT QRect fittedOntoDesktop(const QRect& rect, const QRect& d
  */
 ZORVANE_UITOOLS_EXPORT QRect fittedOntoScreens(const QRect& rect,
                                                const std::vector<QRect>& screens);
+
+/** How far from the desktop's origin a dialog opens that opens `offset` from a screen's corner. */
+ZORVANE_UITOOLS_EXPORT QSize offsetOnScreen(const QSize& offset, const QRect& screen);
 
 /**
  * Where a dialog of the configuration goes on the screens there are now: its stored rectangle, or

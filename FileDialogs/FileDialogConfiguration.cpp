@@ -1,6 +1,7 @@
 #include "FileDialogs/FileDialogConfiguration.h"
 
 #include "FileDialogs/ApplicationMainWindow.h"
+#include "FileDialogs/DialogPlacement.h"
 #include "FileDialogs/FileDialogEventHandler.h"
 
 #include <QtCore/QSettings>
@@ -51,8 +52,8 @@ QSize FileDialogConfiguration::getTopLeftOffset()
     if (!desktop)
         return QSize();
     const QWidget* mainWindow = applicationMainWindow();
-    const QPoint corner = mainWindow ? desktop->screenGeometry(mainWindow).topLeft() : QPoint(0, 0);
-    return m_topLeftOffset + QSize(corner.x(), corner.y());
+    return offsetOnScreen(m_topLeftOffset,
+                          mainWindow ? desktop->screenGeometry(mainWindow) : QRect());
 }
 
 bool FileDialogConfiguration::getFileDialogGeometry(QRect& rect)

@@ -21,7 +21,8 @@ class FileDialogEventHandler;
  * what the user does. Give it to the open functions of `FileDialog`; it must live until they
  * return, and nothing in it changes meanwhile except through the geometry calls.
  *
- * Rectangles are outer ones (with the window's frame), in pixels of the screen.
+ * Rectangles are outer ones (with the window's frame), in Qt's pixels (`QScreen::geometry`), also
+ * where Qt scales screens and the system's dialogs count the screens' own pixels.
  * Not supported: controls in save dialogs and in folder dialogs.
  */
 class ZORVANE_UITOOLS_EXPORT FileDialogConfiguration

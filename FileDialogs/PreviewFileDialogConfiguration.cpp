@@ -1,5 +1,6 @@
 #include "FileDialogs/PreviewFileDialogConfiguration.h"
 
+#include "FileDialogs/DialogPlacement.h"
 #include "FileDialogs/PreviewEditorInterface.h"
 #include "FileDialogs/PreviewFileDialogEventHandler.h"
 #include "FileDialogs/PreviewGeometry.h"
@@ -19,11 +20,6 @@ const QScreen* screenOfNumber(int number)
 {
     const QList<QScreen*> screens = QGuiApplication::screens();
     return screens.value(number == -1 ? 0 : number);
-}
-
-QSize asSize(const QPoint& distance)
-{
-    return QSize(distance.x(), distance.y());
 }
 
 QPoint asPoint(const QSize& distance)
@@ -76,7 +72,7 @@ QSize PreviewFileDialogConfiguration::getTopLeftOffset()
     PreviewFileDialogEventHandler* handler = previewHandler();
     const QScreen* screen =
         handler ? screenOfNumber(handler->editor()->getScreenNumber()) : nullptr;
-    return screen ? m_screenMargin + asSize(screen->geometry().topLeft()) : QSize();
+    return screen ? offsetOnScreen(m_screenMargin, screen->geometry()) : QSize();
 }
 
 bool PreviewFileDialogConfiguration::getFileDialogGeometry(QRect& rect)
@@ -109,7 +105,7 @@ QPoint PreviewFileDialogConfiguration::getPositionForPreviewer()
     if (screen.isNull()) {
         const QScreen* previewScreen = screenOfNumber(editor->getScreenNumber());
         screen = previewScreen ? previewScreen->availableGeometry() : QRect();
-        dialog.moveTopLeft(screen.topLeft() + asPoint(m_screenMargin));
+        dialog.moveTopLeft(asPoint(offsetOnScreen(m_screenMargin, screen)));
     }
     QRect preview = editor->getGeometry();
     adjustGeometryOfFileDialogAndPreview(dialog, preview, screen);

@@ -1,6 +1,7 @@
 #include "FileDialogs/Windows/GeometryHook.h"
 
 #include "FileDialogs/FileDialogConfiguration.h"
+#include "FileDialogs/ScreenScale.h"
 
 #include <boost/thread/lock_types.hpp>
 #include <boost/thread/shared_mutex.hpp>
@@ -53,8 +54,8 @@ void CALLBACK record(HWINEVENTHOOK hook, DWORD event, HWND window, LONG object, 
     RECT rect;
     if (!configuration || !isEnd || object != OBJID_WINDOW || !GetWindowRect(window, &rect))
         return;
-    configuration->storeFileDialogGeometry(
-        QRect(QPoint(rect.left, rect.top), QPoint(rect.right, rect.bottom)));
+    configuration->storeFileDialogGeometry(inQtPixels(
+        QRect(QPoint(rect.left, rect.top), QPoint(rect.right, rect.bottom)), scaledScreens()));
 }
 
 } // namespace

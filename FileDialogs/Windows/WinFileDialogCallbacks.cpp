@@ -1,5 +1,6 @@
 #include "FileDialogs/Windows/WinFileDialogCallbacks.h"
 
+#include "FileDialogs/ScreenScale.h"
 #include "FileDialogs/Windows/WindowPlacement.h"
 
 #include <oleidl.h>
@@ -32,7 +33,8 @@ QRect WinFileDialogCallbacks::getDialogGeometry() const
     RECT rect;
     if (!dialogWindow || !GetWindowRect(dialogWindow, &rect))
         return {};
-    return {QPoint(rect.left, rect.top), QPoint(rect.right - 1, rect.bottom - 1)};
+    return inQtPixels(QRect(QPoint(rect.left, rect.top), QPoint(rect.right - 1, rect.bottom - 1)),
+                      scaledScreens());
 }
 
 HWND WinFileDialogCallbacks::window() const

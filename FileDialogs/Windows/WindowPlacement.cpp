@@ -1,6 +1,7 @@
 #include "FileDialogs/Windows/WindowPlacement.h"
 
 #include "FileDialogs/DialogPlacement.h"
+#include "FileDialogs/ScreenScale.h"
 
 #include <QtCore/QTimer>
 
@@ -25,7 +26,7 @@ void place(HWND window, FileDialogConfiguration* configuration)
     // With the window the dialog's call has ended, and perhaps the configuration's life.
     if (!isWindowOfThisThread(window))
         return;
-    const QRect rect = dialogPlacement(*configuration);
+    const QRect rect = inScreenPixels(dialogPlacement(*configuration), scaledScreens());
     if (IsWindowVisible(window))
         moveTo(window, rect);
     else

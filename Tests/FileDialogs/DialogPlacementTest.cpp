@@ -49,6 +49,8 @@ private Q_SLOTS:
     void ontoSeveralScreens();
     void someOfItIsAlwaysShown();
 
+    void offsetFromAScreen_data();
+    void offsetFromAScreen();
     void storedRectangleIsTaken();
     void withoutOneOffsetAndSizeAreTaken();
     void emptyStoredRectangleIsNone();
@@ -161,6 +163,32 @@ void DialogPlacementTest::someOfItIsAlwaysShown()
         RC_ASSERT(isShown);
     });
     QVERIFY(holds);
+}
+
+void DialogPlacementTest::offsetFromAScreen_data()
+{
+    QTest::addColumn<QSize>("offset");
+    QTest::addColumn<QRect>("screen");
+    QTest::addColumn<QSize>("onScreen");
+    const QRect right(1920, 0, 1280, 1024);
+    const QRect leftAbove(-1280, -200, 1280, 1024);
+    const auto row = [](const char* rule, const QSize& offset, const QRect& screen,
+                        const QSize& onScreen) {
+        QTest::newRow(rule) << offset << screen << onScreen;
+    };
+    row("none, on the first screen", QSize(0, 0), s_desktop, QSize(0, 0));
+    row("none, on the screen to the right", QSize(0, 0), right, QSize(1920, 0));
+    row("the margin, on the first screen", QSize(30, 30), s_desktop, QSize(30, 30));
+    row("the margin, on the screen to the right", QSize(30, 30), right, QSize(1950, 30));
+    row("to the left of and above the origin", QSize(30, 40), leftAbove, QSize(-1250, -160));
+    row("no screen", QSize(30, 40), QRect(), QSize(30, 40));
+}
+
+void DialogPlacementTest::offsetFromAScreen()
+{
+    QFETCH(QSize, offset);
+    QFETCH(QRect, screen);
+    QTEST(offsetOnScreen(offset, screen), "onScreen");
 }
 
 void DialogPlacementTest::storedRectangleIsTaken()
