@@ -518,8 +518,10 @@ GUIdentifier MainWindow::currentDesign() const
 /** That of what is selected, else the only one; null where that leaves it open which. */
 GUIdentifier MainWindow::designAtHand() const
 {
-    if (const Design* design = m_session.findDesign(m_tree->currentId().getCombinedPart()))
-        return design->id;
+    // Rows above groups stand for no object themselves.
+    for (QModelIndex row = m_treeView->currentIndex(); row.isValid(); row = row.parent())
+        if (const Design* design = m_session.findDesign(m_tree->idAt(row).getCombinedPart()))
+            return design->id;
     return m_session.designs().size() == 1 ? m_session.designs().front().id : GUIdentifier();
 }
 

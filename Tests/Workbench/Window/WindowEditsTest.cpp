@@ -234,6 +234,11 @@ void WindowEditsTest::fileCommandsNeedOneDesign()
     m_window->treeView().setCurrentIndex({});
     for (const char* text : {"Close", "Reopen", "Save As", "Save a Copy"})
         QVERIFY2(!enabled(text), text);
+    const QModelIndex group = m_window->tree().indexOf(objectId(10)).parent();
+    QVERIFY(m_window->tree().idAt(group).getCombinedPart() != objectId(1));
+    m_window->treeView().setCurrentIndex(group);
+    for (const char* text : {"Close", "Reopen", "Save As", "Save a Copy"})
+        QVERIFY2(enabled(text), text);
     QVERIFY(enabled("Close All") && enabled("Reopen All"));
     action(QStringLiteral("Close All"))->trigger();
     QVERIFY(m_window->session().designs().empty());
