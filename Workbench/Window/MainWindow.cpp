@@ -308,7 +308,10 @@ void MainWindow::connectActions()
     });
     on(ZVMainActions::ReOpen, &MainWindow::reopenDesign);
     on(WorkbenchActions::ReopenAll, &MainWindow::reload);
-    on(ZVMainActions::Close, &MainWindow::closeDesign);
+    on(ZVMainActions::Close, [this] {
+        hideMessages();
+        m_saving->close(designAtHand());
+    });
     on(WorkbenchActions::CloseAll, &MainWindow::closeAll);
     on(ZVMainActions::Exit, &MainWindow::close);
     on(WorkbenchActions::OpenFolder, [this] { m_fileCommands->openFolder(); });
@@ -553,12 +556,6 @@ void MainWindow::reopenDesign()
         return;
     m_session.revert(design);
     m_factsReader->readAgain();
-}
-
-void MainWindow::closeDesign()
-{
-    hideMessages();
-    m_saving->close(designAtHand());
 }
 
 void MainWindow::closeAll()

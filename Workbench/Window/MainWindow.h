@@ -106,7 +106,6 @@ private:
     GUIdentifier designAtHand() const;
     bool mayDropChanges(const GUIdentifier& designId = {});
     void reopenDesign();
-    void closeDesign();
     void closeAll();
     void rename();
     void removeCurrent();

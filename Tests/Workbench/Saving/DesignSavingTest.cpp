@@ -1,16 +1,8 @@
-#include "Workbench/Saving/DesignSaving.h"
-
-#include "Host/DesignStatus/DesignStatus.h"
 #include "Tests/Support/ExpectedModals.h"
-#include "Tests/Support/TestCase.h"
-#include "Tests/Workbench/Tree/TreeFixture.h"
-#include "Workbench/Commands/FileCommands.h"
-#include "Workbench/Solver/SimulationRunner.h"
-#include "Workbench/Undo/EditHistory.h"
+#include "Tests/Workbench/Saving/SavingFixture.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
-#include <QtCore/QLockFile>
 #include <QtCore/QScopeGuard>
 #include <QtCore/QTemporaryFile>
 #include <QtWidgets/QAbstractButton>
@@ -27,26 +19,6 @@ namespace {
 const QString s_anyBox = QStringLiteral("^Warning$");
 const QString s_question = QStringLiteral("prior to closing");
 
-/** Answers Save As with one file; empty for cancel. */
-class OneFileChooser : public FileChooser
-{
-public:
-    explicit OneFileChooser(QString file)
-        : m_file(std::move(file))
-    {}
-
-    QStringList files(QWidget*, const FileChoice&) override { return {}; }
-    QString folder(QWidget*, const FileChoice&) override { return {}; }
-    QString fileToSave(QWidget*, const FileChoice&, const QString&) override { return m_file; }
-    QString fileToSaveBeside(QWidget*, const FileChoice&, const QString&) override
-    {
-        return m_file;
-    }
-
-private:
-    QString m_file;
-};
-
 /** Keeps a design's file from being written; false where it cannot. */
 using Obstacle = std::function<bool(const QString& file)>;
 
@@ -59,50 +31,19 @@ bool putFolderInTheWay(const QString& file)
 
 Q_DECLARE_METATYPE(Obstacle)
 
-class DesignSavingTest : public TestCase
+class DesignSavingTest : public SavingFixture
 {
     Q_OBJECT
 
-private:
-    DesignSession& session() { return m_opened->session; }
-    const Design& design() { return session().designs().front(); }
-    QByteArray onDisk() const { return readFile(m_opened->designFile()); }
-    QByteArray onOtherDisk() const { return readFile(m_opened->path(QStringLiteral("other.dsg"))); }
-    void edit() { session().rename(objectId(10), QStringLiteral("Left door")); }
-    bool isEditOnDisk() const { return onDisk().contains("Left door"); }
-    void addResult();
-    bool hasResult() { return results() > 0; }
-    int results();
-    void changeFileElsewhere();
-    void reopenAsVersion1();
-    std::unique_ptr<QLockFile> computeElsewhere();
-    void chooseForSaveAs(const QString& name);
-
-    std::unique_ptr<OpenedDesign> m_opened;
-    std::unique_ptr<QWidget> m_window;
-    std::unique_ptr<EditHistory> m_history;
-    std::unique_ptr<SimulationRunner> m_runner;
-    FileCommands* m_files = nullptr;
-    DesignSaving* m_saving = nullptr;
-    QStringList m_told;
-    QStringList m_failures;
-
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
     void savingThatCostsNothingAsksNothing();
     void outdatedResultsGoOnlyOnTheUsersWord();
     void resultsThatFitStay();
     void savingAnOlderDesignAsks();
     void runningDesignIsSavedElsewhereOrNotAtAll();
     void cancelledSaveAsLeavesEverything();
-    void saveAsThatCostsNothingAsksNothing();
-    void saveAsLeavesOutdatedResultsOnTheUsersWord();
-    void saveAsOfAnOlderDesignAsks();
-    void copyLeavesOutdatedResultsToTheDesign();
-    void closesOneDesign();
-    void closingOneUnderAnotherNameClosesThat();
-    void closingOneStopsItsSimulationOnlyOnTheUsersWord();
     void changeByAnotherProgramIsReplacedOnlyOnTheUsersWord();
     void failedSaveBringsDroppedResultsBack();
     void failedSaveLeavesWhatOthersEditedMeanwhile();
@@ -129,78 +70,6 @@ private Q_SLOTS:
     void resultsOfAClosedDesignStayOnTheDisk();
     void suppressedQuestionsNeverTouchARunningDesign();
 };
-
-void DesignSavingTest::init()
-{
-    m_opened = std::make_unique<OpenedDesign>();
-    m_window = std::make_unique<QWidget>();
-    m_history = std::make_unique<EditHistory>(session(), nullptr);
-    m_runner = std::make_unique<SimulationRunner>();
-    m_runner->setSteps(3);
-    m_files = new FileCommands(session(), m_window.get());
-    m_saving = new DesignSaving({session(), *m_history, *m_files, *m_runner}, m_window.get());
-    m_told.clear();
-    m_failures.clear();
-    connect(m_saving, &DesignSaving::done, this, [this](const QString& t) { m_told << t; });
-    connect(m_saving, &DesignSaving::failed, this, [this](const QString& t) { m_failures << t; });
-}
-
-void DesignSavingTest::cleanup()
-{
-    qApp->setProperty("SuppressSaveDialog", QVariant());
-    m_window.reset();
-    m_runner.reset();
-    m_history.reset();
-    m_opened.reset();
-    TestCase::cleanup();
-}
-
-void DesignSavingTest::addResult()
-{
-    const QString file = writeFile(m_opened->path(QStringLiteral("draw.csv")), "stroke\n");
-    QVERIFY(session().addFiles(design().id, {file}).empty());
-    QVERIFY(session().save().empty());
-}
-
-int DesignSavingTest::results()
-{
-    int count = 0;
-    for (const FileReference& file : design().files)
-        count += file.kind == FileKind::Result ? 1 : 0;
-    return count;
-}
-
-void DesignSavingTest::changeFileElsewhere()
-{
-    QJsonObject theirs = smallDesign();
-    theirs.insert(QStringLiteral("name"), QStringLiteral("Theirs"));
-    replaceFile(m_opened->designFile(), toText(theirs));
-}
-
-void DesignSavingTest::reopenAsVersion1()
-{
-    QJsonObject old = smallDesign();
-    old.insert(QStringLiteral("version"), 1);
-    session().close();
-    replaceFile(m_opened->designFile(), toText(old));
-    session().open({m_opened->designFile()});
-}
-
-std::unique_ptr<QLockFile> DesignSavingTest::computeElsewhere()
-{
-    auto mark =
-        std::make_unique<QLockFile>(DesignStatus::getJobFile(FileName(design().file)).toQString());
-    mark->setStaleLockTime(0);
-    if (!mark->tryLock(0))
-        qWarning("The design could not be marked as being computed.");
-    return mark;
-}
-
-void DesignSavingTest::chooseForSaveAs(const QString& name)
-{
-    m_files->setFileChooser(
-        std::make_unique<OneFileChooser>(name.isEmpty() ? QString() : m_opened->path(name)));
-}
 
 void DesignSavingTest::savingThatCostsNothingAsksNothing()
 {
@@ -290,124 +159,6 @@ void DesignSavingTest::cancelledSaveAsLeavesEverything()
     QCOMPARE(onDisk(), before);
     QVERIFY(hasResult());
     QVERIFY(session().areQuantitiesModified(design().id));
-}
-
-void DesignSavingTest::saveAsThatCostsNothingAsksNothing()
-{
-    addResult();
-    edit();
-    const auto job = computeElsewhere();
-    chooseForSaveAs(QStringLiteral("other.dsg"));
-    const ExpectedModals none;
-    QVERIFY(m_saving->saveAs(design().id));
-    QCOMPARE(QFileInfo(design().file).fileName(), QStringLiteral("other.dsg"));
-    QVERIFY(onOtherDisk().contains("draw.csv"));
-    QVERIFY(!isEditOnDisk());
-    QVERIFY(!m_saving->saveAs(GUIdentifier()));
-}
-
-void DesignSavingTest::saveAsLeavesOutdatedResultsOnTheUsersWord()
-{
-    addResult();
-    session().setQuantity(objectId(2), Quantity::Thickness, 1.75);
-    chooseForSaveAs(QStringLiteral("other.dsg"));
-    ExpectedModals modals;
-    modals.expectMessageBox(QStringLiteral("The simulation results are deleted"),
-                            QMessageBox::Cancel);
-    QVERIFY(!m_saving->saveAs(design().id));
-    QVERIFY(!QFile::exists(m_opened->path(QStringLiteral("other.dsg"))));
-    QVERIFY(hasResult());
-    modals.expectMessageBox(QStringLiteral("The simulation results are deleted"),
-                            [](QMessageBox& box) {
-                                QVERIFY(!box.button(QMessageBox::Save));
-                                box.button(QMessageBox::SaveAll)->click();
-                            });
-    QVERIFY(m_saving->saveAs(design().id));
-    QVERIFY(onOtherDisk().contains("1.75"));
-    QVERIFY(!onOtherDisk().contains("draw.csv"));
-    QVERIFY2(onDisk().contains("draw.csv"), "the design that it was stays as it is");
-    QVERIFY(!hasResult());
-}
-
-void DesignSavingTest::saveAsOfAnOlderDesignAsks()
-{
-    reopenAsVersion1();
-    chooseForSaveAs(QStringLiteral("other.dsg"));
-    ExpectedModals modals;
-    modals.expectMessageBox(QStringLiteral("converted to the current version"),
-                            QMessageBox::Cancel);
-    QVERIFY(!m_saving->saveAs(design().id));
-    modals.expectMessageBox(QStringLiteral("converted to the current version"),
-                            QMessageBox::Cancel);
-    QVERIFY(!m_saving->saveCopy(design().id));
-    QVERIFY(!QFile::exists(m_opened->path(QStringLiteral("other.dsg"))));
-    modals.expectMessageBox(QStringLiteral("converted to the current version"),
-                            QMessageBox::SaveAll);
-    QVERIFY(m_saving->saveAs(design().id));
-    QVERIFY(onOtherDisk().contains("\"version\": 2"));
-    QVERIFY(onDisk().contains("\"version\": 1"));
-}
-
-void DesignSavingTest::copyLeavesOutdatedResultsToTheDesign()
-{
-    addResult();
-    session().setQuantity(objectId(2), Quantity::Thickness, 1.75);
-    chooseForSaveAs(QStringLiteral("other.dsg"));
-    ExpectedModals modals;
-    modals.expectMessageBox(QStringLiteral("The simulation results are deleted"),
-                            QMessageBox::SaveAll);
-    QVERIFY(m_saving->saveCopy(design().id));
-    QVERIFY(!onOtherDisk().contains("draw.csv"));
-    QVERIFY(hasResult());
-    QVERIFY(session().areQuantitiesModified(design().id));
-    QVERIFY(!m_history->stack().canRedo());
-}
-
-void DesignSavingTest::closesOneDesign()
-{
-    QJsonObject second = designWithFiles(60, QStringLiteral("Second"), {});
-    session().open({writeFile(m_opened->path(QStringLiteral("second.dsg")), toText(second))});
-    edit();
-    session().rename(objectId(60), QStringLiteral("Second, changed"));
-    ExpectedModals modals;
-    modals.expectMessageBox(QStringLiteral("second.dsg"), QMessageBox::Cancel);
-    QVERIFY(!m_saving->close(objectId(60)));
-    QCOMPARE(session().designs().size(), std::size_t(2));
-    modals.expectMessageBox(QStringLiteral("second.dsg"), QMessageBox::Discard);
-    QVERIFY(m_saving->close(objectId(60)));
-    QCOMPARE(session().designs().size(), std::size_t(1));
-    QVERIFY2(session().isModified(objectId(10)), "nobody asked about the other one");
-    QVERIFY(!m_saving->close(objectId(60)));
-}
-
-void DesignSavingTest::closingOneUnderAnotherNameClosesThat()
-{
-    qApp->setProperty("AddSaveAsToSaveDialog", true);
-    const auto restore = qScopeGuard([] { qApp->setProperty("AddSaveAsToSaveDialog", {}); });
-    edit();
-    chooseForSaveAs(QStringLiteral("other.dsg"));
-    ExpectedModals modals;
-    modals.expectMessageBox(s_question, QMessageBox::SaveAll);
-    QVERIFY(m_saving->close(design().id));
-    QVERIFY(session().designs().empty());
-    QVERIFY(onOtherDisk().contains("Left door"));
-}
-
-void DesignSavingTest::closingOneStopsItsSimulationOnlyOnTheUsersWord()
-{
-    QJsonObject second = designWithFiles(60, QStringLiteral("Second"), {});
-    session().open({writeFile(m_opened->path(QStringLiteral("second.dsg")), toText(second))});
-    m_runner->setSteps(100000);
-    QVERIFY(m_saving->start(objectId(1)));
-    ExpectedModals modals;
-    QVERIFY(m_saving->close(objectId(60)));
-    QVERIFY(m_runner->isRunning());
-    modals.expectMessageBox(QStringLiteral("Stop it and lose"), QMessageBox::No);
-    QVERIFY(!m_saving->close(objectId(1)));
-    modals.expectMessageBox(QStringLiteral("Stop it and lose"), QMessageBox::Yes);
-    QVERIFY(m_saving->close(objectId(1)));
-    QVERIFY(!m_runner->isRunning());
-    QVERIFY(session().designs().empty());
 }
 
 void DesignSavingTest::changeByAnotherProgramIsReplacedOnlyOnTheUsersWord()
