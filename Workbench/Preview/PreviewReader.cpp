@@ -10,11 +10,18 @@ namespace {
 
 constexpr int s_endMilliseconds = 1000;
 
+/** Holds what is about to end, also at the program's end: to delete it would be to wait for it. */
+QObject* ending()
+{
+    static QObject* const s_ending = new QObject;
+    return s_ending;
+}
+
 /** The object goes once the system has ended the process, which nobody waits for. */
 void end(QProcess* process)
 {
     process->disconnect();
-    process->setParent(nullptr);
+    process->setParent(ending());
     QObject::connect(process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), process,
                      &QObject::deleteLater);
     if (process->state() == QProcess::NotRunning)
