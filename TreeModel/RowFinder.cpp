@@ -195,9 +195,10 @@ std::int32_t RowFinder::firstWaitingWith(const IDCombiner& id)
 {
     Bucket& bucket = bucketOf(id, id.quickHash());
     std::int32_t slot = bucket.slot;
-    while (slot != Index::None && !m_index->isWaiting(slot))
-        slot = m_index->nextSameId[std::size_t(slot)];
     // Rows that were placed meanwhile are passed once; the last one stays, to keep its bucket.
+    for (; slot != Index::None && !m_index->isWaiting(slot);
+         slot = m_index->nextSameId[std::size_t(slot)])
+        bucket.slot = slot;
     if (slot != Index::None)
         bucket.slot = slot;
     return slot;

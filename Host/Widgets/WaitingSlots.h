@@ -27,7 +27,11 @@ public:
     }
 
     std::size_t count() const { return m_count; }
-    bool contains(std::size_t slot) const { return slot >= m_begin && hasBit(slot); }
+    /** Also of slots that never were. */
+    bool contains(std::size_t slot) const
+    {
+        return slot >= m_begin && slot / BitsPerWord < m_words.size() && hasBit(slot);
+    }
     std::size_t first() const { return firstFrom(m_begin); }
 
     /** Takes the first `count` slots; `visit` is called with each, in order. */

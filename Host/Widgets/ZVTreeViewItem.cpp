@@ -80,7 +80,8 @@ bool equalsAscii(const QString& text, const std::string& bytes)
     };
     if (length < 4) {
         for (std::size_t i = 0; i < length; ++i)
-            differing |= characters[i].unicode() ^ static_cast<std::uint64_t>(bytes[i]);
+            differing |= characters[i].unicode() ^
+                         static_cast<std::uint64_t>(static_cast<signed char>(bytes[i]));
         return differing == 0;
     }
     for (std::size_t first = 0; first + 4 < length; first += 4)
