@@ -11,19 +11,13 @@
 
 namespace Zorvane::Workbench {
 
-namespace {
-
-constexpr int mostReadAtOnce = 2;
-
-} // namespace
-
 MeshLoader::MeshLoader(QObject* parent)
     : QObject(parent)
 {
     qRegisterMetaType<SharedMesh>("Zorvane::Workbench::SharedMesh");
     qRegisterMetaType<MeshFacts>("Zorvane::Workbench::MeshFacts");
     qRegisterMetaType<Problem>("Zorvane::Workbench::Problem");
-    m_pool.setMaxThreadCount(mostReadAtOnce);
+    setMostReadAtOnce(2);
 }
 
 MeshLoader::~MeshLoader()
@@ -100,7 +94,7 @@ MeshLoader::Job* MeshLoader::findCurrentJob(const QString& path)
 
 void MeshLoader::startWaiting()
 {
-    while (!m_waiting.empty() && m_jobs.size() < mostReadAtOnce) {
+    while (!m_waiting.empty() && int(m_jobs.size()) < m_pool.maxThreadCount()) {
         const QString path = m_waiting.front();
         m_waiting.pop_front();
         start(path);
@@ -221,6 +215,11 @@ bool MeshLoader::isBusy() const
     return !m_waiting.empty() ||
            std::any_of(m_jobs.begin(), m_jobs.end(),
                        [this](const auto& entry) { return entry.second.round == m_round; });
+}
+
+void MeshLoader::setMostReadAtOnce(int files)
+{
+    m_pool.setMaxThreadCount(std::max(files, 1));
 }
 
 void MeshLoader::setCacheLimit(std::size_t bytes)

@@ -35,7 +35,7 @@ public:
     static constexpr std::size_t defaultCacheLimit = std::size_t(256) * 1024 * 1024;
 
     explicit MeshLoader(QObject* parent = nullptr);
-    /** Waits for the files being read at the moment, at most two. */
+    /** Waits for the files being read at the moment. */
     ~MeshLoader() override;
 
     /**
@@ -62,6 +62,8 @@ public:
     /** Answers since the loader was last idle, and files asked for since then. */
     int done() const { return m_done; }
     int total() const { return m_total; }
+    /** How many files are read at the same time: at least one, two unless set. */
+    void setMostReadAtOnce(int files);
     void setCacheLimit(std::size_t bytes);
     std::size_t cachedBytes() const { return m_cachedBytes; }
 
