@@ -912,30 +912,29 @@
     </message>
 </context>
 <context>
+    <name>Zorvane::Workbench::HistoryCommands</name>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Re&amp;do: %1</source>
+        <translation>&amp;Wiederherstellen: %1</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+</context>
+<context>
     <name>Zorvane::Workbench::MainWindow</name>
     <message>
         <source>Objects</source>
         <translation>Objekte</translation>
-    </message>
-    <message>
-        <source>&amp;System</source>
-        <translation>&amp;System</translation>
-    </message>
-    <message>
-        <source>&amp;Light</source>
-        <translation>&amp;Hell</translation>
-    </message>
-    <message>
-        <source>&amp;Dark</source>
-        <translation>&amp;Dunkel</translation>
-    </message>
-    <message>
-        <source>Nothing opened yet</source>
-        <translation>Noch nichts geöffnet</translation>
-    </message>
-    <message>
-        <source>Clear</source>
-        <translation>Leeren</translation>
     </message>
     <message>
         <source>Zorvane Workbench</source>
@@ -996,36 +995,8 @@
         <translation>&lt;p&gt;&lt;b&gt;Zorvane Workbench&lt;/b&gt; %1&lt;/p&gt;&lt;p&gt;Zeigt Entwürfe der Blechumformung: Teile, Werkzeuge, Werkstoffe und die Dateien dahinter.&lt;/p&gt;</translation>
     </message>
     <message>
-        <source>&amp;Undo: %1</source>
-        <translation>&amp;Rückgängig: %1</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
-        <source>&amp;Forming</source>
-        <translation>&amp;Umformen</translation>
-    </message>
-    <message>
-        <source>&amp;Tube</source>
-        <translation>&amp;Rohr</translation>
-    </message>
-    <message>
-        <source>Tan&amp;drel</source>
-        <translation>Tan&amp;drel</translation>
-    </message>
-    <message>
         <source>Another program has changed the file of %1, which has unsaved changes here. Save replaces its version, Reopen drops yours.</source>
         <translation>Ein anderes Programm hat die Datei von %1 geändert, zu der es hier ungespeicherte Änderungen gibt. Speichern ersetzt die andere Fassung, Neu öffnen verwirft Ihre.</translation>
-    </message>
-    <message>
-        <source>Re&amp;do: %1</source>
-        <translation>&amp;Wiederherstellen: %1</translation>
-    </message>
-    <message>
-        <source>Re&amp;do</source>
-        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>%1 was removed; its file stays.</source>
@@ -1765,6 +1736,41 @@
     <message>
         <source>&amp;Directions</source>
         <translation>&amp;Richtungen</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::Workbench::WindowMenus</name>
+    <message>
+        <source>&amp;Forming</source>
+        <translation>&amp;Umformen</translation>
+    </message>
+    <message>
+        <source>&amp;Tube</source>
+        <translation>&amp;Rohr</translation>
+    </message>
+    <message>
+        <source>Tan&amp;drel</source>
+        <translation>Tan&amp;drel</translation>
+    </message>
+    <message>
+        <source>&amp;System</source>
+        <translation>&amp;System</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>Nothing opened yet</source>
+        <translation>Noch nichts geöffnet</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
     </message>
 </context>
 <context>

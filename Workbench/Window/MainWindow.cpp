@@ -4,6 +4,7 @@
 #include "Host/Widgets/ZVMessageBox.h"
 #include "Workbench/Commands/DisplayToggles.h"
 #include "Workbench/Commands/FileCommands.h"
+#include "Workbench/Commands/HistoryCommands.h"
 #include "Workbench/Commands/ViewCommands.h"
 #include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/Edit/QuantityPanel.h"
@@ -11,7 +12,6 @@
 #include "Workbench/Help/HelpWindow.h"
 #include "Workbench/Import/FileExchange.h"
 #include "Workbench/MeshView/MeshView.h"
-#include "Workbench/Meshes/MeshReader.h"
 #include "Workbench/Saving/DesignSaving.h"
 #include "Workbench/Solver/SimulationProgress.h"
 #include "Workbench/Solver/SimulationRunner.h"
@@ -25,29 +25,20 @@
 #include "Workbench/Window/ProblemsPanel.h"
 #include "Workbench/Window/ReadingProgress.h"
 #include "Workbench/Window/RecentPaths.h"
-#include "Workbench/Window/SampleDesigns.h"
+#include "Workbench/Window/WindowLayout.h"
+#include "Workbench/Window/WindowMenus.h"
 
-#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QMimeData>
 #include <QtCore/QSettings>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QDragEnterEvent>
-#include <QtGui/QGuiApplication>
-#include <QtGui/QScreen>
-#include <QtWidgets/QActionGroup>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
-#include <QtWidgets/QSplitter>
 #include <QtWidgets/QStatusBar>
-#include <QtWidgets/QToolBar>
 #include <QtWidgets/QTreeView>
-#include <QtWidgets/QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 // Resources of a static library must be asked for, outside of any namespace, unnamed ones too.
@@ -106,7 +97,6 @@ MainWindow::MainWindow(QWidget* parent)
     setWindowIcon(QIcon(QStringLiteral(":/workbench/application.svg")));
     setAcceptDrops(true);
     layOut();
-    fillSubMenus();
     fillStatusBar();
     connectActions();
     connectParts();
@@ -125,154 +115,21 @@ MainWindow::~MainWindow()
 
 void MainWindow::layOut()
 {
-    m_sides = new QSplitter(Qt::Horizontal, this);
-    m_sides->addWidget(createTreeSide());
-    m_sides->addWidget(createMeshSide());
-    m_sides->setStretchFactor(0, 5);
-    m_sides->setStretchFactor(1, 4);
-    m_allAndProblems = new QSplitter(Qt::Vertical, this);
-    m_allAndProblems->addWidget(m_sides);
-    m_allAndProblems->addWidget(m_problemsPanel);
-    m_allAndProblems->setStretchFactor(0, 1);
-    m_allAndProblems->setStretchFactor(1, 0);
-    m_problemsPanel->hide();
-    for (QSplitter* splitter : {m_sides, m_meshAndDetails, m_allAndProblems})
-        splitter->setChildrenCollapsible(false);
-    auto* layout = new QVBoxLayout(m_designView);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_messageBar);
-    layout->addWidget(m_allAndProblems, 1);
+    m_treeView->setAccessibleName(tr("Objects"));
+    m_treeView->setFrameShape(QFrame::NoFrame);
+    m_treeView->setAlternatingRowColors(true);
+    m_tree->attach(m_treeView);
+    m_layout = new WindowLayout({m_messageBar, m_filterBar, m_treeView, m_meshView, m_details,
+                                 m_quantities, m_problemsPanel},
+                                m_designView);
     setCentralWidget(m_designView);
-    const double unit = digitWidth();
-    const QSize available = QGuiApplication::primaryScreen()->availableSize();
-    resizeAndDivide(QSize(int(170 * unit), int(102 * unit)).boundedTo(available));
+    resizeAndDivide(m_layout->usualSize());
 }
 
 void MainWindow::resizeAndDivide(const QSize& size)
 {
     resize(size);
-    m_sides->setSizes({size.width() * 69 / 100, size.width() * 31 / 100});
-    m_meshAndDetails->setSizes({size.height() * 60 / 100, size.height() * 30 / 100});
-}
-
-/** All widths follow the font: they are told in digits of it. */
-double MainWindow::digitWidth() const
-{
-    return fontMetrics().horizontalAdvance(QLatin1Char('0'));
-}
-
-QWidget* MainWindow::createTreeSide()
-{
-    m_treeView->setAccessibleName(tr("Objects"));
-    m_treeView->setFrameShape(QFrame::NoFrame);
-    m_treeView->setAlternatingRowColors(true);
-    m_tree->attach(m_treeView);
-    QHeaderView* header = m_treeView->header();
-    header->setStretchLastSection(true);
-    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const double widths[] = {30.5, 14.5, 7, 8.25, 19.75, 13, 9.25, 8};
-    // Titles of other languages may need more.
-    for (int column = 0; column < header->count(); ++column)
-        header->resizeSection(
-            column, std::max(int(widths[column] * digitWidth()), header->sectionSizeHint(column)));
-    auto* side = new QWidget(this);
-    auto* layout = new QVBoxLayout(side);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_filterBar);
-    layout->addWidget(m_treeView, 1);
-    return side;
-}
-
-QWidget* MainWindow::createMeshSide()
-{
-    m_meshAndDetails = new QSplitter(Qt::Vertical, this);
-    m_meshAndDetails->addWidget(m_meshView);
-    auto* properties = new QWidget(this);
-    auto* layout = new QVBoxLayout(properties);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_details, 1);
-    layout->addWidget(m_quantities);
-    m_meshAndDetails->addWidget(properties);
-    m_meshAndDetails->setStretchFactor(0, 1);
-    m_meshAndDetails->setStretchFactor(1, 0);
-    return m_meshAndDetails;
-}
-
-void MainWindow::fillSubMenus()
-{
-    QMenu& recent = m_commands->subMenu(CommandSubMenu::Recent);
-    connect(&recent, &QMenu::aboutToShow, this, [this, &recent] { showRecent(recent); });
-    QMenu& samples = m_commands->subMenu(CommandSubMenu::Samples);
-    for (const SampleDesign& sample : sampleDesigns())
-        connect(samples.addAction(sample.name), &QAction::triggered, this,
-                [this, folder = sample.folder] { open({folder}); });
-    samples.setEnabled(!samples.isEmpty());
-    addModes(m_commands->subMenu(CommandSubMenu::Mode));
-    addAppearances(m_commands->subMenu(CommandSubMenu::Appearance));
-}
-
-void MainWindow::showHistory()
-{
-    QUndoStack& stack = m_history->stack();
-    const auto command = [](const QString& text, QString edit) {
-        // A name's own "&" marks no key.
-        return text.arg(edit.replace(QLatin1Char('&'), QLatin1String("&&")));
-    };
-    QAction* const undo = (*m_commands)[ZVMainActions::Undo];
-    undo->setEnabled(stack.canUndo());
-    undo->setText(stack.canUndo() ? command(tr("&Undo: %1"), stack.undoText()) : tr("&Undo"));
-    QAction* const redo = (*m_commands)[ZVMainActions::Redo];
-    redo->setEnabled(stack.canRedo());
-    redo->setText(stack.canRedo() ? command(tr("Re&do: %1"), stack.redoText()) : tr("Re&do"));
-}
-
-void MainWindow::addModes(QMenu& menu)
-{
-    auto* group = new QActionGroup(this);
-    const std::pair<WindowMode, QString> choices[] = {{WindowMode::Forming, tr("&Forming")},
-                                                      {WindowMode::Tube, tr("&Tube")},
-                                                      {WindowMode::Tandrel, tr("Tan&drel")}};
-    for (const auto& [mode, text] : choices) {
-        QAction* action = menu.addAction(text);
-        action->setCheckable(true);
-        action->setChecked(mode == m_commands->mode());
-        group->addAction(action);
-        connect(action, &QAction::triggered, this,
-                [this, chosen = mode] { m_commands->setMode(chosen); });
-    }
-}
-
-void MainWindow::addAppearances(QMenu& menu)
-{
-    auto* group = new QActionGroup(this);
-    const std::pair<Appearance, QString> choices[] = {{Appearance::System, tr("&System")},
-                                                      {Appearance::Light, tr("&Light")},
-                                                      {Appearance::Dark, tr("&Dark")}};
-    for (const auto& [appearance, text] : choices) {
-        QAction* action = menu.addAction(text);
-        action->setCheckable(true);
-        action->setChecked(appearance == storedAppearance());
-        group->addAction(action);
-        connect(action, &QAction::triggered, this, [chosen = appearance] {
-            storeAppearance(chosen);
-            applyAppearance(*qApp, chosen);
-        });
-    }
-}
-
-void MainWindow::showRecent(QMenu& menu)
-{
-    menu.clear();
-    for (const QString& path : RecentPaths::paths())
-        connect(menu.addAction(QDir::toNativeSeparators(path)), &QAction::triggered, this,
-                [this, path] { open({path}); });
-    if (menu.isEmpty())
-        menu.addAction(tr("Nothing opened yet"))->setEnabled(false);
-    menu.addSeparator();
-    connect(menu.addAction(tr("Clear")), &QAction::triggered, &RecentPaths::clear);
+    m_layout->divide(size);
 }
 
 void MainWindow::fillStatusBar()
@@ -286,52 +143,50 @@ void MainWindow::fillStatusBar()
 
 void MainWindow::connectActions()
 {
+    connectFileActions();
     const auto on = [this](auto id, auto operation) { m_commands->on(id, this, operation); };
-    on(ZVMainActions::Open, [this] { m_fileCommands->openFiles(); });
-    on(ZVMainActions::Export, &MainWindow::exportFiles);
-    on(ZVMainActions::Save, [this] {
-        hideMessages();
-        m_saving->save(designAtHand());
-    });
-    on(ZVMainActions::ComputeSimulation, [this] {
-        hideMessages();
-        m_saving->start(currentDesign());
-    });
-    on(WorkbenchActions::StopSimulation, [this] { m_runner->stop(); });
-    on(ZVMainActions::SaveAs, [this] {
-        hideMessages();
-        m_saving->saveAs(designAtHand());
-    });
-    on(WorkbenchActions::SaveCopy, [this] {
-        hideMessages();
-        m_saving->saveCopy(designAtHand());
-    });
-    on(ZVMainActions::ReOpen, &MainWindow::reopenDesign);
-    on(WorkbenchActions::ReopenAll, &MainWindow::reload);
-    on(ZVMainActions::Close, [this] {
-        hideMessages();
-        m_saving->close(designAtHand());
-    });
-    on(WorkbenchActions::CloseAll, &MainWindow::closeAll);
-    on(ZVMainActions::Exit, &MainWindow::close);
-    on(WorkbenchActions::OpenFolder, [this] { m_fileCommands->openFolder(); });
-    on(WorkbenchActions::Import, &MainWindow::importFiles);
-    on(ZVMainActions::Undo, [this] { m_history->undo(); });
-    on(ZVMainActions::Redo, [this] { m_history->redo(); });
     on(WorkbenchActions::Rename, &MainWindow::rename);
     on(WorkbenchActions::Remove, &MainWindow::removeCurrent);
     on(WorkbenchActions::Find, [this] { m_filterBar->focusText(); });
     on(WorkbenchActions::GoToReference, &MainWindow::goToReference);
     on(WorkbenchActions::ExpandAll, [this] { m_tree->expandAll(); });
     on(WorkbenchActions::CollapseAll, [this] { m_tree->collapseAll(); });
+    on(ZVMainActions::ComputeSimulation, [this] {
+        hideMessages();
+        m_saving->start(currentDesign());
+    });
+    on(WorkbenchActions::StopSimulation, [this] { m_runner->stop(); });
     on(WorkbenchActions::ConvertMeshes, [this] { m_converter.run(); });
     on(WorkbenchActions::StressTree, &MainWindow::showStress);
     on(WorkbenchActions::About, &MainWindow::about);
     on(WorkbenchActions::AboutQt, [] { QApplication::aboutQt(); });
     on(ZVGlobalActions::HelpContents, &MainWindow::showHelp);
     connectViewCommands(*m_commands, *m_meshView);
-    showHistory();
-    connect(&m_history->stack(), &QUndoStack::indexChanged, this, &MainWindow::showHistory);
+    new HistoryCommands(*m_commands, *m_history);
+    connect(new WindowMenus(*m_commands), &WindowMenus::chosen, this, &MainWindow::open);
+}
+
+void MainWindow::connectFileActions()
+{
+    const auto on = [this](auto id, auto operation) { m_commands->on(id, this, operation); };
+    const auto onDesign = [&](auto id, bool (DesignSaving::*operation)(const GUIdentifier&)) {
+        on(id, [this, operation] {
+            hideMessages();
+            (m_saving->*operation)(designAtHand());
+        });
+    };
+    on(ZVMainActions::Open, [this] { m_fileCommands->openFiles(); });
+    on(WorkbenchActions::OpenFolder, [this] { m_fileCommands->openFolder(); });
+    on(WorkbenchActions::Import, &MainWindow::importFiles);
+    on(ZVMainActions::Export, &MainWindow::exportFiles);
+    onDesign(ZVMainActions::Save, &DesignSaving::save);
+    onDesign(ZVMainActions::SaveAs, &DesignSaving::saveAs);
+    onDesign(WorkbenchActions::SaveCopy, &DesignSaving::saveCopy);
+    on(ZVMainActions::ReOpen, &MainWindow::reopenDesign);
+    on(WorkbenchActions::ReopenAll, &MainWindow::reload);
+    onDesign(ZVMainActions::Close, &DesignSaving::close);
+    on(WorkbenchActions::CloseAll, &MainWindow::closeAll);
+    on(ZVMainActions::Exit, &MainWindow::close);
 }
 
 void MainWindow::connectParts()
@@ -358,8 +213,7 @@ void MainWindow::connectParts()
     });
     connect(&m_session, &DesignSession::conflictFound, this, &MainWindow::tellConflict);
     connect(m_exchange, &FileExchange::failed, m_messageBar, &MessageBar::say);
-    connect(m_exchange, &FileExchange::done, this,
-            [this](const QString& text) { statusBar()->showMessage(text, s_noticeMilliseconds); });
+    connect(m_exchange, &FileExchange::done, this, &MainWindow::notify);
     connect(m_exchange, &FileExchange::imported, this, [this](const GUIdentifier& object) {
         m_tree->refreshNow();
         m_tree->select(object);
@@ -465,20 +319,7 @@ void MainWindow::showProblems()
         if (const std::optional<Problem> problem = m_loader.problem(file))
             problems.push_back(*problem);
     m_problemsPanel->show(problems);
-    fitProblemsPanel();
-}
-
-void MainWindow::fitProblemsPanel()
-{
-    const int now = m_allAndProblems->sizes().last();
-    const bool appears = m_problemsPanel->isHidden();
-    m_problemsPanel->setVisible(!m_problemsPanel->problems().empty());
-    // Once the user has moved the splitter, it stays.
-    if (m_problemsPanel->isHidden() || (!appears && now != m_fittedProblemsHeight))
-        return;
-    const int height = m_problemsPanel->sizeHint().height();
-    m_allAndProblems->setSizes({m_allAndProblems->height() - height, height});
-    m_fittedProblemsHeight = m_allAndProblems->sizes().last();
+    m_layout->fitProblems();
 }
 
 void MainWindow::connectFileCommands()
@@ -490,15 +331,13 @@ void MainWindow::connectFileCommands()
         selectSomething();
     });
     connect(m_fileCommands, &FileCommands::failed, m_messageBar, &MessageBar::say);
-    connect(m_fileCommands, &FileCommands::done, this,
-            [this](const QString& text) { statusBar()->showMessage(text, s_noticeMilliseconds); });
+    connect(m_fileCommands, &FileCommands::done, this, &MainWindow::notify);
 }
 
 void MainWindow::connectSaving()
 {
     connect(m_saving, &DesignSaving::failed, m_messageBar, &MessageBar::say);
-    connect(m_saving, &DesignSaving::done, this,
-            [this](const QString& text) { statusBar()->showMessage(text, s_noticeMilliseconds); });
+    connect(m_saving, &DesignSaving::done, this, &MainWindow::notify);
     const auto showRun = [this] {
         (*m_commands)[ZVMainActions::ComputeSimulation]->setEnabled(!m_runner->isRunning() &&
                                                                     !m_session.designs().empty());
@@ -567,6 +406,11 @@ void MainWindow::closeAll()
     m_session.close();
 }
 
+void MainWindow::notify(const QString& text)
+{
+    statusBar()->showMessage(text, s_noticeMilliseconds);
+}
+
 void MainWindow::hideMessages()
 {
     m_messageBar->hide();
@@ -622,8 +466,7 @@ void MainWindow::removeCurrent()
     const GUIdentifier object = m_tree->currentId().getCombinedPart();
     const QString name = m_session.name(object);
     if (!m_session.take(object, {object}).isEmpty())
-        statusBar()->showMessage(tr("%1 was removed; its file stays.").arg(name),
-                                 s_noticeMilliseconds);
+        notify(tr("%1 was removed; its file stays.").arg(name));
 }
 
 void MainWindow::showStress()
@@ -666,7 +509,7 @@ void MainWindow::keepLayout()
     const QSettings settings;
     restoreGeometry(settings.value(s_geometryKey).toByteArray());
     restoreState(settings.value(s_stateKey).toByteArray());
-    m_sides->restoreState(settings.value(s_sidesKey).toByteArray());
+    m_layout->restoreState(settings.value(s_sidesKey).toByteArray());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -679,7 +522,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         QSettings settings;
         settings.setValue(s_geometryKey, saveGeometry());
         settings.setValue(s_stateKey, saveState());
-        settings.setValue(s_sidesKey, m_sides->saveState());
+        settings.setValue(s_sidesKey, m_layout->saveState());
     }
     QMainWindow::closeEvent(event);
 }

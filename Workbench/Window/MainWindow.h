@@ -5,14 +5,12 @@
 #include "Workbench/Design/DesignSession.h"
 #include "Workbench/Meshes/MeshLoader.h"
 #include "Workbench/Tree/DesignTree.h"
-#include "Workbench/Window/Appearance.h"
 
 #include <QtCore/QPointer>
 #include <QtWidgets/QMainWindow>
 
 QT_BEGIN_NAMESPACE
 class QLabel;
-class QSplitter;
 class QTreeView;
 QT_END_NAMESPACE
 
@@ -37,6 +35,7 @@ class ReferenceMenu;
 class SimulationRunner;
 class StressWindow;
 class WindowCommands;
+class WindowLayout;
 
 /**
  * The Workbench's window: the tree of what is open with its filters, the mesh and the details of
@@ -89,18 +88,12 @@ protected:
 
 private:
     void layOut();
-    double digitWidth() const;
-    QWidget* createTreeSide();
-    QWidget* createMeshSide();
-    void fillSubMenus();
     void fillStatusBar();
     void connectActions();
+    void connectFileActions();
     void connectParts();
     void connectFileCommands();
     void connectSaving();
-    void addModes(QMenu& menu);
-    void addAppearances(QMenu& menu);
-    void showRecent(QMenu& menu);
 
     GUIdentifier currentDesign() const;
     GUIdentifier designAtHand() const;
@@ -113,15 +106,14 @@ private:
     void goTo(const IDCombiner& id);
     void setQuantity(const GUIdentifier& object, Quantity quantity, double value);
     void showStress();
+    void notify(const QString& text);
     void hideMessages();
     void showHelp();
     void about();
 
     void showCurrent();
     void showSession();
-    void showHistory();
     void showProblems();
-    void fitProblemsPanel();
     void selectSomething();
     void tellConflict(const GUIdentifier& designId);
 
@@ -151,10 +143,7 @@ private:
     QPointer<HelpWindow> m_help;
     QPointer<StressWindow> m_stress;
     MeshConverter m_converter{this};
-    QSplitter* m_sides = nullptr;
-    QSplitter* m_meshAndDetails = nullptr;
-    QSplitter* m_allAndProblems = nullptr;
-    int m_fittedProblemsHeight = 0;
+    WindowLayout* m_layout = nullptr;
     bool m_keepsLayout = false;
     bool m_tellsRefusal = false;
 };
