@@ -23,19 +23,20 @@ HistoryCommands::HistoryCommands(WindowCommands& commands, EditHistory& history)
 {
     commands.on(ZVMainActions::Undo, &history, &EditHistory::undo);
     commands.on(ZVMainActions::Redo, &history, &EditHistory::redo);
-    connect(&history.stack(), &QUndoStack::indexChanged, this, &HistoryCommands::show);
+    connect(&history, &EditHistory::changed, this, &HistoryCommands::show);
     show();
 }
 
 void HistoryCommands::show()
 {
-    const QUndoStack& stack = m_history.stack();
     QAction* const undo = m_commands[ZVMainActions::Undo];
-    undo->setEnabled(stack.canUndo());
-    undo->setText(stack.canUndo() ? naming(tr("&Undo: %1"), stack.undoText()) : tr("&Undo"));
+    undo->setEnabled(m_history.canUndo());
+    undo->setText(m_history.canUndo() ? naming(tr("&Undo: %1"), m_history.undoText())
+                                      : tr("&Undo"));
     QAction* const redo = m_commands[ZVMainActions::Redo];
-    redo->setEnabled(stack.canRedo());
-    redo->setText(stack.canRedo() ? naming(tr("Re&do: %1"), stack.redoText()) : tr("Re&do"));
+    redo->setEnabled(m_history.canRedo());
+    redo->setText(m_history.canRedo() ? naming(tr("Re&do: %1"), m_history.redoText())
+                                      : tr("Re&do"));
 }
 
 } // namespace Zorvane::Workbench

@@ -97,11 +97,12 @@ void DesignSession::openFile(const QString& file)
 
 void DesignSession::close()
 {
+    const DesignStore::Readings before = m_store.readings();
     m_store.clear();
     m_looseParts.clear();
     m_openProblems.clear();
     watch();
-    Q_EMIT reread();
+    tellReread(before);
     Q_EMIT changed();
 }
 
@@ -114,17 +115,19 @@ void DesignSession::close(const GUIdentifier& designId)
 {
     if (!canClose(designId))
         return;
+    const DesignStore::Readings before = m_store.readings();
     m_store.close(designId);
     watch();
-    Q_EMIT reread();
+    tellReread(before);
     Q_EMIT changed();
 }
 
 void DesignSession::replace(const GUIdentifier& designId, const QString& file)
 {
+    const DesignStore::Readings before = m_store.readings();
     m_store.replace(designId, QFileInfo(file).canonicalFilePath());
     watch();
-    Q_EMIT reread();
+    tellReread(before);
     Q_EMIT changed();
 }
 
@@ -339,14 +342,16 @@ Problems DesignSession::save(const GUIdentifier& designId, OnConflict onConflict
 
 void DesignSession::revert(const GUIdentifier& designId)
 {
+    const DesignStore::Readings before = m_store.readings();
     m_store.revert(designId);
     watch();
-    Q_EMIT reread();
+    tellReread(before);
     Q_EMIT changed();
 }
 
 void DesignSession::reload()
 {
+    const DesignStore::Readings before = m_store.readings();
     std::vector<GUIdentifier> ids;
     for (const Design& design : designs())
         ids.push_back(design.id);
@@ -357,8 +362,21 @@ void DesignSession::reload()
         openOne(problem.file);
     m_looseParts.refresh();
     watch();
-    Q_EMIT reread();
+    tellReread(before);
     Q_EMIT changed();
+}
+
+void DesignSession::tellReread(const DesignStore::Readings& before)
+{
+    const DesignStore::Readings now = m_store.readings();
+    std::vector<GUIdentifier> different;
+    for (const auto& [id, reading] : before) {
+        const auto found = now.find(id);
+        if (found == now.end() || found->second != reading)
+            different.push_back(id);
+    }
+    if (!different.empty())
+        Q_EMIT reread(different);
 }
 
 void DesignSession::watch()
@@ -379,22 +397,20 @@ void DesignSession::watch()
 void DesignSession::follow(const QStringList& files)
 {
     bool different = false;
-    bool isReread = false;
+    const DesignStore::Readings before = m_store.readings();
     std::vector<GUIdentifier> conflicts;
     for (const QString& file : m_store.designFiles()) {
         if (!files.contains(file))
             continue;
         const DesignStore::Outcome outcome = m_store.follow(file);
         different |= outcome != DesignStore::Outcome::Nothing;
-        isReread |= outcome == DesignStore::Outcome::Changed;
         if (outcome == DesignStore::Outcome::Conflict)
             conflicts.push_back(m_store.idOf(file));
     }
     different |= m_store.refreshStates();
     different |= m_looseParts.refresh();
     watch();
-    if (isReread)
-        Q_EMIT reread();
+    tellReread(before);
     if (different)
         Q_EMIT changed();
     for (const QString& file : files)

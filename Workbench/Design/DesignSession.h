@@ -150,8 +150,8 @@ public:
 Q_SIGNALS:
     /** A person's change of a design, after it was made and before `changed`. */
     void edited(const Zorvane::Workbench::DesignEdit& edit);
-    /** Designs may have been read from their files again; earlier edits don't fit any more. */
-    void reread();
+    /** These were read from their files again, or closed; earlier edits don't fit any more. */
+    void reread(const std::vector<Zorvane::GUIdentifier>& designs);
     /** Something of designs, parts, states of files, problems or modification is different. */
     void changed();
     /** The content of a file that is referred to or opened may be different. */
@@ -163,6 +163,7 @@ private:
     void openOne(const QString& path);
     void openFolder(const QString& folder);
     void openFile(const QString& file);
+    void tellReread(const DesignStore::Readings& before);
     void watch();
     void follow(const QStringList& files);
     const Part* findLoosePart(const GUIdentifier& id) const;

@@ -101,7 +101,9 @@ void DesignStore::forget(const QString& file)
 
 void DesignStore::clear()
 {
+    const int lastReading = m_lastReading;
     *this = DesignStore();
+    m_lastReading = lastReading;
 }
 
 Problems DesignStore::problems() const
@@ -129,6 +131,14 @@ GUIdentifier DesignStore::idOf(const QString& file) const
     const auto found = std::find_if(m_designs.begin(), m_designs.end(),
                                     [&file](const Design& design) { return design.file == file; });
     return found == m_designs.end() ? GUIdentifier() : found->id;
+}
+
+DesignStore::Readings DesignStore::readings() const
+{
+    Readings readings;
+    for (const Design& design : m_designs)
+        readings.emplace(design.id, m_records.at(design.file).reading);
+    return readings;
 }
 
 QStringList DesignStore::designFiles() const
@@ -225,6 +235,7 @@ void DesignStore::readNew(const QString& file, Pool& pool)
     DesignReading reading = DesignReader(takenIds(file, pool)).read(file);
     Record& record = m_records[file];
     record = Record();
+    record.reading = ++m_lastReading;
     (reading.design ? record.pieces : record.file) = std::move(reading.problems);
     record.content = reading.content;
     if (reading.design)
@@ -285,6 +296,7 @@ bool DesignStore::accept(Record& record, Design& design, DesignReading reading)
         return false;
     }
     record = Record();
+    record.reading = ++m_lastReading;
     record.content = reading.content;
     record.pieces = std::move(reading.problems);
     design = std::move(*reading.design);
@@ -464,7 +476,9 @@ void DesignStore::noteSaved(Design& design, Record& record)
     const QByteArray written = DesignWriter::toJson(design);
     const Problems pieces =
         DesignReader(takenIds(design.file, {})).parse(written, design.file).problems;
+    const int reading = record.reading;
     record = Record();
+    record.reading = reading;
     record.content = written;
     record.pieces = pieces;
 }

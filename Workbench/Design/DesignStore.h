@@ -54,6 +54,9 @@ public:
     const Design* find(const GUIdentifier& objectId) const;
     /** Of the design read from the file; null if none is. */
     GUIdentifier idOf(const QString& file) const;
+    /** Which reading each design shows: another number whenever its file was read again. */
+    using Readings = std::map<GUIdentifier, int>;
+    Readings readings() const;
     /** Every file that a design is or wants to be read from. */
     QStringList designFiles() const;
 
@@ -96,6 +99,8 @@ private:
         /** Why the file at present is not what is shown. */
         Problems file;
         bool conflict = false;
+        /** Counts over all designs; saving leaves it. */
+        int reading = 0;
         /** Names as in the file, of the objects that have another one now. */
         std::map<GUIdentifier, QString> savedNames;
         /** Values as in the file, of the objects that have another one now. */
@@ -129,6 +134,7 @@ private:
     const Record* recordOf(const GUIdentifier& objectId) const;
 
     QStringList m_opened;
+    int m_lastReading = 0;
     std::vector<Design> m_designs;
     std::map<QString, Record> m_records;
     /** What is wrong with the way designs refer to one another. */

@@ -3,7 +3,7 @@
 #include "Workbench/Design/DesignEdit.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtWidgets/QUndoCommand>
+#include <QtCore/QString>
 
 namespace Zorvane::Workbench {
 
@@ -11,9 +11,9 @@ class DesignSession;
 
 /**
  * One change of a design that can be taken back and made again. One that no longer fits, since the
- * design is not what it was, does nothing and is dropped. The session must outlive it.
+ * design is not what it was, does nothing. The session must outlive it.
  */
-class EditCommand : public QUndoCommand
+class EditCommand
 {
     Q_DECLARE_TR_FUNCTIONS(Zorvane::Workbench::EditCommand)
 
@@ -21,23 +21,34 @@ public:
     /** For a change that has been made already. */
     EditCommand(DesignSession& session, DesignEdit edit);
 
-    void undo() override;
-    void redo() override;
-    int id() const override;
+    /** What was changed, translated. */
+    const QString& text() const { return m_text; }
+    /** The design that was changed. */
+    const GUIdentifier& design() const { return m_design; }
+    /** Whether other designs may be open or closed by it: files were added or taken out. */
+    bool changesFiles() const;
     /** Whether it took just these out. */
     bool isRemovalOf(const TakenObjects& objects) const;
-    /** Steps of one value, one after the other, are one change. */
-    bool mergeWith(const QUndoCommand* other) override;
+    /** Takes a later one in: steps of one value, one after the other, are one change. */
+    bool mergeWith(const EditCommand& later);
+    /** Whether merging left nothing: a value that is what it was. */
+    bool isNothing() const;
+
+    /** False if it no longer fits. */
+    bool undo() { return apply(false); }
+    bool redo() { return apply(true); }
 
 private:
     QString describe() const;
+    GUIdentifier designChanged() const;
     bool apply(bool forward);
 
-    DesignSession& m_session;
+    DesignSession* m_session;
     DesignEdit m_edit;
     /** What taking an addition back took out. */
     TakenObjects m_taken;
-    bool m_isMade = true;
+    QString m_text;
+    GUIdentifier m_design;
 };
 
 } // namespace Zorvane::Workbench

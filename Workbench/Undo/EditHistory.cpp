@@ -1,11 +1,11 @@
 #include "Workbench/Undo/EditHistory.h"
 
 #include "Workbench/Design/DesignSession.h"
-#include "Workbench/Undo/EditCommand.h"
 
 #include <QtCore/QScopedValueRollback>
 
 #include <algorithm>
+#include <utility>
 
 namespace Zorvane::Workbench {
 
@@ -13,27 +13,42 @@ EditHistory::EditHistory(DesignSession& session, QObject* parent)
     : QObject(parent)
     , m_session(session)
 {
-    m_stack.setUndoLimit(mostEdits);
     connect(&session, &DesignSession::edited, this, &EditHistory::note);
-    connect(&session, &DesignSession::reread, &m_stack, &QUndoStack::clear);
+    connect(&session, &DesignSession::reread, this, &EditHistory::forget);
 }
 
-EditHistory::~EditHistory()
+QString EditHistory::undoText() const
 {
-    // The stack empties itself aloud, and its listeners may be half gone by then.
-    m_stack.blockSignals(true);
+    return canUndo() ? m_edits[m_made - 1].text() : QString();
+}
+
+QString EditHistory::redoText() const
+{
+    return canRedo() ? m_edits[m_made].text() : QString();
 }
 
 void EditHistory::undo()
 {
+    if (!canUndo() || m_isReplaying)
+        return;
     const QScopedValueRollback<bool> replaying(m_isReplaying, true);
-    m_stack.undo();
+    if (m_edits[m_made - 1].undo())
+        --m_made;
+    else
+        drop(m_made - 1);
+    Q_EMIT changed();
 }
 
 void EditHistory::redo()
 {
+    if (!canRedo() || m_isReplaying)
+        return;
     const QScopedValueRollback<bool> replaying(m_isReplaying, true);
-    m_stack.redo();
+    if (m_edits[m_made].redo())
+        ++m_made;
+    else
+        drop(m_made);
+    Q_EMIT changed();
 }
 
 void EditHistory::putBack(const TakenObjects& taken)
@@ -42,8 +57,7 @@ void EditHistory::putBack(const TakenObjects& taken)
     const auto isBack = [this](const GUIdentifier& id) { return m_session.findDesign(id); };
     if (std::any_of(ids.begin(), ids.end(), isBack) || ids.empty())
         return;
-    const auto* last = static_cast<const EditCommand*>(m_stack.command(m_stack.index() - 1));
-    if (last && last->isRemovalOf(taken))
+    if (canUndo() && m_edits[m_made - 1].isRemovalOf(taken))
         undo();
     else
         m_session.putBack(taken);
@@ -51,8 +65,51 @@ void EditHistory::putBack(const TakenObjects& taken)
 
 void EditHistory::note(const DesignEdit& edit)
 {
-    if (!m_isReplaying)
-        m_stack.push(new EditCommand(m_session, edit));
+    if (m_isReplaying)
+        return;
+    m_edits.erase(m_edits.begin() + std::ptrdiff_t(m_made), m_edits.end());
+    EditCommand command(m_session, edit);
+    if (!canUndo() || !m_edits.back().mergeWith(command))
+        m_edits.push_back(std::move(command));
+    else if (m_edits.back().isNothing())
+        m_edits.pop_back();
+    if (m_edits.size() > mostEdits)
+        m_edits.erase(m_edits.begin());
+    m_made = m_edits.size();
+    Q_EMIT changed();
+}
+
+void EditHistory::forget(const std::vector<GUIdentifier>& designs)
+{
+    dropIf([&designs](const EditCommand& edit) {
+        return std::find(designs.begin(), designs.end(), edit.design()) != designs.end();
+    });
+    // A design that went with a reference to it comes back with that, and so do its edits.
+    const auto isOpen = [this](const EditCommand& edit) {
+        return m_session.findDesign(edit.design()) != nullptr;
+    };
+    const bool mayComeBack =
+        std::any_of(m_edits.begin(), m_edits.end(), [&isOpen](const EditCommand& edit) {
+            return edit.changesFiles() && isOpen(edit);
+        });
+    if (!mayComeBack)
+        dropIf([&isOpen](const EditCommand& edit) { return !isOpen(edit); });
+    Q_EMIT changed();
+}
+
+template <typename Condition>
+void EditHistory::dropIf(const Condition& condition)
+{
+    for (std::size_t place = m_edits.size(); place-- > 0;)
+        if (condition(m_edits[place]))
+            drop(place);
+}
+
+void EditHistory::drop(std::size_t place)
+{
+    m_edits.erase(m_edits.begin() + std::ptrdiff_t(place));
+    if (place < m_made)
+        --m_made;
 }
 
 } // namespace Zorvane::Workbench

@@ -1,9 +1,11 @@
 #pragma once
 
-#include "Workbench/Design/DesignEdit.h"
+#include "Workbench/Undo/EditCommand.h"
 
 #include <QtCore/QObject>
-#include <QtWidgets/QUndoStack>
+
+#include <cstddef>
+#include <vector>
 
 namespace Zorvane::Workbench {
 
@@ -11,8 +13,10 @@ class DesignSession;
 
 /**
  * Remembers what people change in the designs of a session, whichever window they do it in, and
- * takes it back or makes it again. Saving doesn't end it; reading designs from their files again
- * does. The session, not owned, must outlive it.
+ * takes it back or makes it again: the edits of all designs in the order in which they were made.
+ * Saving doesn't end it. Closing a design or reading it from its file again drops what was done to
+ * it, and keeps the edits of the others, which is more than a `QUndoStack` can do. The session, not
+ * owned, must outlive it.
  */
 class EditHistory : public QObject
 {
@@ -22,10 +26,15 @@ public:
     static constexpr int mostEdits = 500;
 
     EditHistory(DesignSession& session, QObject* parent);
-    ~EditHistory() override;
 
-    /** For actions and texts; push nothing. */
-    QUndoStack& stack() { return m_stack; }
+    bool canUndo() const { return m_made > 0; }
+    bool canRedo() const { return m_made < m_edits.size(); }
+    /** What would be taken back or made again, translated; empty if there is nothing. */
+    QString undoText() const;
+    QString redoText() const;
+    /** All edits remembered, and how many of them were not taken back. */
+    int count() const { return int(m_edits.size()); }
+    int madeCount() const { return int(m_made); }
 
     /**
      * Puts back what was taken out of a design, and nothing else: undoes the taking if that was the
@@ -37,11 +46,21 @@ public Q_SLOTS:
     void undo();
     void redo();
 
+Q_SIGNALS:
+    /** There are other edits to be taken back or made again. */
+    void changed();
+
 private:
     void note(const DesignEdit& edit);
+    void forget(const std::vector<GUIdentifier>& designs);
+    template <typename Condition>
+    void dropIf(const Condition& condition);
+    void drop(std::size_t place);
 
     DesignSession& m_session;
-    QUndoStack m_stack;
+    /** Those made come first, in the order in which they were made. */
+    std::vector<EditCommand> m_edits;
+    std::size_t m_made = 0;
     bool m_isReplaying = false;
 };
 

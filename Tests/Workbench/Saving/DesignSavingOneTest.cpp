@@ -94,7 +94,7 @@ void DesignSavingOneTest::copyLeavesOutdatedResultsToTheDesign()
     QVERIFY(!onOtherDisk().contains("draw.csv"));
     QVERIFY(hasResult());
     QVERIFY(session().areQuantitiesModified(design().id));
-    QVERIFY(!m_history->stack().canRedo());
+    QVERIFY(!m_history->canRedo());
 }
 
 void DesignSavingOneTest::closesOneDesign()

@@ -24,6 +24,7 @@ private:
         return writeFile(m_opened->path(name), binaryStl(cube()));
     }
     void makeSomeEdit(std::mt19937& random);
+    QString openSecond();
 
     std::unique_ptr<OpenedDesign> m_opened;
     std::unique_ptr<EditHistory> m_history;
@@ -44,6 +45,12 @@ private Q_SLOTS:
     void savingDoesNotEndTheHistory();
     void rereadingEndsTheHistory_data();
     void rereadingEndsTheHistory();
+    void theOthersEndingKeepsTheHistoryOfADesign_data();
+    void theOthersEndingKeepsTheHistoryOfADesign();
+    void whatClosesWithADesignEndsWithIt();
+    void whatComesBackKeepsItsHistory();
+    void aDesignThatCannotBeReadAgainKeepsItsHistory();
+    void onlyTheLastEditsAreKept();
     void textsNameTheObjects();
     void randomEditsAreTakenBackToTheByte();
 };
@@ -63,8 +70,8 @@ void EditHistoryTest::cleanup()
 
 void EditHistoryTest::newHistoryIsEmpty()
 {
-    QVERIFY(!m_history->stack().canUndo());
-    QVERIFY(!m_history->stack().canRedo());
+    QVERIFY(!m_history->canUndo());
+    QVERIFY(!m_history->canRedo());
     m_history->undo();
     m_history->redo();
 }
@@ -79,7 +86,7 @@ void EditHistoryTest::renamingIsTakenBackAndMadeAgain()
     m_history->redo();
     QCOMPARE(session().name(objectId(10)), QStringLiteral("Left door"));
     QVERIFY(session().isModified(objectId(10)));
-    QCOMPARE(m_history->stack().count(), 1);
+    QCOMPARE(m_history->count(), 1);
 }
 
 void EditHistoryTest::quantitiesAreTakenBack()
@@ -99,13 +106,13 @@ void EditHistoryTest::stepsOfOneValueAreOneChange()
     const double before = *session().quantity(objectId(2), Quantity::Thickness);
     for (int step = 1; step <= 5; ++step)
         session().setQuantity(objectId(2), Quantity::Thickness, before + step);
-    QCOMPARE(m_history->stack().count(), 1);
+    QCOMPARE(m_history->count(), 1);
     m_history->undo();
     QCOMPARE(*session().quantity(objectId(2), Quantity::Thickness), before);
     // There and back again is no change at all.
     session().setQuantity(objectId(2), Quantity::Thickness, before + 1);
     session().setQuantity(objectId(2), Quantity::Thickness, before);
-    QVERIFY(!m_history->stack().canUndo());
+    QVERIFY(!m_history->canUndo());
 }
 
 void EditHistoryTest::stepsOfDifferentValuesAreNot()
@@ -113,7 +120,7 @@ void EditHistoryTest::stepsOfDifferentValuesAreNot()
     session().setQuantity(objectId(10), Quantity::Thickness, 3);
     session().setQuantity(objectId(10), Quantity::Force, 4);
     session().setQuantity(objectId(21), Quantity::Force, 5);
-    QCOMPARE(m_history->stack().count(), 3);
+    QCOMPARE(m_history->count(), 3);
 }
 
 void EditHistoryTest::additionsAreTakenBackWithTheirParts()
@@ -156,7 +163,7 @@ void EditHistoryTest::refusedEditsAreNotRemembered()
     QVERIFY(!session().addFiles(design().id, {QStringLiteral("none.stl")}).empty());
     QVERIFY(session().take(design().id, {objectId(99)}).isEmpty());
     session().rename(objectId(10), session().name(objectId(10)));
-    QVERIFY(!m_history->stack().canUndo());
+    QVERIFY(!m_history->canUndo());
 }
 
 void EditHistoryTest::newEditDropsWhatCouldBeMadeAgain()
@@ -165,7 +172,7 @@ void EditHistoryTest::newEditDropsWhatCouldBeMadeAgain()
     session().rename(objectId(10), QStringLiteral("two"));
     m_history->undo();
     session().rename(objectId(10), QStringLiteral("three"));
-    QVERIFY(!m_history->stack().canRedo());
+    QVERIFY(!m_history->canRedo());
     m_history->undo();
     QCOMPARE(session().name(objectId(10)), QStringLiteral("one"));
 }
@@ -175,7 +182,7 @@ void EditHistoryTest::undoingAllIsUnmodified()
     session().rename(objectId(1), QStringLiteral("Another design"));
     session().addFiles(design().id, {anotherMesh(QStringLiteral("rib.stl"))});
     session().setQuantity(objectId(2), Quantity::Thickness, 7);
-    while (m_history->stack().canUndo())
+    while (m_history->canUndo())
         m_history->undo();
     QVERIFY(!session().isModified());
     QCOMPARE(content(), DesignWriter::toJson(design()));
@@ -221,20 +228,131 @@ void EditHistoryTest::rereadingEndsTheHistory()
         replaceFile(m_opened->designFile(), toText(changed));
         QTRY_COMPARE_WITH_TIMEOUT(design().name, QStringLiteral("Changed elsewhere"), patience);
     }
-    QVERIFY(!m_history->stack().canUndo());
+    QVERIFY(!m_history->canUndo());
+}
+
+/** Beside the small design, not referring to it. */
+QString EditHistoryTest::openSecond()
+{
+    const QString file = m_opened->path(QStringLiteral("second/second.dsg"));
+    session().open({writeFile(file, toText(designWithFiles(60, QStringLiteral("Second"), {})))});
+    return file;
+}
+
+void EditHistoryTest::theOthersEndingKeepsTheHistoryOfADesign_data()
+{
+    QTest::addColumn<QString>("how");
+    for (const char* how : {"closed", "reopened", "saved under another name", "another program"})
+        QTest::newRow(how) << QString::fromLatin1(how);
+}
+
+void EditHistoryTest::theOthersEndingKeepsTheHistoryOfADesign()
+{
+    QFETCH(QString, how);
+    const QString second = openSecond();
+    session().rename(objectId(10), QStringLiteral("Left door"));
+    session().rename(objectId(60), QStringLiteral("Second, changed"));
+    session().setQuantity(objectId(2), Quantity::Thickness, 7);
+    session().setQuantity(objectId(10), Quantity::Thickness, 8);
+    QVERIFY(session().save(objectId(60), DesignSession::OnConflict::Refuse).empty());
+    m_history->undo();
+    const QSignalSpy changed(m_history.get(), &EditHistory::changed);
+    if (how == QStringLiteral("closed")) {
+        session().close(objectId(60));
+    } else if (how == QStringLiteral("reopened")) {
+        session().revert(objectId(60));
+    } else if (how == QStringLiteral("saved under another name")) {
+        session().replace(objectId(60),
+                          writeFile(m_opened->path(QStringLiteral("third.dsg")),
+                                    toText(designWithFiles(70, QStringLiteral("Third"), {}))));
+    } else {
+        replaceFile(second, toText(designWithFiles(60, QStringLiteral("Changed elsewhere"), {})));
+        QTRY_COMPARE_WITH_TIMEOUT(session().name(objectId(60)), QStringLiteral("Changed elsewhere"),
+                                  patience);
+    }
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(m_history->count(), 3);
+    m_history->redo();
+    QCOMPARE(*session().quantity(objectId(10), Quantity::Thickness), 8.0);
+    while (m_history->canUndo())
+        m_history->undo();
+    QVERIFY(!session().isModified());
+    QCOMPARE(m_history->count(), 3);
+}
+
+void EditHistoryTest::whatClosesWithADesignEndsWithIt()
+{
+    const QJsonArray files{fileEntry(71, QStringLiteral("The second"), QStringLiteral("design"),
+                                     QStringLiteral("second/second.dsg"))};
+    writeFile(m_opened->path(QStringLiteral("second/second.dsg")),
+              toText(designWithFiles(60, QStringLiteral("Second"), {})));
+    session().open({writeFile(m_opened->path(QStringLiteral("third.dsg")),
+                              toText(designWithFiles(70, QStringLiteral("Third"), files)))});
+    session().rename(objectId(10), QStringLiteral("Left door"));
+    session().rename(objectId(60), QStringLiteral("Second, changed"));
+    QVERIFY(session().save().empty());
+    session().close(objectId(70));
+    QVERIFY(session().findDesign(objectId(60)) == nullptr);
+    QCOMPARE(m_history->count(), 1);
+    QVERIFY(m_history->undoText().contains(QStringLiteral("Cup")));
+}
+
+void EditHistoryTest::whatComesBackKeepsItsHistory()
+{
+    const QString second = m_opened->path(QStringLiteral("second/second.dsg"));
+    writeFile(second, toText(designWithFiles(60, QStringLiteral("Second"), {})));
+    QVERIFY(session().addFiles(design().id, {second}).empty());
+    session().rename(objectId(60), QStringLiteral("Second, changed"));
+    QVERIFY(session().save().empty());
+    const GUIdentifier reference = design().files.back().id;
+    QVERIFY(!session().take(design().id, {reference}).isEmpty());
+    QVERIFY(session().findDesign(objectId(60)) == nullptr);
+    const QString third = m_opened->path(QStringLiteral("third/third.dsg"));
+    session().open({writeFile(third, toText(designWithFiles(70, QStringLiteral("Third"), {})))});
+    session().close(objectId(70));
+    m_history->undo();
+    m_history->undo();
+    QCOMPARE(session().name(objectId(60)), QStringLiteral("Second"));
+    m_history->redo();
+    m_history->redo();
+    // It cannot come back any more.
+    session().close();
+    QCOMPARE(m_history->count(), 0);
+}
+
+void EditHistoryTest::aDesignThatCannotBeReadAgainKeepsItsHistory()
+{
+    const QString before = session().name(objectId(10));
+    session().rename(objectId(10), QStringLiteral("Left door"));
+    QVERIFY(session().save().empty());
+    writeFile(m_opened->designFile(), "no design");
+    session().revert(design().id);
+    QVERIFY(!session().problems().empty());
+    m_history->undo();
+    QCOMPARE(session().name(objectId(10)), before);
+}
+
+void EditHistoryTest::onlyTheLastEditsAreKept()
+{
+    for (int edit = 0; edit <= EditHistory::mostEdits; ++edit)
+        session().rename(objectId(10), QStringLiteral("Name %1").arg(edit));
+    QCOMPARE(m_history->count(), EditHistory::mostEdits);
+    while (m_history->canUndo())
+        m_history->undo();
+    QCOMPARE(session().name(objectId(10)), QStringLiteral("Name 0"));
 }
 
 void EditHistoryTest::textsNameTheObjects()
 {
     const QString part = session().name(objectId(10));
     session().rename(objectId(10), QStringLiteral("Left door"));
-    QCOMPARE(m_history->stack().undoText(), QStringLiteral("Rename %1").arg(part));
+    QCOMPARE(m_history->undoText(), QStringLiteral("Rename %1").arg(part));
     session().setQuantity(objectId(10), Quantity::Thickness, 3);
-    QCOMPARE(m_history->stack().undoText(), QStringLiteral("Change Thickness of Left door"));
+    QCOMPARE(m_history->undoText(), QStringLiteral("Change Thickness of Left door"));
     session().addFiles(design().id, {anotherMesh(QStringLiteral("rib.stl"))});
-    QCOMPARE(m_history->stack().undoText(), QStringLiteral("Add rib"));
+    QCOMPARE(m_history->undoText(), QStringLiteral("Add rib"));
     session().take(design().id, {design().parts.back().id});
-    QCOMPARE(m_history->stack().undoText(), QStringLiteral("Remove rib"));
+    QCOMPARE(m_history->undoText(), QStringLiteral("Remove rib"));
 }
 
 void EditHistoryTest::makeSomeEdit(std::mt19937& random)
@@ -267,7 +385,7 @@ void EditHistoryTest::randomEditsAreTakenBackToTheByte()
         for (int edit = 0; edit < 30; ++edit) {
             makeSomeEdit(random);
             // Steps of one value are one change, and those that end where they began are none.
-            states.resize(std::size_t(m_history->stack().count()) + 1);
+            states.resize(std::size_t(m_history->count()) + 1);
             states.back() = content();
         }
         for (std::size_t at = states.size(); at-- > 1;) {
