@@ -276,7 +276,8 @@ void DesignSessionTest::replacingIsToldOnce()
     connect(m_session.get(), &DesignSession::reread, this,
             [&told](const auto& designs) { told.push_back(designs); });
     m_session->replace(id(1), other);
-    QVERIFY(told == std::vector{std::vector{id(1)}});
+    QCOMPARE(told.size(), std::size_t(1));
+    QVERIFY(told.front() == std::vector<GUIdentifier>{id(1)});
     QCOMPARE(designName(), QStringLiteral("Other"));
 }
 
