@@ -272,7 +272,7 @@ void ZVSaveDialogTest::keysPressButtons()
     SaveCase given;
     given.action = ZVSaveDialog::Action(action);
     const auto answer = ask(given, [key](QMessageBox& box) {
-        QVERIFY(QTest::qWaitForWindowActive(&box));
+        QVERIFY(QTest::qWaitForWindowActive(&box, Zorvane::Testing::patience));
         QTest::keyClick(&box, Qt::Key(key), Qt::AltModifier);
         QTRY_VERIFY(!box.isVisible());
     });

@@ -165,7 +165,7 @@ void ConfiguredDialogWindowTest::windowWithoutParentStaysUsable()
     QPushButton preview(QStringLiteral("Turn"));
     window.show();
     preview.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&preview));
+    QVERIFY(QTest::qWaitForWindowExposed(&preview, Zorvane::Testing::patience));
     m_owner = &window;
     int clicks = 0;
     connect(&preview, &QPushButton::clicked, this, [&clicks] { ++clicks; });
@@ -180,7 +180,7 @@ void ConfiguredDialogWindowTest::ownerDestroyed()
 {
     m_owner = new QWidget;
     m_owner->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_owner));
+    QVERIFY(QTest::qWaitForWindowExposed(m_owner, Zorvane::Testing::patience));
     QCOMPARE(open([this](QFileDialog&) { delete m_owner; }), QString());
     QVERIFY(!m_owner);
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
@@ -192,7 +192,7 @@ void ConfiguredDialogWindowTest::ownerClosed()
     QWidget window;
     auto* panel = new QWidget(&window);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowExposed(&window, Zorvane::Testing::patience));
     m_owner = panel;
     QCOMPARE(open([&window](QFileDialog&) { window.close(); }), QString());
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);

@@ -165,7 +165,7 @@ void CopyDialogsTest::collisionKeys()
     QFETCH(int, decision);
     CopyCollisionDialog dialog(collision());
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QVERIFY(QTest::qWaitForWindowActive(&dialog, Zorvane::Testing::patience));
     QTest::keyClick(&dialog, static_cast<Qt::Key>(key), Qt::KeyboardModifiers(modifiers));
     QTRY_VERIFY(!dialog.isVisible());
     QCOMPARE(int(dialog.answer().decision), decision);
@@ -363,7 +363,7 @@ void CopyDialogsTest::inputWaitsUntilTheDialogIsThere()
     Progress test;
     QPushButton other(QStringLiteral("elsewhere"));
     other.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&other));
+    QVERIFY(QTest::qWaitForWindowExposed(&other, Zorvane::Testing::patience));
     int clicks = 0;
     connect(&other, &QPushButton::clicked, this, [&] { ++clicks; });
     QVERIFY(test.passMilliseconds(0));

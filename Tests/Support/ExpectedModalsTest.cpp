@@ -151,7 +151,7 @@ void ExpectedModalsTest::windowsThatAreNotModalAreLeftAlone()
     Testing::ExpectedModals modals;
     QDialog dialog;
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog, Zorvane::Testing::patience));
     QCoreApplication::processEvents();
     QVERIFY(dialog.isVisible());
     QVERIFY(modals.allMet());

@@ -7,6 +7,9 @@
 
 namespace Zorvane::Testing {
 
+/** In milliseconds. Only a failing test waits so long, however busy the machine is. */
+constexpr int patience = 60'000;
+
 /**
  * Base of every test class. A warning or worse through Qt's message handler fails the running
  * test function, unless `expectWarning` announced it; an announced one that never comes fails
@@ -38,6 +41,16 @@ int runTest(int argc, char** argv)
 }
 
 } // namespace Zorvane::Testing
+
+// QtTest's own five seconds are too few for a machine with much else to do.
+#undef QTRY_VERIFY
+#define QTRY_VERIFY(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, Zorvane::Testing::patience)
+#undef QTRY_VERIFY2
+#define QTRY_VERIFY2(condition, message) \
+    QTRY_VERIFY2_WITH_TIMEOUT(condition, message, Zorvane::Testing::patience)
+#undef QTRY_COMPARE
+#define QTRY_COMPARE(actual, expected) \
+    QTRY_COMPARE_WITH_TIMEOUT(actual, expected, Zorvane::Testing::patience)
 
 #define ZORVANE_TEST_MAIN(Test)                             \
     int main(int argc, char** argv)                         \

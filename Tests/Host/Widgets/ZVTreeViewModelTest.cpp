@@ -517,7 +517,7 @@ void ZVTreeViewModelTest::viewEditsWithItsEditor()
     QTreeView view;
     view.setModel(&*m_model);
     view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QVERIFY(QTest::qWaitForWindowExposed(&view, Zorvane::Testing::patience));
     const QSignalSpy edited(&*m_model, &ZVTreeViewModel::edited);
     view.edit(m_model->index(1, 0));
     auto* editor = view.viewport()->findChild<QLineEdit*>();

@@ -234,7 +234,7 @@ void ZVTreeViewPlaceKeeperTest::aViewMayGetAnotherModel()
     for (int i = 0; i < 100; ++i)
         other.rootItem()->appendChildren({Scene::newRow(i)});
     scene.view.setModel(&other);
-    QVERIFY(QTest::qWaitForWindowExposed(&scene.view));
+    QVERIFY(QTest::qWaitForWindowExposed(&scene.view, Zorvane::Testing::patience));
     scene.view.viewport()->repaint();
     scene.scrollToTop(rowText(41));
     {

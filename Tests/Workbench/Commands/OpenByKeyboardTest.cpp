@@ -86,7 +86,7 @@ void OpenByKeyboardTest::init()
     m_window = std::make_unique<MainWindow>();
     m_window->show();
     m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get(), Zorvane::Testing::patience));
 }
 
 void OpenByKeyboardTest::cleanup()
@@ -109,7 +109,7 @@ void OpenByKeyboardTest::withDialog(const std::function<void(QFileDialog&)>& use
 {
     ExpectedModals modals;
     modals.expectDialog<QFileDialog>(QStringLiteral("Open Files"), [&use](QFileDialog& dialog) {
-        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QVERIFY(QTest::qWaitForWindowActive(&dialog, Zorvane::Testing::patience));
         use(dialog);
     });
     openDialog();

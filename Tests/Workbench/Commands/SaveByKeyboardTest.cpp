@@ -39,7 +39,7 @@ QString nameIn(const QFileDialog& dialog)
 /** In place of what is proposed. */
 void answerWith(QFileDialog& dialog, const QString& name)
 {
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QVERIFY(QTest::qWaitForWindowActive(&dialog, Zorvane::Testing::patience));
     activate(dialog);
     QVERIFY(isFocused("fileNameEdit"));
     press(dialog, Qt::Key_A, Qt::ControlModifier);
@@ -112,7 +112,7 @@ void SaveByKeyboardTest::init()
     const Design& design = m_window->session().designs().front();
     DesignPathProvider::getInstance(design.id, FileName(design.file))
         ->setPathToScope(design.file, FileCommands::scope());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get(), Zorvane::Testing::patience));
 }
 
 void SaveByKeyboardTest::cleanup()
@@ -155,7 +155,7 @@ void SaveByKeyboardTest::expectKey(ExpectedModals& modals, const QString& box, i
                                    Qt::KeyboardModifiers modifiers)
 {
     modals.expectMessageBox(box, [key, modifiers](QMessageBox& shown) {
-        QVERIFY(QTest::qWaitForWindowActive(&shown));
+        QVERIFY(QTest::qWaitForWindowActive(&shown, Zorvane::Testing::patience));
         press(shown, key, modifiers);
         // Buttons that are pressed by their letter go down first.
         QTRY_VERIFY(shown.isHidden());

@@ -79,7 +79,7 @@ void WindowCommandsTest::init()
     m_window = std::make_unique<MainWindow>();
     m_window->show();
     m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get(), Zorvane::Testing::patience));
 }
 
 void WindowCommandsTest::cleanup()

@@ -102,7 +102,7 @@ void BackgroundWorkTest::windowThatGoesMeanwhileCancels()
     const QPointer<QWidget> window = new QWidget;
     window->show();
     window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window));
+    QVERIFY(QTest::qWaitForWindowActive(window, Zorvane::Testing::patience));
     const auto work = std::make_shared<LongWork>();
     Testing::ExpectedModals modals;
     modals.expectDialog<QProgressDialog>(QStringLiteral("progress"), [window](QProgressDialog& d) {

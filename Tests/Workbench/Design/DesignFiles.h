@@ -7,9 +7,6 @@
 
 namespace Zorvane::Testing {
 
-/** In milliseconds. Only a failing test waits so long, however busy the machine is. */
-constexpr int patience = 60000;
-
 /** A UUID's text that is always the same for the same number. */
 QString uuidText(int number);
 /** {"id": ..., "name": ...} */

@@ -494,7 +494,7 @@ void DesignSessionTest::followsRewritingInPlace()
     const QString file = openSmallDesign();
     for (const char* name : {"Second", "Third"}) {
         writeFile(file, namedDesign(QString::fromUtf8(name)));
-        QTRY_COMPARE_WITH_TIMEOUT(designName(), QString::fromUtf8(name), patience);
+        QTRY_COMPARE(designName(), QString::fromUtf8(name));
     }
 }
 
@@ -503,7 +503,7 @@ void DesignSessionTest::followsReplacementByRename()
     const QString file = openSmallDesign();
     for (const char* name : {"Second", "Third", "Fourth"}) {
         replaceFile(file, namedDesign(QString::fromUtf8(name)));
-        QTRY_COMPARE_WITH_TIMEOUT(designName(), QString::fromUtf8(name), patience);
+        QTRY_COMPARE(designName(), QString::fromUtf8(name));
     }
 }
 
@@ -512,13 +512,13 @@ void DesignSessionTest::keepsLastGoodStateWhileBroken()
     const QString file = openSmallDesign();
     const QByteArray whole = namedDesign(QStringLiteral("Second"));
     writeFile(file, whole.left(whole.size() - 20));
-    QTRY_VERIFY_WITH_TIMEOUT(!m_session->problems().empty(), patience);
+    QTRY_VERIFY(!m_session->problems().empty());
     QCOMPARE(designName(), QStringLiteral("Small"));
     QCOMPARE(m_session->name(id(21)), QStringLiteral("Die"));
     QVERIFY(allProblems(*m_session).contains(QStringLiteral("is no complete JSON")));
     QVERIFY(allProblems(*m_session).contains(QStringLiteral("as it was read last")));
     writeFile(file, whole);
-    QTRY_COMPARE_WITH_TIMEOUT(designName(), QStringLiteral("Second"), patience);
+    QTRY_COMPARE(designName(), QStringLiteral("Second"));
     QVERIFY(m_session->problems().empty());
 }
 
@@ -526,11 +526,10 @@ void DesignSessionTest::keepsDesignWhoseFileIsGone()
 {
     const QString file = openSmallDesign();
     QVERIFY(QFile::remove(file));
-    QTRY_VERIFY_WITH_TIMEOUT(allProblems(*m_session).contains(QStringLiteral("doesn't exist")),
-                             patience);
+    QTRY_VERIFY(allProblems(*m_session).contains(QStringLiteral("doesn't exist")));
     QCOMPARE(designName(), QStringLiteral("Small"));
     writeFile(file, toText(smallDesign()));
-    QTRY_VERIFY_WITH_TIMEOUT(m_session->problems().empty(), patience);
+    QTRY_VERIFY(m_session->problems().empty());
 }
 
 void DesignSessionTest::opensDesignOnceItIsMended()
@@ -540,7 +539,7 @@ void DesignSessionTest::opensDesignOnceItIsMended()
     QVERIFY(m_session->designs().empty());
     QCOMPARE(m_session->problems().size(), std::size_t(1));
     writeFile(file, toText(smallDesign()));
-    QTRY_COMPARE_WITH_TIMEOUT(m_session->designs().size(), std::size_t(1), patience);
+    QTRY_COMPARE(m_session->designs().size(), std::size_t(1));
     QVERIFY(m_session->problems().empty());
 }
 
@@ -552,7 +551,7 @@ void DesignSessionTest::keepsUnsavedChangesOnConflict()
             [&conflicts](const GUIdentifier& design) { conflicts.push_back(design); });
     m_session->rename(id(21), QStringLiteral("Ours"));
     writeFile(file, namedDesign(QStringLiteral("Theirs")));
-    QTRY_COMPARE_WITH_TIMEOUT(conflicts.size(), std::size_t(1), patience);
+    QTRY_COMPARE(conflicts.size(), std::size_t(1));
     QVERIFY(conflicts.front() == id(1));
     QVERIFY(m_session->hasConflict(id(1)));
     QCOMPARE(m_session->name(id(21)), QStringLiteral("Ours"));
@@ -609,9 +608,9 @@ void DesignSessionTest::conflictEndsWhenTheFileIsAsItWas()
     const QString file = openSmallDesign();
     m_session->rename(id(21), QStringLiteral("Ours"));
     writeFile(file, namedDesign(QStringLiteral("Theirs")));
-    QTRY_VERIFY_WITH_TIMEOUT(m_session->hasConflict(id(1)), patience);
+    QTRY_VERIFY(m_session->hasConflict(id(1)));
     writeFile(file, toText(smallDesign()));
-    QTRY_VERIFY_WITH_TIMEOUT(!m_session->hasConflict(id(1)), patience);
+    QTRY_VERIFY(!m_session->hasConflict(id(1)));
     QCOMPARE(m_session->name(id(21)), QStringLiteral("Ours"));
     QVERIFY(m_session->problems().empty());
 }
@@ -636,16 +635,16 @@ void DesignSessionTest::followsFilesReferredTo()
     const auto state = [this] { return m_session->geometryState(id(21)); };
     QCOMPARE(state(), FileState::Missing);
     writeFile(die, "solid");
-    QTRY_COMPARE_WITH_TIMEOUT(state(), FileState::Exists, patience);
+    QTRY_COMPARE(state(), FileState::Exists);
     QSignalSpy told(m_session.get(), &DesignSession::fileChanged);
     replaceFile(die, "solid again");
-    QTRY_VERIFY_WITH_TIMEOUT(told.count() > 0, patience);
+    QTRY_VERIFY(told.count() > 0);
     QCOMPARE(told.at(0).at(0).toString(), die);
     QVERIFY(QFile::remove(die));
-    QTRY_COMPARE_WITH_TIMEOUT(state(), FileState::Missing, patience);
+    QTRY_COMPARE(state(), FileState::Missing);
     QVERIFY(QDir(path("geometry")).removeRecursively());
     writeFile(die, "solid");
-    QTRY_COMPARE_WITH_TIMEOUT(state(), FileState::Exists, patience);
+    QTRY_COMPARE(state(), FileState::Exists);
 }
 
 void DesignSessionTest::followsFolderOfMeshFiles()
@@ -654,12 +653,12 @@ void DesignSessionTest::followsFolderOfMeshFiles()
     m_session->open({path("m"), writeFile(path("alone.stl"), "solid")});
     QCOMPARE(m_session->looseParts().size(), std::size_t(2));
     writeFile(path("m/b.stl"), "solid");
-    QTRY_COMPARE_WITH_TIMEOUT(m_session->looseParts().size(), std::size_t(3), patience);
+    QTRY_COMPARE(m_session->looseParts().size(), std::size_t(3));
     QVERIFY(QFile::remove(a));
-    QTRY_COMPARE_WITH_TIMEOUT(m_session->looseParts().size(), std::size_t(2), patience);
+    QTRY_COMPARE(m_session->looseParts().size(), std::size_t(2));
     // A file opened by name keeps its place.
     QVERIFY(QFile::remove(path("alone.stl")));
-    QTRY_COMPARE_WITH_TIMEOUT(m_session->looseParts().at(1).state, FileState::Missing, patience);
+    QTRY_COMPARE(m_session->looseParts().at(1).state, FileState::Missing);
 }
 
 void DesignSessionTest::followsNewReferenceToDesign()
@@ -672,11 +671,11 @@ void DesignSessionTest::followsNewReferenceToDesign()
     const QJsonArray files{fileEntry(101, QStringLiteral("Small"), QStringLiteral("design"),
                                      QStringLiteral("small.dsg"))};
     writeFile(door, toText(designWithFiles(100, QStringLiteral("Door"), files)));
-    QTRY_COMPARE_WITH_TIMEOUT(m_session->designs().size(), std::size_t(2), patience);
+    QTRY_COMPARE(m_session->designs().size(), std::size_t(2));
     writeFile(path("small.dsg"), namedDesign(QStringLiteral("Changed")));
-    QTRY_COMPARE_WITH_TIMEOUT(m_session->designs().at(1).name, QStringLiteral("Changed"), patience);
+    QTRY_COMPARE(m_session->designs().at(1).name, QStringLiteral("Changed"));
     writeFile(door, toText(designWithFiles(100, QStringLiteral("Door"), {})));
-    QTRY_COMPARE_WITH_TIMEOUT(m_session->designs().size(), std::size_t(1), patience);
+    QTRY_COMPARE(m_session->designs().size(), std::size_t(1));
 }
 
 void DesignSessionTest::keepsModifiedDesignNoLongerReferredTo()
@@ -689,7 +688,7 @@ void DesignSessionTest::keepsModifiedDesignNoLongerReferredTo()
     m_session->open({door});
     m_session->rename(id(21), QStringLiteral("Ours"));
     writeFile(door, toText(designWithFiles(100, QStringLiteral("Alone"), {})));
-    QTRY_COMPARE_WITH_TIMEOUT(designName(), QStringLiteral("Alone"), patience);
+    QTRY_COMPARE(designName(), QStringLiteral("Alone"));
     QCOMPARE(m_session->designs().size(), std::size_t(2));
     QCOMPARE(m_session->name(id(21)), QStringLiteral("Ours"));
     QVERIFY(m_session->save().empty());

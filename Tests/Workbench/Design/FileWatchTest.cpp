@@ -51,10 +51,10 @@ void FileWatchTest::tellsOfRewritingInPlace()
     const QString file = writeFile(path("a"), "1");
     m_watch->watch({file}, {});
     writeFile(file, "2");
-    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
+    QTRY_VERIFY(m_told.contains(file));
     m_told.clear();
     writeFile(file, "three");
-    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
+    QTRY_VERIFY(m_told.contains(file));
     m_told.clear();
 }
 
@@ -64,7 +64,7 @@ void FileWatchTest::tellsOfEveryReplacementByRename()
     m_watch->watch({file}, {});
     for (int i = 0; i < 5; ++i) {
         replaceFile(file, QByteArray(i + 2, 'x'));
-        QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
+        QTRY_VERIFY(m_told.contains(file));
         m_told.clear();
     }
 }
@@ -79,10 +79,10 @@ void FileWatchTest::tellsOfRewritingAfterReplacement()
     QVERIFY(holder.open(QIODevice::ReadOnly));
     m_watch->watch({file}, {});
     replaceFile(file, "22");
-    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
+    QTRY_VERIFY(m_told.contains(file));
     m_told.clear();
     writeFile(file, "333");
-    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
+    QTRY_VERIFY(m_told.contains(file));
     m_told.clear();
 }
 
@@ -91,13 +91,13 @@ void FileWatchTest::tellsOfDeletionAndReturn()
     const QString file = writeFile(path("a"), "1");
     m_watch->watch({file}, {});
     QVERIFY(QFile::remove(file));
-    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
+    QTRY_VERIFY(m_told.contains(file));
     m_told.clear();
     writeFile(file, "1");
-    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
+    QTRY_VERIFY(m_told.contains(file));
     m_told.clear();
     writeFile(file, "22");
-    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
+    QTRY_VERIFY(m_told.contains(file));
     m_told.clear();
 }
 
@@ -106,10 +106,10 @@ void FileWatchTest::waitsForFileInFolderThatIsYetToCome()
     const QString file = path("deep/deeper/a");
     m_watch->watch({file}, {});
     QVERIFY(QDir().mkpath(path("deep")));
-    QTRY_COMPARE_WITH_TIMEOUT(m_times, 1, patience);
+    QTRY_COMPARE(m_times, 1);
     QVERIFY(m_told.isEmpty());
     writeFile(file, "1");
-    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(file), patience);
+    QTRY_VERIFY(m_told.contains(file));
     m_told.clear();
 }
 
@@ -117,7 +117,7 @@ void FileWatchTest::tellsOfNewEntriesOfFolder()
 {
     m_watch->watch({}, {m_folder->path()});
     writeFile(path("new"), "1");
-    QTRY_VERIFY_WITH_TIMEOUT(m_times > 0, patience);
+    QTRY_VERIFY(m_times > 0);
     QVERIFY(m_told.isEmpty());
 }
 
@@ -129,7 +129,7 @@ void FileWatchTest::forgetsWhatIsNoLongerWatched()
     m_watch->watch({watched}, {});
     writeFile(forgotten, "22");
     writeFile(watched, "22");
-    QTRY_VERIFY_WITH_TIMEOUT(m_told.contains(watched), patience);
+    QTRY_VERIFY(m_told.contains(watched));
     QVERIFY(!m_told.contains(forgotten));
 }
 
@@ -145,7 +145,7 @@ void FileWatchTest::tellsBurstTogether()
         const QSet<QString> told(m_told.cbegin(), m_told.cend());
         return told == QSet<QString>(files.cbegin(), files.cend());
     };
-    QTRY_VERIFY_WITH_TIMEOUT(allTold(), patience);
+    QTRY_VERIFY(allTold());
     QVERIFY(m_times < 200);
 }
 

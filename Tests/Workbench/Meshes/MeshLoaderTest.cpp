@@ -70,14 +70,14 @@ void MeshLoaderTest::deliversMeshAndFacts()
     QSignalSpy loaded(m_loader.get(), &MeshLoader::loaded);
     const QString file = write(1, 10);
     m_loader->request({file});
-    QTRY_COMPARE_WITH_TIMEOUT(loaded.count(), 1, patience);
+    QTRY_COMPARE(loaded.count(), 1);
     QCOMPARE(loaded.at(0).at(0).toString(), file);
     QCOMPARE(loaded.at(0).at(1).value<SharedMesh>()->triangles.size(), std::size_t(12));
     QCOMPARE(loaded.at(0).at(2).value<MeshFacts>().surface, 600.0);
     QVERIFY(m_loader->mesh(file) == loaded.at(0).at(1).value<SharedMesh>());
     QVERIFY(m_loader->facts(file)->watertight);
     QVERIFY(!m_loader->problem(file));
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 1, patience);
+    QTRY_COMPARE(m_finished, 1);
     QVERIFY(!m_loader->isBusy());
 }
 
@@ -85,11 +85,11 @@ void MeshLoaderTest::answersOnlyFromTheEventLoop()
 {
     const QString file = write(1, 10);
     m_loader->request({file});
-    QTRY_COMPARE_WITH_TIMEOUT(m_answers.size(), 1, patience);
+    QTRY_COMPARE(m_answers.size(), 1);
     // It is kept now, and still not told at once.
     m_loader->request({file});
     QCOMPARE(m_answers.size(), 1);
-    QTRY_COMPARE_WITH_TIMEOUT(m_answers.size(), 2, patience);
+    QTRY_COMPARE(m_answers.size(), 2);
 }
 
 void MeshLoaderTest::tellsFailures()
@@ -99,7 +99,7 @@ void MeshLoaderTest::tellsFailures()
     const QString good = write(1, 10);
     QSignalSpy failed(m_loader.get(), &MeshLoader::failed);
     m_loader->request({broken, missing, good});
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 1, patience);
+    QTRY_COMPARE(m_finished, 1);
     QCOMPARE(failed.count(), 2);
     for (const QList<QVariant>& answer : failed)
         QCOMPARE(answer.at(1).value<Problem>().file, answer.at(0).toString());
@@ -114,7 +114,7 @@ void MeshLoaderTest::readsManyFilesAndTellsProgress()
     QSignalSpy progress(m_loader.get(), &MeshLoader::progress);
     m_loader->request(files);
     QCOMPARE(m_loader->total(), 500);
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 1, patience);
+    QTRY_COMPARE(m_finished, 1);
     QCOMPARE(m_answers.size(), 500);
     QCOMPARE(progress.count(), 501);
     for (int i = 0; i < progress.count(); ++i) {
@@ -129,10 +129,10 @@ void MeshLoaderTest::answersInOrderForCachedFiles()
 {
     const QStringList files = writeMany(20);
     m_loader->request(files);
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 1, patience);
+    QTRY_COMPARE(m_finished, 1);
     m_answers.clear();
     m_loader->request(files);
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 2, patience);
+    QTRY_COMPARE(m_finished, 2);
     QCOMPARE(m_answers, files);
 }
 
@@ -146,7 +146,7 @@ void MeshLoaderTest::firstGoesBeforeAllThatWaits()
     const QString other = write(100, 1);
     m_loader->requestFirst(other);
     QCOMPARE(m_loader->total(), 31);
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 1, patience);
+    QTRY_COMPARE(m_finished, 1);
     // Only the one being read when they were asked for comes before them.
     files.insert(1, other);
     files.insert(2, files.takeLast());
@@ -159,7 +159,7 @@ void MeshLoaderTest::asksOnceForTheSameFile()
     m_loader->request(files + files);
     m_loader->request(files);
     QCOMPARE(m_loader->total(), 5);
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 1, patience);
+    QTRY_COMPARE(m_finished, 1);
     QCOMPARE(m_answers.size(), 5);
 }
 
@@ -172,7 +172,7 @@ void MeshLoaderTest::cancelDropsAllAnswers()
     // The answer to a later request comes behind all that were under way.
     const QString last = write(100, 1);
     m_loader->request({last});
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 2, patience);
+    QTRY_COMPARE(m_finished, 2);
     QCOMPARE(m_answers, QStringList(last));
     QCOMPARE(m_loader->done(), 1);
     QCOMPARE(m_loader->total(), 1);
@@ -184,11 +184,11 @@ void MeshLoaderTest::cancelFromAnswerAndStartAnew()
     const QMetaObject::Connection connection =
         connect(m_loader.get(), &MeshLoader::loaded, this, [this] { m_loader->cancel(); });
     m_loader->request(files);
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 1, patience);
+    QTRY_COMPARE(m_finished, 1);
     QCOMPARE(m_answers.size(), 1);
     disconnect(connection);
     m_loader->request(files);
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 2, patience);
+    QTRY_COMPARE(m_finished, 2);
     QCOMPARE(m_answers.size(), 51);
 }
 
@@ -208,18 +208,18 @@ void MeshLoaderTest::requestFromAnswer()
             m_loader->request({files.at(files.indexOf(path) + 1)});
     });
     m_loader->request({files.front()});
-    QTRY_COMPARE_WITH_TIMEOUT(m_answers, files, patience);
-    QTRY_VERIFY_WITH_TIMEOUT(!m_loader->isBusy(), patience);
+    QTRY_COMPARE(m_answers, files);
+    QTRY_VERIFY(!m_loader->isBusy());
 }
 
 void MeshLoaderTest::readsChangedFileAgain()
 {
     const QString file = write(1, 10);
     m_loader->request({file});
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 1, patience);
+    QTRY_COMPARE(m_finished, 1);
     writeFile(file, asciiStl(cube(20)));
     m_loader->request({file});
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 2, patience);
+    QTRY_COMPARE(m_finished, 2);
     QCOMPARE(m_loader->facts(file)->surface, 2400.0);
 }
 
@@ -227,7 +227,7 @@ void MeshLoaderTest::readsTouchedFileAgain()
 {
     const QString file = write(1, 10);
     m_loader->request({file});
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 1, patience);
+    QTRY_COMPARE(m_finished, 1);
     const QDateTime time = QFileInfo(file).lastModified();
     write(1, 20);
     QFile same(file);
@@ -235,10 +235,10 @@ void MeshLoaderTest::readsTouchedFileAgain()
     QVERIFY(same.setFileTime(time, QFileDevice::FileModificationTime));
     same.close();
     m_loader->request({file});
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 2, patience);
+    QTRY_COMPARE(m_finished, 2);
     QCOMPARE(m_loader->facts(file)->surface, 600.0);
     m_loader->requestAnew(file);
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 3, patience);
+    QTRY_COMPARE(m_finished, 3);
     QCOMPARE(m_loader->facts(file)->surface, 2400.0);
 }
 
@@ -249,7 +249,7 @@ void MeshLoaderTest::changeWhileReadingIsReadAgain()
     m_loader->request({file});
     write(1, 20);
     m_loader->requestAnew(file);
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 1, patience);
+    QTRY_COMPARE(m_finished, 1);
     QCOMPARE(loaded.count(), 1);
     QCOMPARE(loaded.at(0).at(2).value<MeshFacts>().surface, 2400.0);
     QCOMPARE(m_loader->total(), 1);
@@ -259,10 +259,10 @@ void MeshLoaderTest::failureForgetsFacts()
 {
     const QString file = write(1, 10);
     m_loader->request({file});
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 1, patience);
+    QTRY_COMPARE(m_finished, 1);
     writeFile(file, "broken");
     m_loader->request({file});
-    QTRY_COMPARE_WITH_TIMEOUT(m_finished, 2, patience);
+    QTRY_COMPARE(m_finished, 2);
     QVERIFY(!m_loader->facts(file));
     QVERIFY(!m_loader->mesh(file));
     QVERIFY(m_loader->problem(file));
@@ -276,8 +276,8 @@ void MeshLoaderTest::keepsMeshesWithinTheLimit()
     m_loader->setCacheLimit(3 * one);
     for (const QString& file : files) {
         m_loader->request({file});
-        QTRY_VERIFY_WITH_TIMEOUT(m_loader->facts(file).has_value(), patience);
-        QTRY_VERIFY_WITH_TIMEOUT(!m_loader->isBusy(), patience);
+        QTRY_VERIFY(m_loader->facts(file).has_value());
+        QTRY_VERIFY(!m_loader->isBusy());
         // Used all the time, so never the one to go.
         QVERIFY(m_loader->mesh(files.front()));
         QVERIFY(m_loader->cachedBytes() <= 3 * one);
@@ -289,7 +289,7 @@ void MeshLoaderTest::keepsMeshesWithinTheLimit()
     QVERIFY(m_loader->facts(files.at(7)));
     // Asked for again, it is read again.
     m_loader->request({files.at(7)});
-    QTRY_VERIFY_WITH_TIMEOUT(!m_loader->isBusy(), patience);
+    QTRY_VERIFY(!m_loader->isBusy());
     QVERIFY(m_loader->mesh(files.at(7)));
     m_loader->setCacheLimit(0);
     QCOMPARE(m_loader->cachedBytes(), std::size_t(0));

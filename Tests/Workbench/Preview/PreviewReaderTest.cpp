@@ -7,6 +7,7 @@
 #include "Workbench/Window/Language.h"
 
 #include <QtCore/QEventLoop>
+#include <QtCore/QFile>
 #include <QtCore/QLocale>
 #include <QtCore/QLockFile>
 #include <QtCore/QTemporaryDir>
@@ -30,6 +31,8 @@ int hang(const QString& path, const ProcessLimits& limits)
 {
     QLockFile alive(path + QStringLiteral(".alive"));
     alive.lock(); // writes a file, which the limits forbid
+    // The lock's own file is there a moment before the lock.
+    QFile(path + QStringLiteral(".started")).open(QIODevice::WriteOnly);
     if (limitThisProcess(limits))
         QEventLoop().exec();
     return EXIT_FAILURE;
@@ -138,7 +141,7 @@ private:
     }
     static bool hasStarted(const QString& path)
     {
-        return QFile::exists(path + QStringLiteral(".alive"));
+        return QFile::exists(path + QStringLiteral(".started"));
     }
 
     const QTemporaryDir m_folder;

@@ -439,7 +439,7 @@ void DesignSavingTest::startOnAnotherFileRunsThere()
     QVERIFY(m_saving->start(design().id));
     QCOMPARE(onDisk(), before);
     QCOMPARE(QFileInfo(m_runner->designFile()).fileName(), QStringLiteral("other.dsg"));
-    QTRY_VERIFY_WITH_TIMEOUT(!m_runner->isRunning(), patience);
+    QTRY_VERIFY(!m_runner->isRunning());
     QVERIFY(readFile(m_opened->path(QStringLiteral("other.dsg"))).contains("simulation.csv"));
 }
 
@@ -458,7 +458,7 @@ void DesignSavingTest::startOfADesignComputedElsewhereIsRefused()
 void DesignSavingTest::resultsAreTakenIntoTheDesignAndSaved()
 {
     QVERIFY(m_saving->start(design().id));
-    QTRY_COMPARE_WITH_TIMEOUT(m_told.size(), 1, patience);
+    QTRY_COMPARE(m_told.size(), 1);
     QVERIFY(hasResult());
     QVERIFY(!session().isModified());
     QVERIFY(onDisk().contains("results/small-simulation.csv"));
@@ -470,7 +470,7 @@ void DesignSavingTest::resultsDoNotSaveTheUsersChanges()
 {
     QVERIFY(m_saving->start(design().id));
     edit();
-    QTRY_COMPARE_WITH_TIMEOUT(m_told.size(), 1, patience);
+    QTRY_COMPARE(m_told.size(), 1);
     QVERIFY(hasResult());
     QVERIFY(session().isModified());
     QVERIFY(!isEditOnDisk());
@@ -481,7 +481,7 @@ void DesignSavingTest::resultsOfAClosedDesignStayOnTheDisk()
 {
     QVERIFY(m_saving->start(design().id));
     session().close();
-    QTRY_COMPARE_WITH_TIMEOUT(m_told.size(), 1, patience);
+    QTRY_COMPARE(m_told.size(), 1);
     QVERIFY(QFile::exists(m_opened->path(QStringLiteral("results/small-simulation.csv"))));
     QVERIFY(m_told.front().contains(QStringLiteral("small-simulation.csv")));
 }

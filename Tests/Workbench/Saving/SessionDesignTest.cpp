@@ -73,7 +73,7 @@ void SessionDesignTest::resultsCountIfTheyAreThere()
     reopenAs(changed);
     QVERIFY(!design().hasSimulationResults());
     writeFile(m_opened->path(QStringLiteral("draw.csv")), "stroke\n");
-    QTRY_VERIFY_WITH_TIMEOUT(design().hasSimulationResults(), patience);
+    QTRY_VERIFY(design().hasSimulationResults());
 }
 
 void SessionDesignTest::resultsRenamedOrAddedAreEvaluationData()

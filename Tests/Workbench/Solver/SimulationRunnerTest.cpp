@@ -73,7 +73,7 @@ void SimulationRunnerTest::runsInSlicesAndLeavesATable()
     QVERIFY(!m_runner->start(design()));
     QVERIFY(m_runner->isRunning());
     QCOMPARE(progress.size(), 1);
-    QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, patience);
+    QTRY_COMPARE(finished.size(), 1);
     QCOMPARE(progress.size(), 6);
     QCOMPARE(progress.last(), QVariantList({5, 5}));
     QVERIFY(!m_runner->isRunning());
@@ -90,7 +90,7 @@ void SimulationRunnerTest::fileIsMarkedAsLongAsItRuns()
     bool wasMarkedAtTheEnd = true;
     connect(m_runner.get(), &SimulationRunner::finished, this,
             [&] { wasMarkedAtTheEnd = isMarked(); });
-    QTRY_VERIFY_WITH_TIMEOUT(!m_runner->isRunning(), patience);
+    QTRY_VERIFY(!m_runner->isRunning());
     QVERIFY(!wasMarkedAtTheEnd);
     QVERIFY(!QFile::exists(DesignStatus::getJobFile(FileName(design().file)).toQString()));
 }
@@ -99,7 +99,7 @@ void SimulationRunnerTest::secondResultGetsANameOfItsOwn()
 {
     for (int run = 0; run < 2; ++run) {
         QVERIFY(!m_runner->start(design()));
-        QTRY_VERIFY_WITH_TIMEOUT(!m_runner->isRunning(), patience);
+        QTRY_VERIFY(!m_runner->isRunning());
     }
     QCOMPARE(results(), QStringList({QStringLiteral("small-simulation (2).csv"),
                                      QStringLiteral("small-simulation.csv")}));
@@ -150,7 +150,7 @@ void SimulationRunnerTest::unwritableResultsAreTold()
     QSignalSpy failed(m_runner.get(), &SimulationRunner::failed);
     QSignalSpy finished(m_runner.get(), &SimulationRunner::finished);
     QVERIFY(!m_runner->start(design()));
-    QTRY_COMPARE_WITH_TIMEOUT(failed.size(), 1, patience);
+    QTRY_COMPARE(failed.size(), 1);
     QVERIFY(finished.isEmpty());
     QVERIFY(!isMarked());
 }
@@ -163,7 +163,7 @@ void SimulationRunnerTest::listenerMayStopTheLastSlice()
             m_runner->stop();
     });
     QVERIFY(!m_runner->start(design()));
-    QTRY_VERIFY_WITH_TIMEOUT(!m_runner->isRunning(), patience);
+    QTRY_VERIFY(!m_runner->isRunning());
     QVERIFY(finished.isEmpty());
     QVERIFY(results().isEmpty());
 }

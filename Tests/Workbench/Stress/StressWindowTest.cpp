@@ -304,7 +304,7 @@ void StressWindowTest::everyControlHasANameAndIsReachedByTab()
     StressWindow window;
     window.show();
     window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(QTest::qWaitForWindowActive(&window, Zorvane::Testing::patience));
     window.view().setFocus();
     std::set<QWidget*> reached;
     while (reached.insert(QApplication::focusWidget()).second) {

@@ -15,7 +15,6 @@
 namespace Zorvane::Workbench {
 
 using Testing::objectId;
-using Testing::patience;
 
 /** Commands of the window that change, save and compute designs. */
 class WindowEditsTest : public Testing::TestCase
@@ -93,7 +92,7 @@ void WindowEditsTest::undoKeysWorkInTheTree()
 {
     const QString before = m_window->session().name(objectId(10));
     m_window->session().rename(objectId(10), QStringLiteral("Left door"));
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get(), Zorvane::Testing::patience));
     m_window->treeView().setFocus();
     QTest::keyClick(&m_window->treeView(), Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(m_window->session().name(objectId(10)), before);
@@ -154,7 +153,7 @@ void WindowEditsTest::resultsAreShownWhenTheSimulationIsDone()
 {
     m_window->simulation().setSteps(2);
     action(QStringLiteral("Compute"))->trigger();
-    QTRY_VERIFY_WITH_TIMEOUT(!m_window->simulation().isRunning(), patience);
+    QTRY_VERIFY(!m_window->simulation().isRunning());
     m_window->tree().refreshNow();
     const Design& design = m_window->session().designs().front();
     QCOMPARE(design.files.back().kind, FileKind::Result);
