@@ -141,16 +141,21 @@ void FileConverterDialog::onConvert()
 /** An exception must not get as far as the event loop, which would end the application. */
 int FileConverterDialog::convert()
 {
+    const QPointer<FileConverterDialog> self(this);
+    const auto tell = [&self](const QString& message) {
+        if (self)
+            self->addMessage(message);
+    };
     try {
         return m_configuration->convert(FileName(m_inputFileName.toStdString()),
                                         FileName(m_outputDirectory.toStdString()), *this);
     } catch (const std::exception& error) {
-        addMessage(Translator::translate("Zorvane::FileConverterDialog",
-                                         "The conversion stopped with an error: %1")
-                       .arg(QString::fromLocal8Bit(error.what())));
+        tell(Translator::translate("Zorvane::FileConverterDialog",
+                                   "The conversion stopped with an error: %1")
+                 .arg(QString::fromLocal8Bit(error.what())));
     } catch (...) {
-        addMessage(Translator::translate("Zorvane::FileConverterDialog",
-                                         "The conversion stopped with an unknown error."));
+        tell(Translator::translate("Zorvane::FileConverterDialog",
+                                   "The conversion stopped with an unknown error."));
     }
     return FileConverterConfigurationInterface::ConversionInputFailed;
 }

@@ -143,6 +143,8 @@ private Q_SLOTS:
     void exceptionsAreToldAndTheCursorComesBack();
     void conversionCannotBeStartedTwice();
     void windowDeletedByTheConversionIsSurvived();
+    void dialogDeletedByTheConversionIsSurvived_data();
+    void dialogDeletedByTheConversionIsSurvived();
 };
 
 void FileConverterDialogTest::initTestCase()
@@ -430,6 +432,27 @@ void FileConverterDialogTest::windowDeletedByTheConversionIsSurvived()
     m_conversion.operation = [this](auto&, auto&, FileConverterLogInterface& log) {
         m_parent.reset();
         log.addMessage(QStringLiteral("nobody reads this"));
+        return 0;
+    };
+    Q_EMIT m_window->convertWasClicked();
+    QVERIFY(!QApplication::overrideCursor());
+}
+
+void FileConverterDialogTest::dialogDeletedByTheConversionIsSurvived_data()
+{
+    QTest::addColumn<bool>("throws");
+    QTest::newRow("it ends") << false;
+    QTest::newRow("it throws") << true;
+}
+
+void FileConverterDialogTest::dialogDeletedByTheConversionIsSurvived()
+{
+    QFETCH(bool, throws);
+    chooseBoth();
+    m_conversion.operation = [this, throws](auto&, auto&, auto&) {
+        m_dialog.reset();
+        if (throws)
+            throw std::runtime_error("nobody reads this");
         return 0;
     };
     Q_EMIT m_window->convertWasClicked();

@@ -9,6 +9,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QPointer>
 
 #include <algorithm>
 #include <utility>
@@ -71,17 +72,19 @@ void FileCommands::setFileChooser(std::unique_ptr<FileChooser> chooser)
 
 void FileCommands::openFiles()
 {
+    const QPointer<FileCommands> self(this);
     const QStringList files = m_chooser->files(
         m_window, {tr("Open Files"), LastPathProvider::getInstance(), s_scope, openFilters()});
-    if (!files.isEmpty())
+    if (self && !files.isEmpty())
         Q_EMIT chosen(files);
 }
 
 void FileCommands::openFolder()
 {
+    const QPointer<FileCommands> self(this);
     const QString folder = m_chooser->folder(
         m_window, {tr("Open Folder"), LastPathProvider::getInstance(), s_scope, {}});
-    if (!folder.isEmpty())
+    if (self && !folder.isEmpty())
         Q_EMIT chosen({folder});
 }
 
@@ -90,17 +93,20 @@ bool FileCommands::saveAs(const GUIdentifier& objectId, Results results)
     const Design* design = m_session.findDesign(objectId);
     if (design == nullptr)
         return false;
+    const QPointer<FileCommands> self(this);
     const QString target = m_chooser->fileToSave(m_window, choiceFor(*design, tr("Save Design As")),
                                                  DesignCopy::typableName(design->file));
+    if (!self || target.isEmpty())
+        return false;
     design = m_session.findDesign(objectId);
-    if (target.isEmpty() || design == nullptr)
+    if (design == nullptr)
         return false;
     std::optional<Problem> obstacle = obstacleTo(target);
     Design copy = copyOf(*design, target, results);
     const GUIdentifier replaced = design->id;
     if (!obstacle)
         obstacle = DesignCopy::bringFiles(m_window, copy, design->folder());
-    if (!write(copy, obstacle))
+    if (!self || !write(copy, obstacle))
         return false;
     m_session.replace(replaced, target);
     Q_EMIT savedAs(target);
@@ -113,11 +119,13 @@ bool FileCommands::saveCopy(const GUIdentifier& objectId, Results results)
     const Design* design = m_session.findDesign(objectId);
     if (design == nullptr)
         return false;
+    const QPointer<FileCommands> self(this);
     const QString target = m_chooser->fileToSaveBeside(
         m_window, choiceFor(*design, tr("Save a Copy")), DesignCopy::proposedFile(design->file));
+    if (!self || target.isEmpty())
+        return false;
     design = m_session.findDesign(objectId);
-    if (target.isEmpty() || design == nullptr ||
-        !write(copyOf(*design, target, results), obstacleTo(target)))
+    if (design == nullptr || !write(copyOf(*design, target, results), obstacleTo(target)))
         return false;
     Q_EMIT done(tr("A copy is saved as %1").arg(QDir::toNativeSeparators(target)));
     return true;

@@ -17,7 +17,8 @@ class DesignSession;
 
 /**
  * The commands of the File menu that ask for files: open, save under another name, save a copy.
- * Session and window must outlive it.
+ * Session and window must outlive it. The window may go while it asks, and takes this along:
+ * nothing is done then.
  */
 class FileCommands : public QObject
 {

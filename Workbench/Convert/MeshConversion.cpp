@@ -12,6 +12,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
+#include <QtCore/QPointer>
 
 #include <optional>
 
@@ -69,11 +70,14 @@ void MeshConversion::getOutputDirectoryDialogSettings(QString& caption, QString&
 int MeshConversion::convert(const FileName& inputFile, const FileName& outputDirectory,
                             FileConverterLogInterface& log)
 {
+    const QPointer<MeshConversion> self(this);
     const QString file = inputFile.toQString();
     log.addMessage(
         tr("Reading %1 (%2)...")
             .arg(QDir::toNativeSeparators(file), sizeForDisplay(QFileInfo(file).size())));
     const std::shared_ptr<const MeshReading> reading = read(file);
+    if (!self)
+        return Cancelled;
     if (!reading) {
         log.addMessage(tr("Cancelled. Nothing was written."));
         return Cancelled;
@@ -115,7 +119,11 @@ int MeshConversion::write(const std::shared_ptr<const MeshReading>& reading,
     const auto work = [reading, target, format, problem] {
         *problem = writeStl(*reading->mesh, target->path(), format);
     };
-    if (!workInBackground(tr("Writing %1...").arg(leafOf(target->path())), work)) {
+    const QPointer<const MeshConversion> self(this);
+    const bool isDone = workInBackground(tr("Writing %1...").arg(leafOf(target->path())), work);
+    if (!self)
+        return Cancelled;
+    if (!isDone) {
         // The target takes the file away when the work that still goes on lets go of it.
         log.addMessage(tr("Cancelled. Nothing was written."));
         return Cancelled;

@@ -2,7 +2,7 @@
 
 #include "Dialogs/FileConverterConfigurationInterface.h"
 
-#include <QtCore/QCoreApplication>
+#include <QtCore/QObject>
 
 #include <memory>
 
@@ -14,10 +14,12 @@ struct MeshReading;
  * Converts mesh files to STL: binary STL to ASCII and ASCII to binary, OBJ and PLY to binary.
  * Files that are there are never replaced; the log tells the name that was free. Reading and
  * writing go on in the background, and can be cancelled without leaving anything behind.
+ *
+ * Goes with the log that it writes to, at the latest; one that goes while it converts is cancelled.
  */
-class MeshConversion : public FileConverterConfigurationInterface
+class MeshConversion : public QObject, public FileConverterConfigurationInterface
 {
-    Q_DECLARE_TR_FUNCTIONS(Zorvane::Workbench::MeshConversion)
+    Q_OBJECT
 
 public:
     /** What `convert` returns when the user cancelled. */

@@ -2,6 +2,8 @@
 
 #include "Workbench/Convert/MeshConversion.h"
 
+#include <QtCore/QCoreApplication>
+
 #include <memory>
 
 QT_BEGIN_NAMESPACE

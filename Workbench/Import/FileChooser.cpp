@@ -10,6 +10,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QPointer>
 #include <QtWidgets/QPushButton>
 
 #include <memory>
@@ -22,20 +23,24 @@ const std::string s_geometryKey = "Workbench/FileDialog";
 const std::string s_showPreviewKey = "Workbench/FileDialog/ShowPreview";
 
 /** The dialog has asked about the name without the ending, which is another file. */
-bool mayReplace(QWidget* parent, const QString& caption, const QString& file)
+bool mayReplace(const QPointer<QWidget>& parent, const QString& caption, const QString& file)
 {
     if (!QFileInfo::exists(file))
         return true;
-    ZVMessageBox box(QMessageBox::Warning, caption,
-                     DialogFileChooser::tr("%1 already exists. Is it to be replaced?")
-                         .arg(QDir::toNativeSeparators(file)),
-                     QMessageBox::Cancel, parent);
-    box.setTextFormat(Qt::PlainText);
+    // The parent may go away while the box is open, and takes it along.
+    const QPointer<ZVMessageBox> box =
+        new ZVMessageBox(QMessageBox::Warning, caption,
+                         DialogFileChooser::tr("%1 already exists. Is it to be replaced?")
+                             .arg(QDir::toNativeSeparators(file)),
+                         QMessageBox::Cancel, parent);
+    box->setTextFormat(Qt::PlainText);
     const QPushButton* replace =
-        box.addButton(DialogFileChooser::tr("&Replace"), QMessageBox::DestructiveRole);
-    box.setDefaultButton(QMessageBox::Cancel);
-    box.exec();
-    return box.clickedButton() == replace;
+        box->addButton(DialogFileChooser::tr("&Replace"), QMessageBox::DestructiveRole);
+    box->setDefaultButton(QMessageBox::Cancel);
+    box->exec();
+    const bool isReplaced = box && box->clickedButton() == replace;
+    delete box;
+    return isReplaced;
 }
 
 } // namespace
@@ -66,9 +71,10 @@ QString DialogFileChooser::folder(QWidget*, const FileChoice& choice)
 QString DialogFileChooser::fileToSave(QWidget* parent, const FileChoice& choice,
                                       const QString& fileName)
 {
+    const QPointer<QWidget> window(parent);
     const QString file = QDir::fromNativeSeparators(FileDialog::getSaveFileName(
         choice.caption, choice.filters, choice.paths, choice.scope, fileName, parent));
-    if (FileDialog::wasEndingAdded() && !mayReplace(parent, choice.caption, file))
+    if (FileDialog::wasEndingAdded() && !mayReplace(window, choice.caption, file))
         return {};
     return file;
 }
@@ -76,12 +82,13 @@ QString DialogFileChooser::fileToSave(QWidget* parent, const FileChoice& choice,
 QString DialogFileChooser::fileToSaveBeside(QWidget* parent, const FileChoice& choice,
                                             const QString& path)
 {
+    const QPointer<QWidget> window(parent);
     const QString file = QDir::fromNativeSeparators(FileDialog::getSaveFileNameInDir(
         choice.caption, choice.filters, path, choice.paths, choice.scope, {}, {}));
     if (file.isEmpty() || fileEndingIndex(file) >= 0)
         return file;
     const QString whole = file + suffixOfFilter(choice.filters.section(QLatin1Char(';'), 0, 0));
-    if (!mayReplace(parent, choice.caption, whole))
+    if (!mayReplace(window, choice.caption, whole))
         return {};
     choice.paths->setPathToScope(QDir::toNativeSeparators(whole), choice.scope);
     return whole;

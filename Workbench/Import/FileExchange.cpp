@@ -8,6 +8,7 @@
 #include "Workbench/Meshes/MeshReader.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QPointer>
 
 #include <utility>
 
@@ -66,11 +67,14 @@ QString FileExchange::importFilters() const
 
 void FileExchange::importFiles(const GUIdentifier& designId)
 {
+    const QPointer<FileExchange> self(this);
     const QStringList files = m_chooser->files(
         m_view, {tr("Import Files"), &pathsOf(designId), s_importScope, importFilters()});
-    if (files.isEmpty())
+    if (!self || files.isEmpty())
         return;
     const ImportOutcome outcome = FileImport(m_session, m_view).run(designId, files);
+    if (!self)
+        return;
     tell(outcome.problems);
     if (outcome.files.isEmpty())
         return;
@@ -84,11 +88,14 @@ void FileExchange::exportFiles(const GUIdentifier& objectId)
     const QStringList files = FileExport::filesOf(m_session, objectId);
     if (files.isEmpty())
         return;
+    const QPointer<FileExchange> self(this);
     const QString folder =
         m_chooser->folder(m_view, {tr("Export to Folder"), &pathsOf(objectId), s_exportScope, {}});
-    if (folder.isEmpty())
+    if (!self || folder.isEmpty())
         return;
     const ExportOutcome outcome = FileExport::run(m_view, files, folder);
+    if (!self)
+        return;
     tell(outcome.problems);
     const int count = outcome.copies.size();
     if (count > 0)

@@ -19,7 +19,8 @@ class DesignSession;
 
 /**
  * The commands Import and Export: ask for files or a folder, where this design used one last, do
- * it, and tell what came of it. Session and view must outlive it.
+ * it, and tell what came of it. Session and view must outlive it; all of them may go while it asks,
+ * which ends the command.
  */
 class FileExchange : public QObject
 {

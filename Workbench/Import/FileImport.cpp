@@ -1,7 +1,6 @@
 #include "Workbench/Import/FileImport.h"
 
 #include "Files/FileTypeDependingFilesHelper.h"
-#include "Workbench/Design/DesignSession.h"
 #include "Workbench/Design/FileAdditions.h"
 #include "Workbench/Import/SessionDesign.h"
 
@@ -36,13 +35,13 @@ Problems obstaclesOf(const QStringList& files)
 } // namespace
 
 FileImport::FileImport(DesignSession& session, BaseView* view)
-    : m_session(session)
+    : m_session(&session)
     , m_view(view)
 {}
 
 ImportOutcome FileImport::run(const GUIdentifier& designId, const QStringList& files)
 {
-    const Design* design = m_session.findDesign(designId);
+    const Design* design = m_session->findDesign(designId);
     if (design == nullptr)
         return {{}, {{{}, {}, tr("there is no open design to import into")}}};
     if (!QFileInfo::exists(design->file))
@@ -60,14 +59,16 @@ ImportOutcome FileImport::run(const GUIdentifier& designId, const QStringList& f
     }
     if (!problems.empty())
         return {{}, problems};
-    // From here on events are handled, which may read the design again.
+    // From here on events are handled, which may read the design again, or end the session.
     FileTypeDependingFilesHelper helper(
-        m_view, std::make_shared<SessionDesign>(m_session, designId), allTypes());
+        m_view, std::make_shared<SessionDesign>(*m_session, designId), allTypes());
     if (!elsewhere.empty() && !helper.handleExternalFilesForImport(elsewhere, elsewhere))
+        return {};
+    if (!m_session)
         return {};
     for (const FileName& file : elsewhere)
         inFolder << file.toQString();
-    problems = m_session.addFiles(designId, inFolder);
+    problems = m_session->addFiles(designId, inFolder);
     return {problems.empty() ? inFolder : QStringList(), problems};
 }
 

@@ -2,6 +2,7 @@
 
 #include "Host/Identifiers/GUIdentifier.h"
 #include "Host/Widgets/BaseView.h"
+#include "Workbench/Design/DesignSession.h"
 #include "Workbench/Design/Problem.h"
 
 #include <QtCore/QCoreApplication>
@@ -9,8 +10,6 @@
 #include <QtCore/QStringList>
 
 namespace Zorvane::Workbench {
-
-class DesignSession;
 
 struct ImportOutcome
 {
@@ -33,13 +32,16 @@ class FileImport
     Q_DECLARE_TR_FUNCTIONS(Zorvane::Workbench::FileImport)
 
 public:
-    /** The session must outlive this; the view, the parent of questions, may be null. */
+    /**
+     * Neither is owned. The view, the parent of questions, may be null. When the session goes while
+     * the user is asked, nothing is imported.
+     */
     FileImport(DesignSession& session, BaseView* view);
 
     ImportOutcome run(const GUIdentifier& designId, const QStringList& files);
 
 private:
-    DesignSession& m_session;
+    QPointer<DesignSession> m_session;
     QPointer<BaseView> m_view;
 };
 

@@ -1,26 +1,30 @@
 #include "Workbench/Import/SessionDesign.h"
 
 #include "Workbench/Design/DesignReader.h"
-#include "Workbench/Design/DesignSession.h"
 
 #include <algorithm>
 
 namespace Zorvane::Workbench {
 
 SessionDesign::SessionDesign(const DesignSession& session, const GUIdentifier& design)
-    : m_session(session)
+    : m_session(&session)
     , m_design(design)
 {}
 
+const Design* SessionDesign::design() const
+{
+    return m_session ? m_session->findDesign(m_design) : nullptr;
+}
+
 FileName SessionDesign::getFileName() const
 {
-    const Design* design = m_session.findDesign(m_design);
+    const Design* design = this->design();
     return design == nullptr ? FileName() : FileName(design->file);
 }
 
 int SessionDesign::getModificationCount(int) const
 {
-    return m_session.isDesignModified(m_design) ? 1 : 0;
+    return m_session && m_session->isDesignModified(m_design) ? 1 : 0;
 }
 
 // Designs are always read from a file.
@@ -31,7 +35,7 @@ bool SessionDesign::isNew() const
 
 bool SessionDesign::hasSimulationResults() const
 {
-    const Design* design = m_session.findDesign(m_design);
+    const Design* design = this->design();
     const auto isResult = [](const FileReference& file) {
         return file.kind == FileKind::Result && file.state == FileState::Exists;
     };
@@ -40,16 +44,16 @@ bool SessionDesign::hasSimulationResults() const
 
 bool SessionDesign::isCurrentVersion() const
 {
-    const Design* design = m_session.findDesign(m_design);
+    const Design* design = this->design();
     return design == nullptr || design->version() == DesignReader::currentVersion;
 }
 
 // Evaluation works on the tables of results: those renamed or added are its data.
 bool SessionDesign::hasEvaluationDataChanged() const
 {
-    const Design* design = m_session.findDesign(m_design);
+    const Design* design = this->design();
     const auto isChangedResult = [this](const FileReference& file) {
-        return file.kind == FileKind::Result && m_session.isModified(file.id);
+        return file.kind == FileKind::Result && m_session->isModified(file.id);
     };
     return design != nullptr &&
            std::any_of(design->files.begin(), design->files.end(), isChangedResult);
@@ -57,7 +61,7 @@ bool SessionDesign::hasEvaluationDataChanged() const
 
 bool SessionDesign::hasSimulationInputChanged() const
 {
-    return m_session.areQuantitiesModified(m_design);
+    return m_session && m_session->areQuantitiesModified(m_design);
 }
 
 // The current version holds all that earlier ones held.

@@ -2,14 +2,15 @@
 
 #include "Host/DesignStatus/DesignInterface.h"
 #include "Host/Identifiers/GUIdentifier.h"
+#include "Workbench/Design/DesignSession.h"
+
+#include <QtCore/QPointer>
 
 namespace Zorvane::Workbench {
 
-class DesignSession;
-
 /**
- * A design of the session as the library sees it. The session, not owned, must outlive it. A design
- * that has been closed meanwhile is one without a file.
+ * A design of the session as the library sees it. The session is not owned. A design that has
+ * been closed meanwhile, or whose session is gone, is one without a file.
  */
 class SessionDesign : public DesignInterface
 {
@@ -27,7 +28,9 @@ public:
     bool areResultsLostByConversion() const override;
 
 private:
-    const DesignSession& m_session;
+    const Design* design() const;
+
+    QPointer<const DesignSession> m_session;
     GUIdentifier m_design;
 };
 

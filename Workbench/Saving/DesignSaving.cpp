@@ -11,6 +11,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QPointer>
 #include <QtCore/QSaveFile>
 
 #include <memory>
@@ -110,10 +111,13 @@ bool DesignSaving::write(const GUIdentifier& designId)
                           .arg(m_parts.session.name(designId)));
         return false;
     }
+    const QPointer<DesignSaving> self(this);
     const TakenObjects dropped = dropOutdatedResults(designId);
     Problems problems = m_parts.session.save(designId, DesignSession::OnConflict::Refuse);
     if (!problems.empty() && m_parts.session.hasConflict(designId) && mayOverwrite())
         problems = m_parts.session.save(designId, DesignSession::OnConflict::Overwrite);
+    if (!self)
+        return false;
     if (problems.empty())
         return true;
     // Others may have edited the design while the user was asked.
@@ -221,11 +225,14 @@ bool DesignSaving::mayStopSimulation()
 {
     if (!m_parts.runner.isRunning())
         return true;
+    const QPointer<DesignSaving> self(this);
     const auto answer = ZVMessageBox::question(
         m_window, tr("Simulation"),
         tr("The simulation of %1 is running. Stop it and lose what it has computed so far?")
             .arg(QFileInfo(m_parts.runner.designFile()).fileName()),
         ZVMessageBox::Yes | ZVMessageBox::No, ZVMessageBox::No);
+    if (!self)
+        return false;
     if (answer == ZVMessageBox::Yes)
         m_parts.runner.stop();
     return !m_parts.runner.isRunning();
@@ -251,13 +258,15 @@ bool DesignSaving::start(const GUIdentifier& designId)
 /** What is computed is what the file holds, without the results of before. */
 bool DesignSaving::run(const GUIdentifier& designId)
 {
+    const QPointer<DesignSaving> self(this);
     const SaveState state = saveStateOf(SessionDesign(m_parts.session, designId));
     TakenObjects dropped;
     if (state.hasResults && !state.isJobRunning)
         dropped = dropResults(designId);
     const bool mustBeSaved = state.hasResults || state.isModified || !state.isCurrentVersion;
     if (mustBeSaved && !write(designId)) {
-        m_parts.history.putBack(dropped);
+        if (self)
+            m_parts.history.putBack(dropped);
         return false;
     }
     const Design* design = m_parts.session.findDesign(designId);

@@ -26,7 +26,8 @@ struct TakenObjects;
  * Results that no longer fit the design's values, and those of before a new simulation, leave the
  * design as it is saved; their files stay on the disk, and undo brings them back.
  *
- * None of the objects given is owned; all must outlive it.
+ * None of the objects given is owned; all must outlive it. The window may go while it asks, and
+ * takes this along: nothing is done then.
  */
 class DesignSaving : public QObject
 {

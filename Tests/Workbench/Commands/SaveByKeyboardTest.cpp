@@ -63,6 +63,7 @@ private Q_SLOTS:
     void saveAsAddsTheEnding();
     void saveAsAsksBeforeTheEndingMeetsAFile();
     void saveAsReplacesOnDemand();
+    void saveAsReplacesNothingWhenTheWindowGoes();
     void saveAsAsksOnceAboutAWholeName();
     void saveAsProposesTypableNames();
     void saveAsIsLeftByEscape();
@@ -195,6 +196,17 @@ void SaveByKeyboardTest::saveAsReplacesOnDemand()
     run("Save As...", modals);
     QVERIFY(Testing::readFile(path("part.dsg")) != "closed");
     QCOMPARE(shownFile(), QStringLiteral("part.dsg"));
+}
+
+void SaveByKeyboardTest::saveAsReplacesNothingWhenTheWindowGoes()
+{
+    Testing::writeFile(path("part.dsg"), "closed");
+    ExpectedModals modals;
+    expectName(modals, "Save Design As", QStringLiteral("part"));
+    modals.expectMessageBox(s_endingAdded, [this](QMessageBox&) { m_window.reset(); });
+    run("Save As...", modals);
+    QVERIFY(!m_window);
+    QCOMPARE(Testing::readFile(path("part.dsg")), QByteArray("closed"));
 }
 
 void SaveByKeyboardTest::saveAsAsksOnceAboutAWholeName()

@@ -13,6 +13,7 @@
 #include <QtCore/QSemaphore>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QThreadPool>
+#include <QtCore/QTimer>
 #include <QtWidgets/QProgressDialog>
 #include <QtWidgets/QPushButton>
 
@@ -106,6 +107,8 @@ private Q_SLOTS:
     void unusableFolderIsTold();
     void cancelledConversionLeavesNothingBehind_data();
     void cancelledConversionLeavesNothingBehind();
+    void conversionThatGoesMeanwhileWritesNothing_data();
+    void conversionThatGoesMeanwhileWritesNothing();
     void choosersAreSetUp();
 };
 
@@ -291,6 +294,34 @@ void MeshConversionTest::cancelledConversionLeavesNothingBehind()
     m_log.listener = nullptr;
     QCOMPARE(convert(file), 0);
     QCOMPARE(everythingIn(m_out->path()), QStringList(QStringLiteral("die.stl")));
+}
+
+void MeshConversionTest::conversionThatGoesMeanwhileWritesNothing_data()
+{
+    cancelledConversionLeavesNothingBehind_data();
+}
+
+void MeshConversionTest::conversionThatGoesMeanwhileWritesNothing()
+{
+    QFETCH(QString, step);
+    const QString file = write(QStringLiteral("die.obj"), Testing::obj(Testing::cube()));
+    BusyThreads threads;
+    auto conversion = std::make_unique<MeshConversion>();
+    auto log = std::make_unique<MessageList>();
+    log->listener = [&](const QString& message) {
+        if (!message.startsWith(step))
+            return;
+        threads.begin();
+        QTimer::singleShot(0, this, [&] {
+            conversion.reset();
+            log.reset();
+            threads.finish();
+        });
+    };
+    QCOMPARE(conversion->convert(FileName(file), FileName(m_out->path()), *log),
+             int(MeshConversion::Cancelled));
+    QVERIFY(!conversion);
+    QCOMPARE(everythingIn(m_out->path()), QStringList());
 }
 
 void MeshConversionTest::choosersAreSetUp()

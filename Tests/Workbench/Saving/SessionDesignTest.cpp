@@ -39,6 +39,7 @@ private Q_SLOTS:
     void valuesAreInputOfTheSimulation();
     void olderFilesAreConvertedBySaving();
     void closedDesignHasNoFile();
+    void designOfASessionThatIsGoneHasNoFile();
 };
 
 void SessionDesignTest::freshDesignHasNothingToTell()
@@ -116,6 +117,18 @@ void SessionDesignTest::closedDesignHasNoFile()
     QCOMPARE(design().getModificationCount(0), 0);
     QVERIFY(!design().hasSimulationResults());
     QVERIFY(design().isCurrentVersion());
+}
+
+void SessionDesignTest::designOfASessionThatIsGoneHasNoFile()
+{
+    const SessionDesign left = design();
+    m_opened.reset();
+    QVERIFY(left.getFileName().isEmpty());
+    QVERIFY(left.isNew());
+    QCOMPARE(left.getModificationCount(0), 0);
+    QVERIFY(!left.hasSimulationResults());
+    QVERIFY(!left.hasEvaluationDataChanged());
+    QVERIFY(!left.hasSimulationInputChanged());
 }
 
 ZORVANE_TEST_MAIN(SessionDesignTest)
