@@ -30,7 +30,7 @@ void RowFinder::Index::reset(std::size_t count)
     rows.resize(count);
     placed.assign(count, false);
     buckets.assign(bucketCount(count), {0, None});
-    nextSameId.clear();
+    chains.clear();
     front = 0;
     found = 0;
     aheadFrom = 0;
@@ -143,11 +143,8 @@ void RowFinder::enter(std::int32_t slot, const IDCombiner& id)
 {
     const std::uint32_t tag = id.quickHash();
     Bucket& bucket = bucketOf(id, tag);
-    if (bucket.slot != Index::None) {
-        if (m_index->nextSameId.empty())
-            m_index->nextSameId.assign(m_index->rows.size(), Index::None);
-        m_index->nextSameId[std::size_t(slot)] = bucket.slot;
-    }
+    if (bucket.slot != Index::None)
+        m_index->chains.prepend(slot, bucket.slot, m_index->rows.size());
     bucket = {tag, slot};
 }
 
@@ -168,7 +165,7 @@ RowFinder::Bucket& RowFinder::bucketOf(const IDCombiner& id, std::uint32_t tag)
 std::int32_t RowFinder::slotOf(int item)
 {
     const IDCombiner& id = idOfItem(item);
-    if (!m_index->nextSameId.empty())
+    if (!m_index->chains.isEmpty())
         return firstWaitingWith(id);
     int& strayed = m_index->strayed;
     if (strayed > ManyStrayed) {
@@ -191,17 +188,22 @@ std::int32_t RowFinder::slotOf(int item)
     return slot;
 }
 
+/** Of rows that are placed nobody asks the id: it may be another one by now. */
 std::int32_t RowFinder::firstWaitingWith(const IDCombiner& id)
 {
-    Bucket& bucket = bucketOf(id, id.quickHash());
-    std::int32_t slot = bucket.slot;
-    // Rows that were placed meanwhile are passed once; the last one stays, to keep its bucket.
-    for (; slot != Index::None && !m_index->isWaiting(slot);
-         slot = m_index->nextSameId[std::size_t(slot)])
-        bucket.slot = slot;
-    if (slot != Index::None)
-        bucket.slot = slot;
-    return slot;
+    const auto isWaiting = [this](std::int32_t slot) { return m_index->isWaiting(slot); };
+    const auto fits = [this, &id](std::int32_t slot) { return hasId(m_index->rowAt(slot), id); };
+    const std::uint32_t tag = id.quickHash();
+    std::vector<Bucket>& buckets = m_index->buckets;
+    for (std::size_t place = m_index->place(tag); buckets[place].slot != Index::None;
+         place = (place + 1) & (buckets.size() - 1)) {
+        if (buckets[place].tag != tag)
+            continue;
+        const std::int32_t slot = m_index->chains.find(buckets[place].slot, isWaiting, fits);
+        if (slot != Index::None)
+            return slot;
+    }
+    return Index::None;
 }
 
 /** The row of an item, by way of looking up those behind it as well. */
@@ -210,7 +212,8 @@ std::int32_t RowFinder::lookedAhead(int item)
     if (item < m_index->aheadFrom || item >= m_index->aheadEnd)
         lookAhead(item);
     const std::int32_t slot = m_index->ahead[std::size_t(item - m_index->aheadFrom)];
-    return slot != Index::None && m_index->isWaiting(slot) ? slot : Index::None;
+    const bool isThere = m_index->isWaiting(slot) && hasId(m_index->rowAt(slot), idOfItem(item));
+    return isThere ? slot : Index::None;
 }
 
 /**

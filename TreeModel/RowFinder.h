@@ -3,6 +3,7 @@
 #include "Host/Identifiers/IDCombiner.h"
 #include "Host/Widgets/ZVTreeViewItem.h"
 #include "TreeModel/ModelItem.h"
+#include "TreeModel/SameIdChains.h"
 
 #include <array>
 #include <cstdint>
@@ -20,6 +21,9 @@ namespace Zorvane::GenericTreeViewModelHandling {
  * searches walk the list; when more are needed, an index of all rows that are left is built, so
  * that no list costs the square of its length. Rows in place are best recognised by `hasId`
  * before anything is searched for.
+ *
+ * A row found carries the id at that moment. One that takes an item's id only after the index was
+ * built, as a row of an own class may, can be missed.
  */
 class RowFinder
 {
@@ -110,7 +114,7 @@ private:
 /** The rows that were left when it was built, in slots in their order, and by id. */
 struct RowFinder::Index
 {
-    static constexpr std::int32_t None = -1;
+    static constexpr std::int32_t None = SameIdChains::None;
     /**
      * So many items are looked up at once: their rows lie scattered in memory, and a short loop
      * waits for many of them together where the whole refresh would wait for each.
@@ -132,8 +136,7 @@ struct RowFinder::Index
     std::vector<bool> placed;
     /** A hash table, by tags. */
     std::vector<Bucket> buckets;
-    /** Chains of slots with the same id; empty when there are none. */
-    std::vector<std::int32_t> nextSameId;
+    SameIdChains chains;
     /** No slot before this one waits. */
     std::int32_t front = 0;
     std::int32_t found = 0;

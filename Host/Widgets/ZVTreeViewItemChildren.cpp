@@ -1,10 +1,17 @@
 #include "Host/Widgets/ZVTreeViewItemChildren.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Zorvane {
 
 namespace {
+
+/**
+ * Making all rows wait again costs as much as shifting each of them so many times: done less often
+ * than that, it at most doubles what the shifting costs.
+ */
+constexpr std::size_t ShiftsPerQueueing = 16;
 
 std::size_t position(int index)
 {
@@ -34,7 +41,7 @@ ZVTreeViewItem* ZVTreeViewItemChildren::findStaged(std::size_t place) const
     const std::size_t waiting = place - placed.size();
     if (waiting >= m_stage->waiting.count())
         return nullptr;
-    return m_stage->shown[m_stage->waiting.nth(waiting)];
+    return m_stage->queued()[m_stage->waiting.nth(waiting)];
 }
 
 int ZVTreeViewItemChildren::rowIn(const Rows& rows, const ZVTreeViewItem* child,
@@ -59,11 +66,14 @@ int ZVTreeViewItemChildren::rowOf(const ZVTreeViewItem* child) const
     // The row's number is the shown one, so its present position has to be looked for.
     const Rows& placed = m_stage->placed;
     const auto found = std::find(placed.begin(), placed.end(), child);
+    m_stage->effort += static_cast<std::size_t>(found - placed.begin());
     if (found != placed.end())
         return static_cast<int>(found - placed.begin());
     int row = static_cast<int>(placed.size());
-    for (std::size_t slot = 0; m_stage->shown[slot] != child; ++slot)
+    std::size_t slot = 0;
+    for (; !isWaitingIn(slot, child); ++slot)
         row += m_stage->waiting.contains(slot) ? 1 : 0;
+    m_stage->effort += slot;
     return row;
 }
 
@@ -82,10 +92,13 @@ void ZVTreeViewItemChildren::insert(int index, ZVTreeViewItem* child)
             ++m_numbered;
         return;
     }
-    Rows& placed = m_stage->placed;
     m_stage->edit();
+    if (position(index) < m_stage->placed.size() && m_stage->effort > m_stage->mostEffort)
+        queueAgain();
+    Rows& placed = m_stage->placed;
     if (position(index) > placed.size())
         placeWaiting(position(index) - placed.size());
+    m_stage->effort += placed.size() - position(index);
     placed.insert(iteratorAt(placed, position(index)), child);
     std::vector<int>& from = m_stage->placedFrom;
     from.insert(from.begin() + index, shownRowIfKnown(child));
@@ -119,24 +132,68 @@ ZVTreeViewItem* ZVTreeViewItemChildren::take(int index)
         m_rows.erase(iteratorAt(m_rows, position(index)));
         return child;
     }
+    if (position(index) < m_stage->placed.size() && m_stage->effort > m_stage->mostEffort)
+        queueAgain();
     const std::size_t placed = m_stage->placed.size();
     if (position(index) < placed)
         return takePlaced(position(index));
-    const std::size_t slot = m_stage->waiting.nth(position(index) - placed);
-    takeWaiting(slot);
-    return m_stage->shown[slot];
+    return takeWaiting(m_stage->waiting.nth(position(index) - placed));
 }
 
 void ZVTreeViewItemChildren::take(const ZVTreeViewItem* child)
 {
-    if (m_stage && !child->hasState(ZVTreeViewItem::Fresh | ZVTreeViewItem::Relocated)) {
-        const std::size_t slot = position(rowIn(m_stage->shown, child, m_numbered));
-        if (slot < m_stage->shown.size() && m_stage->waiting.contains(slot)) {
+    if (m_stage) {
+        const std::size_t slot = claimedSlotOf(child);
+        if (isWaitingIn(slot, child)) {
             takeWaiting(slot);
             return;
         }
     }
     take(rowOf(child));
+}
+
+bool ZVTreeViewItemChildren::isWaitingIn(std::size_t slot, const ZVTreeViewItem* child) const
+{
+    return m_stage->waiting.contains(slot) && m_stage->queued()[slot] == child;
+}
+
+/** The slot in which the child waits if it does; may be one that never was. */
+std::size_t ZVTreeViewItemChildren::claimedSlotOf(const ZVTreeViewItem* child) const
+{
+    // Rows that views do not know have no number there, so they carry their slot instead.
+    const Queue* queue = m_stage->queue.get();
+    if (child->hasState(ZVTreeViewItem::Fresh | ZVTreeViewItem::Relocated))
+        return position(queue ? child->m_row : -1);
+    const std::size_t shownRow = position(rowIn(m_stage->shown, child, m_numbered));
+    if (!queue)
+        return shownRow;
+    return position(shownRow < queue->slotOfShown.size() ? queue->slotOfShown[shownRow] : -1);
+}
+
+/** All rows wait, in their present order; those placed are none. */
+void ZVTreeViewItemChildren::queueAgain()
+{
+    placeWaiting(m_stage->waiting.count());
+    auto queue = std::make_unique<Queue>();
+    queue->rows = std::exchange(m_stage->placed, {});
+    queue->from = std::exchange(m_stage->placedFrom, {});
+    queue->slotOfShown.assign(m_stage->shown.size(), -1);
+    for (std::size_t slot = 0; slot < queue->rows.size(); ++slot) {
+        // While views are being told, they may see fewer rows already; -1 is a large one here.
+        const std::size_t shownRow = position(queue->from[slot]);
+        if (shownRow < queue->slotOfShown.size())
+            queue->slotOfShown[shownRow] = static_cast<int>(slot);
+        else if (queue->rows[slot]->hasState(ZVTreeViewItem::Fresh))
+            queue->rows[slot]->m_row = static_cast<int>(slot);
+    }
+    m_stage->waiting = WaitingSlots(queue->rows.size());
+    m_stage->queue = std::move(queue);
+    allowEffort();
+}
+
+void ZVTreeViewItemChildren::allowEffort()
+{
+    m_stage->mostEffort = m_stage->effort + ShiftsPerQueueing * position(count());
 }
 
 ZVTreeViewItem* ZVTreeViewItemChildren::takePlaced(std::size_t index)
@@ -147,17 +204,21 @@ ZVTreeViewItem* ZVTreeViewItemChildren::takePlaced(std::size_t index)
     m_stage->edit();
     m_stage->lastTaken = child;
     m_stage->lastTakenFrom = from[index];
+    m_stage->effort += placed.size() - index;
     placed.erase(iteratorAt(placed, index));
     from.erase(from.begin() + static_cast<std::ptrdiff_t>(index));
     return child;
 }
 
-void ZVTreeViewItemChildren::takeWaiting(std::size_t slot)
+ZVTreeViewItem* ZVTreeViewItemChildren::takeWaiting(std::size_t slot)
 {
+    const Queue* queue = m_stage->queue.get();
+    ZVTreeViewItem* child = m_stage->queued()[slot];
     m_stage->edit();
-    m_stage->lastTaken = m_stage->shown[slot];
-    m_stage->lastTakenFrom = static_cast<int>(slot);
+    m_stage->lastTaken = child;
+    m_stage->lastTakenFrom = queue ? queue->from[slot] : static_cast<int>(slot);
     m_stage->waiting.take(slot);
+    return child;
 }
 
 int ZVTreeViewItemChildren::shownRowIfKnown(const ZVTreeViewItem* child) const
@@ -177,9 +238,10 @@ void ZVTreeViewItemChildren::placeWaiting(std::size_t count)
     std::size_t next = placed.size();
     placed.resize(next + count);
     from.resize(next + count);
-    m_stage->waiting.takeFirst(count, [&, &shown = m_stage->shown](std::size_t slot) {
-        placed[next] = shown[slot];
-        from[next++] = static_cast<int>(slot);
+    const Queue* queue = m_stage->queue.get();
+    m_stage->waiting.takeFirst(count, [&, &queued = m_stage->queued()](std::size_t slot) {
+        placed[next] = queued[slot];
+        from[next++] = queue ? queue->from[slot] : static_cast<int>(slot);
     });
 }
 
@@ -187,6 +249,7 @@ void ZVTreeViewItemChildren::stage(unsigned& edits)
 {
     m_stage = std::make_unique<Stage>(std::move(m_rows), edits);
     m_rows.clear();
+    allowEffort();
 }
 
 const ZVTreeViewItemChildren::Rows& ZVTreeViewItemChildren::arranged()
@@ -218,6 +281,8 @@ void ZVTreeViewItemChildren::restage()
     const Rows& shown = m_stage->shown;
     for (; m_numbered < shown.size(); ++m_numbered)
         shown[m_numbered]->m_row = static_cast<int>(m_numbered);
+    // The shown rows that are told of those in the queue hold no longer.
+    placeWaiting(m_stage->waiting.count());
     m_stage->lastTaken = nullptr;
     for (std::size_t i = 0; i < m_stage->placed.size(); ++i) {
         const ZVTreeViewItem* row = m_stage->placed[i];

@@ -15,9 +15,10 @@ namespace Zorvane {
  * them ("shown").
  *
  * Staged, the shown rows are frozen and the present order is told by two parts: rows placed at
- * the front in new order, then those shown rows that still wait where they were. A caller that
- * works through the list from the front, taking rows from anywhere behind, pays next to nothing
- * a row; any other order of operations is right as well.
+ * the front in new order, then those that still wait where they were. A caller that works through
+ * the list from the front, taking rows from anywhere behind, pays next to nothing a row, also the
+ * second time and after rows were appended: once shifting placed rows has cost enough, all of them
+ * wait again. Any other order of operations is right as well.
  */
 class ZVTreeViewItemChildren
 {
@@ -74,6 +75,16 @@ public:
     int changeGroup = -1;
 
 private:
+    /** The rows that wait, in their order, once it is not the shown one any more. */
+    struct Queue
+    {
+        Rows rows;
+        /** Their shown rows, as in `arrangedFrom()`. */
+        std::vector<int> from;
+        /** The slots here of the shown rows, -1 for none. */
+        std::vector<int> slotOfShown;
+    };
+
     struct Stage
     {
         Stage(Rows&& rows, unsigned& counter)
@@ -87,16 +98,23 @@ private:
             dirty = true;
             ++edits;
         }
+        const Rows& queued() const { return queue ? queue->rows : shown; }
 
         Rows shown;
         Rows placed;
         /** Their shown rows, as in `arrangedFrom()`: rows lie scattered, so asking them is slow. */
         std::vector<int> placedFrom;
-        /** Those of the shown rows that still are where they were. */
+        /** Null as long as the rows that wait are shown ones, in the shown order. */
+        std::unique_ptr<Queue> queue;
+        /** Those of the queued rows that still are where they were. */
         WaitingSlots waiting;
         /** The row taken last mostly is the one put back next. */
         const ZVTreeViewItem* lastTaken = nullptr;
         int lastTakenFrom = -1;
+        /** So many rows were shifted or looked at one by one. */
+        std::size_t effort = 0;
+        /** With more effort than this, all rows are made to wait again. */
+        std::size_t mostEffort = 0;
         bool dirty = true;
         unsigned& edits;
     };
@@ -104,7 +122,11 @@ private:
     const Rows& shown() const { return m_stage ? m_stage->shown : m_rows; }
     ZVTreeViewItem* findStaged(std::size_t place) const;
     ZVTreeViewItem* takePlaced(std::size_t index);
-    void takeWaiting(std::size_t slot);
+    ZVTreeViewItem* takeWaiting(std::size_t slot);
+    bool isWaitingIn(std::size_t slot, const ZVTreeViewItem* child) const;
+    std::size_t claimedSlotOf(const ZVTreeViewItem* child) const;
+    void allowEffort();
+    void queueAgain();
     int shownRowIfKnown(const ZVTreeViewItem* child) const;
     void placeWaiting(std::size_t count);
     static int rowIn(const Rows& rows, const ZVTreeViewItem* child, std::size_t& numbered);

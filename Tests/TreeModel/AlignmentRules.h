@@ -62,6 +62,8 @@ public:
     /** Serial numbers of the rows that were made, with their ids. */
     const std::vector<std::pair<IDCombiner, int>>& created() const { return m_created; }
 
+    int lastSerial() const { return m_lastSerial; }
+
     static void identified(const Row& parent, std::vector<std::pair<IDCombiner, int>>& rows)
     {
         for (const auto& child : parent.children) {

@@ -1,5 +1,6 @@
 #include "TreeModel/ModelItemToZVTreeModelSyncronizer.h"
 #include "Host/Widgets/ZVTreeViewModel.h"
+#include "Host/Widgets/ZVTreeViewModelBatch.h"
 #include "Tests/Support/ModelMirror.h"
 #include "Tests/Support/ModelSignalRecorder.h"
 #include "Tests/Support/TestCase.h"
@@ -7,7 +8,9 @@
 #include <QtCore/QSortFilterProxyModel>
 #include <QtWidgets/QTreeView>
 
+#include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 using namespace Zorvane;
 using namespace Zorvane::GenericTreeViewModelHandling;
@@ -30,6 +33,14 @@ std::shared_ptr<ModelItem> item(const std::string& text, const Items& children =
     auto made = std::make_shared<ModelItem>(idOf(text[0]), name);
     made->setChildren(children);
     return made;
+}
+
+Items numbered(int count)
+{
+    Items items;
+    for (int i = 0; i < count; ++i)
+        items.push_back(std::make_shared<ModelItem>(Identifier(std::uint64_t(i)), "row"));
+    return items;
 }
 
 std::shared_ptr<ModelRoot> rootOf(const Items& items)
@@ -105,6 +116,21 @@ public:
     }
     ZVTreeViewItem* row(int index) const { return model.rootItem()->child(index); }
     QString told() const { return ::told(model.rootItem()); }
+    const ZVTreeViewItem* rowOf(const ModelItem& item) const
+    {
+        for (int i = 0; i < model.rowCount(); ++i) {
+            if (*row(i)->id(IdRole) == item.getId())
+                return row(i);
+        }
+        return nullptr;
+    }
+    void checkIds(const Items& items) const
+    {
+        QCOMPARE(model.rowCount(), int(items.size()));
+        QCOMPARE(model.rootItem()->childCount(), int(items.size()));
+        for (int i = 0; i < model.rowCount(); ++i)
+            QVERIFY(*row(i)->id(IdRole) == items[std::size_t(i)]->getId());
+    }
 
     std::shared_ptr<RecordingProvider> provider = std::make_shared<RecordingProvider>();
     ModelItemToZVTreeModelSyncronizer syncronizer;
@@ -148,6 +174,9 @@ private Q_SLOTS:
     void viewsKnowAllRowsBeforeTheProviderWrites();
     void aProviderThatThrowsLeavesNothingBehind();
     void slotsMayUseTheSynchronizerAgain();
+    void slotsMayPutNewRowsInAnotherOrder_data();
+    void slotsMayPutNewRowsInAnotherOrder();
+    void refreshesInOneBatchAreAnnouncedTogether();
     void selectionExpansionAndCurrentRowSurvive();
 };
 
@@ -410,9 +439,7 @@ void ModelItemToZVTreeModelSyncronizerTest::manyChangesTakeFewAnnouncements()
     QFETCH(int, keepEvery);
     QFETCH(bool, reversed);
     QFETCH(bool, fromFull);
-    Items full;
-    for (int i = 0; i < 5000; ++i)
-        full.push_back(std::make_shared<ModelItem>(Identifier(std::uint64_t(i)), "row"));
+    const Items full = numbered(5000);
     Items part;
     for (std::size_t i = 0; i < full.size(); ++i) {
         if (keepEvery == 0 || i % std::size_t(keepEvery) != 5)
@@ -424,9 +451,7 @@ void ModelItemToZVTreeModelSyncronizerTest::manyChangesTakeFewAnnouncements()
     const Items& wanted = fromFull ? part : full;
     scene.show(wanted);
     QVERIFY(scene.signalLines.lines().size() <= 3);
-    QCOMPARE(scene.model.rowCount(), int(wanted.size()));
-    for (int row = 0; row < scene.model.rowCount(); ++row)
-        QVERIFY(*scene.row(row)->id(IdRole) == wanted[std::size_t(row)]->getId());
+    scene.checkIds(wanted);
 }
 
 void ModelItemToZVTreeModelSyncronizerTest::viewsKnowAllRowsBeforeTheProviderWrites()
@@ -479,6 +504,57 @@ void ModelItemToZVTreeModelSyncronizerTest::slotsMayUseTheSynchronizerAgain()
     scene.show({item("K"), item("L"), item("M")});
     QCOMPARE(scene.provider->updated, QStringList{QStringLiteral("KLM")});
     QCOMPARE(scene.provider->added, QStringList{QStringLiteral("LM")});
+}
+
+void ModelItemToZVTreeModelSyncronizerTest::slotsMayPutNewRowsInAnotherOrder_data()
+{
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("after");
+    QTest::newRow("first rows") << 0 << 500;
+    QTest::newRow("a few rows more") << 3 << 60;
+    QTest::newRow("many rows more") << 3 << 500;
+    QTest::newRow("long list") << 70 << 1500;
+}
+
+void ModelItemToZVTreeModelSyncronizerTest::slotsMayPutNewRowsInAnotherOrder()
+{
+    QFETCH(int, before);
+    QFETCH(int, after);
+    Items items = numbered(after);
+    Scene scene(Items(items.begin(), items.begin() + before));
+    const Items reversed(items.rbegin(), items.rend());
+    connect(&scene.model, &QAbstractItemModel::rowsInserted, this, [&, isDone = false]() mutable {
+        if (!std::exchange(isDone, true))
+            scene.syncronizer.syncronizeViewModel(&scene.model, rootOf(reversed));
+    });
+    scene.show(items);
+    scene.checkIds(reversed);
+    QCOMPARE(scene.signalLines.take(),
+             QStringList({QStringLiteral("rowsInserted / %1 %2").arg(before).arg(after - 1),
+                          QStringLiteral("layoutChanged")}));
+    scene.show(items);
+    scene.checkIds(items);
+}
+
+void ModelItemToZVTreeModelSyncronizerTest::refreshesInOneBatchAreAnnouncedTogether()
+{
+    Items items = numbered(200);
+    Scene scene(Items(items.begin(), items.begin() + 100));
+    const QPersistentModelIndex place = scene.model.index(40, 0);
+    Items reversed(items.rbegin(), items.rend());
+    {
+        const ZVTreeViewModelBatch batch(&scene.model);
+        scene.syncronizer.syncronizeViewModel(&scene.model, rootOf(items));
+        scene.syncronizer.syncronizeViewModel(&scene.model, rootOf(reversed));
+        std::rotate(reversed.begin(), reversed.begin() + 70, reversed.end());
+        reversed.resize(150);
+        scene.syncronizer.syncronizeViewModel(&scene.model, rootOf(reversed));
+        QVERIFY(scene.signalLines.lines().isEmpty());
+    }
+    scene.checkIds(reversed);
+    QCOMPARE(scene.mirror.difference(), QString());
+    QCOMPARE(scene.signalLines.take(), QStringList{QStringLiteral("layoutChanged")});
+    QCOMPARE(QModelIndex(place), scene.model.indexFromItem(scene.rowOf(*items[40])));
 }
 
 void ModelItemToZVTreeModelSyncronizerTest::selectionExpansionAndCurrentRowSurvive()

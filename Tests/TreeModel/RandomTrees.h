@@ -2,9 +2,14 @@
 
 #include "TreeModel/ModelRoot.h"
 
+#include <QtCore/QMetaType>
+#include <QtCore/QVariant>
+
 #include <rapidcheck.h>
 
+#include <algorithm>
 #include <memory>
+#include <optional>
 #include <random>
 #include <string>
 #include <vector>
@@ -16,7 +21,9 @@ enum class StoredId
 {
     Typed,
     None,
-    Unreadable
+    Unreadable,
+    /** A number, which a converter turns into the id. */
+    Convertible
 };
 
 /** A row to be made in a view before it is synchronized. */
@@ -42,6 +49,7 @@ public:
             const int chance = below(20);
             plan.kind = chance == 0   ? StoredId::None
                         : chance == 1 ? StoredId::Unreadable
+                        : chance == 2 ? StoredId::Convertible
                                       : StoredId::Typed;
             plan.number = below(m_stock);
             if (depth < 3 && below(3) == 0)
@@ -80,7 +88,16 @@ public:
         }
         for (int swaps = below(4); swaps > 0 && made.size() > 1; --swaps)
             std::swap(made[std::size_t(below(int(made.size())))], made.back());
+        if (below(4) == 0)
+            std::shuffle(made.begin(), made.end(), m_random);
         return made;
+    }
+
+    /** Items of either kind. */
+    std::vector<std::shared_ptr<GenericTreeViewModelHandling::ModelItem>>
+    refresh(const std::vector<RowPlan>& plans)
+    {
+        return below(3) == 0 ? items() : variation(plans);
     }
 
     int below(int bound) { return int(m_random() % unsigned(bound)); }
@@ -89,6 +106,34 @@ public:
     static IDCombiner idOf(int number)
     {
         return number == 0 ? IDCombiner() : IDCombiner(Identifier(std::uint64_t(number)));
+    }
+
+    static void registerConverter()
+    {
+        QMetaType::registerConverter<qulonglong, IDCombiner>(
+            [](qulonglong number) { return idOf(int(number)); });
+    }
+    /** What a row stores under the id role; invalid for nothing. */
+    static QVariant storedValue(const RowPlan& plan)
+    {
+        switch (plan.kind) {
+        case StoredId::Typed:
+            return QVariant::fromValue(idOf(plan.number));
+        case StoredId::Unreadable:
+            return QStringLiteral("no id");
+        case StoredId::Convertible:
+            return qulonglong(plan.number);
+        case StoredId::None:
+            break;
+        }
+        return {};
+    }
+    /** The id that counts. */
+    static std::optional<IDCombiner> readId(const RowPlan& plan)
+    {
+        if (plan.kind == StoredId::None)
+            return std::nullopt;
+        return plan.kind == StoredId::Unreadable ? IDCombiner() : idOf(plan.number);
     }
 
 private:
@@ -100,7 +145,8 @@ private:
     }
 
     std::minstd_rand m_random;
-    const int m_stock = std::vector<int>{6, 30, 400}[m_random() % 3];
+    /** With the largest, nearly all ids of a tree differ. */
+    const int m_stock = std::vector<int>{6, 30, 400, 1000000}[m_random() % 4];
 };
 
 } // namespace Zorvane::Testing

@@ -68,13 +68,8 @@ void build(ZVTreeViewItem* parent, Rules::Row& twin, const std::vector<RowPlan>&
         auto* row = new ZVTreeViewItem;
         auto copy = std::make_unique<Rules::Row>();
         copy->serial = row->serial;
-        if (plan.kind == StoredId::Typed) {
-            copy->id = RandomTrees::idOf(plan.number);
-            row->setId(IdRole, *copy->id);
-        } else if (plan.kind == StoredId::Unreadable) {
-            copy->id = IDCombiner();
-            row->setData(0, IdRole, QStringLiteral("no id"));
-        }
+        copy->id = RandomTrees::readId(plan);
+        row->setData(0, IdRole, RandomTrees::storedValue(plan));
         build(row, *copy, plan.children);
         parent->appendChildren({row});
         twin.children.push_back(std::move(copy));
@@ -129,7 +124,7 @@ void checkOneTree(unsigned seed)
         twin.serial = model.rootItem()->serial;
         const auto plans = random.rows();
         build(model.rootItem(), twin, plans);
-        const auto items = random.below(3) == 0 ? random.items() : random.variation(plans);
+        const auto items = random.refresh(plans);
         auto root = std::make_shared<ModelRoot>();
         root->addTopLevelItems(static_cast<const decltype(items)&>(items));
 
@@ -172,6 +167,7 @@ private Q_SLOTS:
 
 void SyncronizerOperationsTest::initTestCase()
 {
+    RandomTrees::registerConverter();
     if (!qEnvironmentVariableIsSet("RC_PARAMS"))
         qputenv("RC_PARAMS", "max_success=" + QByteArray::number(ZORVANE_RANDOM_CASES));
 }

@@ -75,6 +75,7 @@ private Q_SLOTS:
     void differentValueIsAnnounced();
     void equalTextIsSilent_data();
     void equalTextIsSilent();
+    void bytesOfATextAreNotItsCharacters();
     void secondIdIsSilentWhenEqual();
     // Flags
     void defaultFlags();
@@ -394,6 +395,21 @@ void ZVTreeViewItemTest::equalTextIsSilent()
     QCOMPARE(recorder.take(), QStringList(QStringLiteral("dataChanged / 0:0 0:0 [0 2]")));
     row.setText(utf8);
     QCOMPARE(recorder.take().size(), 1);
+}
+
+void ZVTreeViewItemTest::bytesOfATextAreNotItsCharacters()
+{
+    // Of any length: texts are compared four characters at a time.
+    for (const std::string utf8 :
+         {"\xc3\xbc", "\xc3\xbcr", "T\xc3\xbcr 20", "Draw die T\xc3\xbcr"}) {
+        ZVTreeViewModel model;
+        ZVTreeViewItem row(model.rootItem());
+        row.setData(0, Qt::DisplayRole, QString::fromLatin1(utf8.c_str()));
+        ModelSignalRecorder recorder(&model);
+        row.setText(utf8);
+        QCOMPARE(row.text(), QString::fromStdString(utf8));
+        QCOMPARE(recorder.take().size(), 1);
+    }
 }
 
 void ZVTreeViewItemTest::secondIdIsSilentWhenEqual()

@@ -42,6 +42,7 @@ enum Deed
     DeletesDirectly,
     DeletesNewRowsDirectly,
     MovesRows,
+    TurnsRowsRound,
     PutsBackWhatGoes,
     OpensABatch
 };
@@ -177,6 +178,13 @@ void ZVTreeViewModelBatchSlotsTest::act(Deed deed)
         last->insertChild(1, root()->takeChild(3));
         root()->insertChild(2, last->takeChild(0));
         break;
+    case TurnsRowsRound:
+        // So often that the list finds it worth its while to keep another order of its own.
+        for (int moves = 0, row = 0; moves < 100; ++moves, row = (row + 1) % 10)
+            root()->insertChild(row, root()->takeChild(root()->childCount() - 1));
+        root()->takeChild(last);
+        root()->insertChild(1, last);
+        break;
     case PutsBackWhatGoes:
         if (root()->insertChild(1, m_kept.get()))
             m_kept.release();
@@ -234,6 +242,7 @@ void ZVTreeViewModelBatchSlotsTest::slotsDoWhatTheyWant_data()
         {"deletes rows directly", DeletesDirectly},
         {"deletes a new row directly", DeletesNewRowsDirectly},
         {"moves rows", MovesRows},
+        {"turns rows round", TurnsRowsRound},
         {"puts back what goes", PutsBackWhatGoes},
         {"opens a batch", OpensABatch}};
     static const std::pair<const char*, Kind> kinds[] = {
