@@ -563,6 +563,303 @@
     </message>
 </context>
 <context>
+    <name>Zorvane::Workbench::DialogOutcome</name>
+    <message>
+        <source>Shown by: %1</source>
+        <translation>Gezeigt von: %1</translation>
+    </message>
+    <message>
+        <source>Exception: %1</source>
+        <translation>Ausnahme: %1</translation>
+    </message>
+    <message>
+        <source>Type: %1</source>
+        <translation>Typ: %1</translation>
+    </message>
+    <message>
+        <source>The ending was added.</source>
+        <translation>Die Endung wurde angehängt.</translation>
+    </message>
+    <message>
+        <source>Dialogs open: at most %1, now %2</source>
+        <translation>Offene Dialoge: höchstens %1, jetzt %2</translation>
+    </message>
+    <message>
+        <source>Nothing chosen</source>
+        <translation>Nichts gewählt</translation>
+    </message>
+    <message>
+        <source>Chosen: %1</source>
+        <translation>Gewählt: %1</translation>
+    </message>
+    <message>
+        <source>Controls:</source>
+        <translation>Bedienelemente:</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>an</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>No events</source>
+        <translation>Keine Ereignisse</translation>
+    </message>
+    <message>
+        <source>Events, [dialogs open]:</source>
+        <translation>Ereignisse, [offene Dialoge]:</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::Workbench::DialogPanel</name>
+    <message>
+        <source>File Dialogs</source>
+        <translation>Dateidialoge</translation>
+    </message>
+    <message>
+        <source>The example files cannot be written.</source>
+        <translation>Die Beispieldateien lassen sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>Variants</source>
+        <translation>Varianten</translation>
+    </message>
+    <message>
+        <source>&amp;Variants:</source>
+        <translation>&amp;Varianten:</translation>
+    </message>
+    <message>
+        <source>Shown by</source>
+        <translation>Gezeigt von</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Shown by:</source>
+        <translation>&amp;Gezeigt von:</translation>
+    </message>
+    <message>
+        <source>Results</source>
+        <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>Open one of the variants: what came out stands here.</source>
+        <translation>Öffnen Sie eine der Varianten: Was herauskam, steht hier.</translation>
+    </message>
+    <message>
+        <source>&amp;Results:</source>
+        <translation>&amp;Ergebnisse:</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Leeren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Dialogs open now: %1</source>
+        <translation>Jetzt offene Dialoge: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::Workbench::DialogRun</name>
+    <message>
+        <source>Open one file</source>
+        <translation>Eine Datei öffnen</translation>
+    </message>
+    <message>
+        <source>One of four types filters the list. Enter a name with its path, or an unknown one: that is refused.</source>
+        <translation>Einer von vier Typen filtert die Liste. Geben Sie einen Namen mit Pfad ein, oder einen unbekannten: Der wird abgelehnt.</translation>
+    </message>
+    <message>
+        <source>Open one file: type preselected</source>
+        <translation>Eine Datei öffnen: Typ vorgewählt</translation>
+    </message>
+    <message>
+        <source>The tables are preselected. Only Qt&apos;s dialogs tell the type that was chosen.</source>
+        <translation>Vorgewählt sind die Tabellen. Nur Qts Dialoge sagen, welcher Typ gewählt wurde.</translation>
+    </message>
+    <message>
+        <source>Open one file: file preset</source>
+        <translation>Eine Datei öffnen: Datei vorgegeben</translation>
+    </message>
+    <message>
+        <source>&quot;notes.txt&quot; stands in the name box, and is selected in the list once all files are shown.</source>
+        <translation>„notes.txt“ steht im Namensfeld und ist in der Liste ausgewählt, sobald alle Dateien gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Open several files</source>
+        <translation>Mehrere Dateien öffnen</translation>
+    </message>
+    <message>
+        <source>Select several: they come out as the dialog gives them.</source>
+        <translation>Wählen Sie mehrere: Sie kommen heraus, wie der Dialog sie liefert.</translation>
+    </message>
+    <message>
+        <source>Open with places</source>
+        <translation>Öffnen mit Orten</translation>
+    </message>
+    <message>
+        <source>The folder &quot;more&quot; and the home folder are offered as places; one that does not exist is not.</source>
+        <translation>Der Ordner „more“ und der eigene Ordner werden als Orte angeboten; einer, den es nicht gibt, nicht.</translation>
+    </message>
+    <message>
+        <source>Open with controls</source>
+        <translation>Öffnen mit Bedienelementen</translation>
+    </message>
+    <message>
+        <source>Check boxes and combo boxes, some with a label, two beside the buttons. &quot;More&quot; enables one and shows another.</source>
+        <translation>Ankreuzfelder und Auswahllisten, teils beschriftet, zwei neben den Schaltflächen. „Mehr“ gibt eines frei und zeigt ein anderes.</translation>
+    </message>
+    <message>
+        <source>Open several files with controls</source>
+        <translation>Mehrere Dateien öffnen mit Bedienelementen</translation>
+    </message>
+    <message>
+        <source>The selected files are told in the order of the name box.</source>
+        <translation>Die ausgewählten Dateien werden in der Reihenfolge des Namensfelds gemeldet.</translation>
+    </message>
+    <message>
+        <source>Open in its place</source>
+        <translation>Öffnen an seinem Platz</translation>
+    </message>
+    <message>
+        <source>The check box moves the dialog to the upper left corner. Moved and resized by hand, it opens there again.</source>
+        <translation>Das Ankreuzfeld schiebt den Dialog in die obere linke Ecke. Von Hand verschoben und vergrößert, öffnet er sich wieder dort.</translation>
+    </message>
+    <message>
+        <source>Open one file with preview</source>
+        <translation>Eine Datei öffnen mit Vorschau</translation>
+    </message>
+    <message>
+        <source>The preview stands beside the dialog, shows what is selected, and is switched by the check box.</source>
+        <translation>Die Vorschau steht neben dem Dialog, zeigt, was ausgewählt ist, und wird durch das Ankreuzfeld ein- und ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>Open several files with preview</source>
+        <translation>Mehrere Dateien öffnen mit Vorschau</translation>
+    </message>
+    <message>
+        <source>The preview shows the first one.</source>
+        <translation>Die Vorschau zeigt die erste.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>&quot;part.stl&quot; is proposed. The type that was last saved is preselected.</source>
+        <translation>„part.stl“ wird vorgeschlagen. Vorgewählt ist der Typ, der zuletzt gespeichert wurde.</translation>
+    </message>
+    <message>
+        <source>Save: name without ending</source>
+        <translation>Speichern: Name ohne Endung</translation>
+    </message>
+    <message>
+        <source>&quot;part&quot; is proposed and gets the ending of the first type, &quot;.stl&quot;.</source>
+        <translation>„part“ wird vorgeschlagen und bekommt die Endung des ersten Typs, „.stl“.</translation>
+    </message>
+    <message>
+        <source>Save: type preselected</source>
+        <translation>Speichern: Typ vorgewählt</translation>
+    </message>
+    <message>
+        <source>The tables are preselected; a name without ending gets &quot;.csv&quot;.</source>
+        <translation>Vorgewählt sind die Tabellen; ein Name ohne Endung bekommt „.csv“.</translation>
+    </message>
+    <message>
+        <source>Save: name of a file that exists</source>
+        <translation>Speichern: Name einer vorhandenen Datei</translation>
+    </message>
+    <message>
+        <source>&quot;block.stl&quot; is proposed. The dialog asks whether to replace it; No leaves it open. Nothing is written.</source>
+        <translation>„block.stl“ wird vorgeschlagen. Der Dialog fragt, ob sie ersetzt werden soll; bei Nein bleibt er offen. Geschrieben wird nichts.</translation>
+    </message>
+    <message>
+        <source>Save in one folder only</source>
+        <translation>Nur in einem Ordner speichern</translation>
+    </message>
+    <message>
+        <source>Save in another folder: a box says where it must be, and the dialog comes again.</source>
+        <translation>Speichern Sie in einem anderen Ordner: Eine Meldung sagt, wo es sein muss, und der Dialog kommt wieder.</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Einen Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Always Qt&apos;s dialog.</source>
+        <translation>Immer Qts Dialog.</translation>
+    </message>
+    <message>
+        <source>Choose a folder: one proposed</source>
+        <translation>Einen Ordner wählen: einer vorgeschlagen</translation>
+    </message>
+    <message>
+        <source>The folder &quot;more&quot; is proposed.</source>
+        <translation>Der Ordner „more“ wird vorgeschlagen.</translation>
+    </message>
+    <message>
+        <source>A dialog from inside a dialog</source>
+        <translation>Ein Dialog aus einem Dialog heraus</translation>
+    </message>
+    <message>
+        <source>The check box opens another dialog. Move both: each keeps a place of its own.</source>
+        <translation>Das Ankreuzfeld öffnet einen weiteren Dialog. Verschieben Sie beide: Jeder behält seinen eigenen Platz.</translation>
+    </message>
+    <message>
+        <source>A handler that fails</source>
+        <translation>Ein Empfänger, der scheitert</translation>
+    </message>
+    <message>
+        <source>The check box throws an exception: the dialog closes, and it comes out of the call.</source>
+        <translation>Das Ankreuzfeld wirft eine Ausnahme: Der Dialog schließt sich, und sie kommt aus dem Aufruf heraus.</translation>
+    </message>
+    <message>
+        <source>the system, as usual</source>
+        <translation>das System, wie sonst</translation>
+    </message>
+    <message>
+        <source>Qt, as on a system without dialogs</source>
+        <translation>Qt, wie auf einem System ohne Dialoge</translation>
+    </message>
+    <message>
+        <source>Qt, by the option alternativeFileDialog</source>
+        <translation>Qt, durch die Option alternativeFileDialog</translation>
+    </message>
+    <message>
+        <source>Qt, after the system has failed</source>
+        <translation>Qt, nachdem das System gescheitert ist</translation>
+    </message>
+    <message>
+        <source>To the &amp;corner</source>
+        <translation>In die E&amp;cke</translation>
+    </message>
+    <message>
+        <source>Open &amp;another dialog</source>
+        <translation>Weiteren Di&amp;alog öffnen</translation>
+    </message>
+    <message>
+        <source>Dialog inside a dialog</source>
+        <translation>Dialog im Dialog</translation>
+    </message>
+    <message>
+        <source>&amp;Fail</source>
+        <translation>&amp;Scheitern</translation>
+    </message>
+</context>
+<context>
     <name>Zorvane::Workbench::EditCommand</name>
     <message>
         <source>Rename %1</source>
@@ -579,6 +876,80 @@
     <message>
         <source>Remove %1</source>
         <translation>%1 entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::Workbench::ExampleControls</name>
+    <message>
+        <source>Millimetres</source>
+        <translation>Millimeter</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>Metres</source>
+        <translation>Meter</translation>
+    </message>
+    <message>
+        <source>Upper</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Lower</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Include &amp;folders</source>
+        <translation>&amp;Ordner einbeziehen</translation>
+    </message>
+    <message>
+        <source>&amp;Keep units</source>
+        <translation>Einheiten &amp;behalten</translation>
+    </message>
+    <message>
+        <source>&amp;Unit:</source>
+        <translation>Ein&amp;heit:</translation>
+    </message>
+    <message>
+        <source>&amp;Side:</source>
+        <translation>&amp;Seite:</translation>
+    </message>
+    <message>
+        <source>&amp;More</source>
+        <translation>&amp;Mehr</translation>
+    </message>
+    <message>
+        <source>&amp;Disabled without More</source>
+        <translation>Ohne Mehr &amp;gesperrt</translation>
+    </message>
+    <message>
+        <source>&amp;Hidden without More</source>
+        <translation>Ohne Mehr &amp;verborgen</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::Workbench::ExampleFiles</name>
+    <message>
+        <source>Mesh (*.stl *.obj)</source>
+        <translation>Netz (*.stl *.obj)</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>Text (*.txt)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Mesh (*.stl)</source>
+        <translation>Netz (*.stl)</translation>
+    </message>
+    <message>
+        <source>Table (*.csv)</source>
+        <translation>Tabelle (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -1890,6 +2261,14 @@
     <message>
         <source>Close all designs and meshes</source>
         <translation>Alle Entwürfe und Netze schließen</translation>
+    </message>
+    <message>
+        <source>&amp;File Dialogs…</source>
+        <translation>&amp;Dateidialoge…</translation>
+    </message>
+    <message>
+        <source>Open each variant of the file dialogs</source>
+        <translation>Jede Variante der Dateidialoge öffnen</translation>
     </message>
 </context>
 <context>

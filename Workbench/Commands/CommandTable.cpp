@@ -134,6 +134,7 @@ std::vector<Command> createTable()
         separator(Menu::Tools),
         own(Menu::Tools, W::ConvertMeshes),
         own(Menu::Tools, W::StressTree),
+        own(Menu::Tools, W::FileDialogs),
 
         global(Menu::Help, ZVGlobalActions::HelpContents),
         separator(Menu::Help),

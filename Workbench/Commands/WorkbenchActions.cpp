@@ -43,6 +43,7 @@ void WorkbenchActions::initActions()
         {StopSimulation,   "StopSimulationAction",   QT_TR_NOOP("Sto&p Simulation"),     "",                                                        "",                 ""},
         {ConvertMeshes,    "ConvertMeshesAction",    QT_TR_NOOP("&Convert Meshes…"),     "",                                                        "",                 ""},
         {StressTree,       "StressTreeAction",       QT_TR_NOOP("&Stress a Tree…"),      "",                                                        "",                 ""},
+        {FileDialogs,      "FileDialogsAction",      QT_TR_NOOP("&File Dialogs…"),       QT_TR_NOOP("Open each variant of the file dialogs"),       "",                 ""},
         {About,            "AboutAction",            QT_TR_NOOP("&About the Workbench"), "",                                                        "",                 ""},
         {AboutQt,          "AboutQtAction",          QT_TR_NOOP("About &Qt"),            "",                                                        "",                 ""},
     };

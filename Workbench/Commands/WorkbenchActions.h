@@ -29,6 +29,7 @@ public:
         StopSimulation,
         ConvertMeshes,
         StressTree,
+        FileDialogs,
         About,
         AboutQt
     };

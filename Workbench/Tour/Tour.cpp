@@ -132,6 +132,7 @@ QStringList Tour::perform(const QStringList& paths)
     surviveBrokenInputs();
     redrawManyTriangles();
     stressATree();
+    openDialogVariants();
     goDark();
     lookClosely();
     mirror();

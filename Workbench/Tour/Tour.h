@@ -7,6 +7,7 @@
 #include <QtCore/QTemporaryDir>
 
 QT_BEGIN_NAMESPACE
+class QDialog;
 class QFileDialog;
 QT_END_NAMESPACE
 
@@ -16,6 +17,7 @@ class ZVConverterDialog;
 
 namespace Zorvane::Workbench {
 
+class DialogPanel;
 class MainWindow;
 
 /**
@@ -69,6 +71,10 @@ private:
     void surviveBrokenInputs();
     void redrawManyTriangles();
     void stressATree();
+    void openDialogVariants();
+    void openAllVariants(DialogPanel& panel);
+    void lookAtControls(QDialog& dialog, const QString& suffix);
+    void openNestedDialogs(DialogPanel& panel);
     void goDark();
     void lookClosely();
     void mirror();

@@ -7,6 +7,7 @@
 #include "Workbench/Commands/HistoryCommands.h"
 #include "Workbench/Commands/ViewCommands.h"
 #include "Workbench/Commands/WindowCommands.h"
+#include "Workbench/DialogPanel/DialogPanel.h"
 #include "Workbench/Edit/QuantityPanel.h"
 #include "Workbench/Edit/ReferenceMenu.h"
 #include "Workbench/Help/HelpWindow.h"
@@ -158,6 +159,7 @@ void MainWindow::connectActions()
     on(WorkbenchActions::StopSimulation, [this] { m_runner->stop(); });
     on(WorkbenchActions::ConvertMeshes, [this] { m_converter.run(); });
     on(WorkbenchActions::StressTree, &MainWindow::showStress);
+    on(WorkbenchActions::FileDialogs, &MainWindow::showDialogPanel);
     on(WorkbenchActions::About, &MainWindow::about);
     on(WorkbenchActions::AboutQt, [] { QApplication::aboutQt(); });
     on(ZVGlobalActions::HelpContents, &MainWindow::showHelp);
@@ -477,6 +479,15 @@ void MainWindow::showStress()
         m_stress = new StressWindow(this);
     m_stress->show();
     m_stress->activateWindow();
+}
+
+void MainWindow::showDialogPanel()
+{
+    if (!m_dialogPanel)
+        m_dialogPanel = new DialogPanel(this);
+    m_dialogPanel->show();
+    m_dialogPanel->raise();
+    m_dialogPanel->activateWindow();
 }
 
 void MainWindow::showHelp()

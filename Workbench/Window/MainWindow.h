@@ -18,6 +18,7 @@ namespace Zorvane::Workbench {
 
 class DesignSaving;
 class DetailsPanel;
+class DialogPanel;
 class DisplayToggles;
 class EditHistory;
 class FactsReader;
@@ -108,6 +109,7 @@ private:
     void showStress();
     void notify(const QString& text);
     void hideMessages();
+    void showDialogPanel();
     void showHelp();
     void about();
 
@@ -142,6 +144,7 @@ private:
     DisplayToggles* m_toggles;
     QPointer<HelpWindow> m_help;
     QPointer<StressWindow> m_stress;
+    QPointer<DialogPanel> m_dialogPanel;
     MeshConverter m_converter{this};
     WindowLayout* m_layout = nullptr;
     bool m_keepsLayout = false;
