@@ -98,6 +98,16 @@ void typeAndAccept(QFileDialog& dialog, const QString& name)
     static_cast<QDialog&>(dialog).accept();
 }
 
+/** The row of a file in the dialog's list; folders are read in the background. */
+QModelIndex rowOf(const QFileDialog& dialog, const char* name)
+{
+    const auto* list = dialog.findChild<QListView*>(QStringLiteral("listView"));
+    return list->model()
+        ->match(list->model()->index(0, 0, list->rootIndex()), Qt::DisplayRole, QLatin1String(name),
+                1, Qt::MatchExactly)
+        .value(0);
+}
+
 QCheckBox* checkBox(QFileDialog& dialog, const char* label)
 {
     for (auto* box : dialog.findChildren<QCheckBox*>())
@@ -351,6 +361,8 @@ void DialogRunTest::severalFilesComeOut()
     for (const Variant variant :
          {Variant::OpenSeveral, Variant::OpenSeveralControls, Variant::PreviewSeveral}) {
         const DialogOutcome outcome = runInQt(variant, [](QFileDialog& dialog) {
+            QTRY_VERIFY(rowOf(dialog, "block.stl").isValid() &&
+                        rowOf(dialog, "plate.stl").isValid());
             typeAndAccept(dialog, QStringLiteral("\"plate.stl\" \"block.stl\""));
         });
         QStringList names;
@@ -422,16 +434,11 @@ void DialogRunTest::moreEnablesAndShowsControls()
 void DialogRunTest::selectionsAreTold()
 {
     const DialogOutcome outcome = runInQt(Variant::OpenSeveralControls, [](QFileDialog& dialog) {
-        auto* const list = dialog.findChild<QListView*>(QStringLiteral("listView"));
-        const auto find = [list] {
-            return list->model()->match(list->model()->index(0, 0, list->rootIndex()),
-                                        Qt::DisplayRole, QStringLiteral("block.stl"), 1,
-                                        Qt::MatchExactly);
-        };
-        // Folders are read in the background.
-        QTRY_VERIFY(!find().isEmpty());
-        list->selectionModel()->select(find().first(), QItemSelectionModel::ClearAndSelect |
-                                                           QItemSelectionModel::Rows);
+        QTRY_VERIFY(rowOf(dialog, "block.stl").isValid());
+        dialog.findChild<QListView*>(QStringLiteral("listView"))
+            ->selectionModel()
+            ->select(rowOf(dialog, "block.stl"),
+                     QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         dialog.reject();
     });
     QVERIFY2(bare(outcome.events)
