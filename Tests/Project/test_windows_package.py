@@ -13,9 +13,12 @@ import zipfile
 
 SOURCES = pathlib.Path(__file__).resolve().parents[2]
 BUILD, WORK = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
+PREFIX = WORK / "wine/prefix"
 # Nothing of the build is in reach: neither its Wine prefix nor the folders of its libraries.
-ENVIRONMENT = {**os.environ, "ZORVANE_WINEPREFIX": str(WORK / "wine/prefix"),
-               "ZORVANE_WINE_BARE": "1", "ZORVANE_WINE_IS_UP": "", "QT_QPA_PLATFORM": "windows"}
+ENVIRONMENT = {**{name: value for name, value in os.environ.items()
+                  if name not in ("WINEPATH", "QT_PLUGIN_PATH")},
+               "ZORVANE_WINEPREFIX": str(PREFIX), "ZORVANE_WINE_BARE": "1",
+               "ZORVANE_WINE_IS_UP": "", "QT_QPA_PLATFORM": "windows"}
 
 
 def run(*command, **options):
@@ -49,15 +52,30 @@ class WindowsPackageTest(unittest.TestCase):
         names = {path.relative_to(self.folder).as_posix() for path in self.folder.rglob("*")}
         for name in ("bin/workbench.exe", "bin/Qt5Core.dll", "bin/platforms/qwindows.dll",
                      "bin/libstdc++-6.dll", "bin/libassimp-5.dll", "README.md",
-                     "samples/drawn-cup/drawn-cup.dsg", "samples/door-panel/door-panel.dsg"):
+                     "samples/drawn-cup/drawn-cup.dsg", "samples/door-panel/door-panel.dsg",
+                     "share/doc/zorvane-uitools/Workbench.md"):
             with self.subTest(name):
                 self.assertIn(name, names)
         self.assertFalse([name for name in names if "Test" in name])
 
     def test_starts_in_an_empty_prefix_and_shows_everything(self):
+        wine("--stop")
+        shutil.rmtree(PREFIX, ignore_errors=True)
         tour = wine(self.folder / "bin/workbench.exe", "--tour", WORK / "tour")
         self.assertEqual(tour.returncode, 0, tour.stdout)
         self.assertGreater(len(list((WORK / "tour").glob("*.png"))), 15)
+
+    def test_has_its_libraries_from_the_zip_only(self):
+        for name in ("Qt5Widgets.dll", "libassimp-5.dll", "libstdc++-6.dll"):
+            with self.subTest(name):
+                path = self.folder / "bin" / name
+                aside = path.rename(WORK / name)
+                try:
+                    start = wine(self.folder / "bin/workbench.exe", "--tour", WORK / "no-tour")
+                finally:
+                    aside.rename(path)
+                self.assertNotEqual(start.returncode, 0, start.stdout)
+                self.assertFalse((WORK / "no-tour").exists())
 
 
 if __name__ == "__main__":

@@ -1,6 +1,7 @@
 #include "Workbench/Commands/DesignCopy.h"
 
 #include "Files/FileCopyUtility.h"
+#include "Host/FileHandling/FileUtilities.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -80,7 +81,8 @@ void referTo(const FileCopyUtility::FileCopyInfo& copy, const std::vector<FileRe
 {
     const QString name = QFileInfo(copy.target).fileName();
     for (FileReference* reference : files) {
-        if (reference->file != copy.source)
+        // Shells spell paths their own way.
+        if (!FileUtilities::isEquivalent(FileName(reference->file), FileName(copy.source)))
             continue;
         // Either separates, as in every reference of a design.
         const int slash = reference->path.lastIndexOf(QLatin1Char('/'));

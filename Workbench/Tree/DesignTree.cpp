@@ -15,6 +15,7 @@
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QTreeView>
 
+#include <algorithm>
 #include <utility>
 
 namespace Zorvane::Workbench {
@@ -25,6 +26,8 @@ using namespace GenericTreeViewModelHandling;
 
 /** Facts of many meshes come faster than anybody reads; each refresh looks at every row. */
 constexpr int s_soonMilliseconds = 60;
+/** In digits. */
+constexpr int s_widestNames = 60;
 
 std::shared_ptr<ModelItemFilterInterface>
 combined(const std::vector<std::shared_ptr<ModelItemFilterInterface>>& filters)
@@ -208,10 +211,11 @@ void DesignTree::refreshNow()
     m_soon.stop();
     m_refresh.unpost();
     const QScopedValueRollback<bool> busy(m_busy, true);
-    m_expansionDue = std::exchange(m_structureChanged, false);
+    const bool isWhole = std::exchange(m_structureChanged, false);
+    m_expansionDue = isWhole;
     {
         const ZVTreeViewModelBatch batch(&m_model);
-        if (m_expansionDue) {
+        if (isWhole) {
             m_decoration.objectsChanged();
             m_synchronizer.syncronizeAndUpdateViewModel(&m_model, m_pipeline.provideModel());
         } else {
@@ -220,6 +224,8 @@ void DesignTree::refreshNow()
     }
     // There may have been nothing to announce, and yet another filter.
     expandNewRows();
+    if (isWhole)
+        widenForNewNames();
     Q_EMIT refreshed();
 }
 
@@ -254,6 +260,26 @@ void DesignTree::noteExpansion(const QModelIndex& index, bool expanded)
         m_collapsed.erase(idAt(index));
     else
         m_collapsed.insert(idAt(index));
+}
+
+void DesignTree::widenForNewNames()
+{
+    if (!m_view)
+        return;
+    std::set<GUIdentifier> now;
+    for (const Design& design : m_session.designs())
+        now.insert(design.id);
+    for (const Part& part : m_session.looseParts())
+        now.insert(part.id);
+    const std::set<GUIdentifier> before = std::exchange(m_fitted, std::move(now));
+    if (std::includes(before.begin(), before.end(), m_fitted.begin(), m_fitted.end()))
+        return;
+    const int widest = s_widestNames * m_view->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    // The view keeps its own answer from others, the views' common base does not.
+    const QAbstractItemView& view = *m_view;
+    const int wanted = std::min(view.sizeHintForColumn(TreeColumn::Name), widest);
+    if (wanted > m_view->columnWidth(TreeColumn::Name))
+        m_view->setColumnWidth(TreeColumn::Name, wanted);
 }
 
 void DesignTree::takeOverName(const QModelIndex& index, const QVariant& value, int role)

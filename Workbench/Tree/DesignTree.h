@@ -32,7 +32,8 @@ class NameFilter;
  * to the session; a refused one is put back.
  *
  * Rows with children are expanded unless the user has collapsed them, and always while a text
- * filters. Session, loader and view must outlive it.
+ * filters. What is opened finds the column of names wide enough for them, within reason, as
+ * fonts differ; nothing makes it narrower but the user. Session, loader and view must outlive it.
  * Not supported: more than one view, sorting by a column.
  */
 class DesignTree : public QObject
@@ -99,6 +100,7 @@ private:
     void expandNewRows();
     void applyExpansion(const QModelIndex& parent);
     void noteExpansion(const QModelIndex& index, bool expanded);
+    void widenForNewNames();
     void takeOverName(const QModelIndex& index, const QVariant& value, int role);
 
     DesignSession& m_session;
@@ -111,6 +113,8 @@ private:
     GenericTreeViewModelHandling::ModelItemToZVTreeModelSyncronizer m_synchronizer;
     QPointer<QTreeView> m_view;
     std::set<IDCombiner> m_collapsed;
+    /** Designs and mesh files whose names the column is wide enough for. */
+    std::set<GUIdentifier> m_fitted;
     QTimer m_soon;
     PostedCall m_refresh;
     /** Files that could not be read last time. */

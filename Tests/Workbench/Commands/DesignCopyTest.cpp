@@ -2,6 +2,7 @@
 
 #include "Files/CopyCollisionDialog.h"
 #include "Tests/Support/ExpectedModals.h"
+#include "Tests/Support/PlatformCopies.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Tree/TreeFixture.h"
 #include "Workbench/Design/DesignReader.h"
@@ -35,7 +36,11 @@ private Q_SLOTS:
     void missingFilesDontCount();
     void namesThatAreTakenAreAskedAbout_data();
     void namesThatAreTakenAreAskedAbout();
+    void copiesOfOtherNamesAreReferredTo();
     void folderThatCannotBeMadeIsTold();
+
+private:
+    Testing::PlatformCopies m_copies;
 };
 
 void DesignCopyTest::hasIdentifiersOfItsOwn()
@@ -161,6 +166,8 @@ void DesignCopyTest::namesThatAreTakenAreAskedAbout_data()
 
 void DesignCopyTest::namesThatAreTakenAreAskedAbout()
 {
+    if (!Testing::PlatformCopies::askByOurDialog())
+        QSKIP("the system asks about names that are taken, by windows of its own");
     QFETCH(int, decision);
     QFETCH(bool, done);
     QFETCH(bool, sameName);
@@ -183,6 +190,26 @@ void DesignCopyTest::namesThatAreTakenAreAskedAbout()
     QCOMPARE(steel.path == QLatin1String("steel.json"), sameName);
     if (done)
         QCOMPARE(Testing::readFile(target.filePath(steel.path)), QByteArray("{}"));
+}
+
+void DesignCopyTest::copiesOfOtherNamesAreReferredTo()
+{
+    const Testing::OpenedDesign opened;
+    const QTemporaryDir target;
+    Testing::writeFile(target.filePath(QStringLiteral("steel.json")), "old");
+    Testing::ExpectedModals modals;
+    // The engine that stands in for a shell keeps both by itself.
+    if (Testing::PlatformCopies::askByOurDialog())
+        modals.expectDialog<CopyCollisionDialog>(
+            QStringLiteral("collision"),
+            [](CopyCollisionDialog& dialog) { dialog.button(CopyDecision::KeepBoth)->click(); });
+    Design copy = DesignCopy::of(designOf(opened), target.filePath(QStringLiteral("a.dsg")));
+    QVERIFY(!DesignCopy::bringFiles(nullptr, copy, designOf(opened).folder()));
+    QVERIFY(modals.allMet());
+    const QString referred = copy.findFile(copy.materials.front().file)->path;
+    QVERIFY(referred != QLatin1String("steel.json"));
+    QCOMPARE(Testing::readFile(target.filePath(referred)), QByteArray("{}"));
+    QCOMPARE(Testing::readFile(target.filePath(QStringLiteral("steel.json"))), QByteArray("old"));
 }
 
 void DesignCopyTest::folderThatCannotBeMadeIsTold()

@@ -1,16 +1,22 @@
 #pragma once
 
+#include "Tests/Support/TestCase.h"
+
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
 namespace Zorvane::Testing {
 
-/** The offscreen screen activates whatever is shown, which others leave to whoever is active. */
+/**
+ * The offscreen screen activates whatever is shown, which others leave to whoever is active. A
+ * window of the system is active before Qt has heard of it, and keys go where Qt thinks they do.
+ */
 inline void activate(QWidget& window)
 {
     window.activateWindow();
-    QTRY_VERIFY(window.isActiveWindow() && QApplication::focusWidget());
+    QTRY_COMPARE(QApplication::activeWindow(), &window);
+    QTRY_VERIFY(QApplication::focusWidget() && QApplication::focusWidget()->window() == &window);
 }
 
 /** To whatever has the focus, as a keyboard does. */

@@ -1,3 +1,4 @@
+#include "FileDialogs/NativeFileDialog.h"
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Commands/Keyboard.h"
@@ -47,12 +48,16 @@ QStringList namesIn(const QFileDialog& dialog)
 
 } // namespace
 
-/** Opens files as somebody does who has a keyboard only. The test is its own reader of files. */
+/**
+ * Opens files in Qt's dialog as somebody does who has a keyboard only. The test is its own reader
+ * of files.
+ */
 class OpenByKeyboardTest : public Testing::TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void cleanup();
     void opensAMeshSeenBefore();
@@ -69,9 +74,16 @@ private:
     void withDialog(const std::function<void(QFileDialog&)>& use);
     QString file(const char* name) const { return m_folder->filePath(QString::fromLatin1(name)); }
 
+    const NativeFileDialogReplacement m_qtDialogs{[] { return nullptr; }};
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<MainWindow> m_window;
 };
+
+void OpenByKeyboardTest::initTestCase()
+{
+    TestCase::initTestCase();
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}
 
 void OpenByKeyboardTest::init()
 {
@@ -109,7 +121,7 @@ void OpenByKeyboardTest::withDialog(const std::function<void(QFileDialog&)>& use
 {
     ExpectedModals modals;
     modals.expectDialog<QFileDialog>(QStringLiteral("Open Files"), [&use](QFileDialog& dialog) {
-        QVERIFY(QTest::qWaitForWindowActive(&dialog, Zorvane::Testing::patience));
+        activate(dialog);
         use(dialog);
     });
     openDialog();
@@ -246,7 +258,7 @@ void OpenByKeyboardTest::previewNeverTakesTheFocus()
         QVERIFY(QApplication::activeWindow() != previewWindow());
         QVERIFY(previewWindow()->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
         // Beside the dialog, not over it.
-        QVERIFY(!previewWindow()->frameGeometry().intersects(dialog.frameGeometry()));
+        QTRY_VERIFY(!previewWindow()->frameGeometry().intersects(dialog.frameGeometry()));
         press(dialog, Qt::Key_Escape);
     });
 }

@@ -40,7 +40,6 @@ QString nameIn(const QFileDialog& dialog)
 /** In place of what is proposed. */
 void answerWith(QFileDialog& dialog, const QString& name)
 {
-    QVERIFY(QTest::qWaitForWindowActive(&dialog, Zorvane::Testing::patience));
     activate(dialog);
     QVERIFY(isFocused("fileNameEdit"));
     press(dialog, Qt::Key_A, Qt::ControlModifier);
@@ -157,7 +156,6 @@ void SaveByKeyboardTest::expectKey(ExpectedModals& modals, const QString& box, i
                                    Qt::KeyboardModifiers modifiers)
 {
     modals.expectMessageBox(box, [key, modifiers](QMessageBox& shown) {
-        QVERIFY(QTest::qWaitForWindowActive(&shown, Zorvane::Testing::patience));
         press(shown, key, modifiers);
         // Buttons that are pressed by their letter go down first.
         QTRY_VERIFY(shown.isHidden());

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void aFilteringTextShowsWhatItFinds();
     void theFirstRowInSightStays();
     void expandAndCollapseAll();
+    void namesOfWhatIsOpenedAreShownWhole();
     void selectingWhatIsNotShown();
     void missingFilesAreMarked();
     void unreadableFilesAreMarkedUntilTheyAreMended();
@@ -274,6 +275,34 @@ void DesignTreeTest::expandAndCollapseAll()
     m_tree->expandAll();
     QVERIFY(m_view->isExpanded(at(1)));
     QVERIFY(m_view->isExpanded(at(20)));
+}
+
+void DesignTreeTest::namesOfWhatIsOpenedAreShownWhole()
+{
+    const auto isWhole = [this](const QModelIndex& index) {
+        return m_view->visualRect(index).width() >= m_view->sizeHintForIndex(index).width();
+    };
+    QVERIFY(isWhole(at(21)));
+    // As the user wants it, until something else is opened.
+    const int narrow = m_view->columnWidth(TreeColumn::Name) / 2;
+    m_view->setColumnWidth(TreeColumn::Name, narrow);
+    QCOMPARE(m_opened->session.rename(objectId(21), QStringLiteral("Another die")), QString());
+    m_tree->refreshNow();
+    QCOMPARE(m_view->columnWidth(TreeColumn::Name), narrow);
+    const QString file = m_opened->path(QStringLiteral("a mesh of a rather long name.stl"));
+    Testing::writeFile(file, Testing::binaryStl(Testing::cube()));
+    m_opened->session.open({file});
+    m_tree->refreshNow();
+    const QModelIndex part = m_tree->indexOf(m_opened->session.looseParts().front().id);
+    QVERIFY(isWhole(part));
+    QVERIFY(isWhole(at(21)));
+    // However long a name is, there is room for other columns.
+    m_opened->session.close();
+    const QString longest = m_opened->path(QString(100, QLatin1Char('m')) + QStringLiteral(".stl"));
+    Testing::writeFile(longest, Testing::binaryStl(Testing::cube()));
+    m_opened->session.open({longest});
+    m_tree->refreshNow();
+    QVERIFY(!isWhole(m_tree->indexOf(m_opened->session.looseParts().front().id)));
 }
 
 void DesignTreeTest::selectingWhatIsNotShown()
