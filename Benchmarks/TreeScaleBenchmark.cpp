@@ -35,10 +35,22 @@ double announcementsOf(const std::string& change)
 
 void refreshOnce(const std::string& change, int rows)
 {
-    const Items before = makeTree({rows});
-    const auto after = rootOf(changedTree(before, change));
     SyncronizedScene scene("none");
-    scene.show(before);
+    if (change == "duplicates") {
+        const auto [before, after] = makeDuplicates(rows);
+        scene.show(before);
+        scene.refresh(rootOf(after));
+        return;
+    }
+    const Items all = makeTree({rows});
+    if (change == "inTurn") {
+        // Rows are appended; then they and the others change places.
+        scene.show(Items(all.begin(), all.end() - rows / 10));
+        scene.refreshInTurn({rootOf(all), rootOf(changedTree(all, "shuffle"))});
+        return;
+    }
+    const auto after = rootOf(changedTree(all, change));
+    scene.show(all);
     scene.refresh(after);
 }
 
@@ -90,6 +102,12 @@ int main(int argc, char** argv)
         [] { return 1.05; });
     addValueRow(
         "tree/growth/shuffle", "exponent of instructions", [] { return growthOf("shuffle"); },
+        [] { return 1.25; });
+    addValueRow(
+        "tree/growth/inTurn", "exponent of instructions", [] { return growthOf("inTurn"); },
+        [] { return 1.25; });
+    addValueRow(
+        "tree/growth/duplicates", "exponent of instructions", [] { return growthOf("duplicates"); },
         [] { return 1.25; });
     return runRows(argc, argv);
 }

@@ -32,8 +32,12 @@ namespace Zorvane::GenericTreeViewModelHandling {
  * the three operations. Views learn of all row changes of one call together, before the provider
  * writes. Several views may be served in turn.
  *
- * Not supported: trees deeper than the stack allows (some ten thousand levels), use from a thread
- * other than the view's.
+ * Rows of derived classes are asked for their id by `data()` and should keep it meanwhile: a row is
+ * taken for an item only if it carries the item's id when it is looked for, and one that comes by
+ * that id only during the call may be replaced by a new row. Other rows are not affected.
+ *
+ * Not supported: trees deeper than the stack allows (some ten thousand levels), rows whose `data()`
+ * or `setData()` insert, take or delete rows, use from a thread other than the view's.
  */
 class ZORVANE_UITOOLS_EXPORT ModelItemToZVTreeModelSyncronizer
 {

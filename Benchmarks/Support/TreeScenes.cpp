@@ -1,6 +1,7 @@
 #include "Benchmarks/Support/TreeScenes.h"
 
 #include "Host/Widgets/ZVTreeViewItem.h"
+#include "Host/Widgets/ZVTreeViewModelBatch.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -131,6 +132,21 @@ Items makeTree(const std::vector<int>& fanOuts)
     return makeLevel(factory, fanOuts, 0);
 }
 
+std::pair<Items, Items> makeDuplicates(int count)
+{
+    const auto twin = std::make_shared<ModelItem>(Identifier(1), "Twin");
+    const Items others = makeTree({count / 2});
+    const Items twins(std::size_t(count / 2), twin);
+    Items before = twins;
+    before.insert(before.end(), others.begin(), others.end());
+    // A new row first, so that all that follow are searched; then twins that none is left for.
+    Items after{std::make_shared<ModelItem>(Identifier(2), "New part")};
+    after.insert(after.end(), twins.begin(), twins.end());
+    after.insert(after.end(), twins.begin(), twins.end());
+    after.insert(after.end(), others.begin(), others.end());
+    return {before, after};
+}
+
 Items changedTree(const Items& before, const std::string& change)
 {
     return TreeChange(change).apply(before);
@@ -202,9 +218,19 @@ void SyncronizedScene::show(const Items& items)
     m_attachment.settle();
 }
 
-void SyncronizedScene::refresh(const std::shared_ptr<ModelRoot>& root)
+void SyncronizedScene::refresh(const Root& root)
 {
     m_syncronizer.syncronizeViewModel(&m_model, root);
+    m_attachment.settle();
+}
+
+void SyncronizedScene::refreshInTurn(const std::vector<Root>& roots)
+{
+    {
+        const ZVTreeViewModelBatch batch(&m_model);
+        for (const Root& root : roots)
+            m_syncronizer.syncronizeViewModel(&m_model, root);
+    }
     m_attachment.settle();
 }
 

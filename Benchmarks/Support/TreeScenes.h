@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace Zorvane::Benchmarks {
@@ -17,6 +18,9 @@ using Items = std::vector<std::shared_ptr<GenericTreeViewModelHandling::ModelIte
 
 /** `fanOuts` children at each level, with scattered ids and names such as "Part 000123". */
 Items makeTree(const std::vector<int>& fanOuts);
+
+/** Long lists of which every other item has one and the same id, before and after a refresh. */
+std::pair<Items, Items> makeDuplicates(int count);
 
 /** The tree as one of the cases "same", "label", ... "shuffle" leaves it. */
 Items changedTree(const Items& before, const std::string& change);
@@ -50,7 +54,10 @@ public:
 
     void show(const Items& items);
     void prepare() { m_attachment.prepare(); }
-    void refresh(const std::shared_ptr<GenericTreeViewModelHandling::ModelRoot>& root);
+    using Root = std::shared_ptr<GenericTreeViewModelHandling::ModelRoot>;
+    void refresh(const Root& root);
+    /** One after the other in one batch. */
+    void refreshInTurn(const std::vector<Root>& roots);
     ZVTreeViewModel& model() { return m_model; }
 
 private:
