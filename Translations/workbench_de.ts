@@ -184,18 +184,6 @@
         <source>%1 copy %2</source>
         <translation>%1 Kopie %2</translation>
     </message>
-    <message>
-        <source>cannot be made a folder</source>
-        <translation>lässt sich nicht als Ordner anlegen</translation>
-    </message>
-    <message>
-        <source>was not copied</source>
-        <translation>wurde nicht kopiert</translation>
-    </message>
-    <message>
-        <source>is no longer what it was; nothing is copied</source>
-        <translation>ist nicht mehr, was es war; nichts wird kopiert</translation>
-    </message>
 </context>
 <context>
     <name>Zorvane::Workbench::DesignPipeline</name>
@@ -316,6 +304,21 @@
     <message>
         <source>version %1 isn&apos;t supported, only versions %2 to %3 are</source>
         <translation>Version %1 wird nicht unterstützt, nur die Versionen %2 bis %3</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::Workbench::DesignRelocation</name>
+    <message>
+        <source>cannot be made a folder</source>
+        <translation>lässt sich nicht als Ordner anlegen</translation>
+    </message>
+    <message>
+        <source>was not copied</source>
+        <translation>wurde nicht kopiert</translation>
+    </message>
+    <message>
+        <source>is no longer what it was; nothing is copied</source>
+        <translation>ist nicht mehr, was es war; nichts wird kopiert</translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "Files/DesignPathProvider.h"
 #include "Files/LastPathProvider.h"
 #include "Workbench/Commands/DesignCopy.h"
+#include "Workbench/Commands/DesignRelocation.h"
 #include "Workbench/Design/DesignSession.h"
 #include "Workbench/Design/DesignWriter.h"
 #include "Workbench/Meshes/MeshReader.h"
@@ -105,7 +106,8 @@ bool FileCommands::saveAs(const GUIdentifier& objectId, Results results)
     Design copy = copyOf(*design, target, results);
     const GUIdentifier replaced = design->id;
     if (!obstacle)
-        obstacle = DesignCopy::bringFiles(m_window, copy, design->folder());
+        obstacle = DesignRelocation(m_window, design->file, target, m_session.designs())
+                       .bringFilesOf(copy);
     if (!self || !write(copy, obstacle))
         return false;
     m_session.replace(replaced, target);

@@ -46,8 +46,9 @@ public:
     void openFolder();
     /**
      * Writes the design of the object, unsaved changes included, to another file, and goes on with
-     * that: its files come along into another folder. The design that it was is closed as it lies
-     * on the disk. False if nothing was saved: the user gave up, or it failed, which is told.
+     * that: its files come along into another folder, and so do the designs that it refers to. The
+     * design that it was is closed as it lies on the disk. False if nothing was saved: the user
+     * gave up, or it failed, which is told.
      */
     bool saveAs(const GUIdentifier& objectId, Results results = Results::Keep);
     /** Writes a copy of the design beside it, unsaved changes included; the session stays as is. */

@@ -35,6 +35,7 @@ private Q_SLOTS:
 
     void saveAsBesideTheDesign();
     void saveAsElsewhereTakesTheFilesAlong();
+    void saveAsElsewhereTakesDesignsAlong();
     void saveAsLeavesTheFormerDesign();
     void saveAsInTheOrderOfDesigns();
 
@@ -212,6 +213,26 @@ void FileCommandsTest::saveAsElsewhereTakesTheFilesAlong()
         QCOMPARE(int(file.state), int(FileState::Exists));
     QVERIFY(QFile::exists(m_files->elsewhere.filePath(QStringLiteral("geometry/die.stl"))));
     QVERIFY(message().isEmpty());
+}
+
+void FileCommandsTest::saveAsElsewhereTakesDesignsAlong()
+{
+    const QString door = m_files->path(QStringLiteral("door/door.dsg"));
+    Testing::writeFile(door,
+                       Testing::toText(Testing::designWithFiles(60, QStringLiteral("Door"), {})));
+    openDesign();
+    DesignSession& session = m_window->session();
+    QVERIFY(session.addFiles(session.designs().front().id, {door}).empty());
+    m_script.saved = m_files->elsewhere.filePath(QStringLiteral("moved.dsg"));
+    m_window->tree().refreshNow();
+    trigger("Save As...");
+    QVERIFY(message().isEmpty());
+    QVERIFY(session.problems().empty());
+    QCOMPARE(session.designs().size(), std::size_t(2));
+    QCOMPARE(QDir(session.designs().back().folder()),
+             QDir(m_files->elsewhere.filePath(QStringLiteral("door"))));
+    m_window->open({m_files->designFile(), door});
+    QVERIFY(session.problems().empty());
 }
 
 void FileCommandsTest::saveAsLeavesTheFormerDesign()

@@ -1,0 +1,288 @@
+#include "Workbench/Commands/DesignRelocation.h"
+
+#include "Files/CopyCollisionDialog.h"
+#include "Tests/Support/ExpectedModals.h"
+#include "Tests/Support/PlatformCopies.h"
+#include "Tests/Support/TestCase.h"
+#include "Tests/Workbench/Tree/TreeFixture.h"
+#include "Workbench/Commands/DesignCopy.h"
+#include "Workbench/Design/DesignWriter.h"
+
+#include <QtCore/QDir>
+#include <QtWidgets/QPushButton>
+
+namespace Zorvane::Workbench {
+
+using Testing::objectId;
+
+/**
+ * The small design refers to a door in a folder of its own, which refers to a mesh and to a handle
+ * in a folder of its own.
+ */
+class DesignRelocationTest : public Testing::TestCase
+{
+    Q_OBJECT
+
+private:
+    const DesignSession& session() const { return m_opened->session; }
+    const Design& small() const { return *session().findDesign(objectId(1)); }
+    QString target(const char* name) const { return m_target->filePath(QString::fromUtf8(name)); }
+    QString source(const char* name) const { return m_opened->path(QString::fromUtf8(name)); }
+    bool isThere(const char* name) const { return QFile::exists(target(name)); }
+    void expectCollision(Testing::ExpectedModals& modals, CopyDecision decision) const;
+    /** Writes the copy, too, when its files are there. */
+    std::optional<Problem> relocate();
+    /** The copy with what it refers to, read from the disk. */
+    std::unique_ptr<DesignSession> relocated() const;
+
+    Testing::PlatformCopies m_copies;
+    std::unique_ptr<Testing::OpenedDesign> m_opened;
+    std::unique_ptr<QTemporaryDir> m_target;
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void allFilesComeAlong();
+    void filesStayInTheSameFolder();
+    void missingFilesDontCount();
+    void bothCanBeOpenAtOnce();
+    void designsComeAlongAsTheyAreShown();
+    void designsThatAreNotOpenComeAlongAsFiles();
+    void circlesEnd();
+    void filesReferredToTwiceComeOnce();
+    void namesThatAreTakenAreAskedAbout_data();
+    void namesThatAreTakenAreAskedAbout();
+    void designsFollowFilesWithOtherNames();
+    void designsWhoseNamesAreTakenAreKept();
+    void folderThatCannotBeMadeIsTold();
+};
+
+void DesignRelocationTest::init()
+{
+    const QString design = QStringLiteral("design");
+    m_opened = std::make_unique<Testing::OpenedDesign>();
+    m_target = std::make_unique<QTemporaryDir>();
+    Testing::writeFile(source("door/geometry/door.stl"), Testing::binaryStl(Testing::cube(2)));
+    Testing::writeFile(source("door/handle/grip.txt"), "grip");
+    Testing::writeFile(
+        source("door/handle/handle.dsg"),
+        Testing::toText(Testing::designWithFiles(
+            70, QStringLiteral("Handle"),
+            {Testing::fileEntry(71, QStringLiteral("Grip"), QStringLiteral("document"),
+                                QStringLiteral("grip.txt"))})));
+    Testing::writeFile(
+        source("door/door.dsg"),
+        Testing::toText(Testing::designWithFiles(
+            60, QStringLiteral("Door"),
+            {Testing::fileEntry(61, QStringLiteral("Door mesh"), QStringLiteral("mesh"),
+                                QStringLiteral("geometry/door.stl")),
+             Testing::fileEntry(62, QStringLiteral("The handle"), design,
+                                QStringLiteral("handle/handle.dsg"))})));
+    QVERIFY(m_opened->session.addFiles(objectId(1), {source("door/door.dsg")}).empty());
+    QCOMPARE(session().designs().size(), std::size_t(3));
+}
+
+void DesignRelocationTest::cleanup()
+{
+    m_opened.reset();
+    m_target.reset();
+    TestCase::cleanup();
+}
+
+void DesignRelocationTest::expectCollision(Testing::ExpectedModals& modals,
+                                           CopyDecision decision) const
+{
+    modals.expectDialog<CopyCollisionDialog>(
+        QStringLiteral("collision"),
+        [decision](CopyCollisionDialog& dialog) { dialog.button(decision)->click(); });
+}
+
+std::optional<Problem> DesignRelocationTest::relocate()
+{
+    Design copy = DesignCopy::of(small(), target("moved.dsg"));
+    const std::optional<Problem> problem =
+        DesignRelocation(nullptr, small().file, copy.file, session().designs()).bringFilesOf(copy);
+    return problem ? problem : DesignWriter::write(copy);
+}
+
+std::unique_ptr<DesignSession> DesignRelocationTest::relocated() const
+{
+    auto other = std::make_unique<DesignSession>();
+    other->open({target("moved.dsg")});
+    return other;
+}
+
+void DesignRelocationTest::allFilesComeAlong()
+{
+    QVERIFY(!relocate());
+    for (const char* name :
+         {"geometry/die.stl", "steel.json", "door/geometry/door.stl", "door/handle/grip.txt"}) {
+        QCOMPARE(Testing::readFile(target(name)), Testing::readFile(source(name)));
+        QVERIFY(!Testing::readFile(source(name)).isEmpty());
+    }
+    const std::unique_ptr<DesignSession> moved = relocated();
+    QVERIFY(moved->problems().empty());
+    QCOMPARE(moved->designs().size(), std::size_t(3));
+    for (const Design& design : moved->designs())
+        for (const FileReference& file : design.files)
+            QCOMPARE(int(file.state), int(FileState::Exists));
+}
+
+void DesignRelocationTest::filesStayInTheSameFolder()
+{
+    const QStringList before = QDir(m_opened->folder.path()).entryList();
+    Design copy = DesignCopy::of(small(), source("b.dsg"));
+    QVERIFY(!DesignRelocation(nullptr, small().file, copy.file, session().designs())
+                 .bringFilesOf(copy));
+    QCOMPARE(QDir(m_opened->folder.path()).entryList(), before);
+}
+
+void DesignRelocationTest::missingFilesDontCount()
+{
+    QVERIFY(QFile::remove(source("steel.json")));
+    QVERIFY(QFile::remove(source("door/handle/grip.txt")));
+    m_opened->session.save();
+    m_opened->session.reload();
+    QVERIFY(!relocate());
+    QVERIFY(isThere("geometry/die.stl"));
+    QVERIFY(isThere("door/handle/handle.dsg"));
+    QVERIFY(!isThere("steel.json"));
+    QVERIFY(!isThere("door/handle/grip.txt"));
+}
+
+void DesignRelocationTest::bothCanBeOpenAtOnce()
+{
+    QVERIFY(!relocate());
+    m_opened->session.open({target("moved.dsg")});
+    QCOMPARE(session().designs().size(), std::size_t(6));
+    QVERIFY(session().problems().empty());
+}
+
+void DesignRelocationTest::designsComeAlongAsTheyAreShown()
+{
+    m_opened->session.rename(objectId(70), QStringLiteral("Long handle"));
+    QVERIFY(!relocate());
+    QCOMPARE(relocated()->designs().back().name, QStringLiteral("Long handle"));
+    QVERIFY(session().isModified(objectId(70)));
+    QVERIFY(!Testing::readFile(source("door/handle/handle.dsg")).contains("Long handle"));
+}
+
+void DesignRelocationTest::designsThatAreNotOpenComeAlongAsFiles()
+{
+    Testing::writeFile(source("broken.dsg"), "no design");
+    QVERIFY(m_opened->session.addFiles(objectId(1), {source("broken.dsg")}).empty());
+    QVERIFY(!relocate());
+    QCOMPARE(Testing::readFile(target("broken.dsg")), QByteArray("no design"));
+}
+
+void DesignRelocationTest::circlesEnd()
+{
+    const QString design = QStringLiteral("design");
+    Testing::writeFile(source("back.dsg"),
+                       Testing::toText(Testing::designWithFiles(
+                           80, QStringLiteral("Back"),
+                           {Testing::fileEntry(81, QStringLiteral("The small one"), design,
+                                               QStringLiteral("small.dsg"))})));
+    QVERIFY(m_opened->session.addFiles(objectId(1), {source("back.dsg")}).empty());
+    QVERIFY(!relocate());
+    QVERIFY(!isThere("small.dsg"));
+    // It refers to the design under its new name.
+    QVERIFY(Testing::readFile(target("back.dsg")).contains("\"moved.dsg\""));
+    QCOMPARE(relocated()->designs().size(), std::size_t(4));
+}
+
+void DesignRelocationTest::filesReferredToTwiceComeOnce()
+{
+    QVERIFY(m_opened->session
+                .addFiles(objectId(1),
+                          {source("door/geometry/door.stl"), source("door/handle/handle.dsg")})
+                .empty());
+    const Testing::ExpectedModals none;
+    QVERIFY(!relocate());
+    QVERIFY(relocated()->problems().empty());
+    QCOMPARE(QDir(target("door/geometry")).entryList(QDir::Files).size(), 1);
+    QCOMPARE(QDir(target("door/handle")).entryList(QDir::Files).size(), 2);
+}
+
+void DesignRelocationTest::namesThatAreTakenAreAskedAbout_data()
+{
+    QTest::addColumn<int>("decision");
+    QTest::addColumn<QByteArray>("taken");
+    QTest::addColumn<bool>("done");
+    QTest::addColumn<bool>("sameName");
+    QTest::newRow("replace") << int(CopyDecision::Replace) << QByteArray("{}") << true << true;
+    QTest::newRow("keep both") << int(CopyDecision::KeepBoth) << QByteArray("old") << true << false;
+    QTest::newRow("skip") << int(CopyDecision::Skip) << QByteArray("old") << false << true;
+    QTest::newRow("cancel") << int(CopyDecision::Cancel) << QByteArray("old") << false << true;
+}
+
+void DesignRelocationTest::namesThatAreTakenAreAskedAbout()
+{
+    if (!Testing::PlatformCopies::askByOurDialog())
+        QSKIP("the system asks about names that are taken, by windows of its own");
+    QFETCH(int, decision);
+    QFETCH(bool, done);
+    QFETCH(bool, sameName);
+    const QString taken = Testing::writeFile(target("steel.json"), "old");
+    Testing::ExpectedModals modals;
+    expectCollision(modals, CopyDecision(decision));
+    const std::optional<Problem> problem = relocate();
+    QVERIFY(modals.allMet());
+    QCOMPARE(!problem, done);
+    QTEST(Testing::readFile(taken), "taken");
+    QCOMPARE(isThere("moved.dsg"), done);
+    if (problem) {
+        QCOMPARE(problem->reason, QStringLiteral("was not copied"));
+        return;
+    }
+    const std::unique_ptr<DesignSession> moved = relocated();
+    const Design& copy = moved->designs().front();
+    const FileReference& steel = *copy.findFile(copy.materials.front().file);
+    QCOMPARE(steel.path == QLatin1String("steel.json"), sameName);
+    QCOMPARE(Testing::readFile(steel.file), QByteArray("{}"));
+}
+
+void DesignRelocationTest::designsFollowFilesWithOtherNames()
+{
+    Testing::writeFile(target("door/handle/grip.txt"), "old");
+    Testing::ExpectedModals modals;
+    // The engine that stands in for a shell keeps both by itself.
+    if (Testing::PlatformCopies::askByOurDialog())
+        expectCollision(modals, CopyDecision::KeepBoth);
+    QVERIFY(!relocate());
+    QVERIFY(modals.allMet());
+    QCOMPARE(Testing::readFile(target("door/handle/grip.txt")), QByteArray("old"));
+    const std::unique_ptr<DesignSession> moved = relocated();
+    const FileReference& grip = moved->designs().back().files.front();
+    QVERIFY(grip.path != QStringLiteral("grip.txt"));
+    QCOMPARE(Testing::readFile(grip.file), QByteArray("grip"));
+}
+
+void DesignRelocationTest::designsWhoseNamesAreTakenAreKept()
+{
+    const QString taken = Testing::writeFile(target("door/door.dsg"), "another design");
+    Testing::ExpectedModals modals;
+    if (Testing::PlatformCopies::askByOurDialog())
+        expectCollision(modals, CopyDecision::KeepBoth);
+    QVERIFY(!relocate());
+    QVERIFY(modals.allMet());
+    QCOMPARE(Testing::readFile(taken), QByteArray("another design"));
+    QVERIFY(relocated()->problems().empty());
+    QCOMPARE(relocated()->designs().size(), std::size_t(3));
+}
+
+void DesignRelocationTest::folderThatCannotBeMadeIsTold()
+{
+    Testing::writeFile(target("geometry"), "a file in the way");
+    const std::optional<Problem> problem = relocate();
+    QVERIFY(problem);
+    QCOMPARE(problem->reason, QStringLiteral("cannot be made a folder"));
+    QCOMPARE(problem->file, target("geometry"));
+}
+
+} // namespace Zorvane::Workbench
+
+using Zorvane::Workbench::DesignRelocationTest;
+
+ZORVANE_TEST_MAIN(DesignRelocationTest)
+#include "DesignRelocationTest.moc"

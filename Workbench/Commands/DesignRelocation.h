@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Workbench/Design/Design.h"
+#include "Workbench/Design/Problem.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QPointer>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtWidgets/QWidget>
+
+#include <map>
+#include <optional>
+#include <set>
+#include <vector>
+
+namespace Zorvane::Workbench {
+
+/**
+ * Brings along what a design needs in another folder: the files that it refers to, the designs
+ * among them, and their files in turn, each to the same place below the new folder. What leads out
+ * of a design's folder stays where it is, and missing files don't count.
+ *
+ * Shows progress and asks about names that are taken; where the user keeps both files, designs
+ * refer to the copy. Designs that are open come along as they are shown, unsaved changes included,
+ * under identifiers of their own, so that both can be open at once; others as their files are.
+ */
+class DesignRelocation
+{
+    Q_DECLARE_TR_FUNCTIONS(Zorvane::Workbench::DesignRelocation)
+
+public:
+    /**
+     * From the folder of the design file `from` to that of `to`. `open` are the designs to be taken
+     * as they are shown. The parent of questions may go while they are asked.
+     */
+    DesignRelocation(QWidget* parent, const QString& from, const QString& to,
+                     std::vector<Design> open);
+
+    /**
+     * Brings what the design refers to, which is a copy of the one in `from` that is to be written
+     * to `to`; does nothing if both are in one folder. None when all is in place, else why not:
+     * what was brought until then stays.
+     */
+    std::optional<Problem> bringFilesOf(Design& design);
+
+private:
+    std::optional<Problem> bring(Design& design);
+    std::optional<Problem> copyFiles(const QString& folder, const QStringList& files);
+    std::optional<Problem> bringDesign(const FileReference& reference);
+    QString placeOf(const QString& folder) const;
+
+    QPointer<QWidget> m_parent;
+    QDir m_from;
+    QDir m_to;
+    std::vector<Design> m_open;
+    /** Where each file has got to. */
+    std::map<QString, QString> m_copies;
+    /** Design files that are brought, or about to be: they may refer to one another in a circle. */
+    std::set<QString> m_designs;
+};
+
+} // namespace Zorvane::Workbench
