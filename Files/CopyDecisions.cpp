@@ -2,6 +2,7 @@
 
 #include "Files/PathText.h"
 
+#include <string_view>
 #include <utility>
 
 namespace Zorvane {
@@ -125,7 +126,10 @@ std::optional<CollisionKind> CopyDecisions::kindOf(const CopyCandidate& candidat
 
 void CopyDecisions::countCollisions(const std::vector<CopyCandidate>& candidates)
 {
-    std::set<std::string> seen;
+    std::unordered_set<std::string_view> seen;
+    seen.reserve(candidates.size());
+    m_wanted.reserve(candidates.size());
+    m_claimedBy.reserve(candidates.size());
     for (const CopyCandidate& candidate : candidates) {
         const bool first = seen.insert(candidate.leaf).second;
         m_wanted.insert(foldedName(candidate.leaf));

@@ -5,10 +5,10 @@
 #include "UiToolsExport.h"
 
 #include <array>
-#include <map>
 #include <optional>
-#include <set>
 #include <string>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace Zorvane {
@@ -76,8 +76,8 @@ private:
     std::size_t m_mostNameBytes;
     std::array<std::optional<CopyDecision>, s_kindCount> m_forAll;
     std::array<int, s_kindCount> m_remaining{};
-    std::map<std::string, std::size_t> m_claimedBy; // leaf to candidate
-    std::set<std::string> m_wanted;                 // folded: no made-up name may take them
+    std::unordered_map<std::string, std::size_t> m_claimedBy; // leaf to candidate
+    std::unordered_set<std::string> m_wanted; // folded: no made-up name may take them
 };
 
 } // namespace Zorvane

@@ -78,7 +78,11 @@ std::string temporaryCopyName(quint32 random)
 
 std::string foldedName(const std::string& leaf)
 {
-    return pathToBytes(pathFromBytes(leaf).normalized(QString::NormalizationForm_C).toCaseFolded());
+    const QString name = pathFromBytes(leaf);
+    // Normalizing, which takes long, has nothing to do there.
+    if (isAscii(name))
+        return pathToBytes(name.toCaseFolded());
+    return pathToBytes(name.normalized(QString::NormalizationForm_C).toCaseFolded());
 }
 
 } // namespace Zorvane

@@ -1,5 +1,6 @@
 #include "Files/PathText.h"
 
+#include <algorithm>
 #include <array>
 
 namespace Zorvane {
@@ -50,6 +51,11 @@ bool fits(const SequenceRule& rule, const std::string& bytes, std::size_t at)
     return true;
 }
 
+bool isAscii(const std::string& bytes)
+{
+    return std::all_of(bytes.begin(), bytes.end(), [](char byte) { return (byte & 0x80) == 0; });
+}
+
 bool isEscapedByte(const QString& path, int at)
 {
     const ushort unit = path.at(at).unicode();
@@ -69,8 +75,15 @@ std::size_t utf8SequenceLength(const std::string& bytes, std::size_t at)
     return 0;
 }
 
+bool isAscii(const QString& text)
+{
+    return std::all_of(text.begin(), text.end(), [](QChar unit) { return unit.unicode() < 0x80; });
+}
+
 QString pathFromBytes(const std::string& bytes)
 {
+    if (isAscii(bytes))
+        return QString::fromLatin1(bytes.data(), static_cast<int>(bytes.size()));
     QString path;
     std::size_t textStart = 0;
     const auto appendText = [&](std::size_t end) {
@@ -92,6 +105,12 @@ QString pathFromBytes(const std::string& bytes)
 std::string pathToBytes(const QString& path)
 {
     std::string bytes;
+    if (isAscii(path)) {
+        bytes.resize(static_cast<std::size_t>(path.size()));
+        std::transform(path.begin(), path.end(), bytes.begin(),
+                       [](QChar unit) { return unit.toLatin1(); });
+        return bytes;
+    }
     int textStart = 0;
     for (int at = 0; at < path.size(); ++at) {
         if (!isEscapedByte(path, at))

@@ -19,6 +19,9 @@ ZORVANE_UITOOLS_EXPORT std::string pathToBytes(const QString& path);
 /** The path to show: bytes that are no text are written as "\xE4". */
 ZORVANE_UITOOLS_EXPORT QString pathForDisplay(const QString& path);
 
+/** Such a text is written alike in every encoding of names, as most names are. */
+bool isAscii(const QString& text);
+
 /** The length of the UTF-8 sequence that starts at `at`; 0 where there is none. */
 std::size_t utf8SequenceLength(const std::string& bytes, std::size_t at);
 

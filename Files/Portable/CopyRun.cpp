@@ -7,6 +7,7 @@
 #include "Host/Translation/Translator.h"
 
 #include <fcntl.h>
+#include <utility>
 
 namespace Zorvane {
 
@@ -103,12 +104,12 @@ bool CopyRun::ask()
     candidates.reserve(m_items.size());
     for (const CopyItem& item : m_items)
         candidates.push_back(item.candidate);
-    const auto orders = m_decisions.decideAll(candidates);
+    auto orders = m_decisions.decideAll(candidates);
     if (!orders)
         return false;
     for (std::size_t i = 0; i < m_items.size(); ++i) {
         CopyItem& item = m_items[i];
-        item.order = (*orders)[i];
+        item.order = std::move((*orders)[i]);
         if (item.order.action == CopyOrder::Action::Skip) {
             item.outcome->fate = CopyFate::Skipped;
         } else if (item.order.action == CopyOrder::Action::SameFile) {

@@ -8,6 +8,8 @@ namespace Zorvane {
 
 std::string localPathBytes(const QString& path)
 {
+    if (isAscii(path))
+        return pathToBytes(path);
     const QByteArray encoded = QFile::encodeName(path);
     return QFile::decodeName(encoded) == path ? encoded.toStdString() : pathToBytes(path);
 }
