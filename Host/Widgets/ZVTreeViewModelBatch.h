@@ -23,8 +23,8 @@ namespace Zorvane {
  * it to a tree outside of the model, announces what has been gathered so far at that moment; by a
  * slot while a batch is announced it makes views start over.
  *
- * Not supported: slots that move rows from one parent to another when told that a change is about
- * to happen, rather than that it has.
+ * Not supported: slots of `rowsAboutToBeInserted`, `rowsAboutToBeRemoved` and
+ * `layoutAboutToBeChanged` that move rows from one parent to another; those of any other signal may.
  */
 class ZORVANE_HOST_EXPORT ZVTreeViewModelBatch
 {

@@ -196,7 +196,7 @@ public:
             origin->insertChild(before, row);
     }
 
-    /** Every announcement of the model applies one of these, as an eager slot would. */
+    /** Every signal of the model applies one of these, as an eager slot would. */
     void connectSlots(std::vector<Step> steps)
     {
         slotSteps = std::move(steps);
@@ -208,6 +208,13 @@ public:
             if (step.kind != DeleteDirectly)
                 apply(step);
         };
+        const auto beforeIt = [this, onAnnouncement] {
+            // The model tester wants the rows beside a change to keep their texts; from parent to
+            // parent rows may not go at such moments.
+            const int kind = slotSteps.empty() ? KindCount : slotSteps.back().kind;
+            if (kind != Rename && kind != MoveAcross && kind != PutBack)
+                onAnnouncement();
+        };
         connections = {
             QObject::connect(&model, &ZVTreeViewModel::aboutToPublish, onAnnouncement),
             QObject::connect(&model, &ZVTreeViewModel::published, onAnnouncement),
@@ -215,6 +222,9 @@ public:
             QObject::connect(&model, &QAbstractItemModel::rowsInserted, onAnnouncement),
             QObject::connect(&model, &QAbstractItemModel::rowsRemoved, onAnnouncement),
             QObject::connect(&model, &QAbstractItemModel::layoutChanged, onAnnouncement),
+            QObject::connect(&model, &QAbstractItemModel::layoutAboutToBeChanged, beforeIt),
+            QObject::connect(&model, &QAbstractItemModel::rowsAboutToBeInserted, beforeIt),
+            QObject::connect(&model, &QAbstractItemModel::rowsAboutToBeRemoved, beforeIt),
         };
     }
 
@@ -360,7 +370,7 @@ private Q_SLOTS:
     void everyWatcherFollowsRandomBatches();
     void everyWatcherFollowsSingleChanges();
     void longListsKeepEverybodyInStep();
-    void slotsMayChangeRowsAtEveryAnnouncement();
+    void slotsMayChangeRowsAtEverySignal();
 };
 
 void ZVTreeViewModelBatchPropertyTest::everyWatcherFollowsRandomBatches()
@@ -428,7 +438,7 @@ void ZVTreeViewModelBatchPropertyTest::longListsKeepEverybodyInStep()
     QVERIFY(held);
 }
 
-void ZVTreeViewModelBatchPropertyTest::slotsMayChangeRowsAtEveryAnnouncement()
+void ZVTreeViewModelBatchPropertyTest::slotsMayChangeRowsAtEverySignal()
 {
     const bool held = rc::check("changes by slots", [] {
         Playground playground(2);

@@ -2,6 +2,7 @@
 #include "Host/Widgets/ZVTreeViewModelBatch.h"
 #include "Tests/Support/TestCase.h"
 
+#include <QtCore/QPersistentModelIndex>
 #include <QtCore/QSortFilterProxyModel>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTreeView>
@@ -9,24 +10,41 @@
 #include <rapidcheck.h>
 
 #include <random>
+#include <vector>
 
 using namespace Zorvane;
 
 namespace {
 
-/** A tree of 300 rows with children here and there, and a view of it with a keeper. */
+/** What a view shows the model through. */
+enum class Through
+{
+    Nothing,
+    Sorting,
+    Filtering,
+    FilteringOfSorted
+};
+
+/** A tree of 300 rows with children here and there, and two views of it with a keeper each. */
 class Scene
 {
 public:
-    explicit Scene(bool sorted = false)
+    explicit Scene(Through through = Through::Nothing)
         : tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest)
     {
         fill();
         QAbstractItemModel* shown = &model;
-        if (sorted) {
-            proxy.setSourceModel(&model);
+        if (through == Through::Sorting || through == Through::FilteringOfSorted) {
+            proxy.setSourceModel(shown);
             proxy.sort(0);
             shown = &proxy;
+        }
+        if (through == Through::Filtering || through == Through::FilteringOfSorted) {
+            // Nine of ten, and whatever has such a row below.
+            filter.setRecursiveFilteringEnabled(true);
+            filter.setFilterRegularExpression(QStringLiteral("[0-8]$"));
+            filter.setSourceModel(shown);
+            shown = &filter;
         }
         for (QTreeView* each : {&view, &second}) {
             each->setModel(shown);
@@ -55,9 +73,10 @@ public:
     static ZVTreeViewItem* newRow(int number)
     {
         auto row = std::make_unique<ZVTreeViewItem>();
-        row->setText("row " + std::to_string(10000 + number));
+        row->setText(textOf(number));
         return row.release();
     }
+    static std::string textOf(int number) { return "row " + std::to_string(10000 + number); }
 
     QString firstVisible(const QTreeView& of) const
     {
@@ -80,6 +99,7 @@ public:
     ZVTreeViewModel model;
     QAbstractItemModelTester tester;
     QSortFilterProxyModel proxy;
+    QSortFilterProxyModel filter;
     QTreeView view;
     QTreeView second;
 };
@@ -90,6 +110,114 @@ void rotate(ZVTreeViewItem* parent, int count)
     for (; count > 0; --count)
         parent->insertChild(parent->childCount() - 1, parent->takeChild(0));
 }
+
+int below(std::minstd_rand& random, int bound)
+{
+    return int(random() % unsigned(bound));
+}
+
+void changeAnything(ZVTreeViewModel& model, std::minstd_rand& random)
+{
+    const ZVTreeViewModelBatch batch(&model);
+    for (int change = below(random, 20); change > 0; --change) {
+        ZVTreeViewItem* parent = model.rootItem();
+        if (ZVTreeViewItem* row = parent->child(below(random, parent->childCount()));
+            row->childCount() > 3 && below(random, 2) == 0)
+            parent = row;
+        const int row = below(random, parent->childCount());
+        const int target = below(random, parent->childCount() - 1);
+        if (below(random, 3) == 0)
+            parent->insertChild(row, Scene::newRow(-1000 - change));
+        else if (below(random, 4) == 0)
+            parent->deleteChild(row);
+        else if (below(random, 4) == 0)
+            parent->child(row)->setText(Scene::textOf(below(random, 100)));
+        else
+            parent->insertChild(target, parent->takeChild(row));
+    }
+}
+
+/** A view's place, chosen at random: what is at its top, current, selected and expanded. */
+class Places
+{
+public:
+    Places(QTreeView& view, std::minstd_rand& random)
+        : m_view(view)
+    {
+        const QAbstractItemModel& shown = *view.model();
+        const auto any = [&] {
+            const QModelIndex top = shown.index(below(random, shown.rowCount()), 0);
+            const int children = shown.rowCount(top);
+            return children > 0 && below(random, 2) == 0
+                       ? shown.index(below(random, children), 0, top)
+                       : top;
+        };
+        view.setCurrentIndex(any());
+        m_current = view.currentIndex();
+        if (below(random, 2) == 0) {
+            for (int i = 0; i < 5; ++i)
+                view.selectionModel()->select(any(), QItemSelectionModel::Select);
+        }
+        const QModelIndex folded = any();
+        view.setExpanded(folded, !view.isExpanded(folded));
+        view.scrollTo(any(), QAbstractItemView::PositionAtTop);
+        m_first = view.indexAt(QPoint(0, 0));
+        remember({});
+    }
+
+    void check() const
+    {
+        const QScrollBar& bar = *m_view.verticalScrollBar();
+        // At its end a view has no more rows to put the first one to the top.
+        if (m_first.isValid() && bar.value() < bar.maximum())
+            RC_ASSERT((m_view.indexAt(QPoint(0, 0)) == m_first) == true);
+        RC_ASSERT(m_view.currentIndex().isValid());
+        if (m_current.isValid())
+            RC_ASSERT((m_view.currentIndex() == m_current) == true);
+        for (const QPersistentModelIndex& index : m_expanded) {
+            if (index.isValid() && index.model()->hasChildren(index))
+                RC_ASSERT(m_view.isExpanded(index));
+        }
+        checkSelected();
+    }
+
+private:
+    void remember(const QModelIndex& parent)
+    {
+        const QAbstractItemModel& shown = *m_view.model();
+        for (int row = 0; row < shown.rowCount(parent); ++row) {
+            const QModelIndex index = shown.index(row, 0, parent);
+            if (m_view.isExpanded(index))
+                m_expanded.emplace_back(index);
+            if (m_view.selectionModel()->isSelected(index))
+                m_selected.emplace_back(index);
+            remember(index);
+        }
+    }
+
+    /** Those that are still there, and the current one when the only one has gone. */
+    void checkSelected() const
+    {
+        const QItemSelectionModel& selection = *m_view.selectionModel();
+        int count = 0;
+        for (const QPersistentModelIndex& index : m_selected) {
+            if (index.isValid())
+                RC_ASSERT(selection.isSelected(index));
+            count += index.isValid() ? 1 : 0;
+        }
+        if (count == 0 && m_selected.size() == 1) {
+            RC_ASSERT(selection.isSelected(m_view.currentIndex()));
+            count = 1;
+        }
+        RC_ASSERT(selection.selectedRows().size() == count);
+    }
+
+    QTreeView& m_view;
+    QPersistentModelIndex m_first;
+    QPersistentModelIndex m_current;
+    std::vector<QPersistentModelIndex> m_selected;
+    std::vector<QPersistentModelIndex> m_expanded;
+};
 
 QString rowText(int number)
 {
@@ -132,7 +260,7 @@ void ZVTreeViewPlaceKeeperTest::firstVisibleRowStays()
     QFETCH(bool, sorted);
     QFETCH(bool, perPixel);
     QFETCH(bool, reverse);
-    Scene scene(sorted);
+    Scene scene(sorted ? Through::Sorting : Through::Nothing);
     if (perPixel)
         scene.view.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     scene.scrollToTop(rowText(41));
@@ -249,44 +377,16 @@ void ZVTreeViewPlaceKeeperTest::aViewMayGetAnotherModel()
 
 void ZVTreeViewPlaceKeeperTest::anyRefreshKeepsThePlace()
 {
-    const bool held = rc::check("any refresh", [](bool sorted) {
-        Scene scene(sorted);
+    const bool held = rc::check("any refresh", [] {
+        Scene scene(Through(*rc::gen::inRange(0, 4)));
         std::minstd_rand random(*rc::gen::inRange(1U, 100000U));
-        const auto below = [&random](int bound) { return int(random() % unsigned(bound)); };
         for (int round = 0; round < 4; ++round) {
-            const int top = below(80);
-            scene.view.scrollTo(scene.indexOf(rowText(top)), QAbstractItemView::PositionAtTop);
-            const QPersistentModelIndex first = scene.view.indexAt(QPoint(0, 0));
-            const QPersistentModelIndex selected =
-                scene.view.model()->index(below(scene.view.model()->rowCount()), 0);
-            scene.view.setCurrentIndex(selected);
-            scene.view.scrollTo(first, QAbstractItemView::PositionAtTop);
-            const bool wasFirst = scene.view.indexAt(QPoint(0, 0)) == first;
-            const QPersistentModelIndex expanded = scene.indexOf(rowText(5 * below(20)));
-            {
-                const ZVTreeViewModelBatch batch(&scene.model);
-                ZVTreeViewItem* root = scene.model.rootItem();
-                for (int change = below(20); change > 0; --change) {
-                    const int row = below(root->childCount());
-                    const int target = below(root->childCount() - 1);
-                    if (below(3) == 0)
-                        root->insertChild(row, Scene::newRow(-1000 - change));
-                    else if (below(4) == 0)
-                        root->deleteChild(row);
-                    else
-                        root->insertChild(target, root->takeChild(row));
-                }
-            }
+            Places first(scene.view, random);
+            Places second(scene.second, random);
+            changeAnything(scene.model, random);
             QCoreApplication::processEvents();
-            QScrollBar& bar = *scene.view.verticalScrollBar();
-            if (first.isValid() && wasFirst && bar.value() < bar.maximum())
-                RC_ASSERT((scene.view.indexAt(QPoint(0, 0)) == first) == true);
-            RC_ASSERT(scene.view.currentIndex().isValid());
-            if (selected.isValid())
-                RC_ASSERT((scene.view.currentIndex() == selected) == true);
-            RC_ASSERT(scene.view.selectionModel()->isSelected(scene.view.currentIndex()));
-            if (expanded.isValid() && scene.view.model()->rowCount(expanded) > 0)
-                RC_ASSERT(scene.view.isExpanded(expanded));
+            first.check();
+            second.check();
         }
     });
     QVERIFY(held);
