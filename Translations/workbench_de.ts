@@ -1794,8 +1794,8 @@
 <context>
     <name>Zorvane::Workbench::QuantityPanel</name>
     <message>
-        <source>&amp;Thickness:</source>
-        <translation>&amp;Dicke:</translation>
+        <source>Thic&amp;kness:</source>
+        <translation>Di&amp;cke:</translation>
     </message>
     <message>
         <source>F&amp;orce:</source>
@@ -2065,11 +2065,11 @@
     </message>
     <message>
         <source>&amp;Display</source>
-        <translation>An&amp;zeige</translation>
+        <translation>Anzei&amp;ge</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation>E&amp;xtras</translation>
+        <translation>&amp;Extras</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -2081,7 +2081,7 @@
     </message>
     <message>
         <source>Open Sa&amp;mple</source>
-        <translation>&amp;Beispiel öffnen</translation>
+        <translation>Beis&amp;piel öffnen</translation>
     </message>
     <message>
         <source>&amp;Mode</source>
@@ -2251,7 +2251,7 @@
     </message>
     <message>
         <source>Reope&amp;n All</source>
-        <translation>Alles &amp;neu öffnen</translation>
+        <translation>A&amp;lles neu öffnen</translation>
     </message>
     <message>
         <source>Read everything again</source>
@@ -2259,7 +2259,7 @@
     </message>
     <message>
         <source>Close A&amp;ll</source>
-        <translation>Alles s&amp;chließen</translation>
+        <translation>Alles sc&amp;hließen</translation>
     </message>
     <message>
         <source>Close all designs and meshes</source>

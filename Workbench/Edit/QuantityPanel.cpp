@@ -33,7 +33,8 @@ bool isShown(const EngineeringSpinBox& box, double value)
 
 QString labelText(Quantity quantity)
 {
-    return quantity == Quantity::Thickness ? QuantityPanel::tr("&Thickness:")
+    // Letters that no menu of the window has.
+    return quantity == Quantity::Thickness ? QuantityPanel::tr("Thic&kness:")
                                            : QuantityPanel::tr("F&orce:");
 }
 

@@ -4,6 +4,7 @@
 
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
+#include <QtGui/QWindow>
 
 namespace Zorvane::Workbench {
 
@@ -33,7 +34,17 @@ void FilePreviewEditor::initialize(int screen)
     m_window = std::make_unique<PreviewWindow>();
     if (number < screens.size())
         m_window->move(screens[number]->availableGeometry().topLeft());
+    keepInFront();
     m_window->showFile(m_path);
+}
+
+/** Of the window beside it, though it has no parent that a dialog would block it with. */
+void FilePreviewEditor::keepInFront()
+{
+    QWindow* const beside = m_beside ? m_beside->window()->windowHandle() : nullptr;
+    // There is no window of the system before somebody asks for it.
+    if (beside != nullptr && m_window->winId() != 0)
+        m_window->windowHandle()->setTransientParent(beside);
 }
 
 int FilePreviewEditor::getScreenNumber() const

@@ -15,7 +15,10 @@ class PreviewWindow;
 class FilePreviewEditor : public PreviewEditorInterface
 {
 public:
-    /** The first screen is that of `beside`, which may be null. */
+    /**
+     * The first screen is that of `beside`, which may be null. The preview stays in front of its
+     * window.
+     */
     explicit FilePreviewEditor(QWidget* beside);
     ~FilePreviewEditor() override;
 
@@ -35,6 +38,8 @@ public:
     PreviewWindow* window() const { return m_window.get(); }
 
 private:
+    void keepInFront();
+
     QPointer<QWidget> m_beside;
     std::unique_ptr<PreviewWindow> m_window;
     /** Shown once there is a window. */

@@ -78,8 +78,8 @@ StressWindow::StressWindow(QWidget* parent)
     layout->addWidget(createSide());
     connect(&m_clock, &QTimer::timeout, this, &StressWindow::step);
     setRate(m_rate->value());
-    auto* closing = new QShortcut(QKeySequence::Close, this);
-    connect(closing, &QShortcut::activated, this, &QWidget::close);
+    for (const QKeySequence::StandardKey key : {QKeySequence::Close, QKeySequence::Cancel})
+        connect(new QShortcut(key, this), &QShortcut::activated, this, &QWidget::close);
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     resize(130 * digit, 88 * digit);
     refill();

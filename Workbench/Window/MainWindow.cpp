@@ -104,6 +104,8 @@ MainWindow::MainWindow(QWidget* parent)
     connectFileCommands();
     connectSaving();
     showSession();
+    // In the filter, letters would be no commands.
+    m_treeView->setFocus();
 }
 
 MainWindow::~MainWindow()

@@ -7,6 +7,7 @@
 #include <QtCore/QLocale>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QScreen>
+#include <QtGui/QWindow>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPlainTextEdit>
@@ -46,6 +47,7 @@ private Q_SLOTS:
     void picturesAreNeverEnlarged();
 
     void editorMakesItsWindowWhenInitialized();
+    void editorStaysInFrontOfTheWindowBeside();
     void editorShowsTheFileThatWasSelectedBefore();
     void editorReadsNothingWhileHidden();
     void editorMovesItsWindow();
@@ -196,6 +198,19 @@ void PreviewWindowTest::editorMakesItsWindowWhenInitialized()
         QCOMPARE(editor.getScreenNumber(), 0);
         QVERIFY(editor.getGeometry().isValid());
     }
+}
+
+void PreviewWindowTest::editorStaysInFrontOfTheWindowBeside()
+{
+    QWidget window;
+    auto* const beside = new QWidget(&window);
+    window.show();
+    FilePreviewEditor editor(beside);
+    editor.initialize(-1);
+    editor.setVisible(true);
+    QCOMPARE(editor.window()->windowHandle()->transientParent(), window.windowHandle());
+    QVERIFY(editor.window()->isWindow());
+    QVERIFY(!editor.window()->parent());
 }
 
 void PreviewWindowTest::editorShowsTheFileThatWasSelectedBefore()

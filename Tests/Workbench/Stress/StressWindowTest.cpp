@@ -8,6 +8,7 @@
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAbstractSpinBox>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTreeView>
 
@@ -111,6 +112,7 @@ private Q_SLOTS:
     void theClockStepsUntilStopped();
     void choosingATreeFillsTheView();
     void closingStopsAndDeletes();
+    void escapeCloses();
     void everyControlHasANameAndIsReachedByTab();
 };
 
@@ -296,6 +298,23 @@ void StressWindowTest::closingStopsAndDeletes()
     window->show();
     window->setRunning(true);
     window->close();
+    QTRY_VERIFY(!window);
+}
+
+void StressWindowTest::escapeCloses()
+{
+    const QPointer<StressWindow> window = new StressWindow;
+    window->show();
+    window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window, Zorvane::Testing::patience));
+    window->view().setFocus();
+    // Leaves the name first that is being edited.
+    window->view().edit(window->view().currentIndex());
+    QTRY_VERIFY(qobject_cast<QLineEdit*>(QApplication::focusWidget()));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QTRY_VERIFY(!qobject_cast<QLineEdit*>(QApplication::focusWidget()));
+    QVERIFY(window->isVisible());
+    QTest::keyClick(&window->view(), Qt::Key_Escape);
     QTRY_VERIFY(!window);
 }
 

@@ -3,12 +3,16 @@
 #include "Host/Translation/Translator.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Tree/TreeFixture.h"
+#include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/Design/Quantity.h"
 #include "Workbench/Tree/RowDecoration.h"
 #include "Workbench/Window/MainWindow.h"
 
 #include <QtWidgets/QAction>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
+#include <QtWidgets/QPushButton>
 
 namespace Zorvane::Workbench {
 
@@ -37,6 +41,51 @@ QStringList menuTitles(const MainWindow& window)
     return titles;
 }
 
+/** What Alt and a letter lead to in the window itself, by their texts. */
+QStringList textsWithKeys(const MainWindow& window)
+{
+    QStringList texts;
+    for (const QAction* action : window.menuBar()->actions())
+        texts << action->text();
+    for (const auto* label : window.findChildren<QLabel*>())
+        if (label->buddy())
+            texts << label->text();
+    for (const auto* button : window.findChildren<QPushButton*>())
+        texts << button->text();
+    return texts;
+}
+
+QStringList textsOf(const QMenu& menu)
+{
+    QStringList texts;
+    for (const QAction* action : menu.actions())
+        texts << action->text();
+    return texts;
+}
+
+/** The shortcuts of the window's commands, by themselves. */
+QMap<QString, QString> commandsByKey(const MainWindow& window)
+{
+    QMap<QString, QString> byKey;
+    for (const QAction* action : window.actions())
+        for (const QKeySequence& key : action->shortcuts())
+            byKey.insert(key.toString(), action->text());
+    return byKey;
+}
+
+/** Empty if every letter is there once, and no key that is taken already. */
+QString lettersTwice(const QStringList& texts, QMap<QString, QString> byKey = {})
+{
+    QStringList twice;
+    for (const QString& text : texts) {
+        const QString key = QKeySequence::mnemonic(text).toString();
+        if (!key.isEmpty() && byKey.contains(key))
+            twice << key + QStringLiteral(": ") + byKey.value(key) + QStringLiteral(", ") + text;
+        byKey.insert(key, text);
+    }
+    return twice.join(QLatin1Char('\n'));
+}
+
 } // namespace
 
 class LanguageTest : public Testing::TestCase
@@ -50,6 +99,8 @@ private Q_SLOTS:
     void countsInEnglish();
     void aLanguageWithoutTextsIsEnglishThroughout();
     void theTextsGoWithTheLanguage();
+    void aKeyOfTheWindowLeadsToOnePlace_data();
+    void aKeyOfTheWindowLeadsToOnePlace();
 };
 
 void LanguageTest::speaksGermanThroughout()
@@ -102,6 +153,27 @@ void LanguageTest::theTextsGoWithTheLanguage()
         QCOMPARE(quantityName(Quantity::Force), QStringLiteral("Kraft"));
     }
     QCOMPARE(quantityName(Quantity::Force), QStringLiteral("Force"));
+}
+
+void LanguageTest::aKeyOfTheWindowLeadsToOnePlace_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::newRow("English") << s_english;
+    QTest::newRow("German") << s_german;
+}
+
+void LanguageTest::aKeyOfTheWindowLeadsToOnePlace()
+{
+    QFETCH(QLocale, locale);
+    const Language language(locale);
+    MainWindow window;
+    QVERIFY(textsWithKeys(window).size() >= 8);
+    for (const WindowMode mode : {WindowMode::Tube, WindowMode::Tandrel, WindowMode::Forming}) {
+        window.commands().setMode(mode);
+        QCOMPARE(lettersTwice(textsWithKeys(window), commandsByKey(window)), QString());
+        for (const auto* menu : window.findChildren<QMenu*>())
+            QCOMPARE(lettersTwice(textsOf(*menu)), QString());
+    }
 }
 
 } // namespace Zorvane::Workbench

@@ -61,6 +61,7 @@ private Q_SLOTS:
 
     void everyControlHasAName();
     void everyControlIsReachedByTab();
+    void theTreeHasTheFocusFirst();
     void opensADesignAndSelectsItsFirstPart();
     void opensAMeshFile();
     void whatCannotBeOpenedIsToldAndTheRestOpens();
@@ -154,6 +155,12 @@ void MainWindowTest::everyControlIsReachedByTab()
             (widget->focusPolicy() & Qt::TabFocus))
             QVERIFY2(reached.contains(widget), qPrintable(accessibleName(widget)));
     QVERIFY(reached.size() >= 7);
+}
+
+void MainWindowTest::theTreeHasTheFocusFirst()
+{
+    openDesign();
+    QTRY_VERIFY(m_window->treeView().hasFocus());
 }
 
 void MainWindowTest::opensADesignAndSelectsItsFirstPart()
