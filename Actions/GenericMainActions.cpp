@@ -2,6 +2,7 @@
 
 #include "Host/Widgets/ZVMessageBox.h"
 
+#include <QtCore/QStringBuilder>
 #include <QtCore/QVariant>
 #include <QtGui/QIcon>
 #include <QtWidgets/QAction>
@@ -15,9 +16,29 @@ namespace {
 /** What SIGNAL(triggered()) makes; spelled out, since the macro checks the text at run time. */
 constexpr char s_triggered[] = "2triggered()";
 
+/** Visible ASCII characters that Qt writes as they are; lower-case letters it doesn't. */
+bool isPlainKey(int key)
+{
+    return key > ' ' && key <= '~' && !(key >= 'a' && key <= 'z');
+}
+
+/**
+ * As `QKeySequence::PortableText`. Most shortcuts are one plain key with modifiers; these are
+ * written here, as asking Qt for them takes longer than all else that a tool tip needs.
+ */
 QString withShortcut(const QString& toolTip, const QKeySequence& shortcut)
 {
-    return toolTip + QStringLiteral("    ") + shortcut.toString(QKeySequence::PortableText);
+    // By their bits: Shift, Ctrl, Alt.
+    static constexpr const char* s_modifiers[] = {
+        "", "Shift+", "Ctrl+", "Ctrl+Shift+", "Alt+", "Alt+Shift+", "Ctrl+Alt+", "Ctrl+Alt+Shift+"};
+    constexpr int s_modifierMask = Qt::SHIFT | Qt::CTRL | Qt::ALT;
+    const QLatin1String gap("    ");
+    const int code = shortcut[0];
+    const int key = code & ~s_modifierMask;
+    if (shortcut.count() != 1 || !isPlainKey(key))
+        return toolTip % gap % shortcut.toString(QKeySequence::PortableText);
+    const auto modifiers = std::size_t(code & s_modifierMask) / std::size_t(Qt::SHIFT);
+    return toolTip % gap % QLatin1String(s_modifiers[modifiers]) % QChar(key);
 }
 
 } // namespace
@@ -68,14 +89,11 @@ QAction* GenericMainActions::createAction(const QString& text, const QIcon& icon
     // With the icon in the constructor, there is no change to announce.
     auto* const created =
         icon.isNull() ? new QAction(text, parent) : new QAction(icon, text, parent);
-    QString composed = toolTip;
-    if (!shortcut.isEmpty()) {
+    const bool hasShortcut = !shortcut.isEmpty();
+    if (hasShortcut)
         created->setShortcut(shortcut);
-        if (!toolTip.isEmpty())
-            composed = withShortcut(toolTip, shortcut);
-    }
-    if (!composed.isEmpty())
-        created->setToolTip(composed);
+    if (!toolTip.isEmpty())
+        created->setToolTip(hasShortcut ? withShortcut(toolTip, shortcut) : toolTip);
     if (!objectName.isEmpty())
         created->setObjectName(objectName);
     return created;

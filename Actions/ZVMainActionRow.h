@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Actions/StaticText.h"
+
 namespace Zorvane {
 
 /** What is done to an action after it is created. */
@@ -60,7 +62,7 @@ struct ZVMainActionRow
             ProductCoordinates
         };
         Kind kind = None;
-        const char* path = nullptr;
+        StaticText path;
     };
 
     /** A tool tip that is the text once more. */
@@ -68,7 +70,7 @@ struct ZVMainActionRow
 
     /** An id of `Actions`, or less than 0 for an action that is reached through its group only. */
     int id;
-    const char* objectName;
+    StaticText objectName;
     const char* text;
     /** Empty for none. */
     const char* toolTip;

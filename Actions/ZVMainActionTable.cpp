@@ -82,12 +82,14 @@ constexpr Shortcut code(int key)
     return {Shortcut::KeyCode, key, nullptr};
 }
 
-constexpr Icon svg(const char* path)
+template <std::size_t Size>
+constexpr Icon svg(const char (&path)[Size])
 {
     return {Icon::Svg, path};
 }
 
-constexpr Icon twoSize(const char* path)
+template <std::size_t Size>
+constexpr Icon twoSize(const char (&path)[Size])
 {
     return {Icon::TwoSizeSvg, path};
 }
@@ -112,8 +114,15 @@ constexpr Settings onPitchedStations(const char* text)
     return {0, 0, 0, text};
 }
 
-constexpr Icon s_overview{Icon::Overview, nullptr};
-constexpr Icon s_productCoordinates{Icon::ProductCoordinates, nullptr};
+constexpr Icon overview()
+{
+    return {Icon::Overview, {}};
+}
+
+constexpr Icon productCoordinates()
+{
+    return {Icon::ProductCoordinates, {}};
+}
 
 constexpr Settings s_windowContext{Settings::WindowContext};
 constexpr Settings s_disabled{Settings::Disabled};
@@ -225,7 +234,7 @@ const ZVMainActionRow ZVMainActions::s_rows[] = {
     {ViewFlip,                             "ViewFlipAction",                  QT_TR_NOOP("Flip View"),                         QT_TR_NOOP("Flip the view"),                 keys(QT_TR_NOOP("Shift+V")),       svg(":/Icons/Ribbon/view_flip_16.svg"),              {}},
     {ViewLast,                             "ViewLastAction",                  QT_TR_NOOP("Last View"),                         QT_TR_NOOP("Restore the last view"),         keys(QT_TR_NOOP("Shift+L")),       svg(":/Icons/Ribbon/view_last_16.svg"),              {}},
     {ViewFitToFeature,                     "ZoomToFeatureAction",             QT_TR_NOOP("Zoom to Feature"),                   s_sameAsText,                                keys(QT_TR_NOOP("Alt+F")),         {},                                                  {}},
-    {ViewToggleSelectionOverview,          "ToggleOverviewAction",            QT_TR_NOOP("Toggle Overview"),                   s_sameAsText,                                keys(QT_TR_NOOP("Shift+D")),       s_overview,                                          s_checkable},
+    {ViewToggleSelectionOverview,          "ToggleOverviewAction",            QT_TR_NOOP("Toggle Overview"),                   s_sameAsText,                                keys(QT_TR_NOOP("Shift+D")),       overview(),                                          s_checkable},
     {SnapScreenshotOfPart,                 "MakeSnapshotAction",              QT_TR_NOOP("Make Snapshot for Preview"),         QT_TR_NOOP("A Screenshot was manually captured and saved for File Preview."), {},                                twoSize(":/Icons/Ribbon/take_screenshot"),           {}},
     {ToggleAutomaticScreenshotMode,        "AutoSnapshotAction",              QT_TR_NOOP("Automatic Snapshot for Preview"),    QT_TR_NOOP("Automatic Screenshot capturing is enabled. Manually captured ones will be overwritten."), {},                                twoSize(":/Icons/Ribbon/reset_screenshot_mode"),     s_checkable},
     {GotoNextTimeStep,                     "NextTimeStepAction",              QT_TR_NOOP("Next Time Step"),                    "",                                          code(Qt::Key_Right),               {},                                                  {}},
@@ -240,7 +249,7 @@ const ZVMainActionRow ZVMainActions::s_rows[] = {
     {OutOfRange,                           "OutOfRangeAction",                QT_TR_NOOP("Out of Range"),                      "",                                          keys(QT_TR_NOOP("O")),             {},                                                  {}},
     {Discrete,                             "DiscreteAction",                  QT_TR_NOOP("Discrete"),                          "",                                          keys(QT_TR_NOOP("D")),             {},                                                  {}},
     {s_noId,                               "PressCoordinatesAction",          QT_TR_NOOP("Operation Coordinates"),             "",                                          {},                                twoSize(":/Icons/Ribbon/view_press_coords"),         onPitchedStations(QT_TR_NOOP("Non-Pitched Station Coordinates")) | s_checkable | s_checked | s_disabled | ofCoordinates(1)},
-    {s_noId,                               "ProductCoordinatesAction",        QT_TR_NOOP("Product Coordinates"),               "",                                          {},                                s_productCoordinates,                                s_checkable | s_disabled | ofCoordinates(0)},
+    {s_noId,                               "ProductCoordinatesAction",        QT_TR_NOOP("Product Coordinates"),               "",                                          {},                                productCoordinates(),                              s_checkable | s_disabled | ofCoordinates(0)},
     {s_noId,                               "PresslineViewAction",             QT_TR_NOOP("Pressline View"),                    "",                                          {},                                twoSize(":/Icons/Ribbon/strip_view"),                onPitchedStations(QT_TR_NOOP("Pitched Station Coordinates")) | s_checkable | s_disabled | ofCoordinates(2)},
     {s_noId,                               "SinglePitchAction",               QT_TR_NOOP("Show Current Station/Feature"),      "",                                          {},                                twoSize(":/Icons/Tandrel/DevelopPart/part_single"),  s_checkable | s_disabled | ofStations(0)},
     {s_noId,                               "ThreePitchAction",                QT_TR_NOOP("Show Current and Neighboring Stations/Features"), "",                                          {},                                twoSize(":/Icons/Tandrel/DevelopPart/part_three"),   s_checkable | s_disabled | ofStations(1)},

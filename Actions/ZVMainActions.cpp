@@ -22,9 +22,9 @@ QIcon createIcon(const ZVMainActionRow::Icon& icon)
 {
     switch (icon.kind) {
     case ZVMainActionRow::Icon::Svg:
-        return createSvgIcon(QString::fromLatin1(icon.path));
+        return createSvgIcon(icon.path.toString());
     case ZVMainActionRow::Icon::TwoSizeSvg:
-        return createTwoSizeSvgIcon(QString::fromLatin1(icon.path));
+        return createTwoSizeSvgIcon(icon.path.toString());
     case ZVMainActionRow::Icon::Overview:
         return createSvgIcon(Resources::getIconPathProvider()->getOverviewIconPath());
     case ZVMainActionRow::Icon::ProductCoordinates:
@@ -62,8 +62,10 @@ QKeySequence shortcutOf(const ZVMainActionRow::Shortcut& shortcut)
 /** The angle stands where the text asks for it; a tool tip may not. */
 QString translated(const char* source, int degrees)
 {
+    if (degrees == 0)
+        return ZVMainActions::tr(source);
     const QString text = ZVMainActions::tr(source);
-    if (degrees == 0 || !text.contains(QLatin1String("%1")))
+    if (!text.contains(QLatin1String("%1")))
         return text;
     return text.arg(ZVFormatter::toString(degrees, "degree", true), 0, QLatin1Char(' '));
 }
@@ -71,10 +73,9 @@ QString translated(const char* source, int degrees)
 QString textOf(const ZVMainActionRow& row)
 {
     const Settings& settings = row.settings;
-    const bool isPitched =
-        BuildInformation::getProductType() == BuildInformation::s_pitchedStations;
-    return translated(isPitched && settings.pitchedText ? settings.pitchedText : row.text,
-                      settings.degrees);
+    const bool isPitched = settings.pitchedText && BuildInformation::getProductType() ==
+                                                       BuildInformation::s_pitchedStations;
+    return translated(isPitched ? settings.pitchedText : row.text, settings.degrees);
 }
 
 QString toolTipOf(const ZVMainActionRow& row, const QString& text)
@@ -182,17 +183,27 @@ ZVExclusiveActionGroup* ZVMainActions::getViewReferenceStationVisibilityGroup()
 void ZVMainActions::initActions()
 {
     mapReverse();
+    ActionsById created{};
     for (int i = 0; i < s_rowCount; ++i) {
         const ZVMainActionRow& row = s_rows[i];
         const QString text = textOf(row);
-        QAction* const created =
+        QAction* const action =
             createAction(text, createIcon(row.icon), toolTipOf(row, text), shortcutOf(row.shortcut),
-                         this, QString::fromLatin1(row.objectName));
+                         this, row.objectName.toString());
         if (row.id >= 0)
-            m_actions[row.id] = created;
-        applySettings(row.settings, created);
-        addToGroup(row.settings, created);
+            created[std::size_t(row.id)] = action;
+        applySettings(row.settings, action);
+        addToGroup(row.settings, action);
     }
+    enter(created);
+}
+
+void ZVMainActions::enter(const ActionsById& created)
+{
+    // From the last to the first, each is put in front of the others without a search.
+    for (std::size_t id = created.size(); id-- > 0;)
+        if (created[id])
+            m_actions.insert(m_actions.cbegin(), int(id), created[id]);
 }
 
 void ZVMainActions::addToGroup(const ZVMainActionSettings& settings, QAction* action)

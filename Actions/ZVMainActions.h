@@ -4,6 +4,7 @@
 
 #include <QtCore/QString>
 
+#include <array>
 #include <vector>
 
 QT_BEGIN_NAMESPACE
@@ -179,11 +180,14 @@ public:
     ZVExclusiveActionGroup* getViewReferenceStationVisibilityGroup();
 
 private:
+    using ActionsById = std::array<QAction*, OpenFromVanTrelWithStandard + 1>;
+
     ZVMainActions();
     ~ZVMainActions() override;
 
     static ZVMainActions*& theInstancePtr();
     void initActions();
+    void enter(const ActionsById& created);
     void addToGroup(const ZVMainActionSettings& settings, QAction* action);
 
     static const ZVMainActionRow s_rows[];

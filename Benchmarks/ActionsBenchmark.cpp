@@ -1,9 +1,13 @@
 #include "Actions/ZVMainActions.h"
 #include "Benchmarks/Support/RatioRow.h"
 
+#include <QtCore/QMap>
+#include <QtGui/QIcon>
 #include <QtWidgets/QAction>
+#include <QtWidgets/QActionGroup>
 
 #include <memory>
+#include <vector>
 
 namespace Zorvane::Benchmarks {
 
@@ -34,6 +38,81 @@ void createBareActions(benchmark::State& state)
     }
 }
 
+/** What an action of the table shows, all of it made beforehand. */
+struct Properties
+{
+    QString objectName;
+    QString text;
+    /** Empty where it is what Qt makes of the text. */
+    QString toolTip;
+    QKeySequence shortcut;
+    QIcon icon;
+    bool isCheckable;
+    bool isChecked;
+    bool isEnabled;
+    /** Null outside of groups; only to tell the groups apart. */
+    const QActionGroup* group;
+};
+
+Properties propertiesOf(const QAction* action)
+{
+    const QAction plain(action->text());
+    const QString toolTip = action->toolTip() == plain.toolTip() ? QString() : action->toolTip();
+    return {action->objectName(), action->text(),      toolTip,
+            action->shortcut(),   action->icon(),      action->isCheckable(),
+            action->isChecked(),  action->isEnabled(), action->actionGroup()};
+}
+
+std::vector<Properties> propertiesOfTable()
+{
+    ZVMainActions::createInstance();
+    std::vector<Properties> all;
+    for (const QObject* const child : ZVMainActions::getInstance()->children()) {
+        const auto* const action = qobject_cast<const QAction*>(child);
+        // The undefined action has no name; it is no row of the table.
+        if (action && !action->objectName().isEmpty())
+            all.push_back(propertiesOf(action));
+    }
+    ZVMainActions::releaseInstance();
+    return all;
+}
+
+QAction* createWithProperties(const Properties& properties, QObject* parent)
+{
+    auto* const action = new QAction(properties.icon, properties.text, parent);
+    if (!properties.shortcut.isEmpty())
+        action->setShortcut(properties.shortcut);
+    if (!properties.toolTip.isEmpty())
+        action->setToolTip(properties.toolTip);
+    action->setObjectName(properties.objectName);
+    action->setCheckable(properties.isCheckable);
+    action->setChecked(properties.isChecked);
+    action->setEnabled(properties.isEnabled);
+    return action;
+}
+
+/** The least that actions of these properties take in Qt: no table, look-up or translation. */
+void createActionsWithProperties(benchmark::State& state)
+{
+    static const std::vector<Properties> s_all = propertiesOfTable();
+    for (auto _ : state) {
+        auto parent = std::make_unique<QObject>();
+        QMap<const QActionGroup*, QActionGroup*> groups;
+        for (const Properties& properties : s_all) {
+            QAction* const action = createWithProperties(properties, parent.get());
+            if (!properties.group)
+                continue;
+            QActionGroup*& group = groups[properties.group];
+            if (!group)
+                group = new QActionGroup(parent.get());
+            group->addAction(action);
+        }
+        state.PauseTiming();
+        parent.reset();
+        state.ResumeTiming();
+    }
+}
+
 } // namespace
 
 } // namespace Zorvane::Benchmarks
@@ -42,5 +121,8 @@ int main(int argc, char** argv)
 {
     using namespace Zorvane::Benchmarks;
     addTimeRow("actions/create", benchmark::kMicrosecond, createTable, createBareActions);
+    // How much of that is Qt's own part, which no table can save.
+    addTimeRow("actions/properties", benchmark::kMicrosecond, createTable,
+               createActionsWithProperties);
     return runRows(argc, argv);
 }

@@ -7,6 +7,8 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QPushButton>
 
+#include <iterator>
+
 using namespace Zorvane;
 
 namespace {
@@ -78,6 +80,8 @@ private Q_SLOTS:
     void createsActionsAsAsked();
     void anActionWithoutExtrasHasQtsDefaults();
     void aSecondCombinationIsInTheToolTipToo();
+    void everyKeyIsToldInItsPortableText_data();
+    void everyKeyIsToldInItsPortableText();
 
     void changesAToolTip();
     void anEmptyToolTipChangesNothing();
@@ -229,6 +233,37 @@ void GenericMainActionsTest::aSecondCombinationIsInTheToolTipToo()
     const QAction* const action = table.createAction(
         QStringLiteral("Fold"), {}, QStringLiteral("Fold"), keys("Ctrl+K, F"), &table, {});
     QCOMPARE(action->toolTip(), QStringLiteral("Fold    Ctrl+K, F"));
+}
+
+void GenericMainActionsTest::everyKeyIsToldInItsPortableText_data()
+{
+    QTest::addColumn<int>("modifiers");
+    QTest::newRow("alone") << 0;
+    const int s_all[] = {Qt::SHIFT, Qt::CTRL, Qt::ALT, Qt::META, int(Qt::KeypadModifier)};
+    for (int choice = 1; choice < 1 << std::size(s_all); ++choice) {
+        int modifiers = 0;
+        for (std::size_t i = 0; i < std::size(s_all); ++i)
+            modifiers |= choice & (1 << i) ? s_all[i] : 0;
+        QTest::addRow("%#010x", unsigned(modifiers)) << modifiers;
+    }
+}
+
+void GenericMainActionsTest::everyKeyIsToldInItsPortableText()
+{
+    QFETCH(int, modifiers);
+    QList<int> plainKeys{Qt::Key_Escape, Qt::Key_Right,  Qt::Key_F1,   Qt::Key_F24,
+                         Qt::Key_PageUp, Qt::Key_Delete, Qt::Key_Back, Qt::Key_unknown};
+    for (int character = 1; character <= 0x17f; ++character)
+        plainKeys.append(character);
+
+    Table table;
+    for (const int key : qAsConst(plainKeys)) {
+        const QKeySequence shortcut(modifiers | key);
+        const QAction* const action =
+            table.add(Fold, QStringLiteral("Text"), shortcut, QStringLiteral("Tip"));
+        QCOMPARE(action->toolTip(),
+                 QStringLiteral("Tip    ") + shortcut.toString(QKeySequence::PortableText));
+    }
 }
 
 void GenericMainActionsTest::changesAToolTip()
