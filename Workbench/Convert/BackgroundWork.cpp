@@ -34,7 +34,7 @@ Q_SIGNALS:
 
 void start(const std::shared_ptr<Completion>& completion, std::function<void()> work)
 {
-    QThreadPool::globalInstance()->start([completion, work = std::move(work)]() mutable {
+    backgroundThreads().start([completion, work = std::move(work)]() mutable {
         std::exception_ptr fault;
         try {
             work();
@@ -74,6 +74,7 @@ void waitWithDialog(const Completion& completion, const QString& text)
     QEventLoop loop;
     QObject::connect(&completion, &Completion::done, &loop, &QEventLoop::quit);
     QObject::connect(progress, &QProgressDialog::canceled, &loop, &QEventLoop::quit);
+    QObject::connect(progress, &QDialog::rejected, &loop, &QEventLoop::quit);
     QObject::connect(progress, &QObject::destroyed, &loop, &QEventLoop::quit);
     progress->show();
     loop.exec();
@@ -81,6 +82,14 @@ void waitWithDialog(const Completion& completion, const QString& text)
 }
 
 } // namespace
+
+QThreadPool& backgroundThreads()
+{
+    static QPointer<QThreadPool> s_threads;
+    if (!s_threads)
+        s_threads = new QThreadPool(QCoreApplication::instance());
+    return *s_threads;
+}
 
 bool workInBackground(const QString& text, std::function<void()> work)
 {

@@ -108,6 +108,10 @@ void Tour::readHelp()
         return;
     m_driver.settle();
     m_report.addPicture(QStringLiteral("help"), m_driver.pictureWith(*help));
+    applyAppearance(*qApp, Appearance::Dark);
+    m_driver.settle();
+    m_report.addPicture(QStringLiteral("help-dark"), m_driver.pictureWith(*help));
+    applyAppearance(*qApp, Appearance::Light);
     delete help;
     m_window.activateWindow();
     m_report.expect(m_driver.waitFor([this] { return m_window.isActiveWindow(); }),

@@ -4,6 +4,7 @@
 #include "Host/Widgets/ZVConverterDialog.h"
 #include "Workbench/Saving/DesignSaving.h"
 #include "Workbench/Solver/SimulationRunner.h"
+#include "Workbench/Tour/BoxGallery.h"
 #include "Workbench/Tour/DialogAnswers.h"
 #include "Workbench/Undo/EditHistory.h"
 #include "Workbench/Window/Appearance.h"
@@ -11,75 +12,21 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
-#include <QtGui/QPainter>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMessageBox>
 
-#include <algorithm>
 #include <memory>
-#include <vector>
 
 namespace Zorvane::Workbench {
 
 namespace {
 
-constexpr QSize s_gallerySize(1360, 820);
-constexpr int s_galleryGap = 24;
 /** Far more than the tour waits for. */
 constexpr int s_endlessSteps = 1'000'000;
 constexpr int s_shortSteps = 20;
-
-QImage grabbed(QWidget& widget, Appearance appearance)
-{
-    applyAppearance(*qApp, appearance);
-    QCoreApplication::sendPostedEvents();
-    return widget.grab().toImage();
-}
-
-QImage galleryOf(const std::vector<QImage>& boxes, const QColor& ground)
-{
-    QImage gallery(s_gallerySize, QImage::Format_RGB32);
-    gallery.fill(ground);
-    QPainter painter(&gallery);
-    QPoint place(s_galleryGap, s_galleryGap);
-    int rowHeight = 0;
-    for (const QImage& box : boxes) {
-        if (place.x() + box.width() + s_galleryGap > gallery.width()) {
-            place = QPoint(s_galleryGap, place.y() + rowHeight + s_galleryGap);
-            rowHeight = 0;
-        }
-        painter.drawImage(place, box);
-        place.rx() += box.width() + s_galleryGap;
-        rowHeight = std::max(rowHeight, box.height());
-    }
-    return gallery;
-}
-
-/** Takes pictures of the boxes that commands show, and calls the commands off. */
-class BoxGallery
-{
-public:
-    bool collect(const std::function<void()>& command)
-    {
-        DialogAnswers answers;
-        answers.add([this](QDialog& box) {
-            m_dark.push_back(grabbed(box, Appearance::Dark));
-            m_light.push_back(grabbed(box, Appearance::Light));
-            box.reject();
-        });
-        command();
-        return answers.allGiven();
-    }
-    QImage light() const { return galleryOf(m_light, Qt::lightGray); }
-    QImage dark() const { return galleryOf(m_dark, Qt::black); }
-
-private:
-    std::vector<QImage> m_light;
-    std::vector<QImage> m_dark;
-};
 
 /** Chooses one file, as a person would in the system's dialog. */
 class TourFileDialog : public NativeFileDialogDriver
@@ -138,6 +85,8 @@ void Tour::saveAndCompute()
     runASimulation();
     undoAndRedo();
     convertAMesh();
+    askAboutChangesOfOthers();
+    callAnUndefinedAction();
 }
 
 void Tour::askBeforeSaving()
@@ -245,7 +194,8 @@ void Tour::convertAMesh()
 {
     m_report.beginStep(QStringLiteral("A mesh converted"),
                        QStringLiteral("The cup's ASCII STL file as binary, with what the converter "
-                                      "had to say, and a file that is no mesh."));
+                                      "had to say, a conversion that is cancelled, and a file "
+                                      "that is no mesh."));
     QAction* convert = commandNamed(m_window, QStringLiteral("Convert"));
     m_report.expect(convert != nullptr, QStringLiteral("the command Convert"));
     if (convert == nullptr)
@@ -271,6 +221,7 @@ void Tour::convertAMesh()
     m_driver.settle();
     m_report.addPicture(QStringLiteral("converted-dark"), m_driver.pictureWith(*window));
     applyAppearance(*qApp, Appearance::Light);
+    cancelAConversion(*window);
     const NativeFileDialogReplacement chooser([this] {
         return std::make_unique<TourFileDialog>(
             workFolder(QStringLiteral("drawn-cup/drawn-cup.dsg")));

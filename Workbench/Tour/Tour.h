@@ -9,6 +9,7 @@
 QT_BEGIN_NAMESPACE
 class QDialog;
 class QFileDialog;
+class QWidget;
 QT_END_NAMESPACE
 
 namespace Zorvane {
@@ -55,6 +56,9 @@ private:
     void undoAndRedo();
     void convertAMesh();
     void chooseAndConvert(ZVConverterDialog& window, const QString& file);
+    void cancelAConversion(ZVConverterDialog& window);
+    void askAboutChangesOfOthers();
+    void callAnUndefinedAction();
     void openDoor();
     void useCommands();
     void useShortcuts();
@@ -86,6 +90,8 @@ private:
     QString workFolder(const QString& name) const { return m_work.filePath(name); }
     void reopen(const QStringList& paths);
     void picture(const QString& name);
+    /** In light and in dark colours, over the window; rejects the dialog. */
+    void showInBoth(const QString& name, QDialog& dialog, QWidget* beside = nullptr);
 
     MainWindow& m_window;
     WindowDriver m_driver;

@@ -39,18 +39,18 @@ private Q_SLOTS:
     void longWorkShowsADialogUntilItIsDone();
     void cancelledWorkEndsByItself();
     void windowThatGoesMeanwhileCancels();
+    void dialogRejectedCancels();
+    void windowsCanScaleImagesMeanwhile();
     void exceptionsArriveWhereTheWorkIsWaitedFor();
 };
 
 void BackgroundWorkTest::workIsDoneInAnotherThreadBeforeItReturns()
 {
-    const Testing::ExpectedModals none;
     QThread* worker = nullptr;
     QVERIFY(
         workInBackground(QStringLiteral("text"), [&worker] { worker = QThread::currentThread(); }));
     QVERIFY(worker);
     QVERIFY(worker != QThread::currentThread());
-    QVERIFY(none.allMet());
 }
 
 void BackgroundWorkTest::eventsGoOnMeanwhile()
@@ -90,11 +90,9 @@ void BackgroundWorkTest::cancelledWorkEndsByItself()
     }));
     QVERIFY(!work->hasEnded);
     work->mayEnd.release();
-    QThreadPool::globalInstance()->waitForDone();
-    QVERIFY(work->hasEnded);
+    QTRY_VERIFY(work->hasEnded);
     // The word of its end finds nobody.
-    QCoreApplication::processEvents();
-    QCOMPARE(work.use_count(), 1L);
+    QTRY_COMPARE(work.use_count(), 1L);
 }
 
 void BackgroundWorkTest::windowThatGoesMeanwhileCancels()
@@ -112,9 +110,29 @@ void BackgroundWorkTest::windowThatGoesMeanwhileCancels()
     QVERIFY(!workInBackground(QStringLiteral("text"), [work] { work->mayEnd.acquire(); }));
     QVERIFY(!window);
     work->mayEnd.release();
-    QThreadPool::globalInstance()->waitForDone();
-    QCoreApplication::processEvents();
-    QCOMPARE(work.use_count(), 1L);
+    QTRY_COMPARE(work.use_count(), 1L);
+}
+
+void BackgroundWorkTest::dialogRejectedCancels()
+{
+    const auto work = std::make_shared<LongWork>();
+    Testing::ExpectedModals modals;
+    modals.expectDialog<QProgressDialog>(QStringLiteral("progress"),
+                                         [](QProgressDialog& shown) { shown.reject(); });
+    QVERIFY(!workInBackground(QStringLiteral("text"), [work] { work->mayEnd.acquire(); }));
+    work->mayEnd.release();
+    QTRY_COMPARE(work.use_count(), 1L);
+}
+
+void BackgroundWorkTest::windowsCanScaleImagesMeanwhile()
+{
+    // Qt scales large images in the global pool and waits for it.
+    const auto work = std::make_shared<LongWork>();
+    QTimer::singleShot(0, this, [work] {
+        QThreadPool::globalInstance()->setMaxThreadCount(1);
+        QThreadPool::globalInstance()->start([work] { work->mayEnd.release(); });
+    });
+    QVERIFY(workInBackground(QStringLiteral("text"), [work] { work->mayEnd.acquire(); }));
 }
 
 void BackgroundWorkTest::exceptionsArriveWhereTheWorkIsWaitedFor()

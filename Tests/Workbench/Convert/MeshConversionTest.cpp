@@ -5,6 +5,7 @@
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Meshes/MeshFiles.h"
+#include "Workbench/Convert/BackgroundWork.h"
 #include "Workbench/Meshes/MeshFacts.h"
 #include "Workbench/Meshes/MeshReader.h"
 
@@ -59,7 +60,7 @@ public:
     }
 
 private:
-    QThreadPool& m_pool = *QThreadPool::globalInstance();
+    QThreadPool& m_pool = Workbench::backgroundThreads();
     QSemaphore m_mayEnd;
     int m_count = 0;
 };
