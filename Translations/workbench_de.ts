@@ -1353,10 +1353,6 @@
         <translation>Nicht gespeicherte Änderungen</translation>
     </message>
     <message>
-        <source>Save the changes of the design?</source>
-        <translation>Die Änderungen des Entwurfs speichern?</translation>
-    </message>
-    <message>
         <source>%1 is not shown, because the filter leaves it out.</source>
         <translation>%1 wird nicht gezeigt, weil der Filter es auslässt.</translation>
     </message>
@@ -1375,6 +1371,14 @@
     <message>
         <source>%1 was removed; its file stays.</source>
         <translation>%1 wurde entfernt; die Datei bleibt.</translation>
+    </message>
+    <message>
+        <source>%1 has unsaved changes. Save them before it is read again?</source>
+        <translation>%1 hat nicht gespeicherte Änderungen. Vor dem erneuten Lesen speichern?</translation>
+    </message>
+    <message>
+        <source>There are unsaved changes. Save them before everything is read again?</source>
+        <translation>Es gibt nicht gespeicherte Änderungen. Vor dem erneuten Lesen aller Entwürfe speichern?</translation>
     </message>
 </context>
 <context>

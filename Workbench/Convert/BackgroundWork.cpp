@@ -66,9 +66,11 @@ void waitPatiently(const Completion& completion)
 void waitWithDialog(const Completion& completion, const QString& text)
 {
     // The window may go away meanwhile, and takes the dialog along.
-    const QPointer<QProgressDialog> progress =
-        new QProgressDialog(text, QCoreApplication::translate("BackgroundWork", "Cancel"), 0, 0,
-                            QApplication::activeWindow());
+    QWidget* const window = QApplication::activeWindow();
+    const QPointer<QProgressDialog> progress = new QProgressDialog(
+        text, QCoreApplication::translate("BackgroundWork", "Cancel"), 0, 0, window);
+    if (window)
+        progress->setWindowTitle(window->windowTitle());
     progress->setWindowModality(Qt::ApplicationModal);
     progress->setMinimumDuration(0);
     QEventLoop loop;

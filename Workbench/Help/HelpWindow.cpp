@@ -2,11 +2,13 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
+#include <QtCore/QEvent>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QUrl>
 #include <QtGui/QDesktopServices>
 #include <QtWidgets/QListWidget>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QTextBrowser>
 #include <QtWidgets/QVBoxLayout>
@@ -105,6 +107,18 @@ QString HelpWindow::currentPage() const
 {
     const QListWidgetItem* const item = m_pages->currentItem();
     return item ? item->data(Qt::UserRole).toString() : QString();
+}
+
+void HelpWindow::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange || currentPage().isEmpty())
+        return;
+    // The links of a text keep the colour they were made with.
+    QScrollBar* const place = m_text->verticalScrollBar();
+    const int value = place->value();
+    open(currentPage());
+    place->setValue(value);
 }
 
 void HelpWindow::follow(const QUrl& link)

@@ -28,6 +28,9 @@ public:
     bool open(const QString& page);
     QString currentPage() const;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void listPages();
     void follow(const QUrl& link);

@@ -376,8 +376,13 @@ bool MainWindow::mayDropChanges(const GUIdentifier& designId)
 {
     if (!(designId.isNull() ? m_session.isModified() : m_session.isDesignModified(designId)))
         return true;
+    const QString question =
+        designId.isNull()
+            ? tr("There are unsaved changes. Save them before everything is read again?")
+            : tr("%1 has unsaved changes. Save them before it is read again?")
+                  .arg(m_session.name(designId));
     const auto answer = ZVMessageBox::question(
-        this, tr("Unsaved Changes"), tr("Save the changes of the design?"),
+        this, tr("Unsaved Changes"), question,
         ZVMessageBox::Save | ZVMessageBox::Discard | ZVMessageBox::Cancel, ZVMessageBox::Save);
     if (answer == ZVMessageBox::Save)
         return designId.isNull() ? m_saving->saveAll() : m_saving->save(designId);
@@ -388,6 +393,8 @@ void MainWindow::reload()
 {
     if (!mayDropChanges())
         return;
+    // What they told of is settled.
+    hideMessages();
     m_session.reload();
     m_factsReader->readAgain();
 }
@@ -397,6 +404,7 @@ void MainWindow::reopenDesign()
     const GUIdentifier design = designAtHand();
     if (design.isNull() || !mayDropChanges(design))
         return;
+    hideMessages();
     m_session.revert(design);
     m_factsReader->readAgain();
 }

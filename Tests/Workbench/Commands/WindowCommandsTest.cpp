@@ -8,9 +8,11 @@
 #include "Workbench/Window/MainWindow.h"
 
 #include <QtCore/QMetaEnum>
+#include <QtGui/QTextCursor>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
+#include <QtWidgets/QTextBrowser>
 #include <QtWidgets/QToolBar>
 #include <QtWidgets/QTreeView>
 
@@ -59,6 +61,7 @@ private Q_SLOTS:
 
     void helpShowsTheDocumentation();
     void helpFollowsLinks();
+    void helpFollowsTheColours();
     void theTableGoesWithTheLastWindow();
 
 private:
@@ -442,6 +445,26 @@ void WindowCommandsTest::helpFollowsLinks()
     QCOMPARE(help.currentPage(), QStringLiteral("Actions.md"));
     QVERIFY(!help.open(QStringLiteral("NoSuchPage.md")));
     QCOMPARE(help.currentPage(), QStringLiteral("Actions.md"));
+}
+
+void WindowCommandsTest::helpFollowsTheColours()
+{
+    const auto colourOfLink = [](const HelpWindow& help) {
+        QTextCursor cursor(help.findChild<QTextBrowser*>()->document());
+        while (!cursor.charFormat().isAnchor() && cursor.movePosition(QTextCursor::NextCharacter)) {
+        }
+        return cursor.charFormat().foreground().color();
+    };
+    const QPalette before = QApplication::palette();
+    HelpWindow help;
+    QVERIFY(help.open(QStringLiteral("Workbench.md")));
+    QPalette changed = before;
+    changed.setColor(QPalette::Link, QColor(10, 200, 30));
+    QApplication::setPalette(changed);
+    const QColor after = colourOfLink(help);
+    QApplication::setPalette(before);
+    QCOMPARE(after, QColor(10, 200, 30));
+    QCOMPARE(help.currentPage(), QStringLiteral("Workbench.md"));
 }
 
 void WindowCommandsTest::theTableGoesWithTheLastWindow()

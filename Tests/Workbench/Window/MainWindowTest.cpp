@@ -73,6 +73,8 @@ private Q_SLOTS:
     void renamingRefusedIsToldUntilSomethingElseIsSelected();
     void savingWritesTheDesign();
     void savingOverAnotherProgramsChangeAsks();
+    void reopeningAsksForUnsavedChanges_data();
+    void reopeningAsksForUnsavedChanges();
     void closingAsksForUnsavedChanges_data();
     void closingAsksForUnsavedChanges();
     void reloadReadsWhatWasCancelled();
@@ -293,6 +295,46 @@ void MainWindowTest::savingOverAnotherProgramsChangeAsks()
     triggerText(QStringLiteral("Save"));
     QVERIFY(modals.allMet());
     QVERIFY(Testing::readFile(m_files->designFile()).contains("Upper die"));
+}
+
+void MainWindowTest::reopeningAsksForUnsavedChanges_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("question");
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("isDropped");
+    const QString one = QStringLiteral("Small has unsaved changes");
+    const QString all = QStringLiteral("There are unsaved changes");
+    for (const int answer : {QMessageBox::Discard, QMessageBox::Cancel}) {
+        const bool isDropped = answer == QMessageBox::Discard;
+        const char* const word = isDropped ? "discard" : "cancel";
+        QTest::addRow("one, %s", word) << QStringLiteral("Reopen") << one << answer << isDropped;
+        QTest::addRow("all, %s", word)
+            << QStringLiteral("Reopen All") << all << answer << isDropped;
+    }
+}
+
+void MainWindowTest::reopeningAsksForUnsavedChanges()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, question);
+    QFETCH(int, answer);
+    QFETCH(bool, isDropped);
+    openDesign();
+    QCOMPARE(m_window->session().rename(objectId(21), QStringLiteral("Upper die")), QString());
+    QJsonObject theirs = Testing::smallDesign();
+    theirs[QLatin1String("name")] = QStringLiteral("Theirs");
+    Testing::replaceFile(m_files->designFile(), Testing::toText(theirs));
+    QTRY_VERIFY(m_window->session().hasConflict(objectId(1)));
+    QTRY_VERIFY(!m_window->messageBar().text().isEmpty());
+    Testing::ExpectedModals modals;
+    modals.expectMessageBox(question, QMessageBox::StandardButton(answer));
+    triggerText(command);
+    QVERIFY(modals.allMet());
+    QCOMPARE(m_window->session().isModified(), !isDropped);
+    QCOMPARE(m_window->session().hasConflict(objectId(1)), !isDropped);
+    // What is settled is no longer told.
+    QCOMPARE(m_window->messageBar().text().isEmpty(), isDropped);
 }
 
 void MainWindowTest::closingAsksForUnsavedChanges_data()
