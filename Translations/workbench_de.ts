@@ -1139,6 +1139,29 @@
     </message>
 </context>
 <context>
+    <name>Zorvane::Workbench::FileNames</name>
+    <message>
+        <source>is no name for a file</source>
+        <translation>ist kein Name für eine Datei</translation>
+    </message>
+    <message>
+        <source>has letters in its name that the system does not allow there</source>
+        <translation>hat Zeichen im Namen, die das System dort nicht zulässt</translation>
+    </message>
+    <message>
+        <source>has a name that the system keeps for a device</source>
+        <translation>hat einen Namen, den das System einem Gerät vorbehält</translation>
+    </message>
+    <message>
+        <source>has a dot or a blank at its end, which the system does not keep</source>
+        <translation>hat am Ende einen Punkt oder ein Leerzeichen, was das System nicht behält</translation>
+    </message>
+    <message>
+        <source>has a longer name than the system takes</source>
+        <translation>hat einen längeren Namen, als das System annimmt</translation>
+    </message>
+</context>
+<context>
     <name>Zorvane::Workbench::FilePreview</name>
     <message numerus="yes">
         <source>first %n rows</source>

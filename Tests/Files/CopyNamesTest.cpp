@@ -158,6 +158,11 @@ void CopyNamesTest::foldedNamesIgnoreCaseOnly()
     QCOMPARE(foldedName("u\xCC\x88"), foldedName("\xC3\xBC"));
     QVERIFY(foldedName("part") != foldedName("parts"));
     QVERIFY(foldedName("\xFC") != foldedName("\xDC"));
+    // Whatever the language of the user.
+    QCOMPARE(foldedName("MINI.STL"), foldedName("mini.stl"));
+    QVERIFY(foldedName("m\xC4\xB1ni.stl") != foldedName("mini.stl"));
+    QCOMPARE(foldedName("\xCE\xA3.stl"), foldedName("\xCF\x82.stl"));
+    QCOMPARE(foldedName("CON"), foldedName("con"));
 }
 
 ZORVANE_TEST_MAIN(CopyNamesTest)

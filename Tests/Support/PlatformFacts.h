@@ -12,6 +12,9 @@ bool makeLink(const QString& target, const QString& link);
 /** Whether a file may have the name. */
 bool mayBeFileName(const QString& name);
 
+/** Whether names that differ in the case of letters are names of different files. */
+bool doesCaseOfNamesCount();
+
 /** Whether a file that a program holds open can be replaced by another file. */
 bool openFilesCanBeReplaced();
 

@@ -1,5 +1,7 @@
 #include "Workbench/Commands/DesignCopy.h"
 
+#include "Workbench/Design/FileNames.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
@@ -88,12 +90,17 @@ QString DesignCopy::typableName(const QString& designFile)
 QString DesignCopy::proposedFile(const QString& designFile)
 {
     const QDir folder = QFileInfo(designFile).dir();
-    const QFileInfo info(typableName(designFile));
+    const QString base = QFileInfo(typableName(designFile)).completeBaseName();
+    const QString ending = QStringLiteral(".dsg");
     for (int number = 1;; ++number) {
-        const QString name =
-            number == 1 ? tr("%1 copy").arg(info.completeBaseName())
-                        : tr("%1 copy %2").arg(info.completeBaseName(), QString::number(number));
-        const QString file = folder.filePath(name + QStringLiteral(".dsg"));
+        const auto named = [number, &ending](const QString& stem) -> QString {
+            return (number == 1 ? tr("%1 copy").arg(stem)
+                                : tr("%1 copy %2").arg(stem, QString::number(number))) +
+                   ending;
+        };
+        const QString rest = named(QString());
+        const QString stem = FileNames::fitted(base, rest).chopped(rest.size());
+        const QString file = folder.filePath(named(stem));
         if (!QFileInfo::exists(file))
             return file;
     }

@@ -2,10 +2,12 @@
 
 #include "Files/DesignPathProvider.h"
 #include "Files/LastPathProvider.h"
+#include "Host/FileHandling/FileUtilities.h"
 #include "Workbench/Commands/DesignCopy.h"
 #include "Workbench/Commands/DesignRelocation.h"
 #include "Workbench/Design/DesignSession.h"
 #include "Workbench/Design/DesignWriter.h"
+#include "Workbench/Design/FileNames.h"
 #include "Workbench/Meshes/MeshReader.h"
 
 #include <QtCore/QDir>
@@ -138,8 +140,11 @@ std::optional<Problem> FileCommands::obstacleTo(const QString& target) const
     const QFileInfo info(target);
     if (info.suffix().compare(QLatin1String("dsg"), Qt::CaseInsensitive) != 0)
         return Problem{target, {}, tr("is no name for a design: it must end with .dsg")};
+    const QString obstacle = FileNames::obstacle(info.fileName());
+    if (!obstacle.isEmpty())
+        return Problem{target, {}, obstacle};
     for (const Design& open : m_session.designs())
-        if (info.exists() && info.canonicalFilePath() == QFileInfo(open.file).canonicalFilePath())
+        if (info.exists() && FileUtilities::isEquivalent(FileName(target), FileName(open.file)))
             return Problem{target, {}, tr("is open here and is not replaced")};
     return std::nullopt;
 }

@@ -1,5 +1,7 @@
 #include "Workbench/Design/FileReferences.h"
 
+#include "Workbench/Design/FileNames.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
@@ -19,6 +21,12 @@ bool isWithin(const QString& folder, const QString& path)
 {
     const QString inner = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
     return path == folder || path.startsWith(inner);
+}
+
+/** The path from the folder that it is within. */
+QString below(const QString& folder, const QString& path)
+{
+    return path.mid(folder.endsWith(QLatin1Char('/')) ? folder.size() : folder.size() + 1);
 }
 
 /** Where the path really is, links followed as far as the path exists. */
@@ -52,8 +60,13 @@ ResolvedReference resolveReference(const QString& folder, const QString& path)
         return {FileState::Outside, {}};
     const QString root = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
     const QString file = QDir::cleanPath(root + QLatin1Char('/') + relative);
+    if (!isWithin(root, file))
+        return {FileState::Outside, {}};
+    // Some names open a device, or another file than they name elsewhere.
+    if (!FileNames::arePossible(below(root, file)))
+        return {FileState::Missing, file};
     const QString realRoot = QFileInfo(root).canonicalFilePath();
-    if (!isWithin(root, file) || (!realRoot.isEmpty() && !isWithin(realRoot, realPath(file))))
+    if (!realRoot.isEmpty() && !isWithin(realRoot, realPath(file)))
         return {FileState::Outside, {}};
     return {QFileInfo(file).isFile() ? FileState::Exists : FileState::Missing, file};
 }

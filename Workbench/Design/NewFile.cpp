@@ -1,5 +1,7 @@
 #include "Workbench/Design/NewFile.h"
 
+#include "Workbench/Design/FileNames.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -22,7 +24,13 @@ NewFile::NewFile(const QString& folder, const QString& stem, const QString& endi
     const QDir dir(QFileInfo(folder).absoluteFilePath());
     for (int number = 1; number <= s_mostNames; ++number) {
         const QString suffix = number == 1 ? QString() : QStringLiteral(" (%1)").arg(number);
-        QFile file(dir.filePath(stem + suffix + ending));
+        const QString name = FileNames::fitted(stem, suffix + ending);
+        m_obstacle = FileNames::obstacle(name);
+        if (!m_obstacle.isEmpty()) {
+            m_obstacle.prepend(name + QLatin1Char(' '));
+            return;
+        }
+        QFile file(dir.filePath(name));
         // Taken by whoever makes it first: another program may want the name, too.
         if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
             m_path = file.fileName();

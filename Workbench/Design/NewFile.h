@@ -7,8 +7,8 @@ namespace Zorvane::Workbench {
 
 /**
  * A file to write, there and empty, under a name that nothing had before: "stem.ending", or with
- * the first number that is free, "stem (2).ending". It vanishes again with this object, unless it
- * is kept.
+ * the first number that is free, "stem (2).ending"; the stem is shortened where the system has no
+ * such long names. It vanishes again with this object, unless it is kept.
  */
 class NewFile
 {

@@ -11,7 +11,14 @@ bool makeLink(const QString& target, const QString& link)
 
 bool mayBeFileName(const QString& name)
 {
-    return !name.isEmpty() && !name.contains(QLatin1Char('/')) && !name.contains(QChar());
+    return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") &&
+           name.toUtf8().size() <= 255 && !name.contains(QLatin1Char('/')) &&
+           !name.contains(QChar());
+}
+
+bool doesCaseOfNamesCount()
+{
+    return true;
 }
 
 bool openFilesCanBeReplaced()

@@ -33,9 +33,15 @@ bool makeLink(const QString& target, const QString& link)
 bool mayBeFileName(const QString& name)
 {
     static const QRegularExpression forbidden(
-        QStringLiteral("[\\x00-\\x1f<>:\"/\\\\|?*]|[. ]$|^(CON|PRN|AUX|NUL|COM\\d|LPT\\d)(\\.|$)"),
+        QStringLiteral("[\\x00-\\x1f<>:\"/\\\\|?*]|[. ]$|"
+                       "^(CON|PRN|AUX|NUL|CONIN\\$|CONOUT\\$|(COM|LPT)[1-9¹²³]) *(\\.|$)"),
         QRegularExpression::CaseInsensitiveOption);
-    return !name.isEmpty() && !forbidden.match(name).hasMatch();
+    return !name.isEmpty() && name.size() <= 255 && !forbidden.match(name).hasMatch();
+}
+
+bool doesCaseOfNamesCount()
+{
+    return false;
 }
 
 bool openFilesCanBeReplaced()

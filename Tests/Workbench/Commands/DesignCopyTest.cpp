@@ -27,6 +27,7 @@ private Q_SLOTS:
     void canBeOpenBesideTheOther();
     void keepsWhatIsNotUnderstood();
     void proposesNamesThatAreFree();
+    void longNamesAreProposedShortened();
 };
 
 void DesignCopyTest::hasIdentifiersOfItsOwn()
@@ -102,6 +103,18 @@ void DesignCopyTest::proposesNamesThatAreFree()
     Testing::writeFile(folder.filePath(QStringLiteral("50%1 copy.dsg")), "x");
     QCOMPARE(DesignCopy::proposedFile(folder.filePath(QStringLiteral("50%1.dsg"))),
              folder.filePath(QStringLiteral("50%1 copy 2.dsg")));
+}
+
+void DesignCopyTest::longNamesAreProposedShortened()
+{
+    const QTemporaryDir folder;
+    const QString design = folder.filePath(QString(251, QLatin1Char('x')) + QStringLiteral(".dsg"));
+    for (const char* end : {"x copy.dsg", "x copy 2.dsg", "x copy 3.dsg"}) {
+        const QString proposed = DesignCopy::proposedFile(design);
+        QCOMPARE(QFileInfo(proposed).fileName().size(), 248);
+        QVERIFY(proposed.endsWith(QLatin1String(end)));
+        Testing::writeFile(proposed, "x");
+    }
 }
 
 } // namespace Zorvane::Workbench

@@ -1,6 +1,7 @@
 #include "Workbench/Commands/FileCommands.h"
 
 #include "Tests/Support/PlatformCopies.h"
+#include "Tests/Support/PlatformFacts.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Import/ImportFixture.h"
 #include "Workbench/Window/MainWindow.h"
@@ -42,6 +43,8 @@ private Q_SLOTS:
     void openDesignsAreNotReplaced_data();
     void openDesignsAreNotReplaced();
     void otherEndingsAreRefused();
+    void impossibleNamesAreRefused_data();
+    void impossibleNamesAreRefused();
     void whatCannotBeWrittenIsTold();
 
 private:
@@ -264,17 +267,26 @@ void FileCommandsTest::saveAsInTheOrderOfDesigns()
 void FileCommandsTest::openDesignsAreNotReplaced_data()
 {
     QTest::addColumn<QString>("command");
-    QTest::newRow("as") << QStringLiteral("Save As...");
-    QTest::newRow("copy") << QStringLiteral("Save a Copy…");
+    QTest::addColumn<bool>("isInCapitals");
+    for (const bool isInCapitals : {false, true}) {
+        if (isInCapitals && Testing::doesCaseOfNamesCount())
+            continue;
+        const char* const name = isInCapitals ? ", spelled otherwise" : "";
+        QTest::addRow("as%s", name) << QStringLiteral("Save As...") << isInCapitals;
+        QTest::addRow("copy%s", name) << QStringLiteral("Save a Copy…") << isInCapitals;
+    }
 }
 
 void FileCommandsTest::openDesignsAreNotReplaced()
 {
     QFETCH(QString, command);
+    QFETCH(bool, isInCapitals);
     openDesign();
     const QByteArray before = Testing::readFile(m_files->designFile());
     m_window->session().rename(firstPart(), QStringLiteral("Other"));
-    m_script.saved = m_files->designFile();
+    const QFileInfo design(m_files->designFile());
+    m_script.saved =
+        isInCapitals ? design.dir().filePath(design.fileName().toUpper()) : design.filePath();
     trigger(command.toUtf8().constData());
     QVERIFY(message().endsWith(QStringLiteral("is open here and is not replaced")));
     QCOMPARE(Testing::readFile(m_files->designFile()), before);
@@ -288,6 +300,31 @@ void FileCommandsTest::otherEndingsAreRefused()
     trigger("Save As...");
     QVERIFY(message().endsWith(QStringLiteral("it must end with .dsg")));
     QVERIFY(!QFile::exists(m_script.saved));
+}
+
+void FileCommandsTest::impossibleNamesAreRefused_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char* name : {"CON.dsg", "nul.dsg", "Com1.old.dsg", "LPT9 .dsg", "small:part.dsg",
+                             "what?.dsg", "a|b.dsg", "<a>.dsg", "CONE.dsg"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+    QTest::newRow("too long") << QString(252, QLatin1Char('x')) + QStringLiteral(".dsg");
+}
+
+void FileCommandsTest::impossibleNamesAreRefused()
+{
+    QFETCH(QString, name);
+    const bool isPossible = Testing::mayBeFileName(name);
+    openDesign();
+    for (const char* command : {"Save a Copy…", "Save As..."}) {
+        m_script.saved = m_files->path(name);
+        trigger(command);
+        QCOMPARE(message().isEmpty(), isPossible);
+        const QStringList files = QDir(m_files->path(QString())).entryList(QDir::Files);
+        QCOMPARE(files.contains(name), isPossible);
+        QVERIFY(isPossible || message().contains(QStringLiteral(" has ")));
+        QVERIFY(QFile::remove(m_script.saved) == isPossible);
+    }
 }
 
 void FileCommandsTest::whatCannotBeWrittenIsTold()

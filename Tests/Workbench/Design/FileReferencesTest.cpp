@@ -17,6 +17,8 @@ class FileReferencesTest : public TestCase
 private Q_SLOTS:
     void pathsAreJudged_data();
     void pathsAreJudged();
+    void namesThatTheSystemTakesOtherwise_data();
+    void namesThatTheSystemTakesOtherwise();
     void linksAreFollowed();
     void folderMayBeReachedByLink();
     void refreshTellsWhetherAnythingChanged();
@@ -64,6 +66,31 @@ void FileReferencesTest::pathsAreJudged()
         resolveReference(folder.filePath(QStringLiteral("design")), path);
     QCOMPARE(int(found.state), state);
     QCOMPARE(found.file.isEmpty(), found.state == FileState::Outside);
+}
+
+void FileReferencesTest::namesThatTheSystemTakesOtherwise_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char* name : {"CON", "nul", "COM1.stl", "lpt9.a.b", "a.stl.", "a.stl ",
+                             "a.stl::$DATA", "a.stl:stream", "a?.stl", "a.stl|", "<a>.stl"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void FileReferencesTest::namesThatTheSystemTakesOtherwise()
+{
+    QFETCH(QString, name);
+    const QTemporaryDir folder;
+    writeFile(folder.filePath(QStringLiteral("a.stl")), "x");
+    const bool isPossible = mayBeFileName(name);
+    if (isPossible)
+        writeFile(folder.filePath(name), "y");
+    const auto stateOf = [&folder](const QString& path) {
+        return int(resolveReference(folder.path(), path).state);
+    };
+    QCOMPARE(stateOf(name), int(isPossible ? FileState::Exists : FileState::Missing));
+    QCOMPARE(stateOf(name + QStringLiteral("/a.stl")), int(FileState::Missing));
+    QCOMPARE(stateOf(QStringLiteral("A.STL")),
+             int(doesCaseOfNamesCount() ? FileState::Missing : FileState::Exists));
 }
 
 void FileReferencesTest::linksAreFollowed()

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QString>
+
+namespace Zorvane::Workbench {
+
+/** Names for files that the Workbench writes. */
+class FileNames
+{
+    Q_DECLARE_TR_FUNCTIONS(Zorvane::Workbench::FileNames)
+
+public:
+    /** Why no file can have the name here, translated, to follow it; empty if one can. */
+    static QString obstacle(const QString& name);
+    /**
+     * The stem, shortened where the system demands it, and the ending. Leaves room for what a file
+     * that is being written has behind its name.
+     */
+    static QString fitted(const QString& stem, const QString& ending);
+    /** Whether every name of a path, written with slashes and without a root, can be a file's. */
+    static bool arePossible(const QString& relativePath);
+};
+
+} // namespace Zorvane::Workbench
