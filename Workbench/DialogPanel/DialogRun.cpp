@@ -211,6 +211,7 @@ void DialogRun::openWith(FileDialogConfiguration& configuration, bool isMultiple
                          EventRecorder::Toggled toggled)
 {
     EventRecorder handler(m_record, {}, std::move(toggled));
+    handler.setFileDialogConfiguration(&configuration);
     configuration.setEventHandler(&handler);
     m_record.addControls(configuration);
     const QString filter = ExampleFiles::openFilter();
@@ -305,6 +306,7 @@ void DialogRun::openInner()
 {
     FileDialogConfiguration configuration(s_innerGeometryKey);
     EventRecorder handler(m_record, QStringLiteral("2: "));
+    handler.setFileDialogConfiguration(&configuration);
     configuration.setEventHandler(&handler);
     // Qt's dialog over the outer one; the system's, which is no widget, over the panel.
     QWidget* const outer = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());

@@ -63,6 +63,8 @@ void EventRecorder::onItemSelected(int controlId, int itemIndex)
 void EventRecorder::onTypeChanged(const FileDialogCallbackInterface& callbacks)
 {
     note(QStringLiteral("onTypeChanged()"), callbacks);
+    if (m_configuration && !std::exchange(m_isPlaced, true))
+        callbacks.placeDialog(m_configuration);
 }
 
 } // namespace Zorvane::Workbench

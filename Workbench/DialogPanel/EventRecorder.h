@@ -10,7 +10,10 @@ namespace Zorvane::Workbench {
 
 class DialogRecord;
 
-/** Writes down the events of a dialog with their arguments, and where the dialog was then. */
+/**
+ * Writes down the events of a dialog with their arguments, and where the dialog was then. With a
+ * configuration set, it places the dialog by that as it opens.
+ */
 class EventRecorder : public FileDialogEventHandler
 {
 public:
@@ -33,6 +36,7 @@ private:
     DialogRecord& m_record;
     const QString m_prefix;
     const Toggled m_toggled;
+    bool m_isPlaced = false;
 };
 
 } // namespace Zorvane::Workbench

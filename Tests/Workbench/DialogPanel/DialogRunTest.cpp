@@ -132,6 +132,26 @@ int valueOf(const DialogOutcome& outcome, int control)
     return -1;
 }
 
+class FakeCallbacks : public FileDialogCallbackInterface
+{
+public:
+    explicit FakeCallbacks(const QRect& geometry)
+        : m_geometry(geometry)
+    {}
+
+    void setControlState(int, int) const override {}
+    void placeDialog(FileDialogConfiguration* configuration) const override
+    {
+        placed.push_back(configuration);
+    }
+    QRect getDialogGeometry() const override { return m_geometry; }
+
+    mutable std::vector<FileDialogConfiguration*> placed;
+
+private:
+    const QRect m_geometry;
+};
+
 } // namespace
 
 /** Opens every variant of the panel, and looks whether it tells what came out of it. */
@@ -157,6 +177,7 @@ private Q_SLOTS:
     void selectionsAreTold();
     void theDialogMovesToTheCorner();
     void eventsTellWhereTheDialogIs();
+    void theDialogIsPlacedAsItOpens();
     void previewFollowsTheSelection();
     void aDialogInsideADialogCounts();
     void whatAHandlerThrowsComesOut();
@@ -458,23 +479,31 @@ void DialogRunTest::theDialogMovesToTheCorner()
 
 void DialogRunTest::eventsTellWhereTheDialogIs()
 {
-    QRect place;
-    const DialogOutcome outcome = runInQt(Variant::OpenPlaced, [&place](QFileDialog& dialog) {
-        place = dialog.frameGeometry();
-        // Left and above of the screens, too.
-        place.moveTo(-30, 20);
-        dialog.move(place.topLeft());
-        QTRY_COMPARE(dialog.frameGeometry().topLeft(), place.topLeft());
-        place = dialog.frameGeometry();
-        checkBox(dialog, "To the corner")->click();
-        dialog.reject();
-    });
-    const QStringList toggles = outcome.events.filter(QStringLiteral("onCheckBoxToggled"));
-    QCOMPARE(toggles, QStringList(QStringLiteral("[1] onCheckBoxToggled(true, 8) @ %1x%2-30+20")
-                                      .arg(place.width())
-                                      .arg(place.height())));
-    for (const QString& line : outcome.text().split(QLatin1Char('\n')))
-        QVERIFY2(line.size() < 300, qPrintable(line));
+    DialogRecord record([](const DialogOutcome&) {});
+    EventRecorder recorder(record, QStringLiteral("2: "));
+    // Left of the screens, and where there is no dialog.
+    recorder.onTypeChanged(FakeCallbacks({-30, 20, 625, 600}));
+    recorder.onCheckBoxToggled(true, 8, FakeCallbacks(QRect()));
+    recorder.onSelectionChanged({QStringLiteral("a"), QStringLiteral("b")},
+                                FakeCallbacks({1, -2, 3, 4}));
+    QCOMPARE(record.outcome.events,
+             QStringList({QStringLiteral("[0] 2: onTypeChanged() @ 625x600-30+20"),
+                          QStringLiteral("[0] 2: onCheckBoxToggled(true, 8) @ ?"),
+                          QStringLiteral("[0] 2: onSelectionChanged(\"a\", \"b\") @ 3x4+1-2")}));
+}
+
+void DialogRunTest::theDialogIsPlacedAsItOpens()
+{
+    DialogRecord record([](const DialogOutcome&) {});
+    FileDialogConfiguration configuration;
+    EventRecorder recorder(record);
+    const FakeCallbacks callbacks({0, 0, 1, 1});
+    recorder.onTypeChanged(callbacks);
+    QVERIFY(callbacks.placed.empty());
+    recorder.setFileDialogConfiguration(&configuration);
+    recorder.onTypeChanged(callbacks);
+    recorder.onTypeChanged(callbacks);
+    QCOMPARE(callbacks.placed, std::vector<FileDialogConfiguration*>{&configuration});
 }
 
 void DialogRunTest::previewFollowsTheSelection()
