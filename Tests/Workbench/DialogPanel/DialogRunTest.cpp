@@ -132,26 +132,6 @@ int valueOf(const DialogOutcome& outcome, int control)
     return -1;
 }
 
-class FakeCallbacks : public FileDialogCallbackInterface
-{
-public:
-    explicit FakeCallbacks(const QRect& geometry)
-        : m_geometry(geometry)
-    {}
-
-    void setControlState(int, int) const override {}
-    void placeDialog(FileDialogConfiguration* configuration) const override
-    {
-        placed.push_back(configuration);
-    }
-    QRect getDialogGeometry() const override { return m_geometry; }
-
-    mutable std::vector<FileDialogConfiguration*> placed;
-
-private:
-    const QRect m_geometry;
-};
-
 } // namespace
 
 /** Opens every variant of the panel, and looks whether it tells what came out of it. */
@@ -176,8 +156,6 @@ private Q_SLOTS:
     void moreEnablesAndShowsControls();
     void selectionsAreTold();
     void theDialogMovesToTheCorner();
-    void eventsTellWhereTheDialogIs();
-    void theDialogIsPlacedAsItOpens();
     void previewFollowsTheSelection();
     void aDialogInsideADialogCounts();
     void whatAHandlerThrowsComesOut();
@@ -475,35 +453,6 @@ void DialogRunTest::theDialogMovesToTheCorner()
         QTRY_COMPARE(dialog.frameGeometry().topLeft(), QPoint(40, 40));
         dialog.reject();
     });
-}
-
-void DialogRunTest::eventsTellWhereTheDialogIs()
-{
-    DialogRecord record([](const DialogOutcome&) {});
-    EventRecorder recorder(record, QStringLiteral("2: "));
-    // Left of the screens, and where there is no dialog.
-    recorder.onTypeChanged(FakeCallbacks({-30, 20, 625, 600}));
-    recorder.onCheckBoxToggled(true, 8, FakeCallbacks(QRect()));
-    recorder.onSelectionChanged({QStringLiteral("a"), QStringLiteral("b")},
-                                FakeCallbacks({1, -2, 3, 4}));
-    QCOMPARE(record.outcome.events,
-             QStringList({QStringLiteral("[0] 2: onTypeChanged() @ 625x600-30+20"),
-                          QStringLiteral("[0] 2: onCheckBoxToggled(true, 8) @ ?"),
-                          QStringLiteral("[0] 2: onSelectionChanged(\"a\", \"b\") @ 3x4+1-2")}));
-}
-
-void DialogRunTest::theDialogIsPlacedAsItOpens()
-{
-    DialogRecord record([](const DialogOutcome&) {});
-    FileDialogConfiguration configuration;
-    EventRecorder recorder(record);
-    const FakeCallbacks callbacks({0, 0, 1, 1});
-    recorder.onTypeChanged(callbacks);
-    QVERIFY(callbacks.placed.empty());
-    recorder.setFileDialogConfiguration(&configuration);
-    recorder.onTypeChanged(callbacks);
-    recorder.onTypeChanged(callbacks);
-    QCOMPARE(callbacks.placed, std::vector<FileDialogConfiguration*>{&configuration});
 }
 
 void DialogRunTest::previewFollowsTheSelection()
