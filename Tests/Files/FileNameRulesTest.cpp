@@ -194,7 +194,7 @@ void FileNameRulesTest::whatMayBeANameCanBeAFile()
 {
     QFETCH(QString, name);
     if (name.toUtf8().size() > s_longestFileName)
-        QSKIP("the file system below Wine takes no such name, as NTFS does");
+        QSKIP("the file system below Wine takes no such name; NTFS does");
     const QTemporaryDir folder;
     QFile file(folder.filePath(name));
     QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(file.errorString()));

@@ -81,7 +81,7 @@ void NewFileTest::longStemsAreShortened()
     QFETCH(QString, stem);
     const QString ending = QStringLiteral("-binary.stl");
     if (fittedFileName(stem, ending, 248).toUtf8().size() > s_longestFileName)
-        QSKIP("the file system below Wine takes no such name, as NTFS does");
+        QSKIP("the file system below Wine takes no such name; NTFS does");
     const QTemporaryDir folder;
     for (int number = 1; number <= 3; ++number) {
         NewFile file(folder.path(), stem, ending);
