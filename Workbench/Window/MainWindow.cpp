@@ -160,11 +160,11 @@ void MainWindow::connectActions()
     });
     on(WorkbenchActions::StopSimulation, [this] { m_runner->stop(); });
     on(WorkbenchActions::ConvertMeshes, [this] { m_converter.run(); });
-    on(WorkbenchActions::StressTree, &MainWindow::showStress);
-    on(WorkbenchActions::FileDialogs, &MainWindow::showDialogPanel);
+    on(WorkbenchActions::StressTree, [this] { showBeside(m_stress); });
+    on(WorkbenchActions::FileDialogs, [this] { showBeside(m_dialogPanel); });
     on(WorkbenchActions::About, &MainWindow::about);
     on(WorkbenchActions::AboutQt, [] { QApplication::aboutQt(); });
-    on(ZVGlobalActions::HelpContents, &MainWindow::showHelp);
+    on(ZVGlobalActions::HelpContents, [this] { showBeside(m_help); });
     connectViewCommands(*m_commands, *m_meshView);
     new HistoryCommands(*m_commands, *m_history);
     connect(new WindowMenus(*m_commands), &WindowMenus::chosen, this, &MainWindow::open);
@@ -481,32 +481,14 @@ void MainWindow::removeCurrent()
         notify(tr("%1 was removed; its file stays.").arg(name));
 }
 
-void MainWindow::showStress()
+template <typename Window>
+void MainWindow::showBeside(QPointer<Window>& window)
 {
-    if (m_stress)
-        m_stress->raise();
-    else
-        m_stress = new StressWindow(this);
-    m_stress->show();
-    m_stress->activateWindow();
-}
-
-void MainWindow::showDialogPanel()
-{
-    if (!m_dialogPanel)
-        m_dialogPanel = new DialogPanel(this);
-    m_dialogPanel->show();
-    m_dialogPanel->raise();
-    m_dialogPanel->activateWindow();
-}
-
-void MainWindow::showHelp()
-{
-    if (!m_help)
-        m_help = new HelpWindow(this);
-    m_help->show();
-    m_help->raise();
-    m_help->activateWindow();
+    if (!window)
+        window = new Window(this);
+    window->show();
+    window->raise();
+    window->activateWindow();
 }
 
 void MainWindow::about()

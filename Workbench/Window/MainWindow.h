@@ -106,11 +106,11 @@ private:
     void goToReference();
     void goTo(const IDCombiner& id);
     void setQuantity(const GUIdentifier& object, Quantity quantity, double value);
-    void showStress();
     void notify(const QString& text);
     void hideMessages();
-    void showDialogPanel();
-    void showHelp();
+    /** One at a time; it is made when it is first wanted, or wanted again. */
+    template <typename Window>
+    void showBeside(QPointer<Window>& window);
     void about();
 
     void showCurrent();

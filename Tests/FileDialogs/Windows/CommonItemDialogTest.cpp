@@ -61,6 +61,15 @@ DPI_AWARENESS_CONTEXT WINAPI setContext(DPI_AWARENESS_CONTEXT context)
     return reinterpret_cast<DPI_AWARENESS_CONTEXT>(s_previousContext);
 }
 
+/** One call of them fails in each row. */
+void addRowForEach(const QStringList& calls)
+{
+    QTest::addColumn<int>("place");
+    QTest::addColumn<QStringList>("calls");
+    for (int i = 0; i < calls.size(); ++i)
+        QTest::addRow("%d, %s", i, qPrintable(calls.at(i))) << i << calls;
+}
+
 } // namespace
 
 class CommonItemDialogTest : public Testing::TestCase
@@ -313,11 +322,7 @@ void CommonItemDialogTest::oneFailureOfOpen_data()
 {
     init();
     addControls();
-    const QStringList calls = namesOf(openCalls());
-    QTest::addColumn<int>("place");
-    QTest::addColumn<QStringList>("calls");
-    for (int i = 0; i < calls.size(); ++i)
-        QTest::addRow("%d, %s", i, qPrintable(calls.at(i))) << i << calls;
+    addRowForEach(namesOf(openCalls()));
     cleanup();
 }
 
@@ -334,11 +339,7 @@ void CommonItemDialogTest::oneFailureOfOpen()
 void CommonItemDialogTest::oneFailureOfSave_data()
 {
     init();
-    const QStringList calls = namesOf(saveCalls());
-    QTest::addColumn<int>("place");
-    QTest::addColumn<QStringList>("calls");
-    for (int i = 0; i < calls.size(); ++i)
-        QTest::addRow("%d, %s", i, qPrintable(calls.at(i))) << i << calls;
+    addRowForEach(namesOf(saveCalls()));
     cleanup();
 }
 

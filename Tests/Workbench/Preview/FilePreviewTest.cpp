@@ -1,6 +1,7 @@
 #include "Workbench/Preview/FilePreview.h"
 
 #include "Tests/Support/TestCase.h"
+#include "Tests/Workbench/Design/DesignFiles.h"
 #include "Tests/Workbench/Meshes/MeshFiles.h"
 #include "Workbench/Meshes/MeshReader.h"
 
@@ -18,10 +19,7 @@ class FilePreviewTest : public Testing::TestCase
 private:
     QString make(const QString& name, const QByteArray& content) const
     {
-        QFile file(m_folder.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            return {};
-        return file.fileName();
+        return Testing::writeFile(m_folder.filePath(name), content);
     }
     static PreviewContent read(const QString& path) { return FilePreview::read(path, {}); }
 

@@ -2,6 +2,7 @@
 
 #include "Tests/Support/PlatformFacts.h"
 #include "Tests/Support/TestCase.h"
+#include "Tests/Workbench/Design/DesignFiles.h"
 #include "Tests/Workbench/Meshes/MeshFiles.h"
 #include "Workbench/Meshes/MeshWriter.h"
 #include "Workbench/Window/Language.h"
@@ -119,10 +120,7 @@ class PreviewReaderTest : public Testing::TestCase
 private:
     QString make(const QString& name, const QByteArray& content) const
     {
-        QFile file(m_folder.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            return {};
-        return file.fileName();
+        return Testing::writeFile(m_folder.filePath(name), content);
     }
     static PreviewRequest of(const QString& path)
     {

@@ -1,6 +1,7 @@
 #include "Workbench/Preview/PreviewWindow.h"
 
 #include "Tests/Support/TestCase.h"
+#include "Tests/Workbench/Design/DesignFiles.h"
 #include "Tests/Workbench/Meshes/MeshFiles.h"
 #include "Workbench/Preview/FilePreviewEditor.h"
 
@@ -25,10 +26,7 @@ class PreviewWindowTest : public Testing::TestCase
 private:
     QString make(const char* name, const QByteArray& content) const
     {
-        QFile file(m_folder.filePath(QString::fromLatin1(name)));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            return {};
-        return file.fileName();
+        return Testing::writeFile(m_folder.filePath(QString::fromLatin1(name)), content);
     }
     static QString prompt() { return QStringLiteral("Select a file to see it here."); }
 

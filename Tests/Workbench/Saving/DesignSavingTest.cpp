@@ -35,6 +35,11 @@ class DesignSavingTest : public SavingFixture
 {
     Q_OBJECT
 
+private:
+    void addOutdatedResult();
+    /** The user saves, hears of another program's change, and gives up. */
+    static void expectConflict(ExpectedModals& modals, const std::function<void()>& meanwhile);
+
 private Q_SLOTS:
     void init() { setUp(); }
     void cleanup() { tearDown(); }
@@ -71,6 +76,22 @@ private Q_SLOTS:
     void suppressedQuestionsNeverTouchARunningDesign();
 };
 
+void DesignSavingTest::addOutdatedResult()
+{
+    addResult();
+    session().setQuantity(objectId(2), Quantity::Thickness, 1.75);
+}
+
+void DesignSavingTest::expectConflict(ExpectedModals& modals,
+                                      const std::function<void()>& meanwhile)
+{
+    modals.expectMessageBox(s_anyBox, QMessageBox::Save);
+    modals.expectMessageBox(QStringLiteral("Another program"), [meanwhile](QMessageBox& box) {
+        meanwhile();
+        box.button(QMessageBox::Cancel)->click();
+    });
+}
+
 void DesignSavingTest::savingThatCostsNothingAsksNothing()
 {
     const ExpectedModals none;
@@ -86,8 +107,7 @@ void DesignSavingTest::savingThatCostsNothingAsksNothing()
 
 void DesignSavingTest::outdatedResultsGoOnlyOnTheUsersWord()
 {
-    addResult();
-    session().setQuantity(objectId(2), Quantity::Thickness, 1.75);
+    addOutdatedResult();
     const QByteArray before = onDisk();
     ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("The simulation results are deleted"),
@@ -149,8 +169,7 @@ void DesignSavingTest::runningDesignIsSavedElsewhereOrNotAtAll()
 
 void DesignSavingTest::cancelledSaveAsLeavesEverything()
 {
-    addResult();
-    session().setQuantity(objectId(2), Quantity::Thickness, 1.75);
+    addOutdatedResult();
     chooseForSaveAs(QString());
     const QByteArray before = onDisk();
     ExpectedModals modals;
@@ -177,12 +196,10 @@ void DesignSavingTest::changeByAnotherProgramIsReplacedOnlyOnTheUsersWord()
 
 void DesignSavingTest::failedSaveBringsDroppedResultsBack()
 {
-    addResult();
-    session().setQuantity(objectId(2), Quantity::Thickness, 1.75);
+    addOutdatedResult();
     changeFileElsewhere();
     ExpectedModals modals;
-    modals.expectMessageBox(s_anyBox, QMessageBox::Save);
-    modals.expectMessageBox(QStringLiteral("Another program"), QMessageBox::Cancel);
+    expectConflict(modals, [] {});
     const int edits = m_history->madeCount();
     QVERIFY(!m_saving->saveAll());
     QVERIFY(hasResult());
@@ -192,15 +209,12 @@ void DesignSavingTest::failedSaveBringsDroppedResultsBack()
 
 void DesignSavingTest::failedSaveLeavesWhatOthersEditedMeanwhile()
 {
-    addResult();
-    session().setQuantity(objectId(2), Quantity::Thickness, 1.75);
+    addOutdatedResult();
     changeFileElsewhere();
     ExpectedModals modals;
-    modals.expectMessageBox(s_anyBox, QMessageBox::Save);
-    modals.expectMessageBox(QStringLiteral("Another program"), [this](QMessageBox& box) {
+    expectConflict(modals, [this] {
         QVERIFY(!hasResult());
         edit();
-        box.button(QMessageBox::Cancel)->click();
     });
     QVERIFY(!m_saving->saveAll());
     QCOMPARE(session().name(objectId(10)), QStringLiteral("Left door"));
@@ -220,11 +234,9 @@ void DesignSavingTest::failedStartLeavesWhatOthersEditedMeanwhile()
     addResult();
     changeFileElsewhere();
     ExpectedModals modals;
-    modals.expectMessageBox(s_anyBox, QMessageBox::Save);
-    modals.expectMessageBox(QStringLiteral("Another program"), [this](QMessageBox& box) {
+    expectConflict(modals, [this] {
         QVERIFY(!hasResult());
         edit();
-        box.button(QMessageBox::Cancel)->click();
     });
     QVERIFY(!m_saving->start(design().id));
     QCOMPARE(session().name(objectId(10)), QStringLiteral("Left door"));
@@ -233,15 +245,10 @@ void DesignSavingTest::failedStartLeavesWhatOthersEditedMeanwhile()
 
 void DesignSavingTest::resultsBroughtBackMeanwhileAreThereOnce()
 {
-    addResult();
-    session().setQuantity(objectId(2), Quantity::Thickness, 1.75);
+    addOutdatedResult();
     changeFileElsewhere();
     ExpectedModals modals;
-    modals.expectMessageBox(s_anyBox, QMessageBox::Save);
-    modals.expectMessageBox(QStringLiteral("Another program"), [this](QMessageBox& box) {
-        m_history->undo();
-        box.button(QMessageBox::Cancel)->click();
-    });
+    expectConflict(modals, [this] { m_history->undo(); });
     QVERIFY(!m_saving->saveAll());
     QCOMPARE(results(), 1);
     QVERIFY(session().areQuantitiesModified(design().id));
