@@ -195,9 +195,9 @@ private:
 
     /** Values by name, for applications; this library puts none in. */
     QMap<QString, int> m_valuesByName;
-    QActionGroup* m_windowLayouts = nullptr;
     ZVExclusiveActionGroup* m_coordinateSystems = nullptr;
     ZVExclusiveActionGroup* m_stationVisibilities = nullptr;
+    QActionGroup* m_windowLayouts = nullptr;
 };
 
 } // namespace Zorvane

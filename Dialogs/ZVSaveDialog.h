@@ -26,8 +26,8 @@ namespace Zorvane {
  * - "AddSaveAsToSaveDialog": closing a design offers Save As, too.
  *
  * Enter presses Save. Where the design cannot be saved, Enter presses Cancel, else Save As; never
- * "Don't Save". Escape and closing the box are Cancel, where there is one. Letters press buttons with
- * Alt only.
+ * "Don't Save". Escape and closing the box are Cancel, where there is one. Letters press buttons
+ * with Alt only.
  */
 class ZORVANE_UITOOLS_EXPORT ZVSaveDialog
 {
@@ -63,7 +63,8 @@ public:
      *
      * `silent` goes through the motions without showing the box, and returns `ResultContinue`.
      * `saveDisabled` says that the design cannot be saved under its own name. The design must not
-     * be null. Nothing fails; a parent that goes away meanwhile is Cancel. Blocks in the box's event loop; GUI thread only.
+     * be null. Nothing fails; a parent that goes away meanwhile is Cancel. Blocks in the box's event
+     * loop; GUI thread only.
      */
     static Result showDialog(QWidget* parent, std::shared_ptr<DesignInterface> design,
                              Action action, bool silent, bool saveDisabled);

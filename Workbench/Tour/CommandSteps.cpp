@@ -3,6 +3,7 @@
 #include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/Help/HelpWindow.h"
 #include "Workbench/MeshView/MeshView.h"
+#include "Workbench/Tour/DialogAnswers.h"
 #include "Workbench/Window/Appearance.h"
 #include "Workbench/Window/MainWindow.h"
 
@@ -99,7 +100,9 @@ void Tour::showMenus()
 
 void Tour::readHelp()
 {
-    m_report.beginStep(QStringLiteral("Help"), QStringLiteral("F1 opens the documentation."));
+    m_report.beginStep(QStringLiteral("Help"),
+                       QStringLiteral("F1 opens the documentation; Help > About tells what "
+                                      "this is."));
     m_window.commands()[ZVGlobalActions::HelpContents]->trigger();
     auto* const help = m_window.findChild<HelpWindow*>();
     m_report.expect(help && help->currentPage() == QStringLiteral("Workbench.md"),
@@ -107,15 +110,18 @@ void Tour::readHelp()
     if (!help)
         return;
     m_driver.settle();
-    m_report.addPicture(QStringLiteral("help"), m_driver.pictureWith(*help));
-    applyAppearance(*qApp, Appearance::Dark);
-    m_driver.settle();
-    m_report.addPicture(QStringLiteral("help-dark"), m_driver.pictureWith(*help));
-    applyAppearance(*qApp, Appearance::Light);
+    pictureInBoth(QStringLiteral("help"), *help);
     delete help;
     m_window.activateWindow();
     m_report.expect(m_driver.waitFor([this] { return m_window.isActiveWindow(); }),
                     QStringLiteral("the main window again"));
+    DialogAnswers answers;
+    answers.add([this](QDialog& about) {
+        pictureInBoth(QStringLiteral("about"), about);
+        about.reject();
+    });
+    m_window.commands()[WorkbenchActions::About]->trigger();
+    m_report.expect(answers.allGiven(), QStringLiteral("what program this is"));
 }
 
 } // namespace Zorvane::Workbench

@@ -96,11 +96,11 @@ void Tour::importFiles()
     const FileCopierReplacement copiers(tourCopiers({}));
     DialogAnswers answers;
     answers.add([this](QDialog& dialog) {
-        m_report.addPicture(QStringLiteral("import-question"), m_driver.pictureWith(dialog));
+        pictureInBoth(QStringLiteral("import-question"), dialog);
         clickYes(dialog);
     });
     answers.add([this](QDialog& dialog) {
-        m_report.addPicture(QStringLiteral("import-collision"), m_driver.pictureWith(dialog));
+        pictureInBoth(QStringLiteral("import-collision"), dialog);
         if (auto* collision = qobject_cast<CopyCollisionDialog*>(&dialog))
             collision->button(CopyDecision::KeepBoth)->click();
     });

@@ -123,7 +123,7 @@ void Tour::askForNames()
     const auto show = [this](QDialog& dialog, const char* name) {
         dialog.resize(dialog.size().boundedTo(s_dialogSize));
         m_driver.settle();
-        m_report.addPicture(QString::fromLatin1(name), m_driver.pictureWith(dialog));
+        pictureInBoth(QString::fromLatin1(name), dialog);
     };
     DialogAnswers answers;
     answers.add([&show](QDialog& dialog) {

@@ -61,8 +61,12 @@ void Tour::cancelAConversion(ZVConverterDialog& window)
 {
     DialogAnswers answers;
     answers.add([this, &window](QDialog& dialog) {
-        showInBoth(QStringLiteral("converting"), dialog, &window);
+        pictureInBoth(QStringLiteral("converting"), dialog, &window);
+        dialog.reject();
     });
+    // Its name is in the title of the progress.
+    window.activateWindow();
+    m_driver.waitFor([&window] { return window.isActiveWindow(); });
     {
         const HeldBackWork held;
         Q_EMIT window.convertWasClicked();
@@ -114,21 +118,24 @@ void Tour::callAnUndefinedAction()
                        QStringLiteral("A number that the table of commands has no action for "
                                       "warns instead of doing nothing."));
     DialogAnswers answers;
-    answers.add([this](QDialog& box) { showInBoth(QStringLiteral("undefined-action"), box); });
+    answers.add([this](QDialog& box) {
+        pictureInBoth(QStringLiteral("undefined-action"), box);
+        box.reject();
+    });
     ZVMainActions::getInstance()
         ->action(ZVMainActions::ExportForCorvashel_DISCONTINUED_DO_NOT_USE)
         ->trigger();
     m_report.expect(answers.allGiven(), QStringLiteral("the warning"));
 }
 
-void Tour::showInBoth(const QString& name, QDialog& dialog, QWidget* beside)
+void Tour::pictureInBoth(const QString& name, QWidget& dialog, QWidget* beside)
 {
     m_report.addPicture(name, m_driver.pictureWith(dialog, beside));
     applyAppearance(*qApp, Appearance::Dark);
     m_driver.settle();
     m_report.addPicture(name + QStringLiteral("-dark"), m_driver.pictureWith(dialog, beside));
     applyAppearance(*qApp, Appearance::Light);
-    dialog.reject();
+    m_driver.settle();
 }
 
 } // namespace Zorvane::Workbench

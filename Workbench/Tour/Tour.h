@@ -7,7 +7,6 @@
 #include <QtCore/QTemporaryDir>
 
 QT_BEGIN_NAMESPACE
-class QDialog;
 class QFileDialog;
 class QWidget;
 QT_END_NAMESPACE
@@ -90,8 +89,8 @@ private:
     QString workFolder(const QString& name) const { return m_work.filePath(name); }
     void reopen(const QStringList& paths);
     void picture(const QString& name);
-    /** In light and in dark colours, over the window; rejects the dialog. */
-    void showInBoth(const QString& name, QDialog& dialog, QWidget* beside = nullptr);
+    /** Over the window, in light and in dark colours. */
+    void pictureInBoth(const QString& name, QWidget& dialog, QWidget* beside = nullptr);
 
     MainWindow& m_window;
     WindowDriver m_driver;
