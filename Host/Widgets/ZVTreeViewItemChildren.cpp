@@ -41,7 +41,7 @@ ZVTreeViewItem* ZVTreeViewItemChildren::findStaged(std::size_t place) const
     const std::size_t waiting = place - placed.size();
     if (waiting >= m_stage->waiting.count())
         return nullptr;
-    return m_stage->queued()[m_stage->waiting.nth(waiting)];
+    return (*m_stage->queued)[m_stage->waiting.nth(waiting)];
 }
 
 int ZVTreeViewItemChildren::rowIn(const Rows& rows, const ZVTreeViewItem* child,
@@ -71,7 +71,7 @@ int ZVTreeViewItemChildren::rowOf(const ZVTreeViewItem* child) const
         return static_cast<int>(found - placed.begin());
     int row = static_cast<int>(placed.size());
     std::size_t slot = 0;
-    for (; !isWaitingIn(slot, child); ++slot)
+    for (; (*m_stage->queued)[slot] != child; ++slot)
         row += m_stage->waiting.contains(slot) ? 1 : 0;
     m_stage->effort += slot;
     return row;
@@ -143,8 +143,8 @@ ZVTreeViewItem* ZVTreeViewItemChildren::take(int index)
 void ZVTreeViewItemChildren::take(const ZVTreeViewItem* child)
 {
     if (m_stage) {
-        const std::size_t slot = claimedSlotOf(child);
-        if (isWaitingIn(slot, child)) {
+        const std::size_t slot = slotOf(child);
+        if (m_stage->waiting.contains(slot)) {
             takeWaiting(slot);
             return;
         }
@@ -152,22 +152,29 @@ void ZVTreeViewItemChildren::take(const ZVTreeViewItem* child)
     take(rowOf(child));
 }
 
-bool ZVTreeViewItemChildren::isWaitingIn(std::size_t slot, const ZVTreeViewItem* child) const
+/** Where the child is in the queue, in which it need not wait any more; else a slot behind it. */
+std::size_t ZVTreeViewItemChildren::slotOf(const ZVTreeViewItem* child) const
 {
-    return m_stage->waiting.contains(slot) && m_stage->queued()[slot] == child;
+    if (m_stage->queue)
+        return slotInQueue(child);
+    const bool isShown = !child->hasState(ZVTreeViewItem::Fresh | ZVTreeViewItem::Relocated);
+    return isShown ? position(rowIn(m_stage->shown, child, m_numbered)) : m_stage->shown.size();
 }
 
-/** The slot in which the child waits if it does; may be one that never was. */
-std::size_t ZVTreeViewItemChildren::claimedSlotOf(const ZVTreeViewItem* child) const
+std::size_t ZVTreeViewItemChildren::slotInQueue(const ZVTreeViewItem* child) const
 {
-    // Rows that views do not know have no number there, so they carry their slot instead.
-    const Queue* queue = m_stage->queue.get();
-    if (child->hasState(ZVTreeViewItem::Fresh | ZVTreeViewItem::Relocated))
-        return position(queue ? child->m_row : -1);
-    const std::size_t shownRow = position(rowIn(m_stage->shown, child, m_numbered));
-    if (!queue)
-        return shownRow;
-    return position(shownRow < queue->slotOfShown.size() ? queue->slotOfShown[shownRow] : -1);
+    const Queue& queue = *m_stage->queue;
+    std::size_t slot = queue.rows.size();
+    if (child->hasState(ZVTreeViewItem::Fresh)) {
+        // Without a number among the shown rows, it carries its slot instead.
+        slot = position(child->m_row);
+    } else if (!child->hasState(ZVTreeViewItem::Relocated)) {
+        const std::size_t shownRow = position(rowIn(m_stage->shown, child, m_numbered));
+        if (shownRow < queue.slotOfShown.size())
+            slot = position(queue.slotOfShown[shownRow]);
+    }
+    const bool isThere = slot < queue.rows.size() && queue.rows[slot] == child;
+    return isThere ? slot : queue.rows.size();
 }
 
 /** All rows wait, in their present order; those placed are none. */
@@ -188,6 +195,7 @@ void ZVTreeViewItemChildren::queueAgain()
     }
     m_stage->waiting = WaitingSlots(queue->rows.size());
     m_stage->queue = std::move(queue);
+    m_stage->queued = &m_stage->queue->rows;
     allowEffort();
 }
 
@@ -213,7 +221,7 @@ ZVTreeViewItem* ZVTreeViewItemChildren::takePlaced(std::size_t index)
 ZVTreeViewItem* ZVTreeViewItemChildren::takeWaiting(std::size_t slot)
 {
     const Queue* queue = m_stage->queue.get();
-    ZVTreeViewItem* child = m_stage->queued()[slot];
+    ZVTreeViewItem* child = (*m_stage->queued)[slot];
     m_stage->edit();
     m_stage->lastTaken = child;
     m_stage->lastTakenFrom = queue ? queue->from[slot] : static_cast<int>(slot);
@@ -239,7 +247,7 @@ void ZVTreeViewItemChildren::placeWaiting(std::size_t count)
     placed.resize(next + count);
     from.resize(next + count);
     const Queue* queue = m_stage->queue.get();
-    m_stage->waiting.takeFirst(count, [&, &queued = m_stage->queued()](std::size_t slot) {
+    m_stage->waiting.takeFirst(count, [&, &queued = *m_stage->queued](std::size_t slot) {
         placed[next] = queued[slot];
         from[next++] = queue ? queue->from[slot] : static_cast<int>(slot);
     });

@@ -98,7 +98,6 @@ private:
             dirty = true;
             ++edits;
         }
-        const Rows& queued() const { return queue ? queue->rows : shown; }
 
         Rows shown;
         Rows placed;
@@ -106,6 +105,7 @@ private:
         std::vector<int> placedFrom;
         /** Null as long as the rows that wait are shown ones, in the shown order. */
         std::unique_ptr<Queue> queue;
+        const Rows* queued = &shown;
         /** Those of the queued rows that still are where they were. */
         WaitingSlots waiting;
         /** The row taken last mostly is the one put back next. */
@@ -123,8 +123,8 @@ private:
     ZVTreeViewItem* findStaged(std::size_t place) const;
     ZVTreeViewItem* takePlaced(std::size_t index);
     ZVTreeViewItem* takeWaiting(std::size_t slot);
-    bool isWaitingIn(std::size_t slot, const ZVTreeViewItem* child) const;
-    std::size_t claimedSlotOf(const ZVTreeViewItem* child) const;
+    std::size_t slotOf(const ZVTreeViewItem* child) const;
+    std::size_t slotInQueue(const ZVTreeViewItem* child) const;
     void allowEffort();
     void queueAgain();
     int shownRowIfKnown(const ZVTreeViewItem* child) const;
