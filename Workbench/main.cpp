@@ -5,6 +5,7 @@
 #include "Workbench/Window/Language.h"
 #include "Workbench/Window/MainWindow.h"
 #include "Workbench/Window/SampleDesigns.h"
+#include "Workbench/Window/WorkbenchStyle.h"
 
 #include <QtCore/QLocale>
 #include <QtCore/QSettings>
@@ -67,7 +68,7 @@ int main(int argc, char** argv)
     QApplication::setOrganizationName(QStringLiteral("Zorvane"));
     QApplication::setApplicationName(QStringLiteral("Workbench"));
     QApplication::setApplicationVersion(QStringLiteral(ZORVANE_VERSION));
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new WorkbenchStyle);
 
     auto language = std::make_unique<Language>(QLocale());
     QCommandLineParser& parser = Zorvane::CommandLineParser::instance()->options();

@@ -92,6 +92,7 @@ private:
     Testing::PlatformCopies m_copies;
     std::unique_ptr<Testing::ImportFixture> m_files;
     std::unique_ptr<MainWindow> m_window;
+    Testing::ScriptedChooser::Script m_script;
 
 private Q_SLOTS:
     void init();
@@ -104,6 +105,9 @@ void WindowGoesTest::init()
 {
     m_files = std::make_unique<Testing::ImportFixture>();
     m_window = std::make_unique<MainWindow>();
+    m_script = {};
+    m_window->fileCommands().setFileChooser(std::make_unique<Testing::ScriptedChooser>(m_script));
+    m_window->fileExchange().setFileChooser(std::make_unique<Testing::ScriptedChooser>(m_script));
     m_window->show();
     m_window->open({m_files->designFile()});
     m_window->tree().refreshNow();
@@ -245,39 +249,28 @@ void WindowGoesTest::windowGoesWhileItAsks_data()
         test.trigger(WorkbenchActions::About);
     });
     row("importing from elsewhere", [](WindowGoesTest& test, ExpectedModals& modals) {
-        auto script = Testing::ScriptedChooser::Script();
-        script.files = QStringList{test.m_files->outsideMesh(QStringLiteral("rib.stl"))};
-        test.m_window->fileExchange().setFileChooser(
-            std::make_unique<Testing::ScriptedChooser>(script));
+        test.m_script.files = QStringList{test.m_files->outsideMesh(QStringLiteral("rib.stl"))};
         test.goAt(modals, QStringLiteral("Copy File"));
         test.trigger(WorkbenchActions::Import);
     });
     if (!Testing::PlatformCopies::askByOurDialog())
         return;
     row("importing over a file", [](WindowGoesTest& test, ExpectedModals& modals) {
-        auto script = Testing::ScriptedChooser::Script();
-        script.files = QStringList{test.m_files->outside(QStringLiteral("steel.json"), "{}")};
-        test.m_window->fileExchange().setFileChooser(
-            std::make_unique<Testing::ScriptedChooser>(script));
+        test.m_script.files =
+            QStringList{test.m_files->outside(QStringLiteral("steel.json"), "{}")};
         modals.expectMessageBox(QStringLiteral("Copy File"), QMessageBox::Yes);
         test.goAtCollision(modals);
         test.trigger(WorkbenchActions::Import);
     });
     row("exporting over a file", [](WindowGoesTest& test, ExpectedModals& modals) {
-        auto script = Testing::ScriptedChooser::Script();
-        script.folder = test.m_files->elsewhere.path();
+        test.m_script.folder = test.m_files->elsewhere.path();
         test.m_files->outside(QStringLiteral("die.stl"), "old");
-        test.m_window->fileExchange().setFileChooser(
-            std::make_unique<Testing::ScriptedChooser>(script));
         test.goAtCollision(modals);
         test.trigger(ZVMainActions::Export);
     });
     row("bringing files along", [](WindowGoesTest& test, ExpectedModals& modals) {
-        auto script = Testing::ScriptedChooser::Script();
-        script.saved = test.m_files->elsewhere.filePath(QStringLiteral("other.dsg"));
+        test.m_script.saved = test.m_files->elsewhere.filePath(QStringLiteral("other.dsg"));
         test.m_files->outside(QStringLiteral("steel.json"), "old");
-        test.m_window->fileCommands().setFileChooser(
-            std::make_unique<Testing::ScriptedChooser>(script));
         test.goAtCollision(modals);
         test.trigger(ZVMainActions::SaveAs);
     });

@@ -2,9 +2,11 @@
 #include "Tests/Workbench/Design/DesignFiles.h"
 #include "Workbench/Window/Appearance.h"
 #include "Workbench/Window/FilterBar.h"
+#include "Workbench/Window/MainWindow.h"
 #include "Workbench/Window/MessageBar.h"
 #include "Workbench/Window/ProblemsPanel.h"
 #include "Workbench/Window/RecentPaths.h"
+#include "Workbench/Window/WorkbenchStyle.h"
 
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
@@ -42,6 +44,8 @@ private Q_SLOTS:
     void escapeClearsTheFilterText();
     void theMessageBarTellsTheNewestAndCloses();
     void theMessageBarFollowsTheAppearance();
+    void buttonsForMoreCommandsAreSeen_data();
+    void buttonsForMoreCommandsAreSeen();
     void problemsAreListedAndActivated();
 };
 
@@ -125,6 +129,34 @@ void WindowPartsTest::theMessageBarFollowsTheAppearance()
     QVERIFY(bar.palette().color(QPalette::WindowText).lightness() > 128);
     applyAppearance(*qApp, Appearance::Light);
     QTRY_VERIFY(bar.palette().color(QPalette::Window).lightness() > 128);
+}
+
+void WindowPartsTest::buttonsForMoreCommandsAreSeen_data()
+{
+    QTest::addColumn<int>("icon");
+    QTest::newRow("on the right") << int(QStyle::SP_ToolBarHorizontalExtensionButton);
+    QTest::newRow("below") << int(QStyle::SP_ToolBarVerticalExtensionButton);
+}
+
+void WindowPartsTest::buttonsForMoreCommandsAreSeen()
+{
+    QFETCH(int, icon);
+    // The resources are the window's.
+    const MainWindow window;
+    const WorkbenchStyle style;
+    const QIcon shown = style.standardIcon(QStyle::StandardPixmap(icon));
+    const auto lightness = [&shown] {
+        const QImage image = shown.pixmap(16, 16).toImage();
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixelColor(x, y).alpha() > 250)
+                    return image.pixelColor(x, y).lightness();
+        return -1;
+    };
+    applyAppearance(*qApp, Appearance::Dark);
+    QVERIFY(lightness() > 128);
+    applyAppearance(*qApp, Appearance::Light);
+    QVERIFY(lightness() >= 0 && lightness() < 128);
 }
 
 void WindowPartsTest::problemsAreListedAndActivated()
