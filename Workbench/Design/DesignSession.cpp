@@ -1,5 +1,6 @@
 #include "Workbench/Design/DesignSession.h"
 
+#include "Host/FileHandling/FileUtilities.h"
 #include "Workbench/Design/FileAdditions.h"
 #include "Workbench/Meshes/MeshReader.h"
 
@@ -19,6 +20,17 @@ constexpr int longestName = 255;
 bool isDesignFile(const QString& path)
 {
     return QFileInfo(path).suffix().compare(QStringLiteral("dsg"), Qt::CaseInsensitive) == 0;
+}
+
+/** As it was opened before, where the case of letters doesn't count; else as it is. */
+QString knownSpelling(const std::vector<Design>& designs, const QString& file)
+{
+    const auto isSame = [&file](const Design& design) {
+        return design.file.compare(file, Qt::CaseInsensitive) == 0 &&
+               FileUtilities::isEquivalent(FileName(design.file), FileName(file));
+    };
+    const auto found = std::find_if(designs.begin(), designs.end(), isSame);
+    return found == designs.end() ? file : found->file;
 }
 
 /** Empty if an object may be called so. */
@@ -87,7 +99,7 @@ void DesignSession::openFolder(const QString& folder)
 void DesignSession::openFile(const QString& file)
 {
     if (isDesignFile(file))
-        m_store.add(file);
+        m_store.add(knownSpelling(designs(), file));
     else if (MeshReader::isMeshFile(file))
         m_looseParts.add(file, false);
     else

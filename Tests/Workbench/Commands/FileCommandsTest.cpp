@@ -40,6 +40,7 @@ private Q_SLOTS:
     void saveAsLeavesTheFormerDesign();
     void saveAsInTheOrderOfDesigns();
 
+    void otherSpellingsOpenNothingTwice();
     void openDesignsAreNotReplaced_data();
     void openDesignsAreNotReplaced();
     void otherEndingsAreRefused();
@@ -262,6 +263,17 @@ void FileCommandsTest::saveAsInTheOrderOfDesigns()
     QVERIFY(m_window->fileCommands().saveAs(m_window->session().designs().front().id));
     QCOMPARE(int(m_window->session().designs().size()), 2);
     QCOMPARE(m_window->session().designs().back().name, QStringLiteral("Other"));
+}
+
+void FileCommandsTest::otherSpellingsOpenNothingTwice()
+{
+    openDesign();
+    const QFileInfo design(m_files->designFile());
+    m_window->open({design.dir().filePath(design.fileName().toUpper())});
+    QCOMPARE(int(m_window->session().designs().size()), 1);
+    // Where case counts there is no such file.
+    QCOMPARE(m_window->session().problems().empty(), !Testing::doesCaseOfNamesCount());
+    QCOMPARE(m_window->session().designs().front().file, design.canonicalFilePath());
 }
 
 void FileCommandsTest::openDesignsAreNotReplaced_data()
