@@ -36,6 +36,7 @@
 #include <QtGui/QDragEnterEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QStatusBar>
 #include <QtWidgets/QTreeView>
@@ -121,6 +122,7 @@ void MainWindow::layOut()
     m_treeView->setAccessibleName(tr("Objects"));
     m_treeView->setFrameShape(QFrame::NoFrame);
     m_treeView->setAlternatingRowColors(true);
+    m_treeView->setContextMenuPolicy(Qt::CustomContextMenu);
     m_tree->attach(m_treeView);
     m_layout = new WindowLayout({m_messageBar, m_filterBar, m_treeView, m_meshView, m_details,
                                  m_quantities, m_problemsPanel},
@@ -215,6 +217,7 @@ void MainWindow::connectParts()
         if (index.column() == TreeColumn::UsedBy)
             goToReference();
     });
+    connect(m_treeView, &QTreeView::customContextMenuRequested, this, &MainWindow::showRowMenu);
     connect(&m_session, &DesignSession::conflictFound, this, &MainWindow::tellConflict);
     connect(m_exchange, &FileExchange::failed, m_messageBar, &MessageBar::say);
     connect(m_exchange, &FileExchange::done, this, &MainWindow::notify);
@@ -453,6 +456,20 @@ void MainWindow::goToReference()
     const QRect cell = m_treeView->visualRect(current.siblingAtColumn(TreeColumn::UsedBy));
     m_references->follow(m_tree->currentId(), this,
                          m_treeView->viewport()->mapToGlobal(cell.bottomLeft()));
+}
+
+/** What can be done with the row there, which a click has made the current one. */
+void MainWindow::showRowMenu(const QPoint& place)
+{
+    if (!m_treeView->indexAt(place).isValid())
+        return;
+    auto* menu = new QMenu(m_treeView);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const WorkbenchActions::Actions id :
+         {WorkbenchActions::Rename, WorkbenchActions::Remove, WorkbenchActions::GoToReference})
+        menu->addAction((*m_commands)[id]);
+    menu->addAction((*m_commands)[ZVMainActions::Export]);
+    menu->popup(m_treeView->viewport()->mapToGlobal(place));
 }
 
 void MainWindow::goTo(const IDCombiner& id)

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void closingAsksForUnsavedChanges();
     void reloadReadsWhatWasCancelled();
     void reloadTriesAgainWhatCouldNotBeOpened();
+    void aRowHasAMenu();
     void aReferenceLeadsToThePart();
     void aReferenceThatTheFilterHidesIsTold();
     void theLegendLeadsToThePart();
@@ -384,6 +385,27 @@ void MainWindowTest::reloadTriesAgainWhatCouldNotBeOpened()
     triggerText(QStringLiteral("Reopen All"));
     QCOMPARE(m_window->session().designs().size(), std::size_t(1));
     QVERIFY(m_window->session().problems().empty());
+}
+
+void MainWindowTest::aRowHasAMenu()
+{
+    openDesign();
+    m_window->tree().select(objectId(21));
+    QTreeView& tree = m_window->treeView();
+    Q_EMIT tree.customContextMenuRequested({5, tree.viewport()->height() - 1});
+    QVERIFY2(!tree.findChild<QMenu*>(), "no row there");
+    Q_EMIT tree.customContextMenuRequested(tree.visualRect(tree.currentIndex()).center());
+    const QPointer<QMenu> menu = tree.findChild<QMenu*>();
+    QVERIFY(menu && menu->isVisible());
+    QStringList texts;
+    for (const QAction* action : menu->actions())
+        texts << action->text().remove(QLatin1Char('&'));
+    QCOMPARE(texts, (QStringList{QStringLiteral("Rename"), QStringLiteral("Remove from Design"),
+                                 QStringLiteral("Go to Reference"), QStringLiteral("Export...")}));
+    QVERIFY(menu->actions().first()->isEnabled());
+    QVERIFY2(!menu->actions().at(1)->isEnabled(), "tools stay with their operation");
+    menu->close();
+    QTRY_VERIFY(!menu);
 }
 
 void MainWindowTest::aReferenceLeadsToThePart()
