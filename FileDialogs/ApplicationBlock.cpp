@@ -5,21 +5,41 @@
 
 namespace Zorvane {
 
+namespace {
+
+/** From the owner up, those that are enabled. Disabling one may be the end of any other. */
+std::vector<QPointer<QWidget>> enabledWidgets(QWidget* owner, const QWidget* mainWindow)
+{
+    std::vector<QPointer<QWidget>> widgets;
+    for (QWidget* widget = owner; widget && widget != mainWindow; widget = widget->parentWidget()) {
+        if (widget->isEnabled())
+            widgets.emplace_back(widget);
+    }
+    return widgets;
+}
+
+void tell(QWidget* mainWindow)
+{
+    static_assert(QEvent::ApplicationDeactivate == 122, "the type that main windows wait for");
+    QEvent event(QEvent::ApplicationDeactivate);
+    QCoreApplication::sendEvent(mainWindow, &event);
+}
+
+} // namespace
+
 // Delegates so that the destructor runs, too, if what a widget throws ends this one halfway.
 ApplicationBlock::ApplicationBlock(QWidget* owner, QWidget* mainWindow)
     : ApplicationBlock()
 {
-    for (QWidget* widget = owner; widget && widget != mainWindow; widget = widget->parentWidget()) {
-        if (!widget->isEnabled())
+    const QPointer<QWidget> toTell(mainWindow);
+    for (const QPointer<QWidget>& widget : enabledWidgets(owner, mainWindow)) {
+        if (!widget)
             continue;
-        m_disabled.emplace_back(widget);
+        m_disabled.push_back(widget);
         widget->setEnabled(false);
     }
-    if (!mainWindow)
-        return;
-    static_assert(QEvent::ApplicationDeactivate == 122, "the type that main windows wait for");
-    QEvent event(QEvent::ApplicationDeactivate);
-    QCoreApplication::sendEvent(mainWindow, &event);
+    if (toTell)
+        tell(toTell);
 }
 
 ApplicationBlock::~ApplicationBlock()

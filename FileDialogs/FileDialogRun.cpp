@@ -7,6 +7,8 @@
 #include "FileDialogs/NativeFileDialog.h"
 #include "Host/System/CommandLineParser.h"
 
+#include <QtCore/QPointer>
+
 namespace Zorvane {
 
 namespace {
@@ -48,13 +50,24 @@ NativeFileDialogRequest requestOf(const FileDialogCall& call, QWidget* owner)
     return request;
 }
 
+NativeFileDialogResult cancelled()
+{
+    NativeFileDialogResult result;
+    result.code = NativeFileDialogResult::s_cancelled;
+    return result;
+}
+
 /** Without a driver there is a configuration, which Qt's own dialog would ignore. */
 NativeFileDialogResult ask(NativeFileDialogDriver* driver, const FileDialogCall& call)
 {
     QWidget* mainWindow = applicationMainWindow();
-    QWidget* owner = call.parent ? call.parent : mainWindow;
-    const NativeFileDialogRequest request = requestOf(call, owner);
+    const QPointer<QWidget> owner(call.parent ? call.parent : mainWindow);
+    const bool isOwned = owner;
     const ApplicationBlock block(owner, mainWindow);
+    // The widgets are told of the block, and one may take the owner away: then the dialog as well.
+    if (isOwned && !owner)
+        return cancelled();
+    const NativeFileDialogRequest request = requestOf(call, owner);
     if (!driver)
         return openConfiguredFileDialog(request, call.options, call.selectedFilter);
     return call.purpose == FileDialogPurpose::SaveFile ? driver->save(request)

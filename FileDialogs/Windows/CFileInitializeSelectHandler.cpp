@@ -1,5 +1,6 @@
 #include "FileDialogs/Windows/CFileInitializeSelectHandler.h"
 
+#include "FileDialogs/Windows/DialogGuard.h"
 #include "Files/Windows/ComPointer.h"
 #include "Files/Windows/ShellPath.h"
 #include "Files/Windows/TaskMemory.h"
@@ -69,8 +70,10 @@ void selectFile(IFileDialog* dialog, const QString& fileName)
 
 } // namespace
 
-CFileInitializeSelectHandler::CFileInitializeSelectHandler(const QString& fileName)
+CFileInitializeSelectHandler::CFileInitializeSelectHandler(const QString& fileName,
+                                                           DialogGuard& guard)
     : m_fileName(fileName)
+    , m_guard(guard)
 {}
 
 CFileInitializeSelectHandler::~CFileInitializeSelectHandler() = default;
@@ -79,7 +82,7 @@ HRESULT CFileInitializeSelectHandler::OnSelectionChange(IFileDialog* dialog)
 {
     // Selecting is a change of the selection too, so that this is called again from inside.
     if (!m_fileName.isEmpty() && std::exchange(m_isStillToSelect, false))
-        selectFile(dialog, m_fileName);
+        m_guard.run([&] { selectFile(dialog, m_fileName); });
     return S_OK;
 }
 

@@ -11,6 +11,8 @@
 
 namespace Zorvane {
 
+class DialogGuard;
+
 /**
  * Shows a preset file selected and scrolled into view: with the first change of the selection,
  * which comes when the dialog has filled its list. Later changes are the user's.
@@ -18,7 +20,8 @@ namespace Zorvane {
 class ZORVANE_UITOOLS_EXPORT CFileInitializeSelectHandler : public DialogEvents<>
 {
 public:
-    explicit CFileInitializeSelectHandler(const QString& fileName);
+    /** The guard is used as long as this lives. */
+    CFileInitializeSelectHandler(const QString& fileName, DialogGuard& guard);
 
     HRESULT STDMETHODCALLTYPE OnSelectionChange(IFileDialog* dialog) override;
 
@@ -27,6 +30,7 @@ protected:
 
 private:
     QString m_fileName;
+    DialogGuard& m_guard;
     bool m_isStillToSelect = true;
 };
 

@@ -2,6 +2,7 @@
 
 #include "FileDialogs/FileDialogEventHandler.h"
 #include "FileDialogs/SelectedFiles.h"
+#include "FileDialogs/Windows/DialogGuard.h"
 #include "FileDialogs/Windows/DialogItems.h"
 #include "FileDialogs/Windows/WinFileDialogCallbacks.h"
 
@@ -18,65 +19,53 @@ ComPointer<IFileDialogCustomize> customizeOf(IFileDialog* dialog)
     return customize;
 }
 
-void close(IUnknown* dialog)
-{
-    ComPointer<IFileDialog> closable;
-    if (dialog && SUCCEEDED(dialog->QueryInterface(IID_PPV_ARGS(closable.put()))))
-        closable->Close(E_UNEXPECTED);
-}
-
 } // namespace
 
 CFileOpenDialogEventHandler::CFileOpenDialogEventHandler(FileDialogEventHandler& handler,
-                                                         std::exception_ptr& thrown)
+                                                         DialogGuard& guard)
     : m_handler(handler)
-    , m_thrown(thrown)
+    , m_guard(guard)
 {}
 
 CFileOpenDialogEventHandler::~CFileOpenDialogEventHandler() = default;
 
 template <typename Call>
-HRESULT CFileOpenDialogEventHandler::tell(IUnknown* dialog, Call call)
+HRESULT CFileOpenDialogEventHandler::tell(Call call)
 {
-    if (m_thrown)
-        return S_OK;
-    try {
-        call();
-    } catch (...) {
-        m_thrown = std::current_exception();
-        close(dialog);
-    }
+    m_guard.run(call);
     return S_OK;
+}
+
+WinFileDialogCallbacks CFileOpenDialogEventHandler::callbacks(IUnknown* dialog) const
+{
+    return WinFileDialogCallbacks(dialog, m_guard.weak_from_this());
 }
 
 HRESULT CFileOpenDialogEventHandler::OnSelectionChange(IFileDialog* dialog)
 {
-    return tell(dialog, [&] {
+    return tell([&] {
         const QStringList files = inOrderOfFileNameBox(selectedPaths(dialog), fileNameText(dialog));
-        m_handler.onSelectionChanged(files, WinFileDialogCallbacks(customizeOf(dialog).get()));
+        m_handler.onSelectionChanged(files, callbacks(customizeOf(dialog).get()));
     });
 }
 
 HRESULT CFileOpenDialogEventHandler::OnTypeChange(IFileDialog* dialog)
 {
-    return tell(dialog, [&] {
-        m_handler.onTypeChanged(WinFileDialogCallbacks(customizeOf(dialog).get()));
-    });
+    return tell([&] { m_handler.onTypeChanged(callbacks(customizeOf(dialog).get())); });
 }
 
 HRESULT CFileOpenDialogEventHandler::OnCheckButtonToggled(IFileDialogCustomize* customize,
                                                           DWORD controlId, BOOL isChecked)
 {
-    return tell(customize, [&] {
-        m_handler.onCheckBoxToggled(isChecked != FALSE, int(controlId),
-                                    WinFileDialogCallbacks(customize));
+    return tell([&] {
+        m_handler.onCheckBoxToggled(isChecked != FALSE, int(controlId), callbacks(customize));
     });
 }
 
-HRESULT CFileOpenDialogEventHandler::OnItemSelected(IFileDialogCustomize* customize,
-                                                    DWORD controlId, DWORD itemId)
+HRESULT CFileOpenDialogEventHandler::OnItemSelected(IFileDialogCustomize*, DWORD controlId,
+                                                    DWORD itemId)
 {
-    return tell(customize, [&] { m_handler.onItemSelected(int(controlId), int(itemId)); });
+    return tell([&] { m_handler.onItemSelected(int(controlId), int(itemId)); });
 }
 
 HRESULT CFileOpenDialogEventHandler::OnButtonClicked(IFileDialogCustomize*, DWORD)

@@ -3,27 +3,26 @@
 #include "FileDialogs/Windows/DialogEvents.h"
 #include "UiToolsExport.h"
 
-#include <exception>
-
 #include <windows.h>
 
 #include <shobjidl.h>
 
 namespace Zorvane {
 
+class DialogGuard;
 class FileDialogEventHandler;
+class WinFileDialogCallbacks;
 
 /**
  * Tells a handler what happens in an open dialog. The dialog finds the events of custom controls by
- * asking this for their interface. What a handler throws may not pass through the system's code: it
- * is kept for whoever shows the dialog, the dialog is closed, and the handler is told no more.
+ * asking this for their interface. After it has thrown something the handler is told no more.
  */
 class ZORVANE_UITOOLS_EXPORT CFileOpenDialogEventHandler
     : public DialogEvents<IFileDialogControlEvents>
 {
 public:
-    /** Both are used as long as this lives; `thrown` receives what the handler throws. */
-    CFileOpenDialogEventHandler(FileDialogEventHandler& handler, std::exception_ptr& thrown);
+    /** Both are used as long as this lives. The guard's owner is a shared pointer. */
+    CFileOpenDialogEventHandler(FileDialogEventHandler& handler, DialogGuard& guard);
 
     HRESULT STDMETHODCALLTYPE OnSelectionChange(IFileDialog* dialog) override;
     HRESULT STDMETHODCALLTYPE OnTypeChange(IFileDialog* dialog) override;
@@ -42,10 +41,11 @@ protected:
 
 private:
     template <typename Call>
-    HRESULT tell(IUnknown* dialog, Call call);
+    HRESULT tell(Call call);
+    WinFileDialogCallbacks callbacks(IUnknown* dialog) const;
 
     FileDialogEventHandler& m_handler;
-    std::exception_ptr& m_thrown;
+    DialogGuard& m_guard;
 };
 
 } // namespace Zorvane

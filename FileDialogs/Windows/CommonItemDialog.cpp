@@ -5,8 +5,8 @@
 #include "FileDialogs/Windows/CFileInitializeSelectHandler.h"
 #include "FileDialogs/Windows/CFileOpenDialogEventHandler.h"
 #include "FileDialogs/Windows/CustomControls.h"
+#include "FileDialogs/Windows/DialogGuard.h"
 #include "FileDialogs/Windows/DialogItems.h"
-#include "FileDialogs/Windows/GeometryHook.h"
 #include "Files/Windows/ShellPath.h"
 
 #include <QtCore/QPointer>
@@ -18,8 +18,10 @@
 namespace Zorvane {
 
 CommonItemDialog::CommonItemDialog(const ShellFunctions& shell,
+                                   const WindowEventFunctions& windowEvents,
                                    const NativeFileDialogRequest& request)
     : m_shell(shell)
+    , m_windowEvents(windowEvents)
     , m_request(request)
 {}
 
@@ -30,18 +32,18 @@ HRESULT CommonItemDialog::open(QStringList& paths) const
                                       IID_PPV_ARGS(dialog.put()));
     if (FAILED(result))
         return result;
+    const auto guard = std::make_shared<DialogGuard>(dialog.get());
     AdvisedEvents presetEvents(dialog.get());
-    std::exception_ptr thrown;
     AdvisedEvents events(dialog.get());
     const DWORD moreOptions = m_request.multiSelection ? DWORD(FOS_ALLOWMULTISELECT) : 0;
-    result = prepare(dialog.get(), moreOptions, presetEvents);
+    result = prepare(dialog.get(), moreOptions, presetEvents, *guard);
     if (SUCCEEDED(result))
-        result = attachConfiguration(dialog.get(), events, thrown);
+        result = attachConfiguration(dialog.get(), events, *guard);
     FileDialogConfiguration standard;
     if (SUCCEEDED(result))
-        result = show(dialog.get(), m_request.configuration ? *m_request.configuration : standard);
-    if (thrown)
-        std::rethrow_exception(thrown);
+        result = show(dialog.get(), m_request.configuration ? *m_request.configuration : standard,
+                      *guard);
+    guard->rethrow();
     ComPointer<IShellItemArray> items;
     if (SUCCEEDED(result))
         result = dialog->GetResults(items.put());
@@ -55,11 +57,13 @@ HRESULT CommonItemDialog::save(QStringList& paths) const
                                       IID_PPV_ARGS(dialog.put()));
     if (FAILED(result))
         return result;
+    const auto guard = std::make_shared<DialogGuard>(dialog.get());
     AdvisedEvents presetEvents(dialog.get());
-    result = prepare(dialog.get(), 0, presetEvents);
+    result = prepare(dialog.get(), 0, presetEvents, *guard);
     FileDialogConfiguration standard;
     if (SUCCEEDED(result))
-        result = show(dialog.get(), standard);
+        result = show(dialog.get(), standard, *guard);
+    guard->rethrow();
     ComPointer<IShellItem> item;
     if (SUCCEEDED(result))
         result = dialog->GetResult(item.put());
@@ -67,7 +71,7 @@ HRESULT CommonItemDialog::save(QStringList& paths) const
 }
 
 HRESULT CommonItemDialog::prepare(IFileDialog* dialog, DWORD moreOptions,
-                                  AdvisedEvents& presetEvents) const
+                                  AdvisedEvents& presetEvents, DialogGuard& guard) const
 {
     HRESULT result = dialog->SetTitle(wide(m_request.caption));
     if (SUCCEEDED(result))
@@ -77,7 +81,7 @@ HRESULT CommonItemDialog::prepare(IFileDialog* dialog, DWORD moreOptions,
     if (FAILED(result))
         return result;
     setFolder(dialog);
-    result = presetFile(dialog, presetEvents);
+    result = presetFile(dialog, presetEvents, guard);
     if (SUCCEEDED(result))
         addPlaces(dialog);
     return result;
@@ -114,14 +118,16 @@ void CommonItemDialog::setFolder(IFileDialog* dialog) const
         dialog->SetFolder(folder.get());
 }
 
-HRESULT CommonItemDialog::presetFile(IFileDialog* dialog, AdvisedEvents& presetEvents) const
+HRESULT CommonItemDialog::presetFile(IFileDialog* dialog, AdvisedEvents& presetEvents,
+                                     DialogGuard& guard) const
 {
     if (m_request.fileName.isEmpty())
         return S_OK;
     const HRESULT result = dialog->SetFileName(wide(m_request.fileName));
     if (FAILED(result))
         return result;
-    return presetEvents.advise(new (std::nothrow) CFileInitializeSelectHandler(m_request.fileName));
+    return presetEvents.advise(new (std::nothrow)
+                                   CFileInitializeSelectHandler(m_request.fileName, guard));
 }
 
 /** Places that cannot be had are left out. */
@@ -136,14 +142,13 @@ void CommonItemDialog::addPlaces(IFileDialog* dialog) const
 
 /** Without somebody to tell of them there are no controls either. */
 HRESULT CommonItemDialog::attachConfiguration(IFileDialog* dialog, AdvisedEvents& events,
-                                              std::exception_ptr& thrown) const
+                                              DialogGuard& guard) const
 {
     FileDialogEventHandler* handler =
         m_request.configuration ? m_request.configuration->getEventHandler() : nullptr;
     if (!handler)
         return S_OK;
-    HRESULT result =
-        events.advise(new (std::nothrow) CFileOpenDialogEventHandler(*handler, thrown));
+    HRESULT result = events.advise(new (std::nothrow) CFileOpenDialogEventHandler(*handler, guard));
     ComPointer<IFileDialogCustomize> customize;
     if (SUCCEEDED(result))
         result = dialog->QueryInterface(IID_PPV_ARGS(customize.put()));
@@ -151,9 +156,10 @@ HRESULT CommonItemDialog::attachConfiguration(IFileDialog* dialog, AdvisedEvents
                              : result;
 }
 
-HRESULT CommonItemDialog::show(IFileDialog* dialog, FileDialogConfiguration& configuration) const
+HRESULT CommonItemDialog::show(IFileDialog* dialog, FileDialogConfiguration& configuration,
+                               DialogGuard& guard) const
 {
-    const GeometryHook hook(configuration);
+    const GeometryHook hook(configuration, guard, m_windowEvents);
     if (!m_request.owner)
         return dialog->Show(nullptr);
     const QPointer<QWidget> owner(m_request.owner);

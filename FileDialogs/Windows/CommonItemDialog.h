@@ -1,9 +1,8 @@
 #pragma once
 
 #include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/Windows/GeometryHook.h"
 #include "Files/Windows/ShellFunctions.h"
-
-#include <exception>
 
 #include <windows.h>
 
@@ -12,6 +11,7 @@
 namespace Zorvane {
 
 class AdvisedEvents;
+class DialogGuard;
 
 /**
  * One run of the system's open or save dialog. Every step that fails ends the run with its result,
@@ -20,26 +20,30 @@ class AdvisedEvents;
 class CommonItemDialog
 {
 public:
-    /** Both are used as long as this lives; the thread is in an apartment already. */
-    CommonItemDialog(const ShellFunctions& shell, const NativeFileDialogRequest& request);
+    /** All are used as long as this lives; the thread is in an apartment already. */
+    CommonItemDialog(const ShellFunctions& shell, const WindowEventFunctions& windowEvents,
+                     const NativeFileDialogRequest& request);
 
-    /** Throws what a configuration's handler has thrown, once the dialog is closed. */
+    /** Throws what the configuration or its handler has thrown, once the dialog is closed. */
     HRESULT open(QStringList& paths) const;
     HRESULT save(QStringList& paths) const;
 
 private:
-    HRESULT prepare(IFileDialog* dialog, DWORD moreOptions, AdvisedEvents& presetEvents) const;
+    HRESULT prepare(IFileDialog* dialog, DWORD moreOptions, AdvisedEvents& presetEvents,
+                    DialogGuard& guard) const;
     HRESULT setOptions(IFileDialog* dialog, DWORD moreOptions) const;
     HRESULT setFileTypes(IFileDialog* dialog) const;
     void setFolder(IFileDialog* dialog) const;
-    HRESULT presetFile(IFileDialog* dialog, AdvisedEvents& presetEvents) const;
+    HRESULT presetFile(IFileDialog* dialog, AdvisedEvents& presetEvents, DialogGuard& guard) const;
     void addPlaces(IFileDialog* dialog) const;
     HRESULT attachConfiguration(IFileDialog* dialog, AdvisedEvents& events,
-                                std::exception_ptr& thrown) const;
-    HRESULT show(IFileDialog* dialog, FileDialogConfiguration& configuration) const;
+                                DialogGuard& guard) const;
+    HRESULT show(IFileDialog* dialog, FileDialogConfiguration& configuration,
+                 DialogGuard& guard) const;
     HRESULT createItem(const QString& path, IShellItem** item) const;
 
     const ShellFunctions& m_shell;
+    const WindowEventFunctions& m_windowEvents;
     const NativeFileDialogRequest& m_request;
 };
 

@@ -1,7 +1,6 @@
 #include "FileDialogs/Windows/CommonItemDialogDriver.h"
 
 #include "FileDialogs/Windows/CommonItemDialog.h"
-#include "FileDialogs/Windows/DpiAwarenessScope.h"
 #include "Files/Windows/ComApartment.h"
 
 namespace Zorvane {
@@ -11,6 +10,8 @@ namespace {
 using Run = HRESULT (CommonItemDialog::*)(QStringList&) const;
 
 NativeFileDialogResult runDialog(const wchar_t* shellLibrary,
+                                 const WindowEventFunctions& windowEvents,
+                                 DpiAwarenessScope::SetContext* setAwareness,
                                  const NativeFileDialogRequest& request, Run run)
 {
     NativeFileDialogResult result;
@@ -20,9 +21,11 @@ NativeFileDialogResult runDialog(const wchar_t* shellLibrary,
         return result;
     const ShellFunctions shell(shellLibrary);
     const SystemLibrary user(L"user32.dll");
-    const DpiAwarenessScope dpiAwareness(
-        user.find<DpiAwarenessScope::SetContext>("SetThreadDpiAwarenessContext"));
-    result.code = shell.createItem ? (CommonItemDialog(shell, request).*run)(result.paths) : E_FAIL;
+    if (!setAwareness)
+        setAwareness = user.find<DpiAwarenessScope::SetContext>("SetThreadDpiAwarenessContext");
+    const DpiAwarenessScope dpiAwareness(setAwareness);
+    const CommonItemDialog dialog(shell, windowEvents, request);
+    result.code = shell.createItem ? (dialog.*run)(result.paths) : E_FAIL;
     if (FAILED(result.code))
         result.paths.clear();
     return result;
@@ -30,20 +33,26 @@ NativeFileDialogResult runDialog(const wchar_t* shellLibrary,
 
 } // namespace
 
-CommonItemDialogDriver::CommonItemDialogDriver(const wchar_t* shellLibrary)
+CommonItemDialogDriver::CommonItemDialogDriver(const wchar_t* shellLibrary,
+                                               const WindowEventFunctions& windowEvents,
+                                               DpiAwarenessScope::SetContext* setAwareness)
     : m_shellLibrary(shellLibrary)
+    , m_windowEvents(windowEvents)
+    , m_setAwareness(setAwareness)
 {}
 
 CommonItemDialogDriver::~CommonItemDialogDriver() = default;
 
 NativeFileDialogResult CommonItemDialogDriver::open(const NativeFileDialogRequest& request)
 {
-    return runDialog(m_shellLibrary, request, &CommonItemDialog::open);
+    return runDialog(m_shellLibrary, m_windowEvents, m_setAwareness, request,
+                     &CommonItemDialog::open);
 }
 
 NativeFileDialogResult CommonItemDialogDriver::save(const NativeFileDialogRequest& request)
 {
-    return runDialog(m_shellLibrary, request, &CommonItemDialog::save);
+    return runDialog(m_shellLibrary, m_windowEvents, m_setAwareness, request,
+                     &CommonItemDialog::save);
 }
 
 } // namespace Zorvane

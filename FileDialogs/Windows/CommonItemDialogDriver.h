@@ -1,6 +1,8 @@
 #pragma once
 
 #include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/Windows/DpiAwarenessScope.h"
+#include "FileDialogs/Windows/GeometryHook.h"
 #include "UiToolsExport.h"
 
 #include <windows.h>
@@ -16,8 +18,10 @@ namespace Zorvane {
 class ZORVANE_UITOOLS_EXPORT CommonItemDialogDriver final : public NativeFileDialogDriver
 {
 public:
-    /** `shellLibrary` has the shell's functions. */
-    explicit CommonItemDialogDriver(const wchar_t* shellLibrary = L"shell32.dll");
+    /** `shellLibrary` has the shell's functions. Without `setAwareness` the system's is taken. */
+    explicit CommonItemDialogDriver(const wchar_t* shellLibrary = L"shell32.dll",
+                                    const WindowEventFunctions& windowEvents = {},
+                                    DpiAwarenessScope::SetContext* setAwareness = nullptr);
     ~CommonItemDialogDriver() override;
 
     NativeFileDialogResult open(const NativeFileDialogRequest& request) override;
@@ -25,6 +29,8 @@ public:
 
 private:
     const wchar_t* m_shellLibrary;
+    WindowEventFunctions m_windowEvents;
+    DpiAwarenessScope::SetContext* m_setAwareness;
 };
 
 } // namespace Zorvane

@@ -2,6 +2,7 @@
 
 #include "FileDialogs/FileDialogConfiguration.h"
 #include "FileDialogs/ScreenScale.h"
+#include "FileDialogs/Windows/DialogGuard.h"
 
 #include <boost/thread/lock_types.hpp>
 #include <boost/thread/shared_mutex.hpp>
@@ -12,32 +13,39 @@ namespace Zorvane {
 
 namespace {
 
+struct Recording
+{
+    FileDialogConfiguration* configuration = nullptr;
+    DialogGuard* guard = nullptr;
+};
+
 /** Whose geometry each hook records. */
 class Registry
 {
 public:
-    void add(HWINEVENTHOOK hook, FileDialogConfiguration* configuration)
+    void add(HWINEVENTHOOK hook, const Recording& recording)
     {
         const boost::unique_lock<boost::shared_mutex> lock(m_mutex);
-        m_configurations[hook] = configuration;
+        m_recordings[hook] = recording;
     }
 
     void remove(HWINEVENTHOOK hook)
     {
         const boost::unique_lock<boost::shared_mutex> lock(m_mutex);
-        m_configurations.erase(hook);
+        m_recordings.erase(hook);
     }
 
-    FileDialogConfiguration* find(HWINEVENTHOOK hook)
+    /** Without a configuration for a hook that is not, or no longer, here. */
+    Recording find(HWINEVENTHOOK hook)
     {
         const boost::shared_lock<boost::shared_mutex> lock(m_mutex);
-        const auto found = m_configurations.find(hook);
-        return found == m_configurations.end() ? nullptr : found->second;
+        const auto found = m_recordings.find(hook);
+        return found == m_recordings.end() ? Recording() : found->second;
     }
 
 private:
     boost::shared_mutex m_mutex;
-    std::map<HWINEVENTHOOK, FileDialogConfiguration*> m_configurations;
+    std::map<HWINEVENTHOOK, Recording> m_recordings;
 };
 
 Registry& registry()
@@ -49,23 +57,28 @@ Registry& registry()
 void CALLBACK record(HWINEVENTHOOK hook, DWORD event, HWND window, LONG object, LONG, DWORD, DWORD)
 {
     // The lock is free again before the configuration is called: it may open a dialog.
-    FileDialogConfiguration* configuration = registry().find(hook);
+    const Recording recording = registry().find(hook);
     const bool isEnd = event == EVENT_SYSTEM_MOVESIZEEND || event == EVENT_SYSTEM_DIALOGEND;
     RECT rect;
-    if (!configuration || !isEnd || object != OBJID_WINDOW || !GetWindowRect(window, &rect))
+    if (!recording.configuration || !isEnd || object != OBJID_WINDOW ||
+        !GetWindowRect(window, &rect))
         return;
-    configuration->storeFileDialogGeometry(inQtPixels(
-        QRect(QPoint(rect.left, rect.top), QPoint(rect.right, rect.bottom)), scaledScreens()));
+    recording.guard->runBetweenMessages([&] {
+        recording.configuration->storeFileDialogGeometry(inQtPixels(
+            QRect(QPoint(rect.left, rect.top), QPoint(rect.right, rect.bottom)), scaledScreens()));
+    });
 }
 
 } // namespace
 
-GeometryHook::GeometryHook(FileDialogConfiguration& configuration)
-    : m_hook(SetWinEventHook(EVENT_SYSTEM_MOVESIZEEND, EVENT_SYSTEM_DIALOGEND, nullptr, record, 0,
-                             0, WINEVENT_OUTOFCONTEXT))
+GeometryHook::GeometryHook(FileDialogConfiguration& configuration, DialogGuard& guard,
+                           const WindowEventFunctions& windowEvents)
+    : m_windowEvents(windowEvents)
+    , m_hook(m_windowEvents.hook(EVENT_SYSTEM_MOVESIZEEND, EVENT_SYSTEM_DIALOGEND, nullptr, record,
+                                 0, 0, WINEVENT_OUTOFCONTEXT))
 {
     if (m_hook)
-        registry().add(m_hook, &configuration);
+        registry().add(m_hook, {&configuration, &guard});
 }
 
 GeometryHook::~GeometryHook()
@@ -73,7 +86,7 @@ GeometryHook::~GeometryHook()
     if (!m_hook)
         return;
     registry().remove(m_hook);
-    UnhookWinEvent(m_hook);
+    m_windowEvents.unhook(m_hook);
 }
 
 } // namespace Zorvane

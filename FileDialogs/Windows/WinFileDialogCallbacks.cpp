@@ -3,12 +3,15 @@
 #include "FileDialogs/ScreenScale.h"
 #include "FileDialogs/Windows/WindowPlacement.h"
 
+#include <utility>
+
 #include <oleidl.h>
 
 namespace Zorvane {
 
-WinFileDialogCallbacks::WinFileDialogCallbacks(IUnknown* dialog)
+WinFileDialogCallbacks::WinFileDialogCallbacks(IUnknown* dialog, std::weak_ptr<DialogGuard> guard)
     : m_dialog(dialog)
+    , m_guard(std::move(guard))
 {}
 
 WinFileDialogCallbacks::~WinFileDialogCallbacks() = default;
@@ -24,7 +27,7 @@ void WinFileDialogCallbacks::placeDialog(FileDialogConfiguration* configuration)
 {
     const HWND dialogWindow = window();
     if (dialogWindow && configuration)
-        placeWindowSoon(dialogWindow, configuration);
+        placeWindowSoon(dialogWindow, configuration, m_guard);
 }
 
 QRect WinFileDialogCallbacks::getDialogGeometry() const

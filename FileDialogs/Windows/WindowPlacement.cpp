@@ -2,6 +2,7 @@
 
 #include "FileDialogs/DialogPlacement.h"
 #include "FileDialogs/ScreenScale.h"
+#include "FileDialogs/Windows/DialogGuard.h"
 
 #include <QtCore/QTimer>
 
@@ -21,24 +22,29 @@ void moveTo(HWND window, const QRect& rect)
     MoveWindow(window, rect.left(), rect.top(), rect.width(), rect.height(), TRUE);
 }
 
-void place(HWND window, FileDialogConfiguration* configuration)
+void place(HWND window, FileDialogConfiguration* configuration,
+           const std::weak_ptr<DialogGuard>& guard)
 {
-    // With the window the dialog's call has ended, and perhaps the configuration's life.
-    if (!isWindowOfThisThread(window))
+    // With the window or the dialog's call, the configuration's life may have ended.
+    const std::shared_ptr<DialogGuard> living = guard.lock();
+    if (!living || !isWindowOfThisThread(window))
         return;
-    const QRect rect = inScreenPixels(dialogPlacement(*configuration), scaledScreens());
-    if (IsWindowVisible(window))
-        moveTo(window, rect);
-    else
-        placeWindowSoon(window, configuration);
+    living->run([&] {
+        const QRect rect = inScreenPixels(dialogPlacement(*configuration), scaledScreens());
+        if (IsWindowVisible(window))
+            moveTo(window, rect);
+        else
+            placeWindowSoon(window, configuration, guard);
+    });
 }
 
 } // namespace
 
-void placeWindowSoon(HWND window, FileDialogConfiguration* configuration)
+void placeWindowSoon(HWND window, FileDialogConfiguration* configuration,
+                     const std::weak_ptr<DialogGuard>& guard)
 {
     QTimer::singleShot(s_dialogPlacementDelay,
-                       [window, configuration] { place(window, configuration); });
+                       [window, configuration, guard] { place(window, configuration, guard); });
 }
 
 } // namespace Zorvane

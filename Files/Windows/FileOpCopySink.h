@@ -6,6 +6,7 @@
 
 #include <QtCore/QString>
 
+#include <exception>
 #include <vector>
 
 namespace Zorvane {
@@ -28,6 +29,8 @@ public:
     FileOpCopySink();
 
     const std::vector<Record>& records() const { return m_records; }
+    /** Throws what came in the way of keeping a record, if anything did. */
+    void rethrow() const;
 
     HRESULT STDMETHODCALLTYPE StartOperations() override;
     /** What is only pending is no record: the shell tells of that item again. */
@@ -40,6 +43,7 @@ protected:
 
 private:
     std::vector<Record> m_records;
+    std::exception_ptr m_thrown;
 };
 
 } // namespace Zorvane

@@ -3,6 +3,8 @@
 #include "Files/Windows/ShellPath.h"
 #include "Files/Windows/TaskMemory.h"
 
+#include <QtCore/QFileInfo>
+
 #include <new>
 #include <vector>
 
@@ -28,20 +30,26 @@ bool isSameItem(IShellItem* one, IShellItem* other)
     return one && other && one->Compare(other, SICHINT_ALLFIELDS, &order) == S_OK && order == 0;
 }
 
-FileCopyUtility::Status statusOf(IShellItem* source, const FileOpCopySink::Record& record)
+/** The name that is shown; that of the path where there is none to show. */
+QString shownName(IShellItem* item, const QString& path)
 {
-    if (record.result != S_OK || !record.created)
-        return FileCopyUtility::NotCopied;
-    const bool isRenamed = nameOfItem(source, SIGDN_NORMALDISPLAY) !=
-                           nameOfItem(record.created.get(), SIGDN_NORMALDISPLAY);
-    return isRenamed ? FileCopyUtility::CopiedUnderOtherName : FileCopyUtility::Copied;
+    const QString name = nameOfItem(item, SIGDN_NORMALDISPLAY);
+    return name.isEmpty() ? QFileInfo(path).fileName() : name;
 }
 
+/** A copy whose place can't be told is none that anybody could use. */
 Info infoOf(IShellItem* source, const FileOpCopySink::Record& record)
 {
-    return {nameOfItem(source, SIGDN_DESKTOPABSOLUTEPARSING),
-            nameOfItem(record.created.get(), SIGDN_DESKTOPABSOLUTEPARSING),
-            statusOf(source, record)};
+    Info info;
+    IShellItem* created = record.created.get();
+    info.source = nameOfItem(source, SIGDN_DESKTOPABSOLUTEPARSING);
+    info.target = nameOfItem(created, SIGDN_DESKTOPABSOLUTEPARSING);
+    info.status = FileCopyUtility::NotCopied;
+    if (record.result != S_OK || info.source.isEmpty() || info.target.isEmpty())
+        return info;
+    const bool isRenamed = shownName(source, info.source) != shownName(created, info.target);
+    info.status = isRenamed ? FileCopyUtility::CopiedUnderOtherName : FileCopyUtility::Copied;
+    return info;
 }
 
 /** Keeps a sink at the operation for the time of one run. */
@@ -92,7 +100,11 @@ HRESULT ShellCopy::run(const QStringList& sources, const QString& targetFolder,
     const auto sink = ComPointer<FileOpCopySink>::adopt(new (std::nothrow) FileOpCopySink);
     if (!sink)
         return E_OUTOFMEMORY;
-    result = perform(*sink.get());
+    const AdvisedSink advised(m_operation.get(), *sink.get());
+    result = advised.result();
+    if (SUCCEEDED(result))
+        result = m_operation->PerformOperations();
+    sink->rethrow();
     return SUCCEEDED(result) ? collect(*sink.get(), records) : result;
 }
 
@@ -122,12 +134,6 @@ HRESULT ShellCopy::createSources(const QStringList& sources)
         lists.push_back(owned.back().get());
     }
     return m_shell.createArray(UINT(lists.size()), lists.data(), m_sources.put());
-}
-
-HRESULT ShellCopy::perform(FileOpCopySink& sink)
-{
-    const AdvisedSink advised(m_operation.get(), sink);
-    return SUCCEEDED(advised.result()) ? m_operation->PerformOperations() : advised.result();
 }
 
 HRESULT ShellCopy::collect(const FileOpCopySink& sink, QList<Info>& records)

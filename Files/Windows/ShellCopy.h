@@ -22,7 +22,8 @@ public:
 
     /**
      * Copies, and makes one record for each source that the shell told of. The list stays empty
-     * when the result is a failure: of any step, or of the operation as a whole.
+     * when the result is a failure: of any step, or of the operation as a whole. Throws for want of
+     * memory, as everywhere.
      */
     HRESULT run(const QStringList& sources, const QString& targetFolder,
                 QList<FileCopyUtility::FileCopyInfo>& records);
@@ -31,7 +32,6 @@ private:
     HRESULT createOperation();
     HRESULT createFolder(const QString& targetFolder);
     HRESULT createSources(const QStringList& sources);
-    HRESULT perform(FileOpCopySink& sink);
     HRESULT collect(const FileOpCopySink& sink, QList<FileCopyUtility::FileCopyInfo>& records);
 
     const ShellFunctions& m_shell;

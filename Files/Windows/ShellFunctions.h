@@ -10,7 +10,10 @@
 
 namespace Zorvane {
 
-/** The functions of the shell that we need, looked up at run time; those missing are null. */
+/**
+ * The functions of the shell that we need, looked up at run time; those missing are null, and each
+ * may be replaced by another.
+ */
 class ZORVANE_UITOOLS_EXPORT ShellFunctions
 {
 private:
@@ -20,9 +23,9 @@ private:
 public:
     explicit ShellFunctions(const wchar_t* library = L"shell32.dll");
 
-    decltype(&SHCreateItemFromParsingName) const createItem;
-    decltype(&SHParseDisplayName) const parseName;
-    decltype(&SHCreateShellItemArrayFromIDLists) const createArray;
+    decltype(&SHCreateItemFromParsingName) createItem;
+    decltype(&SHParseDisplayName) parseName;
+    decltype(&SHCreateShellItemArrayFromIDLists) createArray;
 
     /** Whether a copy can be made with what there is. */
     bool sufficeForCopying() const { return createItem && parseName && createArray; }

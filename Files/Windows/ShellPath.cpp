@@ -7,11 +7,26 @@
 
 namespace Zorvane {
 
+namespace {
+
+/** Qt takes the long form of a path in a network for a relative one. */
+QString withoutLongForm(const QString& path)
+{
+    const QString network = QStringLiteral("\\\\?\\UNC\\");
+    const QString native = QDir::toNativeSeparators(path);
+    return native.startsWith(network, Qt::CaseInsensitive)
+               ? QLatin1String("\\\\") + native.mid(network.size())
+               : path;
+}
+
+} // namespace
+
 QString shellPath(const QString& path)
 {
     if (path.isEmpty())
         return {};
-    return QDir::toNativeSeparators(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+    return QDir::toNativeSeparators(
+        QDir::cleanPath(QFileInfo(withoutLongForm(path)).absoluteFilePath()));
 }
 
 const wchar_t* wide(const QString& text)

@@ -70,6 +70,8 @@ private Q_SLOTS:
     void blockThatFailsHalfwayEnds_data();
     void blockThatFailsHalfwayEnds();
     void blockEndsWithTheOwner();
+    void ownerThatGoesAtTheBlockCancels_data();
+    void ownerThatGoesAtTheBlockCancels();
     void mainWindowIsTold();
 
     void counterCounts_data();
@@ -369,6 +371,47 @@ void FileDialogTest::blockEndsWithTheOwner()
     m_script.whileOpen = [panel](const NativeFileDialogRequest&) { delete panel; };
     QCOMPARE(FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope, nullptr, panel),
              QString());
+    QVERIFY(editor.isEnabled());
+    QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
+}
+
+void FileDialogTest::ownerThatGoesAtTheBlockCancels_data()
+{
+    QTest::addColumn<QEvent::Type>("event");
+    QTest::newRow("the main window, told of the dialog") << QEvent::ApplicationDeactivate;
+    QTest::newRow("a widget on the way, as it is disabled") << QEvent::EnabledChange;
+}
+
+void FileDialogTest::ownerThatGoesAtTheBlockCancels()
+{
+    struct Tidying : QWidget
+    {
+        using QWidget::QWidget;
+
+        QEvent::Type at = QEvent::None;
+        QPointer<QWidget> doomed;
+
+        bool event(QEvent* event) override
+        {
+            if (event->type() == at)
+                delete doomed;
+            return QWidget::event(event);
+        }
+    };
+    QFETCH(QEvent::Type, event);
+    Tidying window;
+    Tidying editor(&window);
+    const QPointer<QWidget> panel = new QWidget(&editor);
+    const MainWindowProperty property(&window);
+    for (Tidying* widget : {&window, &editor}) {
+        widget->at = event;
+        widget->doomed = panel;
+    }
+    m_script.answer({path(QStringLiteral("a.prt"))});
+    QCOMPARE(FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope, nullptr, panel),
+             QString());
+    QVERIFY(!panel);
+    QVERIFY(m_script.requests.empty());
     QVERIFY(editor.isEnabled());
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
 }

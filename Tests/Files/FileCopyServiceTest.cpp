@@ -63,6 +63,7 @@ private Q_SLOTS:
 
     void checkCode_data();
     void checkCode();
+    void folderOfManySpellings();
     void utilityCopiesNothingOnACheckCode();
     void utilityReturnsTheCopiersList();
     void utilityNeedsSources();
@@ -147,6 +148,8 @@ void FileCopyServiceTest::checkCode_data()
     row("target by a roundabout way", "source/../target/.", {inTarget}, 3);
     row("source in the target through a link", "target", {QStringLiteral("link/x")}, 3);
     row("link to a file in the target", "target", {QStringLiteral("source/to-x")}, 3);
+    const int otherCase = Testing::doesCaseOfNamesCount() ? 2 : 3;
+    row("target in other letter case", "TARGET", {inTarget}, otherCase);
     row("sub-folder of the target is elsewhere", "target", {QStringLiteral("target/sub/y")}, 0);
 }
 
@@ -169,6 +172,17 @@ void FileCopyServiceTest::checkCode()
         source = m_root->filePath(source);
     QCOMPARE(FileCopyUtility::check(sources, m_root->filePath(target)), code);
     QCOMPARE(FileCopyUtility::check(sources, QString()), 2);
+}
+
+void FileCopyServiceTest::folderOfManySpellings()
+{
+    const QString folder = m_root->filePath(QStringLiteral("a folder of a long name"));
+    QDir().mkdir(folder);
+    const QString source = addFile(QStringLiteral("a folder of a long name/a"));
+    const QString other = Testing::shortSpelling(folder);
+    QCOMPARE(FileCopyUtility::check({source}, other), 3);
+    QCOMPARE(FileCopyUtility::check({other + QStringLiteral("/a")}, folder), 3);
+    QCOMPARE(FileCopyUtility::check({source}, folder + QStringLiteral("/")), 3);
 }
 
 void FileCopyServiceTest::utilityCopiesNothingOnACheckCode()

@@ -15,6 +15,10 @@ bool mayBeFileName(const QString& name);
 /** Whether names that differ in the case of letters are names of different files. */
 bool doesCaseOfNamesCount();
 
+/** The path in the system's short spelling, for programs that take no other; itself where there is
+ * none. */
+QString shortSpelling(const QString& path);
+
 /** Whether a file that a program holds open can be replaced by another file. */
 bool openFilesCanBeReplaced();
 

@@ -1,29 +1,21 @@
 #include "FileDialogs/Windows/CommonItemDialogDriver.h"
 
 #include "FileDialogs/FileDialog.h"
-#include "FileDialogs/Windows/DpiAwarenessScope.h"
+#include "FileDialogs/Windows/AdvisedEvents.h"
 #include "FileDialogs/Windows/WinFileDialogCallbacks.h"
-#include "Files/Windows/ComApartment.h"
-#include "Files/Windows/SystemLibrary.h"
 #include "Tests/FileDialogs/DialogFixtures.h"
-#include "Tests/FileDialogs/Windows/NativeDialogFixture.h"
+#include "Tests/FileDialogs/Windows/CommonItemDialogTestCase.h"
 #include "Tests/Support/ExpectedModals.h"
-#include "Tests/Support/Windows/FakeItemDialog.h"
 #include "Tests/Support/Windows/NativeTest.h"
 #include "Tests/Support/Windows/SpyItemArray.h"
 
-#include <memory>
-#include <optional>
+#include <stdexcept>
 
 using namespace Zorvane;
-using Testing::Counted;
-using Testing::FakeItemDialogs;
+using Testing::item;
+using Testing::s_failure;
 
 namespace {
-
-using CustomItem = FileDialogConfiguration::CustomItem;
-
-constexpr HRESULT s_failure = E_ACCESSDENIED;
 
 /** Without arguments: folders have another name in each test. */
 QStringList namesOf(QStringList calls)
@@ -38,29 +30,6 @@ bool isSkippedOnFailure(const QString& name)
            name == QLatin1String("Unadvise");
 }
 
-CustomItem item(int id, int type, const char* group, const QVariant& content,
-                const QVariant& initial, bool isProminent, int state)
-{
-    CustomItem item;
-    item.controlId = id;
-    item.controlType = type;
-    item.groupLabel = QString::fromLatin1(group);
-    item.content = content;
-    item.initialValue = initial;
-    item.prominent = isProminent;
-    item.controlState = state;
-    return item;
-}
-
-qintptr s_previousContext = 0;
-QVector<qintptr> s_contexts;
-
-DPI_AWARENESS_CONTEXT WINAPI setContext(DPI_AWARENESS_CONTEXT context)
-{
-    s_contexts.append(qintptr(context));
-    return reinterpret_cast<DPI_AWARENESS_CONTEXT>(s_previousContext);
-}
-
 /** One call of them fails in each row. */
 void addRowForEach(const QStringList& calls)
 {
@@ -72,14 +41,12 @@ void addRowForEach(const QStringList& calls)
 
 } // namespace
 
-class CommonItemDialogTest : public Testing::TestCase
+/** What a dialog is asked, call by call, and what becomes of a call that fails. */
+class CommonItemDialogTest : public Testing::CommonItemDialogTestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-
     void openInThisOrder();
     void saveInThisOrder();
     void plainOpenAsksForNoMore();
@@ -99,77 +66,19 @@ private Q_SLOTS:
     void aFailureInAnEvent();
     void selectionFollowsTheFileNameBox();
     void callbacksOfADialogWithoutControls();
-    void dpiAwarenessIsTakenBack_data();
-    void dpiAwarenessIsTakenBack();
-    void dpiAwarenessOfTheThreadStays();
+    void foldersOfEveryKind_data();
+    void foldersOfEveryKind();
+    void saveHasNoControls();
+    void emptyPlaceIsNone();
+    void noMemoryForAListener();
     void facadeTakesTheNativeDialog();
     void facadeFallsBack_data();
     void facadeFallsBack();
+    void facadeFallsBackForSave();
 
 private:
-    void addControls();
-    QStringList openCalls();
-    QStringList saveCalls();
     void expectFailure(const NativeFileDialogResult& result, int place, const QStringList& calls);
-
-    std::optional<Testing::DialogFolder> m_folder;
-    NativeFileDialogRequest m_request;
-    Testing::EventRecorder m_handler;
-    std::optional<FileDialogConfiguration> m_configuration;
-    std::optional<ComApartment> m_apartment;
-    Testing::ItemDialogScript m_script;
-    std::unique_ptr<FakeItemDialogs> m_dialogs;
-    CommonItemDialogDriver m_driver;
 };
-
-void CommonItemDialogTest::init()
-{
-    m_folder.emplace();
-    m_handler = {};
-    m_configuration.emplace(QStringLiteral("Calls"));
-    m_configuration->setEventHandler(&m_handler);
-    m_request = m_folder->request();
-    m_request.multiSelection = true;
-    m_request.filters.preselectedPattern = QStringLiteral("*.*");
-    m_request.fileName = QStringLiteral("a.stl");
-    m_request.places = {m_folder->folder(), m_folder->path("missing"), m_folder->folder()};
-    m_request.configuration = &*m_configuration;
-    m_apartment.emplace();
-    m_script = {};
-    m_script.results = QStringList{m_folder->path("b.stl"), m_folder->path("a.stl")};
-    m_dialogs = std::make_unique<FakeItemDialogs>(m_script);
-}
-
-void CommonItemDialogTest::cleanup()
-{
-    QCOMPARE(m_script.leftReferences, 0UL);
-    m_dialogs.reset();
-    QCOMPARE(Counted::living(), 0);
-    m_apartment.reset();
-    m_folder.reset();
-    TestCase::cleanup();
-}
-
-void CommonItemDialogTest::addControls()
-{
-    m_configuration->addCustomControl(
-        item(5, FileDialogConfiguration::CheckBox, "", QStringLiteral("Preview"), true, true, 3));
-    m_configuration->addCustomControl(
-        item(6, FileDialogConfiguration::ComboBox, "Unit",
-             QStringList{QStringLiteral("mm"), QStringLiteral("inch")}, 1, true, 2));
-}
-
-QStringList CommonItemDialogTest::openCalls()
-{
-    m_driver.open(m_request);
-    return std::exchange(m_script.calls, {}).calls();
-}
-
-QStringList CommonItemDialogTest::saveCalls()
-{
-    m_driver.save(m_request);
-    return std::exchange(m_script.calls, {}).calls();
-}
 
 void CommonItemDialogTest::openInThisOrder()
 {
@@ -386,6 +295,8 @@ void CommonItemDialogTest::listenersGetEventsByTheirInterfaces()
         ComPointer<IFileDialogCustomize> customize;
         QCOMPARE(dialog->QueryInterface(IID_PPV_ARGS(customize.put())), S_OK);
         QCOMPARE(listeners[1]->OnTypeChange(dialog), S_OK);
+        QCOMPARE(listeners[1]->OnTypeChange(dialog), S_OK);
+        QCOMPARE(controls->OnCheckButtonToggled(customize.get(), 5, TRUE), S_OK);
         QCOMPARE(controls->OnCheckButtonToggled(customize.get(), 5, TRUE), S_OK);
         QCOMPARE(controls->OnCheckButtonToggled(customize.get(), 6, FALSE), S_OK);
         QCOMPARE(controls->OnItemSelected(customize.get(), 7, 2), S_OK);
@@ -399,7 +310,8 @@ void CommonItemDialogTest::listenersGetEventsByTheirInterfaces()
     };
     QCOMPARE(m_driver.open(m_request).code, 0);
     QCOMPARE(m_handler.events,
-             QStringList({QStringLiteral("type"), QStringLiteral("check box 5 on"),
+             QStringList({QStringLiteral("type"), QStringLiteral("type"),
+                          QStringLiteral("check box 5 on"), QStringLiteral("check box 5 on"),
                           QStringLiteral("check box 6 off"), QStringLiteral("item 2 of 7")}));
 }
 
@@ -434,7 +346,10 @@ void CommonItemDialogTest::aFailureInAnEvent_data()
     QTest::newRow("no count") << QStringLiteral("GetCount") << QStringLiteral("selected ");
     QTest::newRow("no item") << QStringLiteral("GetItemAt") << QStringLiteral("selected ");
     QTest::newRow("no path") << QStringLiteral("GetDisplayName") << QStringLiteral("selected ");
+    QTest::newRow("no open dialog")
+        << QStringLiteral("QueryOpenDialog") << QStringLiteral("selected ");
     QTest::newRow("no controls") << QStringLiteral("QueryCustomize") << ordered;
+    QTest::newRow("no window to be asked for") << QStringLiteral("QueryWindow") << ordered;
     QTest::newRow("no window") << QStringLiteral("GetWindow") << ordered;
 }
 
@@ -478,57 +393,91 @@ void CommonItemDialogTest::selectionFollowsTheFileNameBox()
 
 void CommonItemDialogTest::callbacksOfADialogWithoutControls()
 {
-    const WinFileDialogCallbacks callbacks(nullptr);
+    const WinFileDialogCallbacks callbacks(nullptr, {});
     callbacks.setControlState(5, 3);
     callbacks.placeDialog(&*m_configuration);
     QVERIFY(callbacks.getDialogGeometry().isNull());
     // Something that is no dialog at all.
     const auto array = ComPointer<IUnknown>::adopt(new Testing::SpyItemArray({}, m_script.calls));
-    const WinFileDialogCallbacks wrong(array.get());
+    const WinFileDialogCallbacks wrong(array.get(), {});
     wrong.setControlState(5, 3);
     wrong.placeDialog(&*m_configuration);
     QVERIFY(wrong.getDialogGeometry().isNull());
     QVERIFY(m_script.calls.calls().isEmpty());
 }
 
-void CommonItemDialogTest::dpiAwarenessIsTakenBack_data()
+void CommonItemDialogTest::saveHasNoControls()
 {
-    const auto v2 = qintptr(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
-    QTest::addColumn<bool>("exists");
-    QTest::addColumn<qintptr>("previous");
-    QTest::addColumn<QVector<qintptr>>("contexts");
-    QTest::newRow("changed") << true << qintptr(-2) << QVector<qintptr>{v2, -2};
-    QTest::newRow("refused") << true << qintptr(0) << QVector<qintptr>{v2};
-    QTest::newRow("unknown to the system") << false << qintptr(0) << QVector<qintptr>();
+    addControls();
+    m_handler.reaction = [](const FileDialogCallbackInterface&) {
+        throw std::length_error("nobody asked");
+    };
+    m_script.whileShown = [](IFileDialog* dialog,
+                             const std::vector<IFileDialogEvents*>& listeners) {
+        for (IFileDialogEvents* events : listeners) {
+            events->OnTypeChange(dialog);
+            events->OnSelectionChange(dialog);
+        }
+    };
+    QCOMPARE(m_driver.save(m_request).code, 0);
+    QVERIFY(m_handler.events.isEmpty());
+    QCOMPARE(m_script.calls.callsOf(QStringLiteral("Advise")).size(), 1);
+    for (const char* name : {"AddCheckButton", "AddComboBox", "QueryCustomize"})
+        QVERIFY(!m_script.calls.names().contains(QLatin1String(name)));
 }
 
-void CommonItemDialogTest::dpiAwarenessIsTakenBack()
+void CommonItemDialogTest::foldersOfEveryKind_data()
 {
-    QFETCH(bool, exists);
-    QFETCH(qintptr, previous);
-    QFETCH(QVector<qintptr>, contexts);
-    s_previousContext = previous;
-    s_contexts.clear();
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("set");
+    const QString longName(255, QLatin1Char('n'));
+    const QString none;
+    QTest::newRow("none") << QString() << none;
+    QTest::newRow("missing") << QStringLiteral("C:\\no such folder") << none;
+    QTest::newRow("no path at all") << QStringLiteral("?:\\<>") << none;
+    QTest::newRow("network that is not there")
+        << QStringLiteral("\\\\nowhere.invalid\\share") << none;
+    QTest::newRow("more than 260 characters")
+        << QStringLiteral("C:\\") + longName + QLatin1Char('\\') + longName << none;
+    QTest::newRow("root of a drive") << QStringLiteral("C:\\") << QStringLiteral("C:\\");
+    QTest::newRow("root of a drive, with a slash")
+        << QStringLiteral("C:/") << QStringLiteral("C:\\");
+    QTest::newRow("slashes and detours")
+        << QStringLiteral("C:/windows/./system32/../") << QStringLiteral("C:\\windows");
+}
+
+void CommonItemDialogTest::foldersOfEveryKind()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, set);
+    m_request.folder = folder;
+    const QStringList calls = openCalls().filter(QStringLiteral("SetFolder"));
+    const QStringList expected{QStringLiteral("SetFolder(%1)").arg(set)};
+    QCOMPARE(calls, set.isEmpty() ? QStringList() : expected);
+}
+
+void CommonItemDialogTest::emptyPlaceIsNone()
+{
+    // To the shell, no path at all is the desktop.
+    m_request.places = {QString(), m_folder->folder(), QLatin1String("")};
+    m_request.folder = QString();
+    const QStringList calls = openCalls();
+    QCOMPARE(calls.filter(QStringLiteral("AddPlace")),
+             QStringList{QStringLiteral("AddPlace(%1,0)").arg(m_folder->folder())});
+    QVERIFY(calls.filter(QStringLiteral("SetFolder")).isEmpty());
+}
+
+void CommonItemDialogTest::noMemoryForAListener()
+{
+    ComPointer<IFileOpenDialog> dialog;
+    QCOMPARE(CoCreateInstance(CLSID_FileOpenDialog, nullptr, CLSCTX_INPROC_SERVER,
+                              IID_PPV_ARGS(dialog.put())),
+             S_OK);
     {
-        const DpiAwarenessScope scope(exists ? setContext : nullptr);
-        QCOMPARE(s_contexts, contexts.mid(0, 1));
+        AdvisedEvents events(dialog.get());
+        QCOMPARE(events.advise(nullptr), E_OUTOFMEMORY);
     }
-    QCOMPARE(s_contexts, contexts);
-}
-
-void CommonItemDialogTest::dpiAwarenessOfTheThreadStays()
-{
-    using Get = DPI_AWARENESS_CONTEXT WINAPI();
-    const SystemLibrary user(L"user32.dll");
-    Get* get = user.find<Get>("GetThreadDpiAwarenessContext");
-    if (!get)
-        QSKIP("this system has one DPI awareness for a whole process");
-    const auto before = get();
-    m_driver.open(m_request);
-    QCOMPARE(get(), before);
-    m_script.calls.failCalls(QStringLiteral("SetTitle"), s_failure);
-    m_driver.open(m_request);
-    QCOMPARE(get(), before);
+    QCOMPARE(m_script.calls.names(), QStringList{QStringLiteral("Create")});
 }
 
 void CommonItemDialogTest::facadeTakesTheNativeDialog()
@@ -580,6 +529,25 @@ void CommonItemDialogTest::facadeFallsBack()
                 .isEmpty());
     QVERIFY(modals.allMet());
     QVERIFY(m_script.calls.names().contains(failing));
+    QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
+}
+
+void CommonItemDialogTest::facadeFallsBackForSave()
+{
+    Testing::ScriptedPathProvider provider;
+    provider.path = m_folder->folder();
+    m_script.calls.failCalls(QStringLiteral("GetResult"), s_failure);
+    Testing::ExpectedModals modals;
+    modals.expectDialog<QFileDialog>(QStringLiteral("Qt's dialog"), [&](QFileDialog& dialog) {
+        QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
+        dialog.reject();
+    });
+    QVERIFY(FileDialog::getSaveFileName(QStringLiteral("Save"), QStringLiteral("All (*)"),
+                                        &provider, QStringLiteral("Design"),
+                                        QStringLiteral("x.stl"))
+                .isEmpty());
+    QVERIFY(modals.allMet());
+    QCOMPARE(m_script.dialogs, 1);
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
 }
 

@@ -86,7 +86,7 @@ public:
         note(QStringLiteral("type"), callbacks);
     }
 
-    /** In order; the same one twice in a row, as some systems tell it, stands here once. */
+    /** In order, each as often as it is told. */
     QStringList events;
     std::vector<QStringList> selections;
     /** Done at each event that gives access to the dialog. */
@@ -95,15 +95,25 @@ public:
 private:
     void note(const QString& event, const FileDialogCallbackInterface& callbacks)
     {
-        if (events.isEmpty() || events.last() != event)
-            events.append(event);
+        events.append(event);
         // A copy, since a reaction may end itself.
         if (const Reaction current = reaction)
             current(callbacks);
     }
 };
 
-/** Keeps the rectangles that it is given, besides storing them. */
+/** The same selection several times in a row, as some systems tell it, counts as once. */
+inline QStringList withoutRepeatedSelections(const QStringList& events)
+{
+    QStringList once;
+    for (const QString& event : events) {
+        if (once.isEmpty() || once.last() != event || !event.startsWith(QLatin1String("selected")))
+            once.append(event);
+    }
+    return once;
+}
+
+/** Keeps the rectangles that it is given, besides storing them; does what the test wants, too. */
 class GeometryRecorder : public FileDialogConfiguration
 {
 public:
@@ -112,10 +122,21 @@ public:
     void storeFileDialogGeometry(const QRect& rect) override
     {
         stored.push_back(rect);
+        if (onStore)
+            onStore();
         FileDialogConfiguration::storeFileDialogGeometry(rect);
     }
 
+    QSize getTopLeftOffset() override
+    {
+        if (onPlace)
+            onPlace();
+        return FileDialogConfiguration::getTopLeftOffset();
+    }
+
     std::vector<QRect> stored;
+    std::function<void()> onStore;
+    std::function<void()> onPlace;
 };
 
 } // namespace Zorvane::Testing

@@ -1,9 +1,12 @@
 #include "FileDialogs/Windows/CFileInitializeSelectHandler.h"
+
+#include "FileDialogs/Windows/DialogGuard.h"
 #include "Files/Windows/ComApartment.h"
 #include "Tests/FileDialogs/Windows/NativeDialogFixture.h"
 #include "Tests/Support/Windows/FakeItemDialog.h"
 #include "Tests/Support/Windows/FakeShellView.h"
 #include "Tests/Support/Windows/NativeTest.h"
+#include "Tests/Support/Windows/TaskMemorySpy.h"
 
 #include <optional>
 
@@ -14,11 +17,15 @@ namespace {
 
 const QStringList s_files{QStringLiteral("a.stl"), QStringLiteral("b.stl"),
                           QStringLiteral("notes.txt")};
-const QStringList s_callsToSelectB{
-    QStringLiteral("QueryService"),    QStringLiteral("QueryActiveShellView"),
-    QStringLiteral("QueryFolderView"), QStringLiteral("GetFolder"),
-    QStringLiteral("ItemCount"),       QStringLiteral("Item(0)"),
-    QStringLiteral("Item(1)"),         QStringLiteral("SelectItem(b.stl,29)")};
+const QStringList s_callsToSelectB{QStringLiteral("QueryServices"),
+                                   QStringLiteral("QueryService"),
+                                   QStringLiteral("QueryActiveShellView"),
+                                   QStringLiteral("QueryFolderView"),
+                                   QStringLiteral("GetFolder"),
+                                   QStringLiteral("ItemCount"),
+                                   QStringLiteral("Item(0)"),
+                                   QStringLiteral("Item(1)"),
+                                   QStringLiteral("SelectItem(b.stl,29)")};
 
 } // namespace
 
@@ -28,6 +35,7 @@ class PresetFileTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void cleanup();
 
@@ -40,11 +48,13 @@ private Q_SLOTS:
     void noDialog();
     void oneFailure_data();
     void oneFailure();
+    void wantOfMemoryStaysOutOfTheSystemsCode();
 
 private:
     /** Tells a new listener that the selection has changed. */
     void change(const QString& fileName, int times = 1);
 
+    int m_taskMemory = 0;
     std::optional<ComApartment> m_apartment;
     std::optional<Testing::DialogFolder> m_folder;
     Testing::ItemDialogScript m_script;
@@ -54,8 +64,21 @@ private:
     ComPointer<IServiceProvider> m_services;
 };
 
+/** What the system keeps for itself from its first use on is not ours. */
+void PresetFileTest::initTestCase()
+{
+    Testing::livingTaskMemory();
+    init();
+    change(QStringLiteral("b.stl"));
+    m_services.reset();
+    m_dialogs.reset();
+    m_taskMemory = Testing::livingTaskMemory();
+    cleanup();
+}
+
 void PresetFileTest::init()
 {
+    m_taskMemory = Testing::livingTaskMemory();
     m_apartment.emplace();
     m_folder.emplace();
     m_script = {};
@@ -69,6 +92,7 @@ void PresetFileTest::cleanup()
 {
     m_services.reset();
     m_dialogs.reset();
+    QCOMPARE(Testing::livingTaskMemory(), m_taskMemory);
     QCOMPARE(Counted::living(), 0);
     m_folder.reset();
     m_apartment.reset();
@@ -82,10 +106,12 @@ void PresetFileTest::change(const QString& fileName, int times)
                               IID_PPV_ARGS(dialog.put())),
              S_OK);
     m_script.calls = m_failing;
-    auto events =
-        ComPointer<CFileInitializeSelectHandler>::adopt(new CFileInitializeSelectHandler(fileName));
+    const auto guard = std::make_shared<DialogGuard>(dialog.get());
+    auto events = ComPointer<CFileInitializeSelectHandler>::adopt(
+        new CFileInitializeSelectHandler(fileName, *guard));
     for (int i = 0; i < times; ++i)
         QCOMPARE(events->OnSelectionChange(dialog.get()), S_OK);
+    guard->rethrow();
 }
 
 void PresetFileTest::selectsTheFile()
@@ -132,8 +158,9 @@ void PresetFileTest::dialogWithoutAView()
 
 void PresetFileTest::noDialog()
 {
+    const auto guard = std::make_shared<DialogGuard>(nullptr);
     const auto events = ComPointer<CFileInitializeSelectHandler>::adopt(
-        new CFileInitializeSelectHandler(QStringLiteral("b.stl")));
+        new CFileInitializeSelectHandler(QStringLiteral("b.stl"), *guard));
     QCOMPARE(events->OnSelectionChange(nullptr), S_OK);
 }
 
@@ -155,6 +182,14 @@ void PresetFileTest::oneFailure()
     const bool goesOn = failing == QLatin1String("Item(0)");
     QCOMPARE(m_script.calls.hasCall(s_callsToSelectB.last()),
              goesOn || failing == s_callsToSelectB.last());
+}
+
+void PresetFileTest::wantOfMemoryStaysOutOfTheSystemsCode()
+{
+    m_failing.throwAtCalls(QStringLiteral("ItemCount"));
+    QVERIFY_EXCEPTION_THROWN(change(QStringLiteral("b.stl"), 2), std::bad_alloc);
+    QCOMPARE(m_script.calls.callsOf(QStringLiteral("ItemCount")).size(), 1);
+    QCOMPARE(m_script.calls.names().last(), QStringLiteral("Close"));
 }
 
 ZORVANE_NATIVE_TEST_MAIN(PresetFileTest)

@@ -21,6 +21,11 @@ bool doesCaseOfNamesCount()
     return true;
 }
 
+QString shortSpelling(const QString& path)
+{
+    return path;
+}
+
 bool openFilesCanBeReplaced()
 {
     return true;

@@ -1,5 +1,7 @@
 #include "Tests/Support/Windows/CallScript.h"
 
+#include <new>
+
 namespace Zorvane::Testing {
 
 namespace {
@@ -15,8 +17,12 @@ QString nameOf(const QString& call)
 
 HRESULT CallScript::enter(const QString& call)
 {
+    if (m_silences > 0)
+        return S_OK;
     const bool fails = m_calls.size() == m_failingPlace || nameOf(call) == m_failingName;
     m_calls.append(call);
+    if (nameOf(call) == m_throwingName)
+        throw std::bad_alloc();
     return fails ? m_failure : S_OK;
 }
 

@@ -25,12 +25,34 @@ public:
     void failCalls(const QString& name, HRESULT result);
     /** The call at that place fails, counted from 0. */
     void failCallAt(int place, HRESULT result);
+    /** Every call of that name throws `std::bad_alloc`. */
+    void throwAtCalls(const QString& name) { m_throwingName = name; }
+
+    /** While it lives nothing is written down and nothing fails: a fake makes the calls itself. */
+    class Silence
+    {
+    public:
+        explicit Silence(CallScript& script)
+            : m_script(script)
+        {
+            ++m_script.m_silences;
+        }
+        ~Silence() { --m_script.m_silences; }
+
+        Silence(const Silence&) = delete;
+        Silence& operator=(const Silence&) = delete;
+
+    private:
+        CallScript& m_script;
+    };
 
 private:
     QStringList m_calls;
     QString m_failingName;
+    QString m_throwingName;
     int m_failingPlace = -1;
     HRESULT m_failure = E_FAIL;
+    int m_silences = 0;
 };
 
 /** How many objects of derived classes there are. */

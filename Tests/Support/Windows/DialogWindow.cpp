@@ -81,6 +81,18 @@ void setSelected(HWND list, int index, bool on)
     SendMessageW(list, LVM_SETITEMSTATE, WPARAM(index), reinterpret_cast<LPARAM>(&item));
 }
 
+std::vector<DialogWindow> dialogsOfThread(bool areVisible)
+{
+    std::vector<DialogWindow> dialogs;
+    Visit visit = [&](HWND window) {
+        if (bool(IsWindowVisible(window)) == areVisible &&
+            classOf(window) == QLatin1String("#32770"))
+            dialogs.emplace_back(window);
+    };
+    EnumThreadWindows(GetCurrentThreadId(), visitWindow, reinterpret_cast<LPARAM>(&visit));
+    return dialogs;
+}
+
 } // namespace
 
 QString textOf(HWND window)
@@ -114,13 +126,12 @@ DialogWindow::DialogWindow(HWND window)
 
 std::vector<DialogWindow> DialogWindow::all()
 {
-    std::vector<DialogWindow> dialogs;
-    Visit visit = [&](HWND window) {
-        if (IsWindowVisible(window) && classOf(window) == QLatin1String("#32770"))
-            dialogs.emplace_back(window);
-    };
-    EnumThreadWindows(GetCurrentThreadId(), visitWindow, reinterpret_cast<LPARAM>(&visit));
-    return dialogs;
+    return dialogsOfThread(true);
+}
+
+std::vector<DialogWindow> DialogWindow::allHidden()
+{
+    return dialogsOfThread(false);
 }
 
 bool DialogWindow::exists() const

@@ -20,6 +20,8 @@ public:
 
     /** Dialog windows of this thread that are visible, the newest first. */
     static std::vector<DialogWindow> all();
+    /** Those that are not. */
+    static std::vector<DialogWindow> allHidden();
 
     HWND handle() const { return m_window; }
     bool exists() const;

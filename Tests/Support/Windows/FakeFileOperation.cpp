@@ -69,7 +69,7 @@ private:
     }
     void process(IShellItem* source);
     void tell(IShellItem* source, HRESULT result, IShellItem* created);
-    ComPointer<IShellItem> makeCopy(const QString& source);
+    ComPointer<IShellItem> makeCopy(const QString& source, const CopyBehavior& behavior);
 
     FileOperationScript& m_script;
     ComPointer<IFileOperationProgressSink> m_sink;
@@ -123,6 +123,7 @@ HRESULT FakeFileOperation::CopyItems(IUnknown* items, IShellItem* folder)
     const HRESULT result = m_script.calls.enter(QStringLiteral("CopyItems"));
     if (FAILED(items->QueryInterface(IID_PPV_ARGS(m_sources.put()))))
         return E_INVALIDARG;
+    const CallScript::Silence silence(m_script.calls);
     m_folder = ComPointer(folder);
     m_script.folder = nameOfItem(folder, SIGDN_FILESYSPATH);
     DWORD count = 0;
@@ -138,6 +139,7 @@ HRESULT FakeFileOperation::PerformOperations()
     const HRESULT result = m_script.calls.enter(QStringLiteral("PerformOperations"));
     if (FAILED(result))
         return result;
+    const CallScript::Silence silence(m_script.calls);
     std::vector<IShellItem*> items;
     for (const ComPointer<IShellItem>& item : m_items)
         items.push_back(item.get());
@@ -146,6 +148,8 @@ HRESULT FakeFileOperation::PerformOperations()
     m_sink->StartOperations();
     for (IShellItem* item : items)
         process(item);
+    if (m_script.whilePerforming)
+        m_script.whilePerforming(m_sink.get());
     m_sink->FinishOperations(m_script.performResult);
     return m_script.performResult;
 }
@@ -162,7 +166,7 @@ void FakeFileOperation::process(IShellItem* source)
     if (behavior.pendingFirst)
         tell(told.get(), COPYENGINE_S_PENDING, nullptr);
     const ComPointer<IShellItem> created =
-        behavior.makesCopy ? makeCopy(path) : ComPointer<IShellItem>();
+        behavior.makesCopy ? makeCopy(path, behavior) : ComPointer<IShellItem>();
     for (int i = 0; i < (m_script.twice ? 2 : 1); ++i)
         tell(told.get(), behavior.result, created.get());
 }
@@ -173,11 +177,17 @@ void FakeFileOperation::tell(IShellItem* source, HRESULT result, IShellItem* cre
     m_sink->PostCopyItem(0, source, m_folder.get(), wide(name), result, created);
 }
 
-ComPointer<IShellItem> FakeFileOperation::makeCopy(const QString& source)
+ComPointer<IShellItem> FakeFileOperation::makeCopy(const QString& source,
+                                                   const CopyBehavior& behavior)
 {
     const QString folder = nameOfItem(m_folder.get(), SIGDN_FILESYSPATH);
-    const QString copy = QDir(folder).filePath(freeName(folder, QFileInfo(source).fileName()));
-    return QFile::copy(source, copy) ? SpyShellItem::ofPath(copy) : ComPointer<IShellItem>();
+    const QString name = behavior.name.isEmpty() ? QFileInfo(source).fileName() : behavior.name;
+    if (behavior.replaces)
+        QFile::remove(QDir(folder).filePath(name));
+    const QString copy = QDir(folder).filePath(freeName(folder, name));
+    if (!QFile::copy(source, copy))
+        return {};
+    return SpyShellItem::ofPath(copy, m_script.itemsTell ? &m_script.calls : nullptr);
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <functional>
 #include <vector>
 
 #include <windows.h>
@@ -27,6 +28,10 @@ struct CopyBehavior
     bool pendingFirst = false;
     /** Not told of at all, as after an abort. */
     bool isSilent = false;
+    /** What the copy is called; empty as its source. */
+    QString name = {};
+    /** Puts the copy in the place of the file that has its name. */
+    bool replaces = false;
 };
 
 /** What a test says to the fake engine, and what it learns from it. */
@@ -40,6 +45,10 @@ struct FileOperationScript
     bool backwards = false;
     /** Tells of each item twice. */
     bool twice = false;
+    /** What else the engine tells while it works. */
+    std::function<void(IFileOperationProgressSink*)> whilePerforming;
+    /** Writes down the calls of the items that are made, too. */
+    bool itemsTell = false;
 
     HWND owner = nullptr;
     DWORD flags = 0;

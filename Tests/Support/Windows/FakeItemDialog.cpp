@@ -91,10 +91,11 @@ public:
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** result) override
     {
-        if (iid == __uuidof(IFileDialogCustomize)) {
-            const HRESULT answer = m_calls.enter(QStringLiteral("QueryCustomize"));
-            return FAILED(answer) ? answer : hand(&m_customize, result);
-        }
+        const HRESULT answer = enterQuery(iid);
+        if (FAILED(answer))
+            return answer;
+        if (iid == __uuidof(IFileDialogCustomize))
+            return hand(&m_customize, result);
         if (iid == __uuidof(IServiceProvider) && m_script.services)
             return m_script.services->QueryInterface(iid, result);
         return ComObject<Dialog, IOleWindow>::QueryInterface(iid, result);
@@ -108,6 +109,8 @@ public:
     HRESULT STDMETHODCALLTYPE Show(HWND owner) override
     {
         m_script.owner = owner;
+        if (m_script.atShow)
+            m_script.atShow();
         const HRESULT result = m_calls.enter(QStringLiteral("Show"));
         if (FAILED(result))
             return result;
@@ -116,7 +119,12 @@ public:
             listeners.push_back(listener.events.get());
         if (m_script.whileShown)
             m_script.whileShown(this, listeners);
-        return m_script.showResult;
+        return m_closeResult == S_OK ? m_script.showResult : m_closeResult;
+    }
+    HRESULT STDMETHODCALLTYPE Close(HRESULT result) override
+    {
+        m_closeResult = result;
+        return m_calls.enter(QStringLiteral("Close"));
     }
 
     HRESULT STDMETHODCALLTYPE SetFileTypes(UINT count, const COMDLG_FILTERSPEC* types) override
@@ -191,7 +199,6 @@ public:
     HRESULT STDMETHODCALLTYPE SetOkButtonLabel(LPCWSTR) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE SetFileNameLabel(LPCWSTR) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE SetDefaultExtension(LPCWSTR text) override { return m_calls.enter(call("SetDefaultExtension", text)); }
-    HRESULT STDMETHODCALLTYPE Close(HRESULT) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE SetClientGuid(REFGUID) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE ClearClientData() override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE SetFilter(IShellItemFilter*) override { return E_NOTIMPL; }
@@ -237,6 +244,20 @@ private:
         FakeItemDialog& m_dialog;
     };
 
+    /** Only the interfaces that a dialog is asked for once it is there. */
+    HRESULT enterQuery(REFIID iid)
+    {
+        const char* name = nullptr;
+        if (iid == __uuidof(IFileDialogCustomize))
+            name = "QueryCustomize";
+        else if (iid == __uuidof(IOleWindow))
+            name = "QueryWindow";
+        else if (iid == __uuidof(IServiceProvider) && m_script.services)
+            name = "QueryServices";
+        else if (iid == __uuidof(IFileOpenDialog) && m_calls.hasCall(QStringLiteral("Show")))
+            name = "QueryOpenDialog";
+        return name ? m_calls.enter(QLatin1String(name)) : HRESULT(S_OK);
+    }
     static QString pathOf(IShellItem* item) { return nameOfItem(item, SIGDN_FILESYSPATH); }
     static HRESULT hand(IUnknown* object, void** result)
     {
@@ -249,6 +270,7 @@ private:
     CallScript& m_calls;
     Customize m_customize;
     DWORD m_lastCookie = 0;
+    HRESULT m_closeResult = S_OK;
     std::vector<Listener> m_listeners;
     /** Kept beyond the end of the listening, to see who else still holds them. */
     std::vector<ComPointer<IFileDialogEvents>> m_everAdvised;

@@ -27,6 +27,8 @@ struct ItemDialogScript
     QString fileNameBox;
     /** What happens while the dialog is shown; its listeners in the order of their coming. */
     std::function<void(IFileDialog*, const std::vector<IFileDialogEvents*>&)> whileShown;
+    /** What comes before, also where the dialog can't be shown. */
+    std::function<void()> atShow;
     /** How showing the dialog ends. */
     HRESULT showResult = S_OK;
     /** Where the dialog's views are found; null where there are none. */

@@ -44,6 +44,13 @@ bool doesCaseOfNamesCount()
     return false;
 }
 
+QString shortSpelling(const QString& path)
+{
+    wchar_t text[MAX_PATH];
+    const DWORD size = GetShortPathNameW(wide(QDir::toNativeSeparators(path)), text, MAX_PATH);
+    return size > 0 && size < MAX_PATH ? QString::fromWCharArray(text) : path;
+}
+
 bool openFilesCanBeReplaced()
 {
     return false;

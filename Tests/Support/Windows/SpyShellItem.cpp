@@ -53,7 +53,9 @@ HRESULT SpyShellItem::GetAttributes(SFGAOF mask, SFGAOF* attributes)
 
 HRESULT SpyShellItem::Compare(IShellItem* other, SICHINTF hint, int* order)
 {
-    return m_real->Compare(other, hint, order);
+    const HRESULT result =
+        m_calls ? m_calls->enter(QStringLiteral("Compare(%1)").arg(DWORD(hint))) : HRESULT(S_OK);
+    return SUCCEEDED(result) ? m_real->Compare(other, hint, order) : result;
 }
 
 } // namespace Zorvane::Testing
