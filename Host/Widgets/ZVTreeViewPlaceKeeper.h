@@ -23,7 +23,9 @@ class ZVTreeViewModel;
  * The view may show the model through any chain of proxy models. The keeper is owned by the view
  * and follows it when it is given another model. One keeper a view.
  *
- * Not supported: views of models that are not made of a `ZVTreeViewModel` (nothing happens then).
+ * Not supported: views of models that are not made of a `ZVTreeViewModel` (nothing happens then);
+ * a current row that stays in the model while a proxy comes to filter it out (which row is current
+ * afterwards is the view's choice, and it is not selected).
  */
 class ZORVANE_HOST_EXPORT ZVTreeViewPlaceKeeper : public QObject
 {
