@@ -2,7 +2,9 @@
 
 import importlib.machinery
 import importlib.util
+import os
 import pathlib
+import subprocess
 import tempfile
 import unittest
 
@@ -45,6 +47,11 @@ class SummaryTest(unittest.TestCase):
         self.assertIn("Test functions that passed: 12", lines)
         self.assertEqual(faults, [])
 
+    def test_what_could_not_be_started_has_failed(self):
+        lines, _ = self.summary(run=RUN.replace('status="fail"', 'status="notrun"'))
+        self.assertEqual(lines[-1], "2 passed, 1 failed")
+        self.assertIn("FAILED: Files.C", lines)
+
     def test_tells_what_was_skipped_and_why(self):
         lines, _ = self.summary()
         self.assertIn("  no links here: ATest::links", "\n".join(lines))
@@ -63,6 +70,31 @@ class SummaryTest(unittest.TestCase):
         _, faults = self.summary(reasons=[("Files.C", "the shell's")])
         self.assertEqual(len(faults), 1)
         self.assertIn("names no test", faults[0])
+
+
+class PrefixTest(unittest.TestCase):
+    def start(self, stub):
+        """Starts Wine with a stand-in for it: what came of that, and whether a prefix is ready."""
+        with tempfile.TemporaryDirectory() as folder:
+            for name, script in (("wine", stub), ("wineserver", "exit 0")):
+                program = pathlib.Path(folder) / name
+                program.write_text(f'#!/bin/sh\nmkdir -p "$WINEPREFIX"\n{script}\n',
+                                   encoding="utf-8")
+                program.chmod(0o755)
+            prefix = pathlib.Path(folder) / "state/prefix"
+            environment = {**os.environ, "ZORVANE_WINEPREFIX": str(prefix),
+                           "PATH": folder + os.pathsep + os.environ["PATH"]}
+            run = subprocess.run([TOOLS / "wine", "--start"], env=environment, check=False,
+                                 stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                                 stderr=subprocess.DEVNULL)
+            return run.returncode, (prefix / "ready").exists()
+
+    def test_a_prefix_that_fails_halfway_is_not_kept(self):
+        for name, stub in (("no prefix", "exit 1"), ("no setting", '[ "$1" = wineboot ]')):
+            with self.subTest(name):
+                code, is_ready = self.start(stub)
+                self.assertNotEqual(code, 0)
+                self.assertFalse(is_ready)
 
 
 if __name__ == "__main__":
