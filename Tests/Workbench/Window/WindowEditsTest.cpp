@@ -180,7 +180,7 @@ void WindowEditsTest::reloadEndsTheHistory()
 {
     m_window->session().rename(objectId(10), QStringLiteral("Left door"));
     Testing::ExpectedModals modals;
-    modals.expectMessageBox(QStringLiteral("Save the changes"), QMessageBox::Discard);
+    modals.expectMessageBox(QStringLiteral("Save them before"), QMessageBox::Discard);
     m_window->reload();
     QVERIFY(!m_window->session().isModified());
     QVERIFY(!action(QStringLiteral("Undo"))->isEnabled());
@@ -210,7 +210,7 @@ void WindowEditsTest::fileCommandsActOnTheCurrentDesign()
 
     session.rename(objectId(60), QStringLiteral("Changed again"));
     Testing::ExpectedModals modals;
-    modals.expectMessageBox(QStringLiteral("Save the changes"), QMessageBox::Discard);
+    modals.expectMessageBox(QStringLiteral("Save them before"), QMessageBox::Discard);
     action(QStringLiteral("Reopen"))->trigger();
     QCOMPARE(session.name(objectId(60)), QStringLiteral("Changed"));
     QVERIFY(session.isDesignModified(objectId(1)));
