@@ -263,10 +263,12 @@ Problems DesignSession::addFiles(const GUIdentifier& designId, const QStringList
             obstacles.push_back(*obstacle);
     if (!obstacles.empty())
         return obstacles;
-    const std::vector<GUIdentifier> added = m_store.addFiles(designId, files);
+    // The caller's may lie in a design, and designs move when others come.
+    const GUIdentifier id = designId;
+    const std::vector<GUIdentifier> added = m_store.addFiles(id, files);
     if (!added.empty()) {
         watch();
-        Q_EMIT edited(AdditionEdit{designId, added});
+        Q_EMIT edited(AdditionEdit{id, added});
         Q_EMIT changed();
     }
     return {};

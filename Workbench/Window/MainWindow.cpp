@@ -175,24 +175,25 @@ void MainWindow::connectActions()
 void MainWindow::connectFileActions()
 {
     const auto on = [this](auto id, auto operation) { m_commands->on(id, this, operation); };
-    const auto onDesign = [&](auto id, bool (DesignSaving::*operation)(const GUIdentifier&)) {
-        on(id, [this, operation] {
-            hideMessages();
-            (m_saving->*operation)(designAtHand());
-        });
-    };
     on(ZVMainActions::Open, [this] { m_fileCommands->openFiles(); });
     on(WorkbenchActions::OpenFolder, [this] { m_fileCommands->openFolder(); });
     on(WorkbenchActions::Import, &MainWindow::importFiles);
     on(ZVMainActions::Export, &MainWindow::exportFiles);
-    onDesign(ZVMainActions::Save, &DesignSaving::save);
-    onDesign(ZVMainActions::SaveAs, &DesignSaving::saveAs);
-    onDesign(WorkbenchActions::SaveCopy, &DesignSaving::saveCopy);
+    on(ZVMainActions::Save, [this] { saveDesignAtHand(&DesignSaving::save); });
+    on(ZVMainActions::SaveAs, [this] { saveDesignAtHand(&DesignSaving::saveAs); });
+    on(WorkbenchActions::SaveCopy, [this] { saveDesignAtHand(&DesignSaving::saveCopy); });
     on(ZVMainActions::ReOpen, &MainWindow::reopenDesign);
     on(WorkbenchActions::ReopenAll, &MainWindow::reload);
-    onDesign(ZVMainActions::Close, &DesignSaving::close);
+    on(ZVMainActions::Close, [this] { saveDesignAtHand(&DesignSaving::close); });
     on(WorkbenchActions::CloseAll, &MainWindow::closeAll);
     on(ZVMainActions::Exit, &MainWindow::close);
+}
+
+/** Saves it in one of the ways that there are, or closes it. */
+void MainWindow::saveDesignAtHand(bool (DesignSaving::*operation)(const GUIdentifier&))
+{
+    hideMessages();
+    (m_saving->*operation)(designAtHand());
 }
 
 void MainWindow::connectParts()
