@@ -67,6 +67,7 @@ private:
 /** What the system keeps for itself from its first use on is not ours. */
 void PresetFileTest::initTestCase()
 {
+    TestCase::initTestCase();
     Testing::livingTaskMemory();
     init();
     change(QStringLiteral("b.stl"));

@@ -63,6 +63,7 @@ void SystemCallsTest::init()
 
 void SystemCallsTest::cleanup()
 {
+    TestCase::cleanup();
     ::close(m_file);
     ::close(m_folder);
 }
@@ -75,13 +76,16 @@ void SystemCallsTest::unnamedFileGetsAName()
 
 void SystemCallsTest::unnamedFileGetsANameWithoutPrivileges()
 {
+    bool mayGiveUp = false;
     bool shortWayIsClosed = false;
     int error = -1;
     std::thread([&] {
-        shortWayIsClosed =
-            giveUpPrivileges() && ::linkat(m_file, "", m_folder, "short", AT_EMPTY_PATH) != 0;
+        mayGiveUp = giveUpPrivileges();
+        shortWayIsClosed = ::linkat(m_file, "", m_folder, "short", AT_EMPTY_PATH) != 0;
         error = link("part.stl");
     }).join();
+    if (!mayGiveUp)
+        QSKIP("programs may not change their privileges here");
     QVERIFY(shortWayIsClosed);
     QCOMPARE(error, 0);
     QVERIFY(QFileInfo::exists(m_place->filePath(QStringLiteral("part.stl"))));

@@ -135,6 +135,7 @@ private:
 /** What the system keeps for itself from its first use on is not ours. */
 void ShellCopyTest::initTestCase()
 {
+    TestCase::initTestCase();
     m_shell.createItem = createItem;
     m_shell.parseName = parseName;
     m_shell.createArray = createArray;

@@ -90,7 +90,7 @@ void DialogPanelTest::showPanel()
 {
     m_panel->show();
     m_panel->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_panel));
+    QVERIFY(QTest::qWaitForWindowActive(m_panel, Zorvane::Testing::patience));
 }
 
 void DialogPanelTest::listsEveryVariant()
