@@ -320,6 +320,14 @@
         <source>is no longer what it was; nothing is copied</source>
         <translation>ist nicht mehr, was es war; nichts wird kopiert</translation>
     </message>
+    <message>
+        <source>comes along and has the name that the design shall get</source>
+        <translation>kommt mit und heißt so, wie der Entwurf heißen soll</translation>
+    </message>
+    <message>
+        <source>is open here and is not replaced</source>
+        <translation>ist hier geöffnet und wird nicht ersetzt</translation>
+    </message>
 </context>
 <context>
     <name>Zorvane::Workbench::DesignSaving</name>

@@ -156,7 +156,7 @@ void checkOneTree(unsigned seed)
 
 } // namespace
 
-class SyncronizerOperationsTest : public TestCase
+class SyncronizerOperationsTest : public QObject
 {
     Q_OBJECT
 
@@ -167,7 +167,6 @@ private Q_SLOTS:
 
 void SyncronizerOperationsTest::initTestCase()
 {
-    TestCase::initTestCase();
     RandomTrees::registerConverter();
     if (!qEnvironmentVariableIsSet("RC_PARAMS"))
         qputenv("RC_PARAMS", "max_success=" + QByteArray::number(ZORVANE_RANDOM_CASES));

@@ -5,6 +5,7 @@
 #include "Workbench/Commands/DesignCopy.h"
 #include "Workbench/Design/DesignWriter.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
 #include <algorithm>
@@ -54,6 +55,7 @@ DesignRelocation::DesignRelocation(QWidget* parent, const QString& from, const Q
     : m_parent(parent)
     , m_from(QFileInfo(from).dir())
     , m_to(QFileInfo(to).dir())
+    , m_name(QFileInfo(to).fileName())
     , m_open(std::move(open))
     , m_copies{{from, to}}
     , m_designs{realPath(from)}
@@ -92,10 +94,30 @@ std::optional<Problem> DesignRelocation::bring(Design& design)
     return std::nullopt;
 }
 
+/** Of a copy that nobody can be asked about, as what is there, or is about to be, must stay. */
+std::optional<Problem> DesignRelocation::obstacleTo(const QString& folder,
+                                                    const QString& file) const
+{
+    const QString name = QFileInfo(file).fileName();
+    const bool isInPlace = realPath(folder) == m_to.canonicalPath();
+    if (isInPlace && name.compare(m_name, Qt::CaseInsensitive) == 0)
+        return Problem{file, {}, tr("comes along and has the name that the design shall get")};
+    const QString target = realPath(QDir(folder).filePath(name));
+    const bool isOpen = std::any_of(m_open.begin(), m_open.end(), [&target](const Design& design) {
+        return design.file == target;
+    });
+    if (isOpen)
+        return Problem{target, {}, tr("is open here and is not replaced")};
+    return std::nullopt;
+}
+
 std::optional<Problem> DesignRelocation::copyFiles(const QString& folder, const QStringList& files)
 {
     if (!QDir().mkpath(folder))
         return Problem{folder, {}, tr("cannot be made a folder")};
+    for (const QString& file : files)
+        if (std::optional<Problem> obstacle = obstacleTo(folder, file))
+            return obstacle;
     int code = 0;
     FileCopyUtility utility(m_parent, files, folder);
     const Copies copies = utility.copyFiles(code);
@@ -122,8 +144,11 @@ std::optional<Problem> DesignRelocation::bringDesign(const FileReference& refere
     if (open == m_open.end())
         return std::nullopt;
     Design copy = DesignCopy::of(*open, m_copies.at(reference.file));
-    const std::optional<Problem> problem = bring(copy);
-    return problem ? problem : DesignWriter::write(copy);
+    if (std::optional<Problem> problem = bring(copy))
+        return problem;
+    // The copy of a protected file is protected, too.
+    QFile::setPermissions(copy.file, QFile::permissions(copy.file) | QFile::WriteOwner);
+    return DesignWriter::write(copy);
 }
 
 } // namespace Zorvane::Workbench

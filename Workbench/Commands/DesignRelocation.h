@@ -25,6 +25,7 @@ namespace Zorvane::Workbench {
  * Shows progress and asks about names that are taken; where the user keeps both files, designs
  * refer to the copy. Designs that are open come along as they are shown, unsaved changes included,
  * under identifiers of their own, so that both can be open at once; others as their files are.
+ * Nothing takes the place of the design itself, nor of a design that is open.
  */
 class DesignRelocation
 {
@@ -47,6 +48,7 @@ public:
 
 private:
     std::optional<Problem> bring(Design& design);
+    std::optional<Problem> obstacleTo(const QString& folder, const QString& file) const;
     std::optional<Problem> copyFiles(const QString& folder, const QStringList& files);
     std::optional<Problem> bringDesign(const FileReference& reference);
     QString placeOf(const QString& folder) const;
@@ -54,6 +56,8 @@ private:
     QPointer<QWidget> m_parent;
     QDir m_from;
     QDir m_to;
+    /** Of the design file there. */
+    QString m_name;
     std::vector<Design> m_open;
     /** Where each file has got to. */
     std::map<QString, QString> m_copies;

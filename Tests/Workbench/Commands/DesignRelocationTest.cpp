@@ -55,6 +55,9 @@ private Q_SLOTS:
     void designsFollowFilesWithOtherNames();
     void designsWhoseNamesAreTakenAreKept();
     void folderThatCannotBeMadeIsTold();
+    void nothingTakesThePlaceOfTheDesign();
+    void openDesignsAreNotReplaced();
+    void protectedDesignsComeAlong();
 };
 
 void DesignRelocationTest::init()
@@ -110,6 +113,39 @@ std::unique_ptr<DesignSession> DesignRelocationTest::relocated() const
     auto other = std::make_unique<DesignSession>();
     other->open({target("moved.dsg")});
     return other;
+}
+
+void DesignRelocationTest::nothingTakesThePlaceOfTheDesign()
+{
+    QVERIFY(QFile::copy(source("door/handle/handle.dsg"), source("moved.dsg")));
+    QVERIFY(QFile::copy(source("door/handle/grip.txt"), source("grip.txt")));
+    QVERIFY(m_opened->session.addFiles(objectId(1), {source("moved.dsg")}).empty());
+    const std::optional<Problem> problem = relocate();
+    QVERIFY(problem);
+    QCOMPARE(problem->file, source("moved.dsg"));
+    QVERIFY(problem->reason.contains(QStringLiteral("the name that the design shall get")));
+    QVERIFY(!isThere("moved.dsg"));
+}
+
+void DesignRelocationTest::openDesignsAreNotReplaced()
+{
+    const QByteArray other =
+        Testing::toText(Testing::designWithFiles(90, QStringLiteral("Other door"), {}));
+    const QString file = Testing::writeFile(target("door/door.dsg"), other);
+    m_opened->session.open({file});
+    const std::optional<Problem> problem = relocate();
+    QVERIFY(problem);
+    QCOMPARE(problem->file, QFileInfo(file).canonicalFilePath());
+    QVERIFY(problem->reason.contains(QStringLiteral("is open here")));
+    QCOMPARE(Testing::readFile(file), other);
+}
+
+void DesignRelocationTest::protectedDesignsComeAlong()
+{
+    QVERIFY(QFile::setPermissions(source("door/door.dsg"), QFile::ReadOwner));
+    QVERIFY(!relocate());
+    QVERIFY(QFileInfo(target("door/door.dsg")).isWritable());
+    QVERIFY(relocated()->problems().empty());
 }
 
 void DesignRelocationTest::allFilesComeAlong()

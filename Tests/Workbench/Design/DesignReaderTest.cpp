@@ -4,6 +4,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QLocale>
 #include <QtCore/QTemporaryDir>
 
 using namespace Zorvane;
@@ -54,6 +55,7 @@ class DesignReaderTest : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { QLocale::setDefault(QLocale(QLocale::English)); }
     void readsEveryPiece();
     void readsTheDocumentedExample();
     void tellsWhichFilesAreThere();

@@ -6,6 +6,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QLocale>
 #include <QtCore/QTemporaryDir>
 
 #include <limits>
@@ -38,6 +39,7 @@ class MeshReaderTest : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { QLocale::setDefault(QLocale(QLocale::English)); }
     void readsEveryFormatAlike_data();
     void readsEveryFormatAlike();
     void asciiAndBinaryGiveTheSameMesh();
