@@ -121,6 +121,8 @@ bool ExpectedModals::isTolerated(const QWidget& window) const
 
 void ExpectedModals::handle(QWidget& window)
 {
+    if (!window.isVisible())
+        return;
     if (m_expected.empty()) {
         refuse(window, QStringLiteral("unexpected modal window"));
         return;

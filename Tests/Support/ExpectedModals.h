@@ -26,7 +26,8 @@ namespace Zorvane::Testing {
  * that nothing hangs), if an answer leaves its window open, and if an expectation is still unmet
  * when the list goes out of scope. Answers run inside the window's own event loop, after it is
  * shown, so a further modal window may be opened by one; that window's expectation stands next
- * in the list. Only one list may be alive at a time.
+ * in the list. A window that closes before anybody could answer counts as if it had not come. Only
+ * one list may be alive at a time.
  * Not supported: windows that Qt doesn't draw (native file dialogs, message boxes of the system).
  */
 class ExpectedModals : public QObject

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void windowOfAnotherClassFails();
     void windowsThatAreNotModalAreLeftAlone();
     void toleratedWindowsAreLeftAlone();
+    void windowsThatCloseThemselvesAtOnceHaveNotCome();
 };
 
 void ExpectedModalsTest::windowsAndExpectations_data()
@@ -82,6 +83,16 @@ void ExpectedModalsTest::toleratedWindowsAreLeftAlone()
     QDialog progress;
     QTimer::singleShot(0, &progress, &QDialog::accept);
     QCOMPARE(progress.exec(), int(QDialog::Accepted));
+    QVERIFY(modals.allMet());
+}
+
+void ExpectedModalsTest::windowsThatCloseThemselvesAtOnceHaveNotCome()
+{
+    Testing::ExpectedModals modals;
+    QDialog dialog;
+    QMetaObject::invokeMethod(&dialog, &QDialog::accept, Qt::QueuedConnection);
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
+    QCoreApplication::processEvents();
     QVERIFY(modals.allMet());
 }
 

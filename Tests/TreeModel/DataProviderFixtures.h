@@ -2,12 +2,23 @@
 
 #include "TreeModel/DataProviderBaseWithUpdateFunction.h"
 
+#include <functional>
 #include <string>
 #include <utility>
 
 namespace Zorvane::Testing {
 
 using RowList = GenericTreeViewModelHandling::ZVTreeItemDataProviderInterface::RowList;
+
+/** For tests about rows, into which nothing is written. */
+class NoData : public GenericTreeViewModelHandling::ZVTreeItemDataProviderInterface
+{
+public:
+    Qt::ItemFlags getItemFlags() override { return Qt::NoItemFlags; }
+    void addDataTo(const RowList&) override {}
+    void updateDataOf(const RowList&) override {}
+    void registerUpdateCallback(std::function<void()>) override {}
+};
 
 /** Notes, in a log shared with others, each time it is to write, and to how many rows. */
 class NotingDataProvider : public GenericTreeViewModelHandling::DataProviderBaseWithUpdateFunction

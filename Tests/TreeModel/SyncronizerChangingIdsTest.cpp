@@ -5,6 +5,7 @@
 #include "Host/Widgets/ZVTreeViewModel.h"
 #include "Tests/Support/ModelMirror.h"
 #include "Tests/Support/TestCase.h"
+#include "Tests/TreeModel/DataProviderFixtures.h"
 #include "TreeModel/ModelItemToZVTreeModelSyncronizer.h"
 
 #include <rapidcheck.h>
@@ -42,15 +43,6 @@ Items items(const std::vector<int>& numbers)
     return made;
 }
 
-class NoData : public ZVTreeItemDataProviderInterface
-{
-public:
-    Qt::ItemFlags getItemFlags() override { return Qt::NoItemFlags; }
-    void addDataTo(const RowList&) override {}
-    void updateDataOf(const RowList&) override {}
-    void registerUpdateCallback(std::function<void()>) override {}
-};
-
 /** Does something whenever its text is written, that is, when it has been found in place. */
 class ActingRow : public ZVTreeViewItem
 {
@@ -71,7 +63,7 @@ public:
     explicit Scene(const std::vector<int>& numbers)
         : mirror(&model)
     {
-        syncronizer.setDataProvider(std::make_shared<NoData>());
+        syncronizer.setDataProvider(std::make_shared<Testing::NoData>());
         QVector<ZVTreeViewItem*> made;
         for (int number : numbers) {
             rows.push_back(new ActingRow);

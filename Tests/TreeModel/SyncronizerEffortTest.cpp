@@ -4,6 +4,7 @@
 #include "Host/Widgets/ZVTreeViewModel.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/TreeModel/CountedAllocations.h"
+#include "Tests/TreeModel/DataProviderFixtures.h"
 #include "TreeModel/ModelItemToZVTreeModelSyncronizer.h"
 
 #include <algorithm>
@@ -18,15 +19,6 @@ namespace {
 constexpr int IdRole = ModelItemToZVTreeModelSyncronizer::DefaultIdRole;
 
 using Items = std::vector<std::shared_ptr<ModelItem>>;
-
-class NoData : public ZVTreeItemDataProviderInterface
-{
-public:
-    Qt::ItemFlags getItemFlags() override { return Qt::NoItemFlags; }
-    void addDataTo(const RowList&) override {}
-    void updateDataOf(const RowList&) override {}
-    void registerUpdateCallback(std::function<void()>) override {}
-};
 
 /** Counts how often anybody reads an id. */
 class CountingRow : public ZVTreeViewItem

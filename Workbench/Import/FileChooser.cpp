@@ -6,6 +6,7 @@
 #include "FileDialogs/PreviewFileDialogConfiguration.h"
 #include "Files/PathProvider.h"
 #include "Host/Widgets/ZVMessageBox.h"
+#include "Workbench/Import/DialogOwner.h"
 #include "Workbench/Preview/FilePreviewEditor.h"
 
 #include <QtCore/QDir>
@@ -62,8 +63,9 @@ QStringList DialogFileChooser::files(QWidget* parent, const FileChoice& choice)
     return files;
 }
 
-QString DialogFileChooser::folder(QWidget*, const FileChoice& choice)
+QString DialogFileChooser::folder(QWidget* parent, const FileChoice& choice)
 {
+    const DialogOwner owner(parent);
     return QDir::fromNativeSeparators(
         FileDialog::getExistingDirectoryName(choice.caption, choice.paths, choice.scope));
 }
@@ -72,6 +74,7 @@ QString DialogFileChooser::fileToSave(QWidget* parent, const FileChoice& choice,
                                       const QString& fileName)
 {
     const QPointer<QWidget> window(parent);
+    const DialogOwner owner(parent);
     const QString file = QDir::fromNativeSeparators(FileDialog::getSaveFileName(
         choice.caption, choice.filters, choice.paths, choice.scope, fileName, parent));
     if (FileDialog::wasEndingAdded() && !mayReplace(window, choice.caption, file))
@@ -83,6 +86,7 @@ QString DialogFileChooser::fileToSaveBeside(QWidget* parent, const FileChoice& c
                                             const QString& path)
 {
     const QPointer<QWidget> window(parent);
+    const DialogOwner owner(parent);
     const QString file = QDir::fromNativeSeparators(FileDialog::getSaveFileNameInDir(
         choice.caption, choice.filters, path, choice.paths, choice.scope, {}, {}));
     if (file.isEmpty() || fileEndingIndex(file) >= 0)

@@ -26,6 +26,7 @@
 #include "Workbench/Window/ProblemsPanel.h"
 #include "Workbench/Window/ReadingProgress.h"
 #include "Workbench/Window/RecentPaths.h"
+#include "Workbench/Window/RowMenu.h"
 #include "Workbench/Window/WindowLayout.h"
 #include "Workbench/Window/WindowMenus.h"
 
@@ -36,7 +37,6 @@
 #include <QtGui/QDragEnterEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QStatusBar>
 #include <QtWidgets/QTreeView>
@@ -122,7 +122,6 @@ void MainWindow::layOut()
     m_treeView->setAccessibleName(tr("Objects"));
     m_treeView->setFrameShape(QFrame::NoFrame);
     m_treeView->setAlternatingRowColors(true);
-    m_treeView->setContextMenuPolicy(Qt::CustomContextMenu);
     m_tree->attach(m_treeView);
     m_layout = new WindowLayout({m_messageBar, m_filterBar, m_treeView, m_meshView, m_details,
                                  m_quantities, m_problemsPanel},
@@ -168,6 +167,10 @@ void MainWindow::connectActions()
     on(WorkbenchActions::AboutQt, [] { QApplication::aboutQt(); });
     on(ZVGlobalActions::HelpContents, [this] { showBeside(m_help); });
     connectViewCommands(*m_commands, *m_meshView);
+    new RowMenu(m_treeView,
+                {(*m_commands)[WorkbenchActions::Rename], (*m_commands)[WorkbenchActions::Remove],
+                 (*m_commands)[WorkbenchActions::GoToReference],
+                 (*m_commands)[ZVMainActions::Export]});
     new HistoryCommands(*m_commands, *m_history);
     connect(new WindowMenus(*m_commands), &WindowMenus::chosen, this, &MainWindow::open);
 }
@@ -218,7 +221,6 @@ void MainWindow::connectParts()
         if (index.column() == TreeColumn::UsedBy)
             goToReference();
     });
-    connect(m_treeView, &QTreeView::customContextMenuRequested, this, &MainWindow::showRowMenu);
     connect(&m_session, &DesignSession::conflictFound, this, &MainWindow::tellConflict);
     connect(m_exchange, &FileExchange::failed, m_messageBar, &MessageBar::say);
     connect(m_exchange, &FileExchange::done, this, &MainWindow::notify);
@@ -457,20 +459,6 @@ void MainWindow::goToReference()
     const QRect cell = m_treeView->visualRect(current.siblingAtColumn(TreeColumn::UsedBy));
     m_references->follow(m_tree->currentId(), this,
                          m_treeView->viewport()->mapToGlobal(cell.bottomLeft()));
-}
-
-/** What can be done with the row there, which a click has made the current one. */
-void MainWindow::showRowMenu(const QPoint& place)
-{
-    if (!m_treeView->indexAt(place).isValid())
-        return;
-    auto* menu = new QMenu(m_treeView);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    for (const WorkbenchActions::Actions id :
-         {WorkbenchActions::Rename, WorkbenchActions::Remove, WorkbenchActions::GoToReference})
-        menu->addAction((*m_commands)[id]);
-    menu->addAction((*m_commands)[ZVMainActions::Export]);
-    menu->popup(m_treeView->viewport()->mapToGlobal(place));
 }
 
 void MainWindow::goTo(const IDCombiner& id)

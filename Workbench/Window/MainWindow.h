@@ -105,7 +105,6 @@ private:
     void rename();
     void removeCurrent();
     void goToReference();
-    void showRowMenu(const QPoint& place);
     void goTo(const IDCombiner& id);
     void setQuantity(const GUIdentifier& object, Quantity quantity, double value);
     void notify(const QString& text);

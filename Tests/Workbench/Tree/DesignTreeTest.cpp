@@ -1,12 +1,10 @@
 #include "Workbench/Tree/DesignTree.h"
 
 #include "Tests/Support/TestCase.h"
-#include "Tests/Workbench/Tree/TreeFixture.h"
+#include "Tests/Workbench/Tree/ShownTree.h"
 
-#include <QtTest/QAbstractItemModelTester>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollBar>
-#include <QtWidgets/QTreeView>
 
 namespace Zorvane::Workbench {
 
@@ -41,7 +39,7 @@ private Q_SLOTS:
     void unreadableFilesAreMarkedUntilTheyAreMended();
 
 private:
-    QModelIndex at(int number) const { return m_tree->indexOf(objectId(number)); }
+    QModelIndex at(int number) const { return m_shown->tree.indexOf(objectId(number)); }
     QString text(int number, int column) const
     {
         return at(number).siblingAtColumn(column).data().toString();
@@ -49,48 +47,36 @@ private:
     /** Types over the current row's name. */
     void rename(int number, const QString& name);
 
-    std::unique_ptr<Testing::OpenedDesign> m_opened;
-    std::unique_ptr<QTreeView> m_view;
-    std::unique_ptr<DesignTree> m_tree;
+    std::unique_ptr<Testing::ShownTree> m_shown;
 };
 
 void DesignTreeTest::init()
 {
-    m_opened = std::make_unique<Testing::OpenedDesign>();
-    m_view = std::make_unique<QTreeView>();
-    m_tree = std::make_unique<DesignTree>(m_opened->session, m_opened->loader);
-    m_tree->attach(m_view.get());
-    new QAbstractItemModelTester(
-        m_view->model(), QAbstractItemModelTester::FailureReportingMode::Fatal, m_tree.get());
-    m_view->resize(900, 700);
-    m_view->show();
-    m_tree->refreshNow();
+    m_shown = std::make_unique<Testing::ShownTree>();
 }
 
 void DesignTreeTest::cleanup()
 {
-    m_view.reset();
-    m_tree.reset();
-    m_opened.reset();
+    m_shown.reset();
     TestCase::cleanup();
 }
 
 void DesignTreeTest::rename(int number, const QString& name)
 {
-    QVERIFY(m_tree->select(objectId(number)));
-    QVERIFY(m_tree->editCurrent());
-    auto* editor = m_view->viewport()->findChild<QLineEdit*>();
+    QVERIFY(m_shown->tree.select(objectId(number)));
+    QVERIFY(m_shown->tree.editCurrent());
+    auto* editor = m_shown->view.viewport()->findChild<QLineEdit*>();
     QVERIFY(editor != nullptr);
     QVERIFY(!editor->accessibleName().isEmpty());
     editor->setText(name);
     QTest::keyClick(editor, Qt::Key_Return);
-    QTRY_VERIFY(m_view->viewport()->findChild<QLineEdit*>() == nullptr);
-    m_tree->refreshNow();
+    QTRY_VERIFY(m_shown->view.viewport()->findChild<QLineEdit*>() == nullptr);
+    m_shown->tree.refreshNow();
 }
 
 void DesignTreeTest::columnsTellWhatIsKnown()
 {
-    QCOMPARE(m_tree->model().columnCount(), treeColumnTitles().size());
+    QCOMPARE(m_shown->tree.model().columnCount(), treeColumnTitles().size());
     QCOMPARE(text(21, TreeColumn::Name), QStringLiteral("Die"));
     QCOMPARE(text(21, TreeColumn::Kind), QStringLiteral("Die"));
     QCOMPARE(text(21, TreeColumn::State), QString());
@@ -105,7 +91,7 @@ void DesignTreeTest::columnsTellWhatIsKnown()
 void DesignTreeTest::factsArriveAsMeshesAreRead()
 {
     QCOMPARE(text(21, TreeColumn::Triangles), QString());
-    m_opened->loader.request(m_opened->session.meshFiles());
+    m_shown->loader.request(m_shown->session.meshFiles());
     QTRY_COMPARE(text(21, TreeColumn::Triangles), QStringLiteral("12"));
     QCOMPARE(text(21, TreeColumn::Size), QStringLiteral("10 × 10 × 10"));
     QCOMPARE(text(21, TreeColumn::Surface),
@@ -116,26 +102,26 @@ void DesignTreeTest::factsArriveAsMeshesAreRead()
 
 void DesignTreeTest::refreshesAreGathered()
 {
-    QSignalSpy refreshed(m_tree.get(), &DesignTree::refreshed);
-    QCOMPARE(m_opened->session.rename(objectId(21), QStringLiteral("A")), QString());
-    QCOMPARE(m_opened->session.rename(objectId(22), QStringLiteral("B")), QString());
-    m_tree->setFilterText(QStringLiteral("a"));
-    m_tree->setFilterText({});
+    QSignalSpy refreshed(&m_shown->tree, &DesignTree::refreshed);
+    QCOMPARE(m_shown->session.rename(objectId(21), QStringLiteral("A")), QString());
+    QCOMPARE(m_shown->session.rename(objectId(22), QStringLiteral("B")), QString());
+    m_shown->tree.setFilterText(QStringLiteral("a"));
+    m_shown->tree.setFilterText({});
     QCOMPARE(refreshed.count(), 0);
     QTRY_COMPARE(text(22, TreeColumn::Name), QStringLiteral("B"));
     QCOMPARE(refreshed.count(), 1);
-    m_tree->refreshNow();
+    m_shown->tree.refreshNow();
     QCOMPARE(refreshed.count(), 1);
 }
 
 void DesignTreeTest::aThousandChangesInOneEventAreOneSynchronization()
 {
-    QSignalSpy changed(&m_opened->session, &DesignSession::changed);
-    QSignalSpy refreshed(m_tree.get(), &DesignTree::refreshed);
-    QSignalSpy published(&m_tree->model(), &ZVTreeViewModel::published);
-    QTimer::singleShot(0, m_tree.get(), [this] {
+    QSignalSpy changed(&m_shown->session, &DesignSession::changed);
+    QSignalSpy refreshed(&m_shown->tree, &DesignTree::refreshed);
+    QSignalSpy published(&m_shown->tree.model(), &ZVTreeViewModel::published);
+    QTimer::singleShot(0, &m_shown->tree, [this] {
         for (int change = 1; change <= 1000; ++change)
-            m_opened->session.rename(objectId(21 + change % 2), QString::number(change));
+            m_shown->session.rename(objectId(21 + change % 2), QString::number(change));
     });
     QTRY_COMPARE(text(21, TreeColumn::Name), QStringLiteral("1000"));
     QCOMPARE(text(22, TreeColumn::Name), QStringLiteral("999"));
@@ -149,9 +135,9 @@ void DesignTreeTest::aThousandChangesInOneEventAreOneSynchronization()
 
 void DesignTreeTest::aRefreshAtOnceTakesThePostedOneBack()
 {
-    QSignalSpy refreshed(m_tree.get(), &DesignTree::refreshed);
-    m_opened->session.rename(objectId(21), QStringLiteral("A"));
-    m_tree->refreshNow();
+    QSignalSpy refreshed(&m_shown->tree, &DesignTree::refreshed);
+    m_shown->session.rename(objectId(21), QStringLiteral("A"));
+    m_shown->tree.refreshNow();
     QCOMPARE(refreshed.count(), 1);
     QCoreApplication::sendPostedEvents();
     QCOMPARE(refreshed.count(), 1);
@@ -160,7 +146,7 @@ void DesignTreeTest::aRefreshAtOnceTakesThePostedOneBack()
 void DesignTreeTest::aNameEditedInPlaceChangesTheDesign()
 {
     rename(21, QStringLiteral("  Upper die "));
-    QCOMPARE(m_opened->session.name(objectId(21)), QStringLiteral("Upper die"));
+    QCOMPARE(m_shown->session.name(objectId(21)), QStringLiteral("Upper die"));
     QCOMPARE(text(21, TreeColumn::Name), QStringLiteral("Upper die"));
     QCOMPARE(text(21, TreeColumn::State), QStringLiteral("Modified"));
     rename(1, QStringLiteral("Tiny"));
@@ -169,154 +155,155 @@ void DesignTreeTest::aNameEditedInPlaceChangesTheDesign()
 
 void DesignTreeTest::aRefusedNameIsPutBack()
 {
-    QSignalSpy refused(m_tree.get(), &DesignTree::renameRefused);
+    QSignalSpy refused(&m_shown->tree, &DesignTree::renameRefused);
     rename(21, QStringLiteral("   "));
     QCOMPARE(refused.count(), 1);
     QVERIFY(!refused[0][1].toString().isEmpty());
     QCOMPARE(text(21, TreeColumn::Name), QStringLiteral("Die"));
-    QVERIFY(!m_opened->session.isModified());
+    QVERIFY(!m_shown->session.isModified());
 }
 
 void DesignTreeTest::groupsAndMeshFilesAreNotEdited()
 {
-    const QString file = m_opened->path(QStringLiteral("many/cube.stl"));
+    const QString file = m_shown->path(QStringLiteral("many/cube.stl"));
     Testing::writeFile(file, Testing::binaryStl(Testing::cube()));
-    m_opened->session.open({file});
-    m_tree->refreshNow();
+    m_shown->session.open({file});
+    m_shown->tree.refreshNow();
     QVERIFY(at(21).flags().testFlag(Qt::ItemIsEditable));
     QVERIFY(!at(20).parent().flags().testFlag(Qt::ItemIsEditable));
-    QVERIFY(m_tree->select(m_opened->session.looseParts().front().id));
-    QVERIFY(!m_tree->editCurrent());
+    QVERIFY(m_shown->tree.select(m_shown->session.looseParts().front().id));
+    QVERIFY(!m_shown->tree.editCurrent());
 }
 
 void DesignTreeTest::onlyNamesAreEdited()
 {
-    m_view->setCurrentIndex(at(21).siblingAtColumn(TreeColumn::Kind));
-    m_view->edit(m_view->currentIndex());
-    QVERIFY(m_view->viewport()->findChild<QLineEdit*>() == nullptr);
-    QVERIFY(m_tree->editCurrent());
-    QVERIFY(m_view->viewport()->findChild<QLineEdit*>() != nullptr);
+    m_shown->view.setCurrentIndex(at(21).siblingAtColumn(TreeColumn::Kind));
+    m_shown->view.edit(m_shown->view.currentIndex());
+    QVERIFY(m_shown->view.viewport()->findChild<QLineEdit*>() == nullptr);
+    QVERIFY(m_shown->tree.editCurrent());
+    QVERIFY(m_shown->view.viewport()->findChild<QLineEdit*>() != nullptr);
 }
 
 void DesignTreeTest::countsFollowTheFilterOnRowsThatMove()
 {
-    m_tree->setFilterText(QStringLiteral("punch"));
-    m_tree->refreshNow();
+    m_shown->tree.setFilterText(QStringLiteral("punch"));
+    m_shown->tree.refreshNow();
     QCOMPARE(at(20).parent().data().toString(), QStringLiteral("Operations (1)"));
     QCOMPARE(at(20).parent().row(), 0);
-    m_tree->setFilterText({});
-    m_tree->refreshNow();
+    m_shown->tree.setFilterText({});
+    m_shown->tree.refreshNow();
     QCOMPARE(at(20).parent().data().toString(), QStringLiteral("Operations (2)"));
     QCOMPARE(at(20).parent().row(), 1);
 }
 
 void DesignTreeTest::selectionAndExpansionSurviveAChange()
 {
-    QVERIFY(m_tree->select(objectId(22)));
-    m_view->collapse(at(40).parent());
+    QVERIFY(m_shown->tree.select(objectId(22)));
+    m_shown->view.collapse(at(40).parent());
     QJsonObject design = Testing::smallDesign();
     QJsonArray operations = design[QLatin1String("operations")].toArray();
     operations.prepend(Testing::entry(25, QStringLiteral("Clean")));
     design[QLatin1String("operations")] = operations;
-    Testing::replaceFile(m_opened->designFile(), Testing::toText(design));
+    Testing::replaceFile(m_shown->designFile(), Testing::toText(design));
     QTRY_VERIFY(at(25).isValid());
-    QVERIFY(m_tree->currentId() == IDCombiner(objectId(22)));
-    QVERIFY(m_view->selectionModel()->isSelected(at(22)));
-    QVERIFY(!m_view->isExpanded(at(40).parent()));
-    QVERIFY(m_view->isExpanded(at(20)));
+    QVERIFY(m_shown->tree.currentId() == IDCombiner(objectId(22)));
+    QVERIFY(m_shown->view.selectionModel()->isSelected(at(22)));
+    QVERIFY(!m_shown->view.isExpanded(at(40).parent()));
+    QVERIFY(m_shown->view.isExpanded(at(20)));
 }
 
 void DesignTreeTest::collapsedRowsStayCollapsedThroughAFilter()
 {
-    m_view->collapse(at(20));
-    m_tree->setFilterText(QStringLiteral("steel"));
-    m_tree->refreshNow();
+    m_shown->view.collapse(at(20));
+    m_shown->tree.setFilterText(QStringLiteral("steel"));
+    m_shown->tree.refreshNow();
     QVERIFY(!at(20).isValid());
-    m_tree->setFilterText({});
-    m_tree->refreshNow();
-    QVERIFY(!m_view->isExpanded(at(20)));
-    QVERIFY(m_view->isExpanded(at(40).parent()));
+    m_shown->tree.setFilterText({});
+    m_shown->tree.refreshNow();
+    QVERIFY(!m_shown->view.isExpanded(at(20)));
+    QVERIFY(m_shown->view.isExpanded(at(40).parent()));
 }
 
 void DesignTreeTest::aFilteringTextShowsWhatItFinds()
 {
-    m_tree->collapseAll();
-    m_tree->setFilterText(QStringLiteral("punch"));
-    m_tree->refreshNow();
-    QVERIFY(m_view->isExpanded(at(20)));
-    m_tree->setFilterText({});
-    m_tree->refreshNow();
-    QVERIFY(!m_view->isExpanded(at(1)));
+    m_shown->tree.collapseAll();
+    m_shown->tree.setFilterText(QStringLiteral("punch"));
+    m_shown->tree.refreshNow();
+    QVERIFY(m_shown->view.isExpanded(at(20)));
+    m_shown->tree.setFilterText({});
+    m_shown->tree.refreshNow();
+    QVERIFY(!m_shown->view.isExpanded(at(1)));
 }
 
 void DesignTreeTest::theFirstRowInSightStays()
 {
     for (int number = 100; number < 200; ++number)
-        Testing::writeFile(m_opened->path(QStringLiteral("many/p%1.stl").arg(number)),
+        Testing::writeFile(m_shown->path(QStringLiteral("many/p%1.stl").arg(number)),
                            Testing::binaryStl(Testing::cube()));
-    m_opened->session.open({m_opened->path(QStringLiteral("many"))});
-    m_tree->refreshNow();
-    m_view->verticalScrollBar()->setValue(m_view->verticalScrollBar()->maximum() / 2);
-    const QString first = m_view->indexAt({0, 0}).data().toString();
-    const int top = m_view->visualRect(m_view->indexAt({0, 0})).top();
+    m_shown->session.open({m_shown->path(QStringLiteral("many"))});
+    m_shown->tree.refreshNow();
+    m_shown->view.verticalScrollBar()->setValue(m_shown->view.verticalScrollBar()->maximum() / 2);
+    const QString first = m_shown->view.indexAt({0, 0}).data().toString();
+    const int top = m_shown->view.visualRect(m_shown->view.indexAt({0, 0})).top();
     QVERIFY(first.startsWith(QLatin1Char('p')));
-    Testing::writeFile(m_opened->path(QStringLiteral("many/a.stl")),
+    Testing::writeFile(m_shown->path(QStringLiteral("many/a.stl")),
                        Testing::binaryStl(Testing::cube()));
-    QTRY_COMPARE(m_opened->session.looseParts().size(), std::size_t(101));
-    m_tree->refreshNow();
-    QCOMPARE(m_view->indexAt({0, 0}).data().toString(), first);
-    QCOMPARE(m_view->visualRect(m_view->indexAt({0, 0})).top(), top);
+    QTRY_COMPARE(m_shown->session.looseParts().size(), std::size_t(101));
+    m_shown->tree.refreshNow();
+    QCOMPARE(m_shown->view.indexAt({0, 0}).data().toString(), first);
+    QCOMPARE(m_shown->view.visualRect(m_shown->view.indexAt({0, 0})).top(), top);
 }
 
 void DesignTreeTest::expandAndCollapseAll()
 {
-    m_tree->collapseAll();
-    QVERIFY(!m_view->isExpanded(at(1)));
-    m_tree->expandAll();
-    QVERIFY(m_view->isExpanded(at(1)));
-    QVERIFY(m_view->isExpanded(at(20)));
+    m_shown->tree.collapseAll();
+    QVERIFY(!m_shown->view.isExpanded(at(1)));
+    m_shown->tree.expandAll();
+    QVERIFY(m_shown->view.isExpanded(at(1)));
+    QVERIFY(m_shown->view.isExpanded(at(20)));
 }
 
 void DesignTreeTest::namesOfWhatIsOpenedAreShownWhole()
 {
     const auto isWhole = [this](const QModelIndex& index) {
-        return m_view->visualRect(index).width() >= m_view->sizeHintForIndex(index).width();
+        return m_shown->view.visualRect(index).width() >=
+               m_shown->view.sizeHintForIndex(index).width();
     };
     QVERIFY(isWhole(at(21)));
     // As the user wants it, until something else is opened.
-    const int narrow = m_view->columnWidth(TreeColumn::Name) / 2;
-    m_view->setColumnWidth(TreeColumn::Name, narrow);
-    QCOMPARE(m_opened->session.rename(objectId(21), QStringLiteral("Another die")), QString());
-    m_tree->refreshNow();
-    QCOMPARE(m_view->columnWidth(TreeColumn::Name), narrow);
-    const QString file = m_opened->path(QStringLiteral("a mesh of a rather long name.stl"));
+    const int narrow = m_shown->view.columnWidth(TreeColumn::Name) / 2;
+    m_shown->view.setColumnWidth(TreeColumn::Name, narrow);
+    QCOMPARE(m_shown->session.rename(objectId(21), QStringLiteral("Another die")), QString());
+    m_shown->tree.refreshNow();
+    QCOMPARE(m_shown->view.columnWidth(TreeColumn::Name), narrow);
+    const QString file = m_shown->path(QStringLiteral("a mesh of a rather long name.stl"));
     Testing::writeFile(file, Testing::binaryStl(Testing::cube()));
-    m_opened->session.open({file});
-    m_tree->refreshNow();
-    const QModelIndex part = m_tree->indexOf(m_opened->session.looseParts().front().id);
+    m_shown->session.open({file});
+    m_shown->tree.refreshNow();
+    const QModelIndex part = m_shown->tree.indexOf(m_shown->session.looseParts().front().id);
     QVERIFY(isWhole(part));
     QVERIFY(isWhole(at(21)));
     // However long a name is, there is room for other columns.
-    m_opened->session.close();
-    const QString longest = m_opened->path(QString(100, QLatin1Char('m')) + QStringLiteral(".stl"));
+    m_shown->session.close();
+    const QString longest = m_shown->path(QString(100, QLatin1Char('m')) + QStringLiteral(".stl"));
     Testing::writeFile(longest, Testing::binaryStl(Testing::cube()));
-    m_opened->session.open({longest});
-    m_tree->refreshNow();
-    QVERIFY(!isWhole(m_tree->indexOf(m_opened->session.looseParts().front().id)));
+    m_shown->session.open({longest});
+    m_shown->tree.refreshNow();
+    QVERIFY(!isWhole(m_shown->tree.indexOf(m_shown->session.looseParts().front().id)));
 }
 
 void DesignTreeTest::selectingWhatIsNotShown()
 {
-    QVERIFY(!m_tree->select(objectId(999)));
-    QVERIFY(m_tree->idAt({}) == IDCombiner());
-    QVERIFY(!m_tree->indexOf(objectId(999)).isValid());
-    m_view->setCurrentIndex({});
-    QVERIFY(!m_tree->editCurrent());
+    QVERIFY(!m_shown->tree.select(objectId(999)));
+    QVERIFY(m_shown->tree.idAt({}) == IDCombiner());
+    QVERIFY(!m_shown->tree.indexOf(objectId(999)).isValid());
+    m_shown->view.setCurrentIndex({});
+    QVERIFY(!m_shown->tree.editCurrent());
 }
 
 void DesignTreeTest::missingFilesAreMarked()
 {
-    QVERIFY(QFile::remove(m_opened->path(QStringLiteral("geometry/die.stl"))));
+    QVERIFY(QFile::remove(m_shown->path(QStringLiteral("geometry/die.stl"))));
     QTRY_COMPARE(text(21, TreeColumn::State), QStringLiteral("File missing"));
     QVERIFY(at(21).data(s_statiRole).toInt() & ZVWidgetStatus::Missing);
     QCOMPARE(text(22, TreeColumn::State), QString());
@@ -324,13 +311,13 @@ void DesignTreeTest::missingFilesAreMarked()
 
 void DesignTreeTest::unreadableFilesAreMarkedUntilTheyAreMended()
 {
-    const QString path = m_opened->path(QStringLiteral("geometry/die.stl"));
+    const QString path = m_shown->path(QStringLiteral("geometry/die.stl"));
     const QByteArray good = Testing::binaryStl(Testing::cube());
     Testing::writeFile(path, good.left(good.size() / 2));
-    m_opened->loader.requestAnew(path);
+    m_shown->loader.requestAnew(path);
     QTRY_VERIFY(at(21).data(s_statiRole).toInt() & ZVWidgetStatus::Error);
     Testing::writeFile(path, good);
-    m_opened->loader.requestAnew(path);
+    m_shown->loader.requestAnew(path);
     QTRY_VERIFY(!(at(21).data(s_statiRole).toInt() & ZVWidgetStatus::Error));
 }
 

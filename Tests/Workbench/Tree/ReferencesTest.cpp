@@ -1,10 +1,7 @@
 #include "Tests/Support/TestCase.h"
-#include "Tests/Workbench/Tree/TreeFixture.h"
+#include "Tests/Workbench/Tree/ShownTree.h"
 #include "Utilities/ReferenceIndicatorDelegate.h"
 #include "Workbench/Tree/DesignTree.h"
-
-#include <QtTest/QAbstractItemModelTester>
-#include <QtWidgets/QTreeView>
 
 namespace Zorvane::Workbench {
 
@@ -59,62 +56,54 @@ private Q_SLOTS:
 private:
     QVariant usedBy(int number, int role) const
     {
-        return m_tree->indexOf(objectId(number)).siblingAtColumn(TreeColumn::UsedBy).data(role);
+        return m_shown->tree.indexOf(objectId(number))
+            .siblingAtColumn(TreeColumn::UsedBy)
+            .data(role);
     }
     void rewrite(const QJsonObject& design);
 
-    std::unique_ptr<Testing::OpenedDesign> m_opened;
-    std::unique_ptr<QTreeView> m_view;
-    std::unique_ptr<DesignTree> m_tree;
+    std::unique_ptr<Testing::ShownTree> m_shown;
 };
 
 void ReferencesTest::init()
 {
-    m_opened = std::make_unique<Testing::OpenedDesign>();
-    m_view = std::make_unique<QTreeView>();
-    m_tree = std::make_unique<DesignTree>(m_opened->session, m_opened->loader);
-    m_tree->attach(m_view.get());
-    new QAbstractItemModelTester(
-        m_view->model(), QAbstractItemModelTester::FailureReportingMode::Fatal, m_tree.get());
-    m_tree->refreshNow();
+    m_shown = std::make_unique<Testing::ShownTree>();
 }
 
 void ReferencesTest::cleanup()
 {
-    m_view.reset();
-    m_tree.reset();
-    m_opened.reset();
+    m_shown.reset();
     TestCase::cleanup();
 }
 
 void ReferencesTest::rewrite(const QJsonObject& design)
 {
-    Testing::replaceFile(m_opened->designFile(), Testing::toText(design));
-    m_opened->session.reload();
-    m_tree->refreshNow();
+    Testing::replaceFile(m_shown->designFile(), Testing::toText(design));
+    m_shown->session.reload();
+    m_shown->tree.refreshNow();
 }
 
 void ReferencesTest::filesKnowWhoNeedsThem()
 {
     // Blank, part and die share one mesh.
-    QVERIFY(m_tree->catalog().find(objectId(40))->referrers == ids({2, 10, 21}));
+    QVERIFY(m_shown->tree.catalog().find(objectId(40))->referrers == ids({2, 10, 21}));
 }
 
 void ReferencesTest::materialsAndTheirFilesKnowWhoNeedsThem()
 {
-    QVERIFY(m_tree->catalog().find(objectId(30))->referrers == ids({2}));
-    QVERIFY(m_tree->catalog().find(objectId(41))->referrers == ids({2}));
+    QVERIFY(m_shown->tree.catalog().find(objectId(30))->referrers == ids({2}));
+    QVERIFY(m_shown->tree.catalog().find(objectId(41))->referrers == ids({2}));
     rewrite(designWithPartMaterial());
-    QVERIFY(m_tree->catalog().find(objectId(30))->referrers == ids({2, 10}));
-    QVERIFY(m_tree->catalog().find(objectId(41))->referrers == ids({2, 10}));
+    QVERIFY(m_shown->tree.catalog().find(objectId(30))->referrers == ids({2, 10}));
+    QVERIFY(m_shown->tree.catalog().find(objectId(41))->referrers == ids({2, 10}));
 }
 
 void ReferencesTest::linksLeadBothWays()
 {
-    QVERIFY(m_tree->catalog().find(objectId(2))->links == ids({40, 30, 41}));
-    QVERIFY(m_tree->catalog().find(objectId(30))->links == ids({2, 41}));
-    QVERIFY(m_tree->catalog().find(objectId(41))->links == ids({2, 30}));
-    QVERIFY(m_tree->catalog().find(objectId(20))->links.empty());
+    QVERIFY(m_shown->tree.catalog().find(objectId(2))->links == ids({40, 30, 41}));
+    QVERIFY(m_shown->tree.catalog().find(objectId(30))->links == ids({2, 41}));
+    QVERIFY(m_shown->tree.catalog().find(objectId(41))->links == ids({2, 30}));
+    QVERIFY(m_shown->tree.catalog().find(objectId(20))->links.empty());
 }
 
 void ReferencesTest::theSameFileTwiceIsOneReference()
@@ -124,7 +113,7 @@ void ReferencesTest::theSameFileTwiceIsOneReference()
     steel[QLatin1String("file")] = Testing::uuidText(40);
     design[QLatin1String("materials")] = QJsonArray{steel};
     rewrite(design);
-    QVERIFY(m_tree->catalog().find(objectId(40))->referrers == ids({2, 10, 21}));
+    QVERIFY(m_shown->tree.catalog().find(objectId(40))->referrers == ids({2, 10, 21}));
 }
 
 void ReferencesTest::deadLinksAreNoReferences()
@@ -132,8 +121,8 @@ void ReferencesTest::deadLinksAreNoReferences()
     QJsonObject design = designWithPartMaterial();
     design.remove(QStringLiteral("materials"));
     rewrite(design);
-    QVERIFY(m_tree->catalog().find(objectId(10))->links == ids({40}));
-    QVERIFY(m_tree->catalog().find(objectId(41))->referrers.empty());
+    QVERIFY(m_shown->tree.catalog().find(objectId(10))->links == ids({40}));
+    QVERIFY(m_shown->tree.catalog().find(objectId(41))->referrers.empty());
 }
 
 void ReferencesTest::theColumnTellsNumberAndColours()
@@ -143,8 +132,9 @@ void ReferencesTest::theColumnTellsNumberAndColours()
                          Delegate::ThirdColorRole};
     const int objects[] = {2, 10, 21};
     for (int place = 0; place < 3; ++place)
-        QCOMPARE(usedBy(40, roles[place]).toInt(),
-                 PartColours::colorId(m_tree->catalog().find(objectId(objects[place]))->colour));
+        QCOMPARE(
+            usedBy(40, roles[place]).toInt(),
+            PartColours::colorId(m_shown->tree.catalog().find(objectId(objects[place]))->colour));
     QCOMPARE(usedBy(30, Delegate::NumberOfReferencesRole).toInt(), 1);
     QVERIFY(!usedBy(30, Delegate::SecondColorRole).isValid());
 }
@@ -158,8 +148,8 @@ void ReferencesTest::theColumnIsReadAloud()
 void ReferencesTest::theToolTipListsTheNames()
 {
     QCOMPARE(usedBy(40, Qt::ToolTipRole).toString(), QStringLiteral("Blank\nCup\nDie"));
-    m_opened->session.rename(objectId(10), QStringLiteral("Bowl"));
-    m_tree->refreshNow();
+    m_shown->session.rename(objectId(10), QStringLiteral("Bowl"));
+    m_shown->tree.refreshNow();
     QCOMPARE(usedBy(40, Qt::ToolTipRole).toString(), QStringLiteral("Blank\nBowl\nDie"));
 }
 
@@ -174,7 +164,7 @@ void ReferencesTest::rowsThatNothingCanReferToStayEmpty()
 
 void ReferencesTest::theColumnFollowsChanges()
 {
-    Testing::replaceFile(m_opened->designFile(), Testing::toText(designWithPartMaterial()));
+    Testing::replaceFile(m_shown->designFile(), Testing::toText(designWithPartMaterial()));
     QTRY_COMPARE(usedBy(30, Delegate::NumberOfReferencesRole).toInt(), 2);
     QCOMPARE(usedBy(41, Delegate::NumberOfReferencesRole).toInt(), 2);
     QVERIFY(usedBy(30, Delegate::SecondColorRole).isValid());
@@ -193,15 +183,16 @@ void ReferencesTest::aReferenceGoneLeavesNoPatch()
 
 void ReferencesTest::theColumnIsDrawnByTheDelegate()
 {
-    const QModelIndex index = m_tree->indexOf(objectId(40)).siblingAtColumn(TreeColumn::UsedBy);
-    QVERIFY(qobject_cast<Delegate*>(m_view->itemDelegate(index)) != nullptr);
-    m_view->resize(900, 500);
-    m_view->show();
-    const QRect cell = m_view->visualRect(index);
-    const QImage picture = m_view->viewport()->grab(cell).toImage();
+    const QModelIndex index =
+        m_shown->tree.indexOf(objectId(40)).siblingAtColumn(TreeColumn::UsedBy);
+    QVERIFY(qobject_cast<Delegate*>(m_shown->view.itemDelegate(index)) != nullptr);
+    m_shown->view.resize(900, 500);
+    m_shown->view.show();
+    const QRect cell = m_shown->view.visualRect(index);
+    const QImage picture = m_shown->view.viewport()->grab(cell).toImage();
     // In the middle of the first of three parts, clear of rims.
     const QColor drawn = picture.pixelColor(picture.width() / 8, picture.height() / 2);
-    const QColor wanted = m_tree->catalog().find(objectId(2))->colour;
+    const QColor wanted = m_shown->tree.catalog().find(objectId(2))->colour;
     QVERIFY2(std::abs(drawn.hslHue() - wanted.hslHue()) < 12, qPrintable(drawn.name()));
 }
 

@@ -14,13 +14,16 @@
 
 #include <QtCore/QMimeData>
 #include <QtGui/QAccessible>
+#include <QtGui/QContextMenuEvent>
 #include <QtGui/QDropEvent>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTreeView>
 
 namespace Zorvane::Workbench {
@@ -47,6 +50,20 @@ bool isInnerPart(const QWidget* widget)
 QString accessibleName(QWidget* widget)
 {
     return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+}
+
+/** By the mouse, there, or by the menu key, wherever the system then says. */
+void askForMenu(QTreeView& tree, QContextMenuEvent::Reason reason, const QPoint& place)
+{
+    QWidget* const asked = reason == QContextMenuEvent::Mouse ? tree.viewport() : &tree;
+    QContextMenuEvent event(reason, place, asked->mapToGlobal(place));
+    QCoreApplication::sendEvent(asked, &event);
+}
+
+QRect currentRow(const QTreeView& tree)
+{
+    const QRect row = tree.visualRect(tree.currentIndex());
+    return {tree.viewport()->mapToGlobal(row.topLeft()), row.size()};
 }
 
 } // namespace
@@ -80,6 +97,7 @@ private Q_SLOTS:
     void reloadReadsWhatWasCancelled();
     void reloadTriesAgainWhatCouldNotBeOpened();
     void aRowHasAMenu();
+    void theMenuKeyBringsTheCurrentRowIntoSight();
     void aReferenceLeadsToThePart();
     void aReferenceThatTheFilterHidesIsTold();
     void theLegendLeadsToThePart();
@@ -93,6 +111,8 @@ private Q_SLOTS:
 private:
     void triggerText(const QString& text);
     void openDesign();
+    /** The die's name, and by another program that of the design: told as a conflict. */
+    void changeHereAndElsewhere();
 
     std::unique_ptr<Testing::OpenedDesign> m_files;
     std::unique_ptr<MainWindow> m_window;
@@ -118,6 +138,16 @@ void MainWindowTest::openDesign()
     m_window->open({m_files->folder.path()});
     QTRY_VERIFY(!m_window->loader().isBusy());
     m_window->tree().refreshNow();
+}
+
+void MainWindowTest::changeHereAndElsewhere()
+{
+    QCOMPARE(m_window->session().rename(objectId(21), QStringLiteral("Upper die")), QString());
+    QJsonObject theirs = Testing::smallDesign();
+    theirs[QLatin1String("name")] = QStringLiteral("Theirs");
+    Testing::replaceFile(m_files->designFile(), Testing::toText(theirs));
+    QTRY_VERIFY(m_window->session().hasConflict(objectId(1)));
+    QTRY_VERIFY(!m_window->messageBar().text().isEmpty());
 }
 
 void MainWindowTest::triggerText(const QString& text)
@@ -282,12 +312,7 @@ void MainWindowTest::savingWritesTheDesign()
 void MainWindowTest::savingOverAnotherProgramsChangeAsks()
 {
     openDesign();
-    QCOMPARE(m_window->session().rename(objectId(21), QStringLiteral("Upper die")), QString());
-    QJsonObject theirs = Testing::smallDesign();
-    theirs[QLatin1String("name")] = QStringLiteral("Theirs");
-    Testing::replaceFile(m_files->designFile(), Testing::toText(theirs));
-    QTRY_VERIFY(m_window->session().hasConflict(objectId(1)));
-    QTRY_VERIFY(!m_window->messageBar().text().isEmpty());
+    changeHereAndElsewhere();
     Testing::ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("Another program"), QMessageBox::Cancel);
     triggerText(QStringLiteral("Save"));
@@ -322,12 +347,7 @@ void MainWindowTest::reopeningAsksForUnsavedChanges()
     QFETCH(int, answer);
     QFETCH(bool, isDropped);
     openDesign();
-    QCOMPARE(m_window->session().rename(objectId(21), QStringLiteral("Upper die")), QString());
-    QJsonObject theirs = Testing::smallDesign();
-    theirs[QLatin1String("name")] = QStringLiteral("Theirs");
-    Testing::replaceFile(m_files->designFile(), Testing::toText(theirs));
-    QTRY_VERIFY(m_window->session().hasConflict(objectId(1)));
-    QTRY_VERIFY(!m_window->messageBar().text().isEmpty());
+    changeHereAndElsewhere();
     Testing::ExpectedModals modals;
     modals.expectMessageBox(question, QMessageBox::StandardButton(answer));
     triggerText(command);
@@ -390,11 +410,9 @@ void MainWindowTest::reloadTriesAgainWhatCouldNotBeOpened()
 void MainWindowTest::aRowHasAMenu()
 {
     openDesign();
-    m_window->tree().select(objectId(21));
     QTreeView& tree = m_window->treeView();
-    Q_EMIT tree.customContextMenuRequested({5, tree.viewport()->height() - 1});
-    QVERIFY2(!tree.findChild<QMenu*>(), "no row there");
-    Q_EMIT tree.customContextMenuRequested(tree.visualRect(tree.currentIndex()).center());
+    m_window->tree().select(objectId(21));
+    askForMenu(tree, QContextMenuEvent::Mouse, tree.visualRect(tree.currentIndex()).center());
     const QPointer<QMenu> menu = tree.findChild<QMenu*>();
     QVERIFY(menu && menu->isVisible());
     QStringList texts;
@@ -406,6 +424,33 @@ void MainWindowTest::aRowHasAMenu()
     QVERIFY2(!menu->actions().at(1)->isEnabled(), "tools stay with their operation");
     menu->close();
     QTRY_VERIFY(!menu);
+    tree.collapseAll();
+    const QRect onlyRow = tree.visualRect(tree.model()->index(0, 0));
+    askForMenu(tree, QContextMenuEvent::Mouse, onlyRow.bottomLeft() + QPoint(5, 5));
+    QVERIFY2(!tree.findChild<QMenu*>(), "no row there");
+}
+
+void MainWindowTest::theMenuKeyBringsTheCurrentRowIntoSight()
+{
+    openDesign();
+    QTreeView& tree = m_window->treeView();
+    m_window->tree().expandAll();
+    tree.setMaximumHeight(tree.header()->height() + 3 * currentRow(tree).height());
+    m_window->tree().select(objectId(30));
+    QTRY_VERIFY(tree.verticalScrollBar()->maximum() > 0);
+    tree.scrollToTop();
+    const QRect viewport(tree.viewport()->mapToGlobal({}), tree.viewport()->size());
+    QVERIFY(!viewport.intersects(currentRow(tree)));
+    askForMenu(tree, QContextMenuEvent::Keyboard, tree.rect().center());
+    const QPointer<QMenu> menu = tree.findChild<QMenu*>();
+    QVERIFY(menu && menu->isVisible());
+    QVERIFY(viewport.contains(currentRow(tree).center()));
+    // Below the row, or where the screen has room for it.
+    QVERIFY(menu->geometry().adjusted(-2, -2, 2, 2).intersects(currentRow(tree)));
+    menu->close();
+    tree.setCurrentIndex({});
+    askForMenu(tree, QContextMenuEvent::Keyboard, tree.rect().center());
+    QTRY_VERIFY2(!tree.findChild<QMenu*>(), "no row at all");
 }
 
 void MainWindowTest::aReferenceLeadsToThePart()

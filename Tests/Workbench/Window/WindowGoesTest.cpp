@@ -1,3 +1,4 @@
+#include "FileDialogs/NativeFileDialog.h"
 #include "Files/CopyCollisionDialog.h"
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/PlatformCopies.h"
@@ -6,10 +7,12 @@
 #include "Workbench/Commands/FileCommands.h"
 #include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/Import/FileExchange.h"
+#include "Workbench/Preview/PreviewWorker.h"
 #include "Workbench/Solver/SimulationRunner.h"
 #include "Workbench/Window/MainWindow.h"
 
 #include <QtCore/QPointer>
+#include <QtWidgets/QFileDialog>
 
 #include <functional>
 #include <memory>
@@ -87,19 +90,29 @@ private:
     template <typename Id>
     static Scene choosing(Id command, bool isFolder = false);
     template <typename Id>
+    static Scene inTheDialog(Id command);
+    template <typename Id>
     static Scene closing(Id command, const QString& box);
 
     Testing::PlatformCopies m_copies;
+    const NativeFileDialogReplacement m_qtDialogs{[] { return nullptr; }};
     std::unique_ptr<Testing::ImportFixture> m_files;
     std::unique_ptr<MainWindow> m_window;
     Testing::ScriptedChooser::Script m_script;
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void cleanup();
     void windowGoesWhileItAsks_data();
     void windowGoesWhileItAsks();
 };
+
+void WindowGoesTest::initTestCase()
+{
+    TestCase::initTestCase();
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}
 
 void WindowGoesTest::init()
 {
@@ -162,6 +175,18 @@ WindowGoesTest::Scene WindowGoesTest::choosing(Id command, bool isFolder)
         const QTemporaryDir& folder = test.m_files->elsewhere;
         test.goWhileChoosing(isFolder ? folder.path()
                                       : folder.filePath(QStringLiteral("other.dsg")));
+        test.trigger(command);
+    };
+}
+
+template <typename Id>
+WindowGoesTest::Scene WindowGoesTest::inTheDialog(Id command)
+{
+    return [command](WindowGoesTest& test, ExpectedModals& modals) {
+        test.m_window->fileCommands().setFileChooser(std::make_unique<DialogFileChooser>());
+        test.m_window->fileExchange().setFileChooser(std::make_unique<DialogFileChooser>());
+        modals.expectDialog<QFileDialog>(QStringLiteral("files"),
+                                         [&test](QFileDialog&) { test.m_window.reset(); });
         test.trigger(command);
     };
 }
@@ -244,6 +269,12 @@ void WindowGoesTest::windowGoesWhileItAsks_data()
     row("choosing where to save a copy", choosing(WorkbenchActions::SaveCopy));
     row("choosing files to import", choosing(WorkbenchActions::Import));
     row("choosing a folder to export to", choosing(ZVMainActions::Export, true));
+    row("the dialog to open", inTheDialog(ZVMainActions::Open));
+    row("the dialog to open a folder", inTheDialog(WorkbenchActions::OpenFolder));
+    row("the dialog to save", inTheDialog(ZVMainActions::SaveAs));
+    row("the dialog to save a copy", inTheDialog(WorkbenchActions::SaveCopy));
+    row("the dialog to import", inTheDialog(WorkbenchActions::Import));
+    row("the dialog to export", inTheDialog(ZVMainActions::Export));
     row("about", [](WindowGoesTest& test, ExpectedModals& modals) {
         test.goAt(modals, QStringLiteral("About the Workbench"));
         test.trigger(WorkbenchActions::About);
@@ -290,6 +321,11 @@ void WindowGoesTest::windowGoesWhileItAsks()
 
 } // namespace Zorvane::Workbench
 
-using Zorvane::Workbench::WindowGoesTest;
-ZORVANE_TEST_MAIN(WindowGoesTest)
+int main(int argc, char** argv)
+{
+    // Dialogs look at files by starting this program again.
+    if (const std::optional<int> result = Zorvane::Workbench::runPreviewWorker(argc, argv))
+        return *result;
+    return Zorvane::Testing::runTest<Zorvane::Workbench::WindowGoesTest>(argc, argv);
+}
 #include "WindowGoesTest.moc"
