@@ -890,6 +890,25 @@
     </message>
 </context>
 <context>
+    <name>Zorvane::Workbench::EditHistory</name>
+    <message>
+        <source>&quot;%1&quot; cannot be undone: %2</source>
+        <translation>„%1“ kann nicht rückgängig gemacht werden: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be redone: %2</source>
+        <translation>„%1“ kann nicht wiederhergestellt werden: %2</translation>
+    </message>
+    <message>
+        <source>the design is no longer open.</source>
+        <translation>der Entwurf ist nicht mehr geöffnet.</translation>
+    </message>
+    <message>
+        <source>%1 has been changed by another program meanwhile. It stays as it is, and what was done to it before can no longer be undone or redone.</source>
+        <translation>%1 wurde inzwischen von einem anderen Programm geändert. Alles bleibt, wie es ist, und was zuvor daran gemacht wurde, kann nicht mehr rückgängig gemacht oder wiederhergestellt werden.</translation>
+    </message>
+</context>
+<context>
     <name>Zorvane::Workbench::ExampleControls</name>
     <message>
         <source>Millimetres</source>

@@ -91,7 +91,7 @@ void FileCommands::openFolder()
         Q_EMIT chosen({folder});
 }
 
-bool FileCommands::saveAs(const GUIdentifier& objectId, Results results)
+bool FileCommands::saveAs(GUIdentifier objectId, Results results)
 {
     const Design* design = m_session.findDesign(objectId);
     if (design == nullptr)
@@ -118,7 +118,7 @@ bool FileCommands::saveAs(const GUIdentifier& objectId, Results results)
     return true;
 }
 
-bool FileCommands::saveCopy(const GUIdentifier& objectId, Results results)
+bool FileCommands::saveCopy(GUIdentifier objectId, Results results)
 {
     const Design* design = m_session.findDesign(objectId);
     if (design == nullptr)

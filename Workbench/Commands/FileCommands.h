@@ -50,9 +50,9 @@ public:
      * design that it was is closed as it lies on the disk. False if nothing was saved: the user
      * gave up, or it failed, which is told.
      */
-    bool saveAs(const GUIdentifier& objectId, Results results = Results::Keep);
+    bool saveAs(GUIdentifier objectId, Results results = Results::Keep);
     /** Writes a copy of the design beside it, unsaved changes included; the session stays as is. */
-    bool saveCopy(const GUIdentifier& objectId, Results results = Results::Keep);
+    bool saveCopy(GUIdentifier objectId, Results results = Results::Keep);
 
 Q_SIGNALS:
     /** What the user wants to have opened. */

@@ -12,4 +12,11 @@ std::vector<GUIdentifier> TakenObjects::ids() const
     return all;
 }
 
+QString TakenObjects::firstName() const
+{
+    if (!files.empty())
+        return files.front().second.name;
+    return parts.empty() ? QString() : parts.front().second.name;
+}
+
 } // namespace Zorvane::Workbench

@@ -12,7 +12,7 @@
 
 namespace Zorvane::Workbench {
 
-/** Objects that were taken out of a design, each with its place in its list. */
+/** Objects that were taken out of a design or added to it, each with its place in its list. */
 struct TakenObjects
 {
     template <typename Piece>
@@ -24,6 +24,8 @@ struct TakenObjects
 
     bool isEmpty() const { return files.empty() && parts.empty(); }
     std::vector<GUIdentifier> ids() const;
+    /** Of the first one, files before parts; empty without any. */
+    QString firstName() const;
 };
 
 struct NameEdit
@@ -43,8 +45,7 @@ struct QuantityEdit
 
 struct AdditionEdit
 {
-    GUIdentifier design;
-    std::vector<GUIdentifier> objects;
+    TakenObjects objects;
 };
 
 struct RemovalEdit

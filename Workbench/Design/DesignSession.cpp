@@ -123,7 +123,7 @@ bool DesignSession::canClose(const GUIdentifier& designId) const
     return m_store.canClose(designId);
 }
 
-void DesignSession::close(const GUIdentifier& designId)
+void DesignSession::close(GUIdentifier designId)
 {
     if (!canClose(designId))
         return;
@@ -134,7 +134,7 @@ void DesignSession::close(const GUIdentifier& designId)
     Q_EMIT changed();
 }
 
-void DesignSession::replace(const GUIdentifier& designId, const QString& file)
+void DesignSession::replace(GUIdentifier designId, const QString& file)
 {
     const DesignStore::Readings before = m_store.readings();
     m_store.replace(designId, QFileInfo(file).canonicalFilePath());
@@ -214,7 +214,7 @@ bool DesignSession::canRename(const GUIdentifier& objectId) const
     return findDesign(objectId) != nullptr;
 }
 
-QString DesignSession::rename(const GUIdentifier& objectId, const QString& name)
+QString DesignSession::rename(GUIdentifier objectId, const QString& name)
 {
     if (findLoosePart(objectId) != nullptr)
         return tr("A mesh file that was opened by itself is named by its file.");
@@ -223,11 +223,20 @@ QString DesignSession::rename(const GUIdentifier& objectId, const QString& name)
     const QString trimmed = name.trimmed();
     const QString obstacle = nameObstacle(trimmed);
     const QString before = this->name(objectId);
-    if (obstacle.isEmpty() && m_store.rename(objectId, trimmed)) {
-        Q_EMIT edited(NameEdit{objectId, before, trimmed});
-        Q_EMIT changed();
-    }
+    if (obstacle.isEmpty() && before != trimmed)
+        replay(NameEdit{objectId, before, trimmed});
     return obstacle;
+}
+
+bool DesignSession::replay(const NameEdit& edit)
+{
+    const Design* design = findDesign(edit.object);
+    if (design == nullptr || *design->findName(edit.object) != edit.before)
+        return false;
+    m_store.rename(edit.object, edit.after);
+    Q_EMIT edited(edit);
+    Q_EMIT changed();
+    return true;
 }
 
 std::optional<double> DesignSession::quantity(const GUIdentifier& objectId, Quantity quantity) const
@@ -237,7 +246,7 @@ std::optional<double> DesignSession::quantity(const GUIdentifier& objectId, Quan
     return value == nullptr ? std::nullopt : std::optional<double>(*value);
 }
 
-QString DesignSession::setQuantity(const GUIdentifier& objectId, Quantity quantity, double value)
+QString DesignSession::setQuantity(GUIdentifier objectId, Quantity quantity, double value)
 {
     const std::optional<double> before = this->quantity(objectId, quantity);
     if (!before)
@@ -245,14 +254,22 @@ QString DesignSession::setQuantity(const GUIdentifier& objectId, Quantity quanti
     // Numbers from there on are how the suite tells that nothing was measured.
     if (!(value >= 0 && value < std::numeric_limits<float>::max()))
         return tr("A value must be a number from 0 on.");
-    if (m_store.setQuantity(objectId, quantity, value)) {
-        Q_EMIT edited(QuantityEdit{objectId, quantity, *before, value});
-        Q_EMIT changed();
-    }
+    if (*before != value)
+        replay(QuantityEdit{objectId, quantity, *before, value});
     return {};
 }
 
-Problems DesignSession::addFiles(const GUIdentifier& designId, const QStringList& files)
+bool DesignSession::replay(const QuantityEdit& edit)
+{
+    if (quantity(edit.object, edit.quantity) != edit.before)
+        return false;
+    m_store.setQuantity(edit.object, edit.quantity, edit.after);
+    Q_EMIT edited(edit);
+    Q_EMIT changed();
+    return true;
+}
+
+Problems DesignSession::addFiles(GUIdentifier designId, const QStringList& files)
 {
     const Design* design = findDesign(designId);
     if (design == nullptr)
@@ -263,19 +280,16 @@ Problems DesignSession::addFiles(const GUIdentifier& designId, const QStringList
             obstacles.push_back(*obstacle);
     if (!obstacles.empty())
         return obstacles;
-    // The caller's may lie in a design, and designs move when others come.
-    const GUIdentifier id = designId;
-    const std::vector<GUIdentifier> added = m_store.addFiles(id, files);
-    if (!added.empty()) {
+    const TakenObjects added = m_store.addFiles(designId, files);
+    if (!added.isEmpty()) {
         watch();
-        Q_EMIT edited(AdditionEdit{id, added});
+        Q_EMIT edited(AdditionEdit{added});
         Q_EMIT changed();
     }
     return {};
 }
 
-TakenObjects DesignSession::take(const GUIdentifier& designId,
-                                 const std::vector<GUIdentifier>& objects)
+TakenObjects DesignSession::take(GUIdentifier designId, const std::vector<GUIdentifier>& objects)
 {
     TakenObjects taken = m_store.take(designId, objects);
     if (!taken.isEmpty()) {
@@ -303,9 +317,14 @@ bool DesignSession::putBack(const TakenObjects& taken)
     if (!m_store.putBack(taken))
         return false;
     watch();
-    Q_EMIT edited(AdditionEdit{taken.design, taken.ids()});
+    Q_EMIT edited(AdditionEdit{taken});
     Q_EMIT changed();
     return true;
+}
+
+bool DesignSession::takeAgain(const TakenObjects& objects)
+{
+    return m_store.holds(objects) && !take(objects.design, objects.ids()).isEmpty();
 }
 
 GUIdentifier DesignSession::findObject(const GUIdentifier& designId, const QString& file) const
@@ -346,7 +365,7 @@ Problems DesignSession::save(OnConflict onConflict)
     return save(GUIdentifier(), onConflict);
 }
 
-Problems DesignSession::save(const GUIdentifier& designId, OnConflict onConflict)
+Problems DesignSession::save(GUIdentifier designId, OnConflict onConflict)
 {
     const Problems failures = m_store.save(designId, onConflict == OnConflict::Overwrite);
     watch();
@@ -354,7 +373,7 @@ Problems DesignSession::save(const GUIdentifier& designId, OnConflict onConflict
     return failures;
 }
 
-void DesignSession::revert(const GUIdentifier& designId)
+void DesignSession::revert(GUIdentifier designId)
 {
     const DesignStore::Readings before = m_store.readings();
     m_store.revert(designId);

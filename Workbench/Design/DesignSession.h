@@ -24,7 +24,8 @@ namespace Zorvane::Workbench {
  * Lives in one thread with an event loop. References and pointers into designs are valid until the
  * next `changed`.
  *
- * Edits are `rename`, `setQuantity` and `addFiles`; the first two are undone by the value before.
+ * Edits are `rename`, `setQuantity`, `addFiles` and `take`. `replay` and `putBack` undo them and
+ * make them again, by the `DesignEdit` that tells of each.
  * Not supported: removing and adding any but files and their parts.
  */
 class DesignSession : public QObject
@@ -58,9 +59,9 @@ public:
      * Forgets one design, its unsaved changes too, and designs that only it refers to, unless they
      * have unsaved changes. Does nothing if it cannot be closed.
      */
-    void close(const GUIdentifier& designId);
+    void close(GUIdentifier designId);
     /** Opens the design file in place of the design, whose unsaved changes are dropped. */
-    void replace(const GUIdentifier& designId, const QString& file);
+    void replace(GUIdentifier designId, const QString& file);
 
     /** Those opened, each followed by the designs that it refers to; each design once. */
     const std::vector<Design>& designs() const { return m_store.designs(); }
@@ -90,7 +91,7 @@ public:
      * than 255 characters or holds control characters, or the object cannot be renamed; nothing has
      * changed then. Empty when done. The same name again changes nothing.
      */
-    QString rename(const GUIdentifier& objectId, const QString& name);
+    QString rename(GUIdentifier objectId, const QString& name);
 
     /** What an object measures; 0 when it is not told, nothing when it never has such a value. */
     std::optional<double> quantity(const GUIdentifier& objectId, Quantity quantity) const;
@@ -100,14 +101,14 @@ public:
      * changed then. Empty when done. The same value again changes nothing, and the value as it was
      * read or saved takes the object's modification back.
      */
-    QString setQuantity(const GUIdentifier& objectId, Quantity quantity, double value);
+    QString setQuantity(GUIdentifier objectId, Quantity quantity, double value);
 
     /**
      * Has a design refer to files in its folder, kinds told by their endings; a mesh file becomes a
      * part as well. Files that the design refers to already are not added again. If any file
      * cannot be added nothing changes, and the result tells why; it is empty when all went well.
      */
-    Problems addFiles(const GUIdentifier& designId, const QStringList& files);
+    Problems addFiles(GUIdentifier designId, const QStringList& files);
     /**
      * The first part of the design that shows the file, else its reference to the file; null if it
      * doesn't refer to it.
@@ -115,14 +116,25 @@ public:
     GUIdentifier findObject(const GUIdentifier& designId, const QString& file) const;
 
     /**
-     * Takes parts and references to files out of the design of the id; files stay where they are. What other
-     * objects refer to is left without. Ids of anything else are passed over.
+     * Takes parts and references to files out of the design of the id; files stay where they are.
+     * What other objects refer to is left without. Ids of anything else are passed over.
      */
-    TakenObjects take(const GUIdentifier& designId, const std::vector<GUIdentifier>& objects);
+    TakenObjects take(GUIdentifier designId, const std::vector<GUIdentifier>& objects);
     /** Whether the object is a part, or a reference to a file that nothing else wants. */
     bool canTake(const GUIdentifier& objectId) const;
-    /** Puts them back where they were; false, and nothing done, if the design isn't open. */
+    /**
+     * Puts them back where they were; false, and nothing done, if the design isn't open, or any of
+     * them is there already.
+     */
     bool putBack(const TakenObjects& taken);
+    /** Takes them out; false, and nothing done, if any isn't there or not as it is here. */
+    bool takeAgain(const TakenObjects& objects);
+    /**
+     * Makes the change exactly as it was made once, by whatever rules; false, and nothing done, if
+     * the present value is another one than before it.
+     */
+    bool replay(const NameEdit& edit);
+    bool replay(const QuantityEdit& edit);
 
     bool isModified() const { return m_store.isModified(); }
     /** Whether the object itself, not what it contains, was changed since it was read or saved. */
@@ -140,9 +152,9 @@ public:
      */
     Problems save(OnConflict onConflict = OnConflict::Refuse);
     /** Writes one design, modified or not. */
-    Problems save(const GUIdentifier& designId, OnConflict onConflict);
+    Problems save(GUIdentifier designId, OnConflict onConflict);
     /** Reads the design's file again and drops the unsaved changes of that design. */
-    void revert(const GUIdentifier& designId);
+    void revert(GUIdentifier designId);
 
     /** Reverts every design, and tries again to open what could not be opened. */
     void reload();

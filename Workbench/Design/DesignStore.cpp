@@ -41,6 +41,27 @@ TakenObjects::Places<Piece> takeFrom(std::vector<Piece>& pieces,
     return taken;
 }
 
+/** Those that were appended, each with its place. */
+template <typename Piece>
+TakenObjects::Places<Piece> piecesFrom(std::size_t first, const std::vector<Piece>& pieces)
+{
+    TakenObjects::Places<Piece> appended;
+    for (std::size_t place = first; place < pieces.size(); ++place)
+        appended.emplace_back(place, pieces[place]);
+    return appended;
+}
+
+template <typename Piece>
+bool holdsAll(const std::vector<Piece>& pieces, const TakenObjects::Places<Piece>& wanted)
+{
+    const auto isThere = [&pieces](const auto& entry) {
+        return std::any_of(pieces.begin(), pieces.end(), [&entry](const Piece& piece) {
+            return piece.id == entry.second.id && DesignWriter::isSame(piece, entry.second);
+        });
+    };
+    return std::all_of(wanted.begin(), wanted.end(), isThere);
+}
+
 template <typename Piece>
 void putInto(std::vector<Piece>& pieces, const TakenObjects::Places<Piece>& taken)
 {
@@ -62,7 +83,7 @@ void DesignStore::add(const QString& file)
     arrange();
 }
 
-void DesignStore::replace(const GUIdentifier& designId, const QString& file)
+void DesignStore::replace(GUIdentifier designId, const QString& file)
 {
     const Design* const found = find(designId);
     if (found == nullptr)
@@ -82,7 +103,7 @@ bool DesignStore::canClose(const GUIdentifier& designId) const
     return found != nullptr && !m_referred.contains(found->file);
 }
 
-void DesignStore::close(const GUIdentifier& designId)
+void DesignStore::close(GUIdentifier designId)
 {
     if (!canClose(designId))
         return;
@@ -313,7 +334,7 @@ bool DesignStore::refreshStates()
     return different;
 }
 
-bool DesignStore::rename(const GUIdentifier& objectId, const QString& name)
+bool DesignStore::rename(GUIdentifier objectId, const QString& name)
 {
     for (Design& design : m_designs) {
         QString* const present = design.findName(objectId);
@@ -331,7 +352,7 @@ bool DesignStore::rename(const GUIdentifier& objectId, const QString& name)
     return false;
 }
 
-bool DesignStore::setQuantity(const GUIdentifier& objectId, Quantity quantity, double value)
+bool DesignStore::setQuantity(GUIdentifier objectId, Quantity quantity, double value)
 {
     for (Design& design : m_designs) {
         double* const present = design.findQuantity(objectId, quantity);
@@ -349,26 +370,33 @@ bool DesignStore::setQuantity(const GUIdentifier& objectId, Quantity quantity, d
     return false;
 }
 
-std::vector<GUIdentifier> DesignStore::addFiles(const GUIdentifier& designId,
-                                                const QStringList& files)
+TakenObjects DesignStore::addFiles(GUIdentifier designId, const QStringList& files)
 {
     const Design* const found = find(designId);
     Design* const design = found == nullptr ? nullptr : findByFile(found->file);
     if (design == nullptr)
         return {};
-    std::vector<GUIdentifier> added;
-    for (const QString& file : files) {
-        const std::vector<GUIdentifier> objects = FileAdditions::add(*design, file);
-        added.insert(added.end(), objects.begin(), objects.end());
-    }
-    m_records[design->file].added.insert(added.begin(), added.end());
-    if (!added.empty())
+    const std::size_t firstFile = design->files.size();
+    const std::size_t firstPart = design->parts.size();
+    for (const QString& file : files)
+        FileAdditions::add(*design, file);
+    TakenObjects added{design->id, piecesFrom(firstFile, design->files),
+                       piecesFrom(firstPart, design->parts)};
+    const std::vector<GUIdentifier> ids = added.ids();
+    m_records[design->file].added.insert(ids.begin(), ids.end());
+    if (!added.isEmpty())
         arrange();
     return added;
 }
 
-TakenObjects DesignStore::take(const GUIdentifier& designId,
-                               const std::vector<GUIdentifier>& objects)
+bool DesignStore::holds(const TakenObjects& objects) const
+{
+    const Design* const design = find(objects.design);
+    return design != nullptr && holdsAll(design->files, objects.files) &&
+           holdsAll(design->parts, objects.parts);
+}
+
+TakenObjects DesignStore::take(GUIdentifier designId, const std::vector<GUIdentifier>& objects)
 {
     const Design* const found = find(designId);
     Design* const design = found == nullptr ? nullptr : findByFile(found->file);
@@ -389,12 +417,14 @@ bool DesignStore::putBack(const TakenObjects& taken)
 {
     const Design* const found = find(taken.design);
     Design* const design = found == nullptr ? nullptr : findByFile(found->file);
-    if (design == nullptr)
+    const std::vector<GUIdentifier> ids = taken.ids();
+    const auto isThere = [this](const GUIdentifier& id) { return find(id) != nullptr; };
+    if (design == nullptr || std::any_of(ids.begin(), ids.end(), isThere))
         return false;
     putInto(design->files, taken.files);
     putInto(design->parts, taken.parts);
     Record& record = m_records[design->file];
-    for (const GUIdentifier& id : taken.ids())
+    for (const GUIdentifier& id : ids)
         if (record.removed.erase(id) == 0)
             record.added.insert(id);
     refreshReferences(*design);
@@ -441,7 +471,7 @@ bool DesignStore::areQuantitiesModified(const GUIdentifier& designId) const
     return record != nullptr && !record->savedQuantities.empty();
 }
 
-Problems DesignStore::save(const GUIdentifier& designId, bool overwriteConflicts)
+Problems DesignStore::save(GUIdentifier designId, bool overwriteConflicts)
 {
     Problems failures;
     for (Design& design : m_designs) {
@@ -483,7 +513,7 @@ void DesignStore::noteSaved(Design& design, Record& record)
     record.pieces = pieces;
 }
 
-void DesignStore::revert(const GUIdentifier& designId)
+void DesignStore::revert(GUIdentifier designId)
 {
     const Design* found = find(designId);
     if (found == nullptr)

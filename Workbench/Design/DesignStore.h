@@ -42,11 +42,11 @@ public:
     /** Opens the design file at an absolute path, and those that it refers to. */
     void add(const QString& file);
     /** Opens the file in place of the design, whose unsaved changes are dropped. */
-    void replace(const GUIdentifier& designId, const QString& file);
+    void replace(GUIdentifier designId, const QString& file);
     /** Whether no other design refers to it: one that is referred to stays open. */
     bool canClose(const GUIdentifier& designId) const;
     /** Forgets a design that can be closed, its unsaved changes too. */
-    void close(const GUIdentifier& designId);
+    void close(GUIdentifier designId);
     void clear();
 
     const std::vector<Design>& designs() const { return m_designs; }
@@ -66,14 +66,16 @@ public:
     bool refreshStates();
 
     /** The object must belong to a design. True if that changes the name. */
-    bool rename(const GUIdentifier& objectId, const QString& name);
+    bool rename(GUIdentifier objectId, const QString& name);
     /** The object must have the value. True if that changes it. */
-    bool setQuantity(const GUIdentifier& objectId, Quantity quantity, double value);
+    bool setQuantity(GUIdentifier objectId, Quantity quantity, double value);
     /** Adds what the design, which must be open, doesn't refer to yet; returns what is new. */
-    std::vector<GUIdentifier> addFiles(const GUIdentifier& designId, const QStringList& files);
+    TakenObjects addFiles(GUIdentifier designId, const QStringList& files);
+    /** Whether the design is open and has all of these as they are here. */
+    bool holds(const TakenObjects& objects) const;
     /** Takes those of the objects out of the design that are parts or references to files. */
-    TakenObjects take(const GUIdentifier& designId, const std::vector<GUIdentifier>& objects);
-    /** Puts them back where they were; false if the design isn't open. */
+    TakenObjects take(GUIdentifier designId, const std::vector<GUIdentifier>& objects);
+    /** Puts them back where they were; false if the design isn't open, or any is there already. */
     bool putBack(const TakenObjects& taken);
     bool isModified() const;
     bool isModified(const GUIdentifier& objectId) const;
@@ -82,9 +84,9 @@ public:
     bool areQuantitiesModified(const GUIdentifier& designId) const;
     bool hasConflict(const GUIdentifier& designId) const;
     /** Writes the design, or every modified one for the null id. */
-    Problems save(const GUIdentifier& designId, bool overwriteConflicts);
+    Problems save(GUIdentifier designId, bool overwriteConflicts);
     /** Drops what was changed here, if the file can be read; else tells why not by a problem. */
-    void revert(const GUIdentifier& designId);
+    void revert(GUIdentifier designId);
     /** Reads the design files again from which no design could be read. */
     void retryUnread();
 

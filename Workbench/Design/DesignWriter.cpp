@@ -160,4 +160,14 @@ std::optional<Problem> DesignWriter::write(const Design& design)
     return Problem{design.file, {}, tr("cannot be written: %1").arg(file.errorString())};
 }
 
+bool DesignWriter::isSame(const Part& left, const Part& right)
+{
+    return toObject(left) == toObject(right);
+}
+
+bool DesignWriter::isSame(const FileReference& left, const FileReference& right)
+{
+    return toObject(left) == toObject(right);
+}
+
 } // namespace Zorvane::Workbench

@@ -25,6 +25,10 @@ public:
      * Writes to `design.file` in one step: on failure, told by the problem, the file is as before.
      */
     static std::optional<Problem> write(const Design& design);
+
+    /** Whether a design file would hold the same for both, whatever their files' states. */
+    static bool isSame(const Part& left, const Part& right);
+    static bool isSame(const FileReference& left, const FileReference& right);
 };
 
 } // namespace Zorvane::Workbench

@@ -65,7 +65,7 @@ QString FileExchange::importFilters() const
     return filters.join(QStringLiteral(";;"));
 }
 
-void FileExchange::importFiles(const GUIdentifier& designId)
+void FileExchange::importFiles(GUIdentifier designId)
 {
     const QPointer<FileExchange> self(this);
     const QStringList files = m_chooser->files(
@@ -83,7 +83,7 @@ void FileExchange::importFiles(const GUIdentifier& designId)
     Q_EMIT imported(m_session.findObject(designId, outcome.files.first()));
 }
 
-void FileExchange::exportFiles(const GUIdentifier& objectId)
+void FileExchange::exportFiles(GUIdentifier objectId)
 {
     const QStringList files = FileExport::filesOf(m_session, objectId);
     if (files.isEmpty())

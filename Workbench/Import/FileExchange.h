@@ -36,8 +36,8 @@ public:
     GUIdentifier targetFor(const GUIdentifier& objectId) const;
     bool canExport(const GUIdentifier& objectId) const;
 
-    void importFiles(const GUIdentifier& designId);
-    void exportFiles(const GUIdentifier& objectId);
+    void importFiles(GUIdentifier designId);
+    void exportFiles(GUIdentifier objectId);
 
 Q_SIGNALS:
     /** Something to look at: a part or a file. */

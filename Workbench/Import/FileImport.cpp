@@ -39,7 +39,7 @@ FileImport::FileImport(DesignSession& session, BaseView* view)
     , m_view(view)
 {}
 
-ImportOutcome FileImport::run(const GUIdentifier& designId, const QStringList& files)
+ImportOutcome FileImport::run(GUIdentifier designId, const QStringList& files)
 {
     const Design* design = m_session->findDesign(designId);
     if (design == nullptr)

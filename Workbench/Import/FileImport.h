@@ -38,7 +38,7 @@ public:
      */
     FileImport(DesignSession& session, BaseView* view);
 
-    ImportOutcome run(const GUIdentifier& designId, const QStringList& files);
+    ImportOutcome run(GUIdentifier designId, const QStringList& files);
 
 private:
     QPointer<DesignSession> m_session;

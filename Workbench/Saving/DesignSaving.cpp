@@ -65,7 +65,7 @@ std::vector<GUIdentifier> DesignSaving::modifiedDesigns() const
     return ids;
 }
 
-ZVSaveDialog::Result DesignSaving::ask(const GUIdentifier& designId, ZVSaveDialog::Action action,
+ZVSaveDialog::Result DesignSaving::ask(GUIdentifier designId, ZVSaveDialog::Action action,
                                        bool saveDisabled) const
 {
     const Design* design = m_parts.session.findDesign(designId);
@@ -83,7 +83,7 @@ bool DesignSaving::saveAll()
     return true;
 }
 
-bool DesignSaving::save(const GUIdentifier& designId)
+bool DesignSaving::save(GUIdentifier designId)
 {
     const SaveState state = saveStateOf(SessionDesign(m_parts.session, designId));
     if (!needsQuestion(state, ZVSaveDialog::ActionSave))
@@ -98,7 +98,7 @@ bool DesignSaving::save(const GUIdentifier& designId)
     }
 }
 
-bool DesignSaving::write(const GUIdentifier& designId)
+bool DesignSaving::write(GUIdentifier designId)
 {
     // Events go on while a question is asked.
     if (m_parts.session.findDesign(designId) == nullptr) {
@@ -135,12 +135,12 @@ bool DesignSaving::mayOverwrite()
                                  ZVMessageBox::Cancel) == ZVMessageBox::Save;
 }
 
-bool DesignSaving::saveAs(const GUIdentifier& designId)
+bool DesignSaving::saveAs(GUIdentifier designId)
 {
     return mayWriteElsewhere(designId) && writeAs(designId);
 }
 
-bool DesignSaving::saveCopy(const GUIdentifier& designId)
+bool DesignSaving::saveCopy(GUIdentifier designId)
 {
     using Results = FileCommands::Results;
     return mayWriteElsewhere(designId) &&
@@ -148,7 +148,7 @@ bool DesignSaving::saveCopy(const GUIdentifier& designId)
                                   areResultsOutdated(designId) ? Results::LeaveOut : Results::Keep);
 }
 
-bool DesignSaving::mayWriteElsewhere(const GUIdentifier& designId) const
+bool DesignSaving::mayWriteElsewhere(GUIdentifier designId) const
 {
     SaveState state = saveStateOf(SessionDesign(m_parts.session, designId));
     // What computes this file is not disturbed by another one.
@@ -157,7 +157,7 @@ bool DesignSaving::mayWriteElsewhere(const GUIdentifier& designId) const
            ask(designId, ZVSaveDialog::ActionSave, true) != ZVSaveDialog::ResultCancel;
 }
 
-bool DesignSaving::writeAs(const GUIdentifier& designId)
+bool DesignSaving::writeAs(GUIdentifier designId)
 {
     using Results = FileCommands::Results;
     return m_parts.files.saveAs(designId,
@@ -170,12 +170,12 @@ bool DesignSaving::areResultsOutdated(const GUIdentifier& designId) const
     return state.hasResults && state.areResultsOutdated;
 }
 
-TakenObjects DesignSaving::dropOutdatedResults(const GUIdentifier& designId)
+TakenObjects DesignSaving::dropOutdatedResults(GUIdentifier designId)
 {
     return areResultsOutdated(designId) ? dropResults(designId) : TakenObjects();
 }
 
-TakenObjects DesignSaving::dropResults(const GUIdentifier& designId)
+TakenObjects DesignSaving::dropResults(GUIdentifier designId)
 {
     const Design* design = m_parts.session.findDesign(designId);
     std::vector<GUIdentifier> results;
@@ -193,7 +193,7 @@ bool DesignSaving::mayClose()
     return mayStopSimulation();
 }
 
-bool DesignSaving::mayCloseOne(const GUIdentifier& designId)
+bool DesignSaving::mayCloseOne(GUIdentifier designId)
 {
     switch (ask(designId, ZVSaveDialog::ActionClose)) {
     case ZVSaveDialog::ResultSave:
@@ -207,7 +207,7 @@ bool DesignSaving::mayCloseOne(const GUIdentifier& designId)
     }
 }
 
-bool DesignSaving::close(const GUIdentifier& designId)
+bool DesignSaving::close(GUIdentifier designId)
 {
     if (!m_parts.session.canClose(designId))
         return false;
@@ -238,7 +238,7 @@ bool DesignSaving::mayStopSimulation()
     return !m_parts.runner.isRunning();
 }
 
-bool DesignSaving::start(const GUIdentifier& designId)
+bool DesignSaving::start(GUIdentifier designId)
 {
     if (m_parts.session.findDesign(designId) == nullptr)
         return false;
@@ -256,7 +256,7 @@ bool DesignSaving::start(const GUIdentifier& designId)
 }
 
 /** What is computed is what the file holds, without the results of before. */
-bool DesignSaving::run(const GUIdentifier& designId)
+bool DesignSaving::run(GUIdentifier designId)
 {
     const QPointer<DesignSaving> self(this);
     const SaveState state = saveStateOf(SessionDesign(m_parts.session, designId));

@@ -46,41 +46,41 @@ public:
 
     /** Every modified design. False if one of them was not saved: told, or the user's wish. */
     bool saveAll();
-    bool save(const GUIdentifier& designId);
+    bool save(GUIdentifier designId);
     /**
      * Under another name, and goes on with that; under another name beside it, and the session
      * stays as it is. The user is told first what that costs. False if nothing was saved.
      */
-    bool saveAs(const GUIdentifier& designId);
-    bool saveCopy(const GUIdentifier& designId);
+    bool saveAs(GUIdentifier designId);
+    bool saveCopy(GUIdentifier designId);
     /** Whether everything may be closed: modified designs are saved, or the user gives them up. */
     bool mayClose();
     /**
      * Closes one design; a modified one is saved, or the user gives its changes up. False if it
      * stays open: the user's wish, it could not be saved, or another design refers to it.
      */
-    bool close(const GUIdentifier& designId);
+    bool close(GUIdentifier designId);
     /** Saves the design, if need be, and starts its simulation. False if none runs then. */
-    bool start(const GUIdentifier& designId);
+    bool start(GUIdentifier designId);
 
 Q_SIGNALS:
     void done(const QString& text);
     void failed(const QString& text);
 
 private:
-    ZVSaveDialog::Result ask(const GUIdentifier& designId, ZVSaveDialog::Action action,
+    ZVSaveDialog::Result ask(GUIdentifier designId, ZVSaveDialog::Action action,
                              bool saveDisabled = false) const;
-    bool mayCloseOne(const GUIdentifier& designId);
+    bool mayCloseOne(GUIdentifier designId);
     bool mayStopSimulation();
-    bool write(const GUIdentifier& designId);
+    bool write(GUIdentifier designId);
     bool mayOverwrite();
-    bool mayWriteElsewhere(const GUIdentifier& designId) const;
-    bool writeAs(const GUIdentifier& designId);
+    bool mayWriteElsewhere(GUIdentifier designId) const;
+    bool writeAs(GUIdentifier designId);
     bool areResultsOutdated(const GUIdentifier& designId) const;
     /** Returns what was taken out. */
-    TakenObjects dropOutdatedResults(const GUIdentifier& designId);
-    TakenObjects dropResults(const GUIdentifier& designId);
-    bool run(const GUIdentifier& designId);
+    TakenObjects dropOutdatedResults(GUIdentifier designId);
+    TakenObjects dropResults(GUIdentifier designId);
+    bool run(GUIdentifier designId);
     GUIdentifier designOf(const QString& file) const;
     std::vector<GUIdentifier> modifiedDesigns() const;
     void takeResults(const QString& designFile, const QString& resultFile);

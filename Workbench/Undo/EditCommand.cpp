@@ -21,17 +21,14 @@ QString EditCommand::describe() const
         return tr("Change %1 of %2")
             .arg(quantityName(value->quantity), m_session->name(value->object));
     if (const auto* addition = std::get_if<AdditionEdit>(&m_edit))
-        return tr("Add %1").arg(m_session->name(addition->objects.front()));
-    const auto& removal = std::get<RemovalEdit>(m_edit).objects;
-    return tr("Remove %1")
-        .arg(removal.files.empty() ? removal.parts.front().second.name
-                                   : removal.files.front().second.name);
+        return tr("Add %1").arg(addition->objects.firstName());
+    return tr("Remove %1").arg(std::get<RemovalEdit>(m_edit).objects.firstName());
 }
 
 GUIdentifier EditCommand::designChanged() const
 {
     if (const auto* addition = std::get_if<AdditionEdit>(&m_edit))
-        return addition->design;
+        return addition->objects.design;
     if (const auto* removal = std::get_if<RemovalEdit>(&m_edit))
         return removal->objects.design;
     const auto* name = std::get_if<NameEdit>(&m_edit);
@@ -56,7 +53,9 @@ bool EditCommand::mergeWith(const EditCommand& later)
 {
     auto* mine = std::get_if<QuantityEdit>(&m_edit);
     const auto* theirs = std::get_if<QuantityEdit>(&later.m_edit);
-    if (!mine || !theirs || mine->object != theirs->object || mine->quantity != theirs->quantity)
+    // Another program may have changed the value in between, while the design was closed.
+    if (!mine || !theirs || mine->object != theirs->object || mine->quantity != theirs->quantity ||
+        mine->after != theirs->before)
         return false;
     mine->after = theirs->after;
     return true;
@@ -71,20 +70,17 @@ bool EditCommand::isNothing() const
 bool EditCommand::apply(bool forward)
 {
     if (const auto* name = std::get_if<NameEdit>(&m_edit))
-        return m_session->rename(name->object, forward ? name->after : name->before).isEmpty();
+        return m_session->replay(forward ? *name
+                                         : NameEdit{name->object, name->after, name->before});
     if (const auto* value = std::get_if<QuantityEdit>(&m_edit))
-        return m_session
-            ->setQuantity(value->object, value->quantity, forward ? value->after : value->before)
-            .isEmpty();
-    if (const auto* addition = std::get_if<AdditionEdit>(&m_edit)) {
-        if (forward)
-            return m_session->putBack(m_taken);
-        m_taken = m_session->take(addition->design, addition->objects);
-        return !m_taken.isEmpty();
-    }
-    const TakenObjects& removed = std::get<RemovalEdit>(m_edit).objects;
-    return forward ? !m_session->take(removed.design, removed.ids()).isEmpty()
-                   : m_session->putBack(removed);
+        return m_session->replay(
+            forward ? *value
+                    : QuantityEdit{value->object, value->quantity, value->after, value->before});
+    const auto* addition = std::get_if<AdditionEdit>(&m_edit);
+    const TakenObjects& objects =
+        addition ? addition->objects : std::get<RemovalEdit>(m_edit).objects;
+    return (addition != nullptr) == forward ? m_session->putBack(objects)
+                                            : m_session->takeAgain(objects);
 }
 
 } // namespace Zorvane::Workbench

@@ -10,8 +10,9 @@ namespace Zorvane::Workbench {
 class DesignSession;
 
 /**
- * One change of a design that can be taken back and made again. One that no longer fits, since the
- * design is not what it was, does nothing. The session must outlive it.
+ * One change of a design that can be taken back and made again, exactly. One that no longer fits,
+ * since what it changed isn't as it left it, does nothing: somebody else has changed that, and would
+ * lose it. The session must outlive it.
  */
 class EditCommand
 {
@@ -34,7 +35,7 @@ public:
     /** Whether merging left nothing: a value that is what it was. */
     bool isNothing() const;
 
-    /** False if it no longer fits. */
+    /** False, and nothing is different, if it no longer fits. */
     bool undo() { return apply(false); }
     bool redo() { return apply(true); }
 
@@ -45,8 +46,6 @@ private:
 
     DesignSession* m_session;
     DesignEdit m_edit;
-    /** What taking an addition back took out. */
-    TakenObjects m_taken;
     QString m_text;
     GUIdentifier m_design;
 };

@@ -31,11 +31,11 @@ void EditHistory::undo()
 {
     if (!canUndo() || m_isReplaying)
         return;
-    const QScopedValueRollback<bool> replaying(m_isReplaying, true);
-    if (m_edits[m_made - 1].undo())
-        --m_made;
+    const std::size_t last = m_made - 1;
+    if (replay(m_edits[last], &EditCommand::undo))
+        m_made = last;
     else
-        drop(m_made - 1);
+        giveUp(last, tr("\"%1\" cannot be undone: %2"));
     Q_EMIT changed();
 }
 
@@ -43,12 +43,32 @@ void EditHistory::redo()
 {
     if (!canRedo() || m_isReplaying)
         return;
-    const QScopedValueRollback<bool> replaying(m_isReplaying, true);
-    if (m_edits[m_made].redo())
+    if (replay(m_edits[m_made], &EditCommand::redo))
         ++m_made;
     else
-        drop(m_made);
+        giveUp(m_made, tr("\"%1\" cannot be redone: %2"));
     Q_EMIT changed();
+}
+
+bool EditHistory::replay(EditCommand& edit, bool (EditCommand::*operation)())
+{
+    const QScopedValueRollback<bool> replaying(m_isReplaying, true);
+    return (edit.*operation)();
+}
+
+/** The text has places for the edit and for the reason. */
+void EditHistory::giveUp(std::size_t place, const QString& text)
+{
+    const QString edit = m_edits[place].text();
+    const GUIdentifier design = m_edits[place].design();
+    dropIf([&design](const EditCommand& each) { return each.design() == design; });
+    const QString name = m_session.name(design);
+    const QString reason =
+        name.isEmpty() ? tr("the design is no longer open.")
+                       : tr("%1 has been changed by another program meanwhile. It stays as it is, "
+                            "and what was done to it before can no longer be undone or redone.")
+                             .arg(name);
+    Q_EMIT refused(text.arg(edit, reason));
 }
 
 void EditHistory::putBack(const TakenObjects& taken)

@@ -15,8 +15,13 @@ class DesignSession;
  * Remembers what people change in the designs of a session, whichever window they do it in, and
  * takes it back or makes it again: the edits of all designs in the order in which they were made.
  * Saving doesn't end it. Closing a design or reading it from its file again drops what was done to
- * it, and keeps the edits of the others, which is more than a `QUndoStack` can do. The session, not
- * owned, must outlive it.
+ * it, and keeps the edits of the others, which is more than a `QUndoStack` can do.
+ *
+ * A design that closes with the reference to it comes back with that, and so do its edits. If its
+ * file was changed meanwhile, what no longer fits overwrites nothing and ends the history of that
+ * design: older edits might fit by chance.
+ *
+ * The session, not owned, must outlive it.
  */
 class EditHistory : public QObject
 {
@@ -49,10 +54,14 @@ public Q_SLOTS:
 Q_SIGNALS:
     /** There are other edits to be taken back or made again. */
     void changed();
+    /** Why an edit was neither taken back nor made again, translated. */
+    void refused(const QString& text);
 
 private:
     void note(const DesignEdit& edit);
     void forget(const std::vector<GUIdentifier>& designs);
+    bool replay(EditCommand& edit, bool (EditCommand::*operation)());
+    void giveUp(std::size_t place, const QString& text);
     template <typename Condition>
     void dropIf(const Condition& condition);
     void drop(std::size_t place);

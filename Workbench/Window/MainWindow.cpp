@@ -172,6 +172,7 @@ void MainWindow::connectActions()
                  (*m_commands)[WorkbenchActions::GoToReference],
                  (*m_commands)[ZVMainActions::Export]});
     new HistoryCommands(*m_commands, *m_history);
+    connect(m_history, &EditHistory::refused, m_messageBar, &MessageBar::say);
     connect(new WindowMenus(*m_commands), &WindowMenus::chosen, this, &MainWindow::open);
 }
 
@@ -193,7 +194,7 @@ void MainWindow::connectFileActions()
 }
 
 /** Saves it in one of the ways that there are, or closes it. */
-void MainWindow::saveDesignAtHand(bool (DesignSaving::*operation)(const GUIdentifier&))
+void MainWindow::saveDesignAtHand(bool (DesignSaving::*operation)(GUIdentifier))
 {
     hideMessages();
     (m_saving->*operation)(designAtHand());

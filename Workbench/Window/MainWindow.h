@@ -99,7 +99,7 @@ private:
     GUIdentifier currentDesign() const;
     GUIdentifier designAtHand() const;
     bool mayDropChanges(const GUIdentifier& designId = {});
-    void saveDesignAtHand(bool (DesignSaving::*operation)(const GUIdentifier&));
+    void saveDesignAtHand(bool (DesignSaving::*operation)(GUIdentifier));
     void reopenDesign();
     void closeAll();
     void rename();

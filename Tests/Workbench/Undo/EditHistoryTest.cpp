@@ -38,6 +38,7 @@ private Q_SLOTS:
     void stepsOfOneValueAreOneChange();
     void stepsOfDifferentValuesAreNot();
     void additionsAreTakenBackWithTheirParts();
+    void additionsThatMoveDesignsAreTakenBack();
     void removalsArePutBackInTheirPlaces();
     void refusedEditsAreNotRemembered();
     void newEditDropsWhatCouldBeMadeAgain();
@@ -138,6 +139,26 @@ void EditHistoryTest::additionsAreTakenBackWithTheirParts()
     QCOMPARE(content(), after);
     QCOMPARE(design().files.back().state, FileState::Exists);
     QVERIFY(QFile::exists(mesh));
+}
+
+void EditHistoryTest::additionsThatMoveDesignsAreTakenBack()
+{
+    const QByteArray before = content();
+    QStringList files;
+    for (int number = 100; number < 140; ++number)
+        files << writeFile(m_opened->path(QStringLiteral("%1.dsg").arg(number)),
+                           toText(designWithFiles(number, QStringLiteral("One more"), {})));
+    // The id lies in a design, which moves when the others come.
+    QVERIFY(session().addFiles(design().id, files).empty());
+    QCOMPARE(session().designs().size(), std::size_t(41));
+    const QByteArray after = content();
+    m_history->undo();
+    QCOMPARE(session().designs().size(), std::size_t(1));
+    QCOMPARE(content(), before);
+    QVERIFY(!session().isModified());
+    m_history->redo();
+    QCOMPARE(session().designs().size(), std::size_t(41));
+    QCOMPARE(content(), after);
 }
 
 void EditHistoryTest::removalsArePutBackInTheirPlaces()

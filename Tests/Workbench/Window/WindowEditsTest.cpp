@@ -6,6 +6,7 @@
 #include "Workbench/Solver/SimulationRunner.h"
 #include "Workbench/Undo/EditHistory.h"
 #include "Workbench/Window/MainWindow.h"
+#include "Workbench/Window/MessageBar.h"
 
 #include <QtWidgets/QAction>
 #include <QtWidgets/QTreeView>
@@ -25,6 +26,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void undoAndRedoFollowTheHistory();
+    void undoTellsWhatItLeavesAsItIs();
     void undoKeysWorkInTheTree();
     void namesInCommandsAreNoKeys();
     void removedPartComesBackWithUndo();
@@ -86,6 +88,28 @@ void WindowEditsTest::undoAndRedoFollowTheHistory()
     QVERIFY(!undo->isEnabled() && redo->isEnabled());
     redo->trigger();
     QCOMPARE(m_window->session().name(objectId(10)), QStringLiteral("Left door"));
+}
+
+void WindowEditsTest::undoTellsWhatItLeavesAsItIs()
+{
+    DesignSession& session = m_window->session();
+    const QString file = m_files->path(QStringLiteral("second.dsg"));
+    Testing::writeFile(file,
+                       Testing::toText(Testing::designWithFiles(60, QStringLiteral("Second"), {})));
+    QVERIFY(session.addFiles(objectId(1), {file}).empty());
+    session.rename(objectId(60), QStringLiteral("Second, changed"));
+    QVERIFY(session.save().empty());
+    session.take(objectId(1), {session.findDesign(objectId(1))->files.back().id});
+    QVERIFY(session.findDesign(objectId(60)) == nullptr);
+    Testing::replaceFile(
+        file, Testing::toText(Testing::designWithFiles(60, QStringLiteral("Theirs"), {})));
+    action(QStringLiteral("Undo"))->trigger();
+    QVERIFY(m_window->messageBar().text().isEmpty());
+    action(QStringLiteral("Undo"))->trigger();
+    QVERIFY(m_window->messageBar().text().contains(
+        QStringLiteral("Theirs has been changed by another program")));
+    QCOMPARE(session.name(objectId(60)), QStringLiteral("Theirs"));
+    QCOMPARE(action(QStringLiteral("Undo"))->text(), QStringLiteral("&Undo: Add second"));
 }
 
 void WindowEditsTest::undoKeysWorkInTheTree()
