@@ -1,6 +1,7 @@
 #include "TreeModel/ModelItemFilterCombiner.h"
 
 #include <algorithm>
+#include <unordered_set>
 #include <utility>
 
 namespace Zorvane::GenericTreeViewModelHandling {
@@ -23,8 +24,11 @@ void ModelItemFilterCombiner::setFilterToCombine(
 {
     disconnectFilters();
     m_filters = std::move(filters);
-    m_connections.reserve(m_filters.size());
+    // A filter that stands in the list twice is asked twice, but announces a change once.
+    std::unordered_set<const ModelItemFilterInterface*> known;
     for (const auto& filter : m_filters) {
+        if (!known.insert(filter.get()).second)
+            continue;
         Signals::Slot<void()> slot([changed = m_changed.get()] { (*changed)(); });
         slot.track(m_changed);
         m_connections.push_back(filter->connectToChanged(slot));

@@ -11,7 +11,7 @@ namespace Zorvane::GenericTreeViewModelHandling {
 
 /**
  * Several filters that act as one. It announces a change whenever one of them does, and its
- * subscriptions to them end with it.
+ * subscriptions to them end with it. A filter listed twice is asked twice and heard once.
  *
  * Not supported: null filters, copying, changing the combination.
  */

@@ -71,6 +71,7 @@ private Q_SLOTS:
     void callbackReachesALaterInput();
     void emptyCallbackReachesTheInput();
     void emptyCallbackDoesNotReachALaterInput();
+    void laterCallbackReplacesTheEarlierOne();
     void replacedInputIsToldNothing();
     void inputMayBeTakenAway();
 };
@@ -223,25 +224,21 @@ void AddStaticParentToModuleProviderTest::emptyCallbackDoesNotReachALaterInput()
         AddStaticParentToModuleProvider(idOf(100), "Parts"));
 }
 
+void AddStaticParentToModuleProviderTest::laterCallbackReplacesTheEarlierOne()
+{
+    InputCallbackRules::laterCallbackReplacesTheEarlierOne(
+        AddStaticParentToModuleProvider(idOf(100), "Parts"));
+}
+
 void AddStaticParentToModuleProviderTest::replacedInputIsToldNothing()
 {
-    const auto former = std::make_shared<FixedModelProvider>();
-    AddStaticParentToModuleProvider provider(idOf(100), "Parts");
-    provider.setInputModelProvider(former);
-    provider.registerUpdateCallback([] {});
-    provider.setInputModelProvider(std::make_shared<FixedModelProvider>());
-    QCOMPARE(former->registrations, 1);
-    QVERIFY(former->callback);
-    QCOMPARE(former.use_count(), 1L);
+    InputCallbackRules::replacedInputIsToldNothing(
+        AddStaticParentToModuleProvider(idOf(100), "Parts"));
 }
 
 void AddStaticParentToModuleProviderTest::inputMayBeTakenAway()
 {
-    AddStaticParentToModuleProvider provider(idOf(100), "Parts");
-    provider.registerUpdateCallback([] {});
-    provider.setInputModelProvider(std::make_shared<FixedModelProvider>(Items{makeItem(1)}));
-    provider.setInputModelProvider(nullptr);
-    QVERIFY(provider.provideModel()->empty());
+    InputCallbackRules::inputMayBeTakenAway(AddStaticParentToModuleProvider(idOf(100), "Parts"));
 }
 
 ZORVANE_TEST_MAIN(AddStaticParentToModuleProviderTest)

@@ -34,6 +34,9 @@ private Q_SLOTS:
     void callbackReachesALaterInput();
     void emptyCallbackReachesTheInput();
     void emptyCallbackDoesNotReachALaterInput();
+    void laterCallbackReplacesTheEarlierOne();
+    void replacedInputIsToldNothing();
+    void inputMayBeTakenAway();
 };
 
 void IdsOfModelProviderExtractorTest::startsWithAnEmptyCollection()
@@ -177,6 +180,21 @@ void IdsOfModelProviderExtractorTest::emptyCallbackReachesTheInput()
 void IdsOfModelProviderExtractorTest::emptyCallbackDoesNotReachALaterInput()
 {
     InputCallbackRules::emptyCallbackDoesNotReachALaterInput(IdsOfModelProviderExtractor());
+}
+
+void IdsOfModelProviderExtractorTest::laterCallbackReplacesTheEarlierOne()
+{
+    InputCallbackRules::laterCallbackReplacesTheEarlierOne(IdsOfModelProviderExtractor());
+}
+
+void IdsOfModelProviderExtractorTest::replacedInputIsToldNothing()
+{
+    InputCallbackRules::replacedInputIsToldNothing(IdsOfModelProviderExtractor());
+}
+
+void IdsOfModelProviderExtractorTest::inputMayBeTakenAway()
+{
+    InputCallbackRules::inputMayBeTakenAway(IdsOfModelProviderExtractor());
 }
 
 ZORVANE_TEST_MAIN(IdsOfModelProviderExtractorTest)

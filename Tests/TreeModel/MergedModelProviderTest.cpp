@@ -25,6 +25,8 @@ private Q_SLOTS:
     void callbackReachesProvidersHeld();
     void callbackReachesProvidersAddedLater();
     void addingRegistersWithNewProvidersOnly();
+    void laterCallbackReplacesTheEarlierOne();
+    void registersInOrderOfAddition();
     void emptyCallbackIsKeptButNotHandedOn();
     void leafCallsTheConsumerDirectly();
 };
@@ -152,6 +154,50 @@ void MergedModelProviderTest::addingRegistersWithNewProvidersOnly()
     merged.addSubModelProvider({late});
     QCOMPARE(early->registrations, 1);
     QCOMPARE(late->registrations, 1);
+}
+
+void MergedModelProviderTest::laterCallbackReplacesTheEarlierOne()
+{
+    const auto held = std::make_shared<FixedModelProvider>();
+    const auto later = std::make_shared<FixedModelProvider>();
+    std::string log;
+    MergedModelProvider merged;
+    merged.addSubModelProvider({held});
+    merged.registerUpdateCallback([&log] { log += "first "; });
+    merged.registerUpdateCallback([&log] { log += "second "; });
+    QCOMPARE(held->registrations, 2);
+    held->callback();
+    QCOMPARE(log, std::string("second "));
+    merged.addSubModelProvider({later});
+    later->callback();
+    QCOMPARE(log, std::string("second second "));
+}
+
+void MergedModelProviderTest::registersInOrderOfAddition()
+{
+    /** Notes, in a log shared with others, that it was registered with. */
+    class Noting : public FixedModelProvider
+    {
+    public:
+        Noting(std::string name, std::string& log)
+            : m_name(std::move(name))
+            , m_log(log)
+        {}
+        void registerUpdateCallback(std::function<void()>) override { m_log += m_name; }
+
+    private:
+        std::string m_name;
+        std::string& m_log;
+    };
+
+    std::string log;
+    const auto noting = [&log](const char* name) { return std::make_shared<Noting>(name, log); };
+    MergedModelProvider merged;
+    merged.addSubModelProvider({noting("a"), noting("b")});
+    merged.registerUpdateCallback([] {});
+    QCOMPARE(log, std::string("ab"));
+    merged.addSubModelProvider({noting("c"), noting("d")});
+    QCOMPARE(log, std::string("abcd"));
 }
 
 void MergedModelProviderTest::emptyCallbackIsKeptButNotHandedOn()

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void eachOverloadAsksTheSameOne();
     void seriesReachesEveryFilterInOrder();
     void changeOfAnyFilterReachesEverySlotOnce();
+    void filterListedTwiceIsAskedTwiceAndHeardOnce();
     void slotsAreCalledInOrderOfConnection();
     void disconnectedSlotHearsNothing();
     void replacedFiltersAreNotHeardAnyMore();
@@ -126,6 +127,25 @@ void ModelItemFilterCombinerTest::changeOfAnyFilterReachesEverySlotOnce()
     b->changed();
     QCOMPARE(first, 3);
     QCOMPARE(second, 3);
+}
+
+void ModelItemFilterCombinerTest::filterListedTwiceIsAskedTwiceAndHeardOnce()
+{
+    const auto a = filter("a");
+    const auto b = filter("b");
+    int calls = 0;
+    ModelItemFilterCombiner combiner(ModelItemFilterCombiner::AllMustAccept);
+    combiner.setFilterToCombine(Filters{a, b, a});
+    combiner.connectToChanged([&calls] { ++calls; });
+    a->changed();
+    QCOMPARE(calls, 1);
+    b->changed();
+    QCOMPARE(calls, 2);
+    combiner.beginFiltering();
+    QVERIFY(combiner.accept(IDCombiner()));
+    QCOMPARE(m_log, std::string("a.begin b.begin a.begin a.combined b.combined a.combined "));
+    combiner.setFilterToCombine({b});
+    QVERIFY(a->changed.empty());
 }
 
 void ModelItemFilterCombinerTest::slotsAreCalledInOrderOfConnection()

@@ -57,6 +57,7 @@ private Q_SLOTS:
 private:
     /** Which icon each of K, L and M gets: its index, -1 for the default, -2 for a null one. */
     QVector<int> shownIcons();
+    QVector<int> iconsIn(RecordedRows& rows) const;
 
     std::unique_ptr<StaticTreeItemByIdIconProvider> m_provider;
     std::vector<QIcon> m_icons;
@@ -77,6 +78,11 @@ QVector<int> StaticTreeItemByIdIconProviderTest::shownIcons()
 {
     RecordedRows rows({K, L, M});
     m_provider->addDataTo(rows.list());
+    return iconsIn(rows);
+}
+
+QVector<int> StaticTreeItemByIdIconProviderTest::iconsIn(RecordedRows& rows) const
+{
     QVector<int> shown;
     for (std::size_t row = 0; row < 3; ++row) {
         const auto icon = rows[row].data(0, Qt::DecorationRole).value<QIcon>();
@@ -194,12 +200,19 @@ void StaticTreeItemByIdIconProviderTest::indexWithoutIconGivesTheDefault()
 
 void StaticTreeItemByIdIconProviderTest::settersAskForARefresh()
 {
+    // The callback refreshes at once, so it must find the change made already.
+    RecordedRows rows({K, L, M});
     int calls = 0;
-    m_provider->registerUpdateCallback([&calls] { ++calls; });
-    m_provider->setIcons(m_icons);
+    m_provider->registerUpdateCallback([&] {
+        ++calls;
+        m_provider->updateDataOf(rows.list());
+    });
+    m_provider->setIdsForIcon({K}, 3);
     QCOMPARE(calls, 1);
-    m_provider->setIdsForIcon({K}, 0);
+    QCOMPARE(iconsIn(rows), (QVector<int>{3, -1, -1}));
+    m_provider->setIcons({m_icons.front()});
     QCOMPARE(calls, 2);
+    QCOMPARE(iconsIn(rows), (QVector<int>{-1, -1, -1}));
 }
 
 void StaticTreeItemByIdIconProviderTest::defaultIconAsksForNone()
@@ -220,6 +233,7 @@ void StaticTreeItemByIdIconProviderTest::refreshWritesEveryRowOnce()
     m_provider->setIdsForIcon({K}, 0);
     m_provider->updateDataOf(rows.list());
     QCOMPARE(rows.takeWriteCount(), std::size_t(3));
+    QCOMPARE(rows.writtenRows(), (QVector<int>{0, 1, 2}));
     m_provider->updateDataOf(rows.list());
     QCOMPARE(rows.takeWriteCount(), std::size_t(0));
 }

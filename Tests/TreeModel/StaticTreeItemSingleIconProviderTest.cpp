@@ -18,6 +18,7 @@ private Q_SLOTS:
     void writesTheIconToEveryRow();
     void startsWithANullIcon();
     void newIconAsksForARefresh();
+    void callbackMayRefreshAtOnce();
 };
 
 void StaticTreeItemSingleIconProviderTest::wantsNoFlags()
@@ -36,6 +37,7 @@ void StaticTreeItemSingleIconProviderTest::writesTheIconToEveryRow()
         QCOMPARE(rows[row].writes.size(), std::size_t(1));
         QCOMPARE(rows[row].data(1, Qt::DecorationRole).value<QIcon>().cacheKey(), icon.cacheKey());
     }
+    QCOMPARE(rows.writtenRows(), (QVector<int>{0, 1}));
 }
 
 void StaticTreeItemSingleIconProviderTest::startsWithANullIcon()
@@ -60,6 +62,16 @@ void StaticTreeItemSingleIconProviderTest::newIconAsksForARefresh()
     provider.updateDataOf(rows.list());
     provider.updateDataOf(rows.list());
     QCOMPARE(rows.takeWriteCount(), std::size_t(2));
+}
+
+void StaticTreeItemSingleIconProviderTest::callbackMayRefreshAtOnce()
+{
+    const QIcon icon(QPixmap(4, 4));
+    RecordedRows rows({Identifier(1)});
+    StaticTreeItemSingleIconProvider provider(0, Qt::DecorationRole);
+    provider.registerUpdateCallback([&] { provider.updateDataOf(rows.list()); });
+    provider.setIcon(icon);
+    QCOMPARE(rows[0].data(0, Qt::DecorationRole).value<QIcon>().cacheKey(), icon.cacheKey());
 }
 
 ZORVANE_TEST_MAIN(StaticTreeItemSingleIconProviderTest)

@@ -32,6 +32,7 @@ void TreeItemStaticDataProviderTest::writesIntoEveryColumnInListOrder()
     const std::vector<RecordingRow::Write> expected{{2, Qt::UserRole, 7}, {0, Qt::UserRole, 7}};
     QVERIFY(rows[0].writes == expected);
     QVERIFY(rows[1].writes == expected);
+    QCOMPARE(rows.writtenRows(), (QVector<int>{0, 0, 1, 1}));
     QVERIFY(!rows[0].data(1, Qt::UserRole).isValid());
 }
 

@@ -54,6 +54,7 @@ void WidgetStateDataProviderTest::asksOncePerRowWithIdAndRow()
     });
     provider.addDataTo(rows.list());
     QVERIFY(asked == rows.list());
+    QCOMPARE(rows.writtenRows(), (QVector<int>{0, 1}));
 }
 
 void WidgetStateDataProviderTest::laterFunctionReplacesTheEarlierOne()

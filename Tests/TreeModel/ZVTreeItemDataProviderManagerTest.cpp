@@ -85,13 +85,17 @@ void ZVTreeItemDataProviderManagerTest::handsRowsToProvidersInOrder()
 void ZVTreeItemDataProviderManagerTest::refreshesPendingProvidersOnly()
 {
     const auto b = provider("b");
+    const auto c = provider("c");
     ZVTreeItemDataProviderManager manager;
     manager.addProvider(provider("a"));
     manager.addProvider(b);
+    manager.addProvider(c);
+    // Refreshed in order of addition, whoever announced first.
+    c->callUpdateFunction();
     b->callUpdateFunction();
     manager.updateDataOf(m_rows);
     manager.updateDataOf(m_rows);
-    QCOMPARE(m_log, std::string("b2 "));
+    QCOMPARE(m_log, std::string("b2 c2 "));
 }
 
 void ZVTreeItemDataProviderManagerTest::handsEachAnnouncementOnAtOnce()

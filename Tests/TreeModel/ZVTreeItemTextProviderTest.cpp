@@ -48,6 +48,7 @@ private Q_SLOTS:
     void settingASourceAsksForNone();
     void sourceMayBeTakenAway();
     void replacedSourceIsNotAskedAnyMore();
+    void newSourceIsHeardToo();
     void sourceMayOutliveTheProvider();
     void copyIsNotToldByTheSource();
 };
@@ -75,6 +76,7 @@ void ZVTreeItemTextProviderTest::writesTheTextOfEachRow()
     const std::vector<RecordingRow::Write> expected{
         {3, Qt::ToolTipRole, QVariant(QStringLiteral("part 2"))}};
     QVERIFY(rows[1].writes == expected);
+    QCOMPARE(rows.writtenRows(), (QVector<int>{0, 1}));
     QCOMPARE(rows[0].data(3, Qt::ToolTipRole), QVariant(QStringLiteral("part 1")));
 }
 
@@ -135,6 +137,21 @@ void ZVTreeItemTextProviderTest::replacedSourceIsNotAskedAnyMore()
     provider.setTextProvider(std::make_shared<WordSource>("new "));
     QCOMPARE(former.use_count(), 1L);
     provider.addDataTo(rows.list());
+    QCOMPARE(rows[0].data(0, Qt::DisplayRole).toString(), QStringLiteral("new 1"));
+}
+
+void ZVTreeItemTextProviderTest::newSourceIsHeardToo()
+{
+    const auto source = std::make_shared<WordSource>("new ");
+    RecordedRows rows({Identifier(1)});
+    int calls = 0;
+    ZVTreeItemTextProvider provider(0, Qt::DisplayRole);
+    provider.registerUpdateCallback([&calls] { ++calls; });
+    provider.setTextProvider(std::make_shared<WordSource>("former "));
+    provider.setTextProvider(source);
+    source->textChanged();
+    QCOMPARE(calls, 1);
+    provider.updateDataOf(rows.list());
     QCOMPARE(rows[0].data(0, Qt::DisplayRole).toString(), QStringLiteral("new 1"));
 }
 

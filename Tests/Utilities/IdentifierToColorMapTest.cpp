@@ -88,6 +88,7 @@ class IdentifierToColorMapTest : public Testing::TestCase
 private Q_SLOTS:
     void givesPaletteColorsInOrder_data();
     void givesPaletteColorsInOrder();
+    void askingForAColorTakesASlot();
     void theNinthIdentifierSharesTheFirstColor();
     void keepsAnIdentifiersColor();
     void theEmptyTextHasNoColor();
@@ -139,6 +140,15 @@ void IdentifierToColorMapTest::givesPaletteColorsInOrder()
     IdentifierToColorMap map;
     fill(map, number);
     QTEST(map.getColor(idOf(number)), "color");
+}
+
+void IdentifierToColorMapTest::askingForAColorTakesASlot()
+{
+    IdentifierToColorMap map;
+    QCOMPARE(map.getColor("a"), QColor(QStringLiteral("#5f719d")));
+    QCOMPARE(map.getColor("b"), QColor(QStringLiteral("#AF8959")));
+    QCOMPARE(map.getColorIndex("b"), 1);
+    QCOMPARE(map.getColorIndex("c"), 2);
 }
 
 void IdentifierToColorMapTest::theNinthIdentifierSharesTheFirstColor()

@@ -91,6 +91,7 @@ private Q_SLOTS:
     void drawsOverTheBaseCell();
     void greysADisabledItem_data();
     void greysADisabledItem();
+    void followsTheApplicationsStyle_data();
     void followsTheApplicationsStyle();
     void leavesThePainterAsItWas_data();
     void leavesThePainterAsItWas();
@@ -251,15 +252,26 @@ void ReferenceIndicatorDelegateTest::greysADisabledItem()
     }
 }
 
+void ReferenceIndicatorDelegateTest::followsTheApplicationsStyle_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::newRow("one colour") << 1;
+    QTest::newRow("two colours") << 2;
+    QTest::newRow("three colours") << 3;
+    QTest::newRow("points") << 4;
+}
+
 void ReferenceIndicatorDelegateTest::followsTheApplicationsStyle()
 {
-    const References model(1, {Steel});
+    QFETCH(int, count);
+    const References model(count, {Steel, Brass, Green});
     const QImage shaded = cellOf(model.index());
     ZVGuiTools::setFlatStyle(true);
     const QImage flat = cellOf(model.index());
     QVERIFY(shaded != flat);
-    QCOMPARE(flat.pixelColor(20, 10), colorOf(Steel));
-    QCOMPARE(flat.pixelColor(20, 6), colorOf(Steel));
+    // Unshaded, the first colour is the same at any height.
+    QCOMPARE(flat.pixelColor(5, 10), colorOf(Steel));
+    QCOMPARE(flat.pixelColor(5, 6), colorOf(Steel));
 }
 
 void ReferenceIndicatorDelegateTest::leavesThePainterAsItWas_data()
