@@ -10,6 +10,9 @@ namespace Zorvane::GenericTreeViewModelHandling {
 /**
  * Base of data providers whose data changes at run time. A change is announced by
  * `callUpdateFunction`; the refresh that follows writes the data of all rows anew, once.
+ *
+ * Not supported: refreshing only some rows, gathering announcements, several views (the first one
+ * refreshed takes the mark away).
  */
 class ZORVANE_UITOOLS_EXPORT DataProviderBaseWithUpdateFunction
     : public ZVTreeItemDataProviderInterface

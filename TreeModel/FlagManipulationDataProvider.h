@@ -8,6 +8,9 @@ namespace Zorvane::GenericTreeViewModelHandling {
 /**
  * Adds flags to rows and takes flags away from them; a flag told for both is added. Changed wishes
  * apply to rows created or refreshed from then on; nothing is announced.
+ *
+ * Not supported: flags for one column only (a row's flags are those of all its columns), giving
+ * rows back the flags they had.
  */
 class ZORVANE_UITOOLS_EXPORT FlagManipulationDataProvider : public ZVTreeItemDataProviderInterface
 {

@@ -12,6 +12,9 @@ namespace Zorvane::GenericTreeViewModelHandling {
  *
  * A filter that implements only the one `accept` it must writes
  * `using ModelItemFilterInterface::accept;`, so that callers of its own type see all three.
+ *
+ * Not supported: decisions that need more than the id, such as the item's name or place; telling
+ * which ids a change concerns; use from several threads.
  */
 class ZORVANE_UITOOLS_EXPORT ModelItemFilterInterface
 {

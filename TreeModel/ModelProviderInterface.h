@@ -14,6 +14,9 @@ namespace Zorvane::GenericTreeViewModelHandling {
  *
  * An application writes leaf providers over its own data and joins them by the providers of this
  * folder; the consumer talks to the outermost one only.
+ *
+ * Not supported: several consumers of one provider, telling what has changed, use from several
+ * threads.
  */
 class ZORVANE_UITOOLS_EXPORT ModelProviderInterface
 {
@@ -27,7 +30,8 @@ public:
     virtual std::shared_ptr<ModelRoot> provideModel() = 0;
     /**
      * What to call, synchronously, each time `provideModel` would give another answer. Replaces the
-     * callback registered before; an empty one ends the telling.
+     * callback registered before. An empty one ends the telling of a leaf; a provider made of
+     * others may keep it to itself, and its leaves then go on calling the former one.
      */
     virtual void registerUpdateCallback(std::function<void()> callback) = 0;
 };

@@ -16,7 +16,9 @@ namespace Zorvane::GenericTreeViewModelHandling {
  * Gives each row the icon that its id was assigned, else a default icon.
  *
  * An id has one icon at a time. An index without an icon, as when ids are assigned before the
- * icons are set, gives the default icon.
+ * icons are set, gives the default icon. Rows refuse a negative column, so nothing is written then.
+ *
+ * Not supported: several icons for one id, asking which icon an id has.
  */
 class ZORVANE_UITOOLS_EXPORT StaticTreeItemByIdIconProvider
     : public DataProviderBaseWithUpdateFunction

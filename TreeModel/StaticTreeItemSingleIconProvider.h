@@ -7,7 +7,12 @@
 
 namespace Zorvane::GenericTreeViewModelHandling {
 
-/** Gives all rows the same icon, a null one at first. */
+/**
+ * Gives all rows the same icon, a null one at first. Rows refuse a negative column, so nothing is
+ * written then.
+ *
+ * Not supported: leaving rows out.
+ */
 class ZORVANE_UITOOLS_EXPORT StaticTreeItemSingleIconProvider
     : public DataProviderBaseWithUpdateFunction
 {

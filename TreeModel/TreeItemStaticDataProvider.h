@@ -9,7 +9,12 @@
 
 namespace Zorvane::GenericTreeViewModelHandling {
 
-/** Writes one fixed value into the same columns of all rows. Never changes. */
+/**
+ * Writes one fixed value into the same columns of all rows. Rows refuse negative columns, so
+ * nothing is written there.
+ *
+ * Not supported: changing columns, role or value; a value for each row.
+ */
 class ZORVANE_UITOOLS_EXPORT TreeItemStaticDataProvider : public DataProviderBaseWithUpdateFunction
 {
 public:

@@ -13,7 +13,10 @@ namespace Zorvane::GenericTreeViewModelHandling {
  * Writes the state of each row, worked out by a function of the application, as an int for the
  * delegate that paints it.
  *
- * The owner sees to refreshes itself: changes of state are not announced from here.
+ * The owner sees to refreshes itself: changes of state are not announced from here. Rows refuse a
+ * negative column, so nothing is written then; the function is called all the same.
+ *
+ * Not supported: refreshing through `updateDataOf`, for which nothing here ever sets the mark.
  */
 class ZORVANE_UITOOLS_EXPORT WidgetStateDataProvider : public DataProviderBaseWithUpdateFunction
 {

@@ -21,6 +21,9 @@ namespace Zorvane::GenericTreeViewModelHandling {
  *
  * Rows come as pairs of the id of the item shown and the row, sorted by id. They belong to the
  * view and may only be used during the call.
+ *
+ * Not supported: several consumers of one provider, telling which rows have changed, taking data
+ * out of rows again, inserting or removing rows during a call.
  */
 class ZORVANE_UITOOLS_EXPORT ZVTreeItemDataProviderInterface
 {

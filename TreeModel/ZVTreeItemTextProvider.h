@@ -12,6 +12,10 @@ namespace Zorvane::GenericTreeViewModelHandling {
 /**
  * Fills a column with the texts of a text source. Rows are refreshed when the source tells that
  * texts have changed; replacing the source alone refreshes nothing. The source may outlive it.
+ * Rows refuse a negative column, so nothing is written then.
+ *
+ * Not supported: several columns or roles (use one provider for each), texts that depend on more
+ * than the id.
  */
 class ZORVANE_UITOOLS_EXPORT ZVTreeItemTextProvider : public DataProviderBaseWithUpdateFunction
 {

@@ -38,8 +38,9 @@ public:
     int getColorIndex(const std::string& id);
     /**
      * Moves the identifier to the first free one of the slots index, index + 8, index + 16, ...,
-     * so that it shows the palette's colour `index` modulo 8. A negative index counts on from the
-     * first such slot there is.
+     * so that it shows the palette's colour `index` modulo 8; one that holds a lower slot as well
+     * (see `reassignColor`) goes on showing that one's. A negative index counts on from the first
+     * such slot there is.
      */
     void setColorIndex(const std::string& id, int index);
     /**

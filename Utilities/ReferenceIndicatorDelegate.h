@@ -17,6 +17,9 @@ namespace Zorvane {
  * model answers with `textForReferences`; the delegate shows the same text as a tool tip where the
  * model has none of its own. The application's setting `ZVGuiTools::isFlatStyle` decides whether
  * patches are shaded. Cells are never edited and show no focus frame.
+ *
+ * Not supported: telling more than three colours apart, a size of its own (the patch fills the
+ * cell), noticing a changed setting or colour table (update the view after it).
  */
 class ZORVANE_UITOOLS_EXPORT ReferenceIndicatorDelegate : public ZVItemDelegate
 {
