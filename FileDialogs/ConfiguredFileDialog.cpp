@@ -6,6 +6,7 @@
 #include "FileDialogs/FileDialogConfiguration.h"
 #include "FileDialogs/FileDialogEventHandler.h"
 #include "FileDialogs/SelectedFiles.h"
+#include "FileDialogs/SideBar.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QEvent>
@@ -260,6 +261,7 @@ void ConfiguredFileDialog::showEvent(QShowEvent* event)
     if (m_wasShown)
         return;
     m_wasShown = true;
+    widenSideBar(*this);
     // The frame was unknown when the window got its first geometry.
     placeLater(m_configuration);
     if (!m_handler)

@@ -2,6 +2,7 @@
 
 #include "FileDialogs/DialogPaths.h"
 #include "FileDialogs/FileDialogRun.h"
+#include "FileDialogs/SideBar.h"
 #include "Files/PathProvider.h"
 #include "Host/Translation/ArgString.h"
 #include "Host/Translation/Translator.h"
@@ -186,6 +187,7 @@ QString FileDialog::getExistingDirectoryName(const QString& caption, PathProvide
     QString result;
     {
         const ShownDialog dialog(s_openDialogsCount);
+        const SideBarWidening widening;
         result = QFileDialog::getExistingDirectory(nullptr, caption, proposed,
                                                    QFileDialog::ShowDirsOnly |
                                                        QFileDialog::DontResolveSymlinks);

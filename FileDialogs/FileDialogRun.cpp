@@ -5,6 +5,7 @@
 #include "FileDialogs/ConfiguredFileDialog.h"
 #include "FileDialogs/DialogPaths.h"
 #include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/SideBar.h"
 #include "Host/System/CommandLineParser.h"
 
 #include <QtCore/QPointer>
@@ -21,6 +22,7 @@ bool areQtDialogsWanted()
 
 QStringList askQt(const FileDialogCall& call)
 {
+    const SideBarWidening widening;
     switch (call.purpose) {
     case FileDialogPurpose::OpenFiles:
         return QFileDialog::getOpenFileNames(nullptr, call.caption, call.start, call.filter,

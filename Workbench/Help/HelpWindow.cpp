@@ -19,7 +19,8 @@ namespace {
 
 const QString s_firstPage = QStringLiteral("Workbench.md");
 constexpr QSize s_size(900, 640);
-constexpr int s_widthOfList = 220;
+constexpr int s_widthOfList = 240;
+constexpr int s_gapBetweenTitles = 2;
 
 /** The heading that a page starts with. */
 QString titleOf(const QString& path)
@@ -42,7 +43,11 @@ HelpWindow::HelpWindow(QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     m_pages->setAccessibleName(tr("Pages"));
     m_pages->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_pages->setTextElideMode(Qt::ElideRight);
+    m_pages->setTextElideMode(Qt::ElideNone);
+    m_pages->setWordWrap(true);
+    m_pages->setResizeMode(QListView::Adjust);
+    // Tells where a title of two lines ends.
+    m_pages->setSpacing(s_gapBetweenTitles);
     m_text->setAccessibleName(tr("Page"));
     m_text->setOpenLinks(false);
     auto* const sides = new QSplitter(this);

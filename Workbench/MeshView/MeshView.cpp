@@ -298,15 +298,7 @@ void MeshView::paintOverlay(QPainter& painter) const
         text.setWidth(std::max(0, text.width() - m_legend->width() - 10));
     if (layoutDirection() == Qt::RightToLeft)
         text.moveRight(rect().right() - 14);
-    QFont bold = painter.font();
-    bold.setBold(true);
-    painter.setFont(bold);
-    const QFontMetrics metrics(bold);
-    painter.drawText(text, Qt::AlignLeft | Qt::AlignTop,
-                     metrics.elidedText(m_title, Qt::ElideMiddle, text.width()));
-    painter.setFont(font());
-    painter.drawText(text.adjusted(0, metrics.lineSpacing() + 2, 0, 0),
-                     Qt::AlignLeft | Qt::AlignTop, sizeText(m_drawable.box.size(), QLocale()));
+    drawCaption(painter, text, m_title, sizeText(m_drawable.box.size(), QLocale()));
     drawAxes(painter, rect(), m_camera.transform(QSizeF(size())));
     drawScaleBar(painter, rect(), m_camera.pixelsPerMm(), ink);
 }

@@ -71,6 +71,21 @@ QString sizeText(const QVector3D& millimetres, const QLocale& locale)
                           .arg(sizeFigures(millimetres, locale)));
 }
 
+void drawCaption(QPainter& painter, const QRect& area, const QString& title, const QString& size)
+{
+    painter.save();
+    QFont bold = painter.font();
+    bold.setBold(true);
+    painter.setFont(bold);
+    const QFontMetrics metrics(bold);
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignTop,
+                     metrics.elidedText(title, Qt::ElideMiddle, area.width()));
+    painter.restore();
+    // A figure cut short would be another one.
+    painter.drawText(area.adjusted(0, metrics.lineSpacing() + 2, 0, 0),
+                     Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, size);
+}
+
 void drawAxes(QPainter& painter, const QRect& area, const ViewTransform& view)
 {
     std::array<Axis, 3> axes{{{{1, 0, 0}, QLatin1Char('X'), QColor(0xd0, 0x3b, 0x3b)},

@@ -28,6 +28,8 @@ QString sizeFigures(const QVector3D& millimetres, const QLocale& locale);
 /** The same with its unit, "mm". */
 QString sizeText(const QVector3D& millimetres, const QLocale& locale);
 
+/** What is shown and its size in the upper left corner of `area`, in which both stay. */
+void drawCaption(QPainter& painter, const QRect& area, const QString& title, const QString& size);
 /** The axes in the lower left corner of `area`, the ones that point to the viewer last. */
 void drawAxes(QPainter& painter, const QRect& area, const ViewTransform& view);
 /** The scale in the lower right corner of `area`. */

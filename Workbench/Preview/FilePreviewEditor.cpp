@@ -72,8 +72,9 @@ void FilePreviewEditor::setVisible(bool visible)
 
 void FilePreviewEditor::moveTo(const QPoint& topLeft)
 {
-    if (m_window)
-        m_window->move(topLeft);
+    // Unlike the widget, the window minds a frame that it is yet to get.
+    if (m_window && m_window->winId() != 0)
+        m_window->windowHandle()->setFramePosition(topLeft);
 }
 
 void FilePreviewEditor::showFile(const std::string& path)

@@ -132,7 +132,7 @@ void Tour::cancelAnImport()
     bool looked = false;
     const FileCopierReplacement copiers(tourCopiers([&](QDialog& dialog) {
         looked = true;
-        m_report.addPicture(QStringLiteral("import-progress"), m_driver.pictureWith(dialog));
+        pictureInBoth(QStringLiteral("import-progress"), dialog);
         dialog.findChild<QPushButton*>()->click();
     }));
     DialogAnswers answers;

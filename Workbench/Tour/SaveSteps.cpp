@@ -7,7 +7,6 @@
 #include "Workbench/Tour/BoxGallery.h"
 #include "Workbench/Tour/DialogAnswers.h"
 #include "Workbench/Undo/EditHistory.h"
-#include "Workbench/Window/Appearance.h"
 #include "Workbench/Window/MainWindow.h"
 
 #include <QtCore/QDir>
@@ -216,11 +215,7 @@ void Tour::convertAMesh()
                         QFile::exists(QDir(folder).filePath(QStringLiteral("cup-binary.stl"))),
                     QStringLiteral("the binary file"));
     m_driver.settle();
-    m_report.addPicture(QStringLiteral("converted"), m_driver.pictureWith(*window));
-    applyAppearance(*qApp, Appearance::Dark);
-    m_driver.settle();
-    m_report.addPicture(QStringLiteral("converted-dark"), m_driver.pictureWith(*window));
-    applyAppearance(*qApp, Appearance::Light);
+    pictureInBoth(QStringLiteral("converted"), *window);
     cancelAConversion(*window);
     const NativeFileDialogReplacement chooser([this] {
         return std::make_unique<TourFileDialog>(
@@ -231,7 +226,7 @@ void Tour::convertAMesh()
     m_report.expect(window->status() == ZVConverterDialog::StatusInputFailed,
                     QStringLiteral("a design is no mesh"));
     m_driver.settle();
-    m_report.addPicture(QStringLiteral("not-converted"), m_driver.pictureWith(*window));
+    pictureInBoth(QStringLiteral("not-converted"), *window);
     window->close();
 }
 

@@ -27,7 +27,7 @@ using namespace GenericTreeViewModelHandling;
 /** Facts of many meshes come faster than anybody reads; each refresh looks at every row. */
 constexpr int s_soonMilliseconds = 60;
 /** In digits. */
-constexpr int s_widestNames = 60;
+constexpr int s_widestTexts = 60;
 
 std::shared_ptr<ModelItemFilterInterface>
 combined(const std::vector<std::shared_ptr<ModelItemFilterInterface>>& filters)
@@ -225,7 +225,7 @@ void DesignTree::refreshNow()
     // There may have been nothing to announce, and yet another filter.
     expandNewRows();
     if (isWhole)
-        widenForNewNames();
+        widenForNewObjects();
     Q_EMIT refreshed();
 }
 
@@ -262,7 +262,7 @@ void DesignTree::noteExpansion(const QModelIndex& index, bool expanded)
         m_collapsed.insert(idAt(index));
 }
 
-void DesignTree::widenForNewNames()
+void DesignTree::widenForNewObjects()
 {
     if (!m_view)
         return;
@@ -274,12 +274,14 @@ void DesignTree::widenForNewNames()
     const std::set<GUIdentifier> before = std::exchange(m_fitted, std::move(now));
     if (std::includes(before.begin(), before.end(), m_fitted.begin(), m_fitted.end()))
         return;
-    const int widest = s_widestNames * m_view->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    const int widest = s_widestTexts * m_view->fontMetrics().horizontalAdvance(QLatin1Char('0'));
     // The view keeps its own answer from others, the views' common base does not.
     const QAbstractItemView& view = *m_view;
-    const int wanted = std::min(view.sizeHintForColumn(TreeColumn::Name), widest);
-    if (wanted > m_view->columnWidth(TreeColumn::Name))
-        m_view->setColumnWidth(TreeColumn::Name, wanted);
+    for (const int column : {TreeColumn::Name, TreeColumn::Kind}) {
+        const int wanted = std::min(view.sizeHintForColumn(column), widest);
+        if (wanted > m_view->columnWidth(column))
+            m_view->setColumnWidth(column, wanted);
+    }
 }
 
 void DesignTree::takeOverName(const QModelIndex& index, const QVariant& value, int role)

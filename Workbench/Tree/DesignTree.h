@@ -100,7 +100,7 @@ private:
     void expandNewRows();
     void applyExpansion(const QModelIndex& parent);
     void noteExpansion(const QModelIndex& index, bool expanded);
-    void widenForNewNames();
+    void widenForNewObjects();
     void takeOverName(const QModelIndex& index, const QVariant& value, int role);
 
     DesignSession& m_session;

@@ -51,13 +51,10 @@ void DesignTreeDelegate::initStyleOption(QStyleOptionViewItem* option,
     const ZVWidgetStatus::Stati stati = statiOf(index);
     const bool wrong = stati & (ZVWidgetStatus::Missing | ZVWidgetStatus::Error);
     const bool tells = index.column() == TreeColumn::Name || index.column() == TreeColumn::State;
-    if (wrong && tells) {
-        const QPalette& palette = option->palette;
-        const QColor plain = warningColour(palette.color(QPalette::Base));
-        const QColor selected = warningColour(palette.color(QPalette::Highlight));
-        option->palette.setColor(QPalette::Text, plain);
-        option->palette.setColor(QPalette::HighlightedText, selected);
-    }
+    // No warning colour can be read on the colours of all selections.
+    if (wrong && tells)
+        option->palette.setColor(QPalette::Text,
+                                 warningColour(option->palette.color(QPalette::Base)));
     if (stati.testFlag(ZVWidgetStatus::Modified) && tells)
         option->font.setItalic(true);
 }

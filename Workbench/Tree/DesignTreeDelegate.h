@@ -5,8 +5,8 @@
 namespace Zorvane::Workbench {
 
 /**
- * Paints the rows of the design tree: what is wrong in a warning colour, what is modified in
- * italics, figures dimmed. Only names are edited.
+ * Paints the rows of the design tree: what is wrong in a warning colour unless it is selected, what
+ * is modified in italics. Only names are edited.
  */
 class DesignTreeDelegate : public QStyledItemDelegate
 {

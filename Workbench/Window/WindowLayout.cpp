@@ -1,5 +1,6 @@
 #include "Workbench/Window/WindowLayout.h"
 
+#include "Workbench/Window/LastColumn.h"
 #include "Workbench/Window/ProblemsPanel.h"
 
 #include <QtGui/QFontMetrics>
@@ -7,6 +8,7 @@
 #include <QtGui/QScreen>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QSplitter>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QTreeView>
 #include <QtWidgets/QVBoxLayout>
 
@@ -68,20 +70,22 @@ double WindowLayout::digitWidth() const
 QSize WindowLayout::usualSize() const
 {
     const double unit = digitWidth();
+    // The frame that the window is going to get is not known yet.
+    const QSize frame(0, m_central->style()->pixelMetric(QStyle::PM_TitleBarHeight));
     return QSize(int(s_digitsAcross * unit), int(s_digitsDown * unit))
-        .boundedTo(QGuiApplication::primaryScreen()->availableSize());
+        .boundedTo(QGuiApplication::primaryScreen()->availableSize() - frame);
 }
 
 QWidget* WindowLayout::createTreeSide()
 {
     QHeaderView* const header = m_parts.tree->header();
-    header->setStretchLastSection(true);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    const double widths[] = {30.5, 14.5, 7, 8.25, 19.75, 13, 9.25, 8};
+    const double widths[] = {26.5, 14.5, 7, 8.25, 19.75, 13, 9.25, 12};
     // Titles of other languages may need more.
     for (int column = 0; column < header->count(); ++column)
         header->resizeSection(
             column, std::max(int(widths[column] * digitWidth()), header->sectionSizeHint(column)));
+    m_lastColumn = new LastColumn(m_parts.tree);
     auto* side = new QWidget(m_sides);
     QVBoxLayout* const layout = layOutTightly(side);
     layout->addWidget(m_parts.filter);
@@ -103,6 +107,11 @@ void WindowLayout::divide(const QSize& size)
 {
     m_sides->setSizes({size.width() * 69 / 100, size.width() * 31 / 100});
     m_meshAndDetails->setSizes({size.height() * 60 / 100, size.height() * 30 / 100});
+}
+
+void WindowLayout::fitColumns()
+{
+    m_lastColumn->fit();
 }
 
 void WindowLayout::fitProblems()

@@ -60,6 +60,7 @@ private Q_SLOTS:
     void theFontGrowsAndShrinks();
 
     void helpShowsTheDocumentation();
+    void helpShowsLongTitlesWhole();
     void helpFollowsLinks();
     void helpFollowsTheColours();
     void theTableGoesWithTheLastWindow();
@@ -436,6 +437,28 @@ void WindowCommandsTest::helpShowsTheDocumentation()
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     QVERIFY(!help || !help->isVisible());
     QTRY_VERIFY(!help);
+}
+
+void WindowCommandsTest::helpShowsLongTitlesWhole()
+{
+    HelpWindow help;
+    auto& pages = *help.findChild<QListWidget*>();
+    help.show();
+    pages.setMaximumWidth(20 * pages.fontMetrics().averageCharWidth());
+    QTRY_VERIFY(pages.width() <= pages.maximumWidth());
+    int longTitles = 0;
+    for (int row = 0; row < pages.count(); ++row) {
+        const QString title = pages.item(row)->text();
+        const auto isWhole = [&] {
+            const QRect room = pages.visualItemRect(pages.item(row));
+            const QRect taken = pages.fontMetrics().boundingRect(QRect(0, 0, room.width(), 1),
+                                                                 Qt::TextWordWrap, title);
+            return room.height() >= taken.height() && pages.viewport()->width() >= room.width();
+        };
+        QTRY_VERIFY2(isWhole(), qPrintable(title));
+        longTitles += title.size() > 20 ? 1 : 0;
+    }
+    QVERIFY(longTitles > 3);
 }
 
 void WindowCommandsTest::helpFollowsLinks()

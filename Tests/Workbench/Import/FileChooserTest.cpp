@@ -86,7 +86,6 @@ private:
     DialogFileChooser m_chooser;
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void cleanup();
     void dialogsBelongToTheWindow_data() { addQuestions(); }
@@ -98,12 +97,6 @@ private Q_SLOTS:
     void theBoxOfAWrongFolderBelongsToTheWindow();
     void nothingIsAskedAgainOnceTheWindowIsGone();
 };
-
-void FileChooserTest::initTestCase()
-{
-    TestCase::initTestCase();
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-}
 
 void FileChooserTest::init()
 {

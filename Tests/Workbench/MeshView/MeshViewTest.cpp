@@ -1,7 +1,9 @@
 #include "Workbench/MeshView/MeshView.h"
 
 #include "Tests/Support/TestCase.h"
+#include "Workbench/MeshView/MeshViewOverlay.h"
 
+#include <QtGui/QPainter>
 #include <QtGui/QWheelEvent>
 
 #include <set>
@@ -38,6 +40,21 @@ void move(QWidget* widget, const QPoint& to, Qt::MouseButtons buttons)
     QCoreApplication::sendEvent(widget, &event);
 }
 
+/** Where the caption leaves something when there is so much room. */
+QRect captionFor(const QString& size, int room)
+{
+    QImage image(400, 300, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    drawCaption(painter, QRect(0, 0, room, image.height()), QStringLiteral("Part"), size);
+    QRect drawn;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (image.pixelColor(x, y) != Qt::white)
+                drawn |= QRect(x, y, 1, 1);
+    return drawn;
+}
+
 QPalette darkPalette()
 {
     return QPalette(QColor(0x30, 0x30, 0x30), QColor(0x20, 0x20, 0x20));
@@ -67,6 +84,7 @@ private Q_SLOTS:
     void resizingFitsAgainUntilTheViewIsTurned();
     void picturesFollowTheScreensPixels();
     void aTabStopWithVisibleFocus();
+    void figuresAreNeverCut();
 
 private:
     QImage picture() { return m_view->grab().toImage(); }
@@ -250,6 +268,16 @@ void MeshViewTest::aTabStopWithVisibleFocus()
     m_view->setFocus();
     QTRY_VERIFY(m_view->hasFocus());
     QVERIFY(picture() != without);
+}
+
+void MeshViewTest::figuresAreNeverCut()
+{
+    const QString size = sizeText({1370, 1198, 141}, QLocale::c());
+    const QRect whole = captionFor(size, 400);
+    const int room = whole.right() * 3 / 4;
+    const QRect narrow = captionFor(size, room);
+    QVERIFY(narrow.right() < room);
+    QVERIFY2(narrow.bottom() > whole.bottom(), "goes on in another line");
 }
 
 } // namespace Zorvane::Workbench

@@ -4,6 +4,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
 
@@ -48,6 +49,7 @@ class TourTest : public Testing::TestCase
 private Q_SLOTS:
     void showsEverythingAndEndsWell();
     void leavesPicturesThatAreNotBlank();
+    void showsDialogsLightAndDark();
     void tellsWhatEachPictureShows();
     void endsBadlyWhenItCannotStorePictures();
     void refusesUnknownOptions();
@@ -69,6 +71,29 @@ void TourTest::leavesPicturesThatAreNotBlank()
         const QImage image(QDir(s_folder).filePath(picture));
         QVERIFY2(image.width() >= 1000 && image.height() >= 600, qPrintable(picture));
         QVERIFY2(colourCount(image) > 100, qPrintable(picture));
+    }
+}
+
+void TourTest::showsDialogsLightAndDark()
+{
+    QStringList dialogs{QStringLiteral("help"),      QStringLiteral("about"),
+                        QStringLiteral("save-as"),   QStringLiteral("converting"),
+                        QStringLiteral("converted"), QStringLiteral("not-converted")};
+    if (Testing::PlatformCopies::askByOurDialog())
+        dialogs << QStringLiteral("import-question") << QStringLiteral("import-collision")
+                << QStringLiteral("import-progress");
+    const QStringList pictures = QDir(s_folder).entryList({QStringLiteral("*.png")});
+    const auto lightness = [&pictures](const QString& name) {
+        const QStringList found =
+            pictures.filter(QRegularExpression(QStringLiteral("^\\d+-%1\\.png$").arg(name)));
+        const QImage image(QDir(s_folder).filePath(found.value(0)));
+        // In the status bar, which no dialog covers.
+        return found.isEmpty() ? -1 : qGray(image.pixel(image.width() / 2, image.height() - 4));
+    };
+    for (const QString& dialog : qAsConst(dialogs)) {
+        QVERIFY2(lightness(dialog) > 128, qPrintable(dialog));
+        const int dark = lightness(dialog + QStringLiteral("-dark"));
+        QVERIFY2(dark >= 0 && dark < 128, qPrintable(dialog));
     }
 }
 

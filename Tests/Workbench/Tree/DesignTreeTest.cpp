@@ -2,6 +2,7 @@
 
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Tree/ShownTree.h"
+#include "Workbench/Tree/DesignTreeDelegate.h"
 
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollBar>
@@ -9,6 +10,23 @@
 namespace Zorvane::Workbench {
 
 using Testing::objectId;
+
+namespace {
+
+/** The colours that a row is painted with. */
+class PaintedRow : public DesignTreeDelegate
+{
+public:
+    QPalette of(const QModelIndex& index, const QPalette& usual) const
+    {
+        QStyleOptionViewItem option;
+        option.palette = usual;
+        initStyleOption(&option, index);
+        return option.palette;
+    }
+};
+
+} // namespace
 
 class DesignTreeTest : public Testing::TestCase
 {
@@ -270,6 +288,7 @@ void DesignTreeTest::namesOfWhatIsOpenedAreShownWhole()
                m_shown->view.sizeHintForIndex(index).width();
     };
     QVERIFY(isWhole(at(21)));
+    QVERIFY(isWhole(at(20).siblingAtColumn(TreeColumn::Kind)));
     // As the user wants it, until something else is opened.
     const int narrow = m_shown->view.columnWidth(TreeColumn::Name) / 2;
     m_shown->view.setColumnWidth(TreeColumn::Name, narrow);
@@ -307,6 +326,11 @@ void DesignTreeTest::missingFilesAreMarked()
     QTRY_COMPARE(text(21, TreeColumn::State), QStringLiteral("File missing"));
     QVERIFY(at(21).data(s_statiRole).toInt() & ZVWidgetStatus::Missing);
     QCOMPARE(text(22, TreeColumn::State), QString());
+    const QPalette plain = m_shown->view.palette();
+    const QPalette marked = PaintedRow().of(at(21), plain);
+    QVERIFY(marked.color(QPalette::Text) != plain.color(QPalette::Text));
+    QVERIFY2(marked.color(QPalette::HighlightedText) == plain.color(QPalette::HighlightedText),
+             "which can be read on any selection");
 }
 
 void DesignTreeTest::unreadableFilesAreMarkedUntilTheyAreMended()

@@ -16,6 +16,7 @@
 #include <QtGui/QAccessible>
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QDropEvent>
+#include <QtGui/QScreen>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QHeaderView>
@@ -24,6 +25,7 @@
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QTreeView>
 
 namespace Zorvane::Workbench {
@@ -79,6 +81,7 @@ private Q_SLOTS:
     void everyControlHasAName();
     void everyControlIsReachedByTab();
     void theTreeHasTheFocusFirst();
+    void aNewWindowFitsTheScreenWithItsFrame();
     void opensADesignAndSelectsItsFirstPart();
     void opensAMeshFile();
     void whatCannotBeOpenedIsToldAndTheRestOpens();
@@ -194,6 +197,20 @@ void MainWindowTest::theTreeHasTheFocusFirst()
 {
     openDesign();
     QTRY_VERIFY(m_window->treeView().hasFocus());
+}
+
+void MainWindowTest::aNewWindowFitsTheScreenWithItsFrame()
+{
+    QFont large = m_window->font();
+    large.setPointSize(30);
+    const QFont before = QApplication::font();
+    QApplication::setFont(large);
+    const MainWindow window;
+    QApplication::setFont(before);
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    QVERIFY(window.width() <= screen.width());
+    QVERIFY(window.height() + title <= screen.height());
 }
 
 void MainWindowTest::opensADesignAndSelectsItsFirstPart()

@@ -101,18 +101,11 @@ private:
     Testing::ScriptedChooser::Script m_script;
 
 private Q_SLOTS:
-    void initTestCase();
     void init();
     void cleanup();
     void windowGoesWhileItAsks_data();
     void windowGoesWhileItAsks();
 };
-
-void WindowGoesTest::initTestCase()
-{
-    TestCase::initTestCase();
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-}
 
 void WindowGoesTest::init()
 {

@@ -1,0 +1,58 @@
+#include "Workbench/Window/LastColumn.h"
+
+#include <QtCore/QEvent>
+#include <QtCore/QScopedValueRollback>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QTreeView>
+
+#include <algorithm>
+
+namespace Zorvane::Workbench {
+
+namespace {
+
+constexpr int s_mostDigits = 30;
+
+} // namespace
+
+LastColumn::LastColumn(QTreeView* view)
+    : QObject(view)
+    , m_view(view)
+    , m_header(view->header())
+{
+    m_header->viewport()->installEventFilter(this);
+    connect(m_header, &QHeaderView::sectionResized, this, &LastColumn::fit);
+    fit();
+}
+
+bool LastColumn::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize)
+        fit();
+    return QObject::eventFilter(watched, event);
+}
+
+int LastColumn::neededWidth() const
+{
+    const int last = m_header->count() - 1;
+    // The view keeps its own answer from others, the views' common base does not.
+    const QAbstractItemView& view = *m_view;
+    const int most = s_mostDigits * m_view->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    return std::max(m_header->sectionSizeHint(last), std::min(view.sizeHintForColumn(last), most));
+}
+
+void LastColumn::fit()
+{
+    if (m_isFitting)
+        return;
+    const QScopedValueRollback<bool> fitting(m_isFitting, true);
+    const int last = m_header->count() - 1;
+    const int others = m_header->length() - m_header->sectionSize(last);
+    const int needed = neededWidth();
+    const bool fills = others + needed <= m_header->viewport()->width();
+    m_header->setStretchLastSection(fills);
+    if (!fills)
+        m_header->resizeSection(last, needed);
+}
+
+} // namespace Zorvane::Workbench
