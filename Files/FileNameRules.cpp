@@ -72,8 +72,11 @@ QString fittedFileName(const QString& stem, const QString& ending, int most, Pat
     };
     while (shorter.size() > 1 && fileNameLength(shorter + ending, syntax) > most)
         dropLast();
-    while (shorter.size() > 1 && endsBadly(shorter))
-        shorter.chop(1);
+    const auto isUnusable = [&shorter, &ending, syntax] {
+        return endsBadly(shorter) || (syntax == PathSyntax::Windows && isDevice(shorter + ending));
+    };
+    while (shorter.size() > 1 && isUnusable())
+        dropLast();
     return shorter + ending;
 }
 

@@ -36,7 +36,8 @@ ZORVANE_UITOOLS_EXPORT int fileNameLength(const QString& name,
 
 /**
  * The stem with the ending behind it. Where that is longer than `most`, the stem loses whole
- * characters at its end, all but the first, and then blanks and dots there.
+ * characters at its end, all but the first, and then blanks and dots there, and what would leave a
+ * device's name.
  */
 ZORVANE_UITOOLS_EXPORT QString fittedFileName(const QString& stem, const QString& ending,
                                               int most = s_longestFileName,

@@ -328,6 +328,22 @@
         <source>is open here and is not replaced</source>
         <translation>ist hier geöffnet und wird nicht ersetzt</translation>
     </message>
+    <message>
+        <source>comes along by a link, out of reach from %1</source>
+        <translation>kommt durch eine Verknüpfung mit, außer Reichweite von %1</translation>
+    </message>
+    <message>
+        <source>is a link to the folder that the files come from</source>
+        <translation>ist eine Verknüpfung zu dem Ordner, aus dem die Dateien kommen</translation>
+    </message>
+    <message>
+        <source>is a link that leads out of the design&apos;s new folder</source>
+        <translation>ist eine Verknüpfung, die aus dem neuen Ordner des Entwurfs hinausführt</translation>
+    </message>
+    <message>
+        <source>has the name of another file that comes along</source>
+        <translation>heißt wie eine andere Datei, die mitkommt</translation>
+    </message>
 </context>
 <context>
     <name>Zorvane::Workbench::DesignSaving</name>
@@ -1081,6 +1097,10 @@
     <message>
         <source>is open here and is not replaced</source>
         <translation>ist hier geöffnet und wird nicht ersetzt</translation>
+    </message>
+    <message>
+        <source>has been made meanwhile and is not replaced</source>
+        <translation>ist inzwischen entstanden und wird nicht ersetzt</translation>
     </message>
 </context>
 <context>

@@ -232,6 +232,11 @@ void FileNameRulesTest::longNamesAreFitted_data()
     row("ends of names that fit stay", "ab .", 8, "ab ..stl", "ab ..stl");
     row("one letter stays", "part", 2, "p.stl", "p.stl");
     row("no stem", "", 2, ".stl", ".stl");
+    row("no device", "Console", 7, "Co.stl", "Con.stl");
+    row("no device with a number", "com1-part", 8, "com.stl", "com1.stl");
+    row("no device before a dot", "nul-x.part", 9, "nul-x.stl", "nul-x.stl");
+    row("no device before a blank", "aux  .part", 8, "au.stl", "aux.stl");
+    row("a device that fits stays one", "con", 7, "con.stl", "con.stl");
 }
 
 void FileNameRulesTest::longNamesAreFitted()

@@ -46,6 +46,7 @@ public:
     {
         renew(part.id);
         renew(part.geometry);
+        renew(part.material);
     }
     void renew(Material& material)
     {

@@ -4,6 +4,8 @@
 #include "Host/FileHandling/FileUtilities.h"
 #include "Workbench/Commands/DesignCopy.h"
 #include "Workbench/Design/DesignWriter.h"
+#include "Workbench/Design/FileNames.h"
+#include "Workbench/Design/FileReferences.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -22,6 +24,11 @@ QString realPath(const QString& path)
     return QFileInfo(path).canonicalFilePath();
 }
 
+QDir folderOf(const QString& file)
+{
+    return QDir::cleanPath(QFileInfo(file).absolutePath());
+}
+
 /** Null without one. */
 const FileCopyUtility::FileCopyInfo* copyOf(const QString& file, const Copies& copies)
 {
@@ -36,16 +43,13 @@ const FileCopyUtility::FileCopyInfo* copyOf(const QString& file, const Copies& c
     return found == copies.end() ? nullptr : &*found;
 }
 
-/** The place stays the same below its design's folder; the name may be another one. */
-void referTo(FileReference& reference, const QString& copy)
+/** Written as it was, as long as it leads there. */
+void refer(FileReference& reference, const QString& path)
 {
-    const QString name = QFileInfo(copy).fileName();
-    if (name == QFileInfo(reference.file).fileName())
-        return;
     // Either separates, as in every reference of a design.
-    const int slash = reference.path.lastIndexOf(QLatin1Char('/'));
-    const int backslash = reference.path.lastIndexOf(QLatin1Char('\\'));
-    reference.path = reference.path.left(std::max(slash, backslash) + 1) + name;
+    const QString present = QString(reference.path).replace(QLatin1Char('\\'), QLatin1Char('/'));
+    if (QDir::cleanPath(present) != path)
+        reference.path = path;
 }
 
 } // namespace
@@ -53,44 +57,103 @@ void referTo(FileReference& reference, const QString& copy)
 DesignRelocation::DesignRelocation(QWidget* parent, const QString& from, const QString& to,
                                    std::vector<Design> open)
     : m_parent(parent)
-    , m_from(QFileInfo(from).dir())
-    , m_to(QFileInfo(to).dir())
+    , m_from(folderOf(from))
+    , m_to(folderOf(to))
     , m_name(QFileInfo(to).fileName())
     , m_open(std::move(open))
-    , m_copies{{from, to}}
-    , m_designs{realPath(from)}
+    , m_copies{{{from, m_to.path()}, m_to.filePath(m_name)}}
+    , m_designs{{realPath(from), m_to.filePath(m_name)}}
 {}
-
-QString DesignRelocation::placeOf(const QString& folder) const
-{
-    return QDir::cleanPath(m_to.filePath(m_from.relativeFilePath(folder)));
-}
 
 std::optional<Problem> DesignRelocation::bringFilesOf(Design& design)
 {
     if (m_from.canonicalPath() == m_to.canonicalPath())
         return std::nullopt;
-    return bring(design);
+    return bring(design, m_from);
 }
 
-std::optional<Problem> DesignRelocation::bring(Design& design)
+/** Null for what is no design or isn't open. */
+const Design* DesignRelocation::openDesign(const FileReference& reference) const
 {
+    if (reference.kind != FileKind::Design)
+        return nullptr;
+    const QString file = realPath(reference.file);
+    const auto open = std::find_if(m_open.begin(), m_open.end(),
+                                   [&file](const Design& design) { return design.file == file; });
+    return open == m_open.end() ? nullptr : &*open;
+}
+
+/** What the copy of a design refers to, which itself has the folder `from`. */
+std::optional<Problem> DesignRelocation::bring(Design& design, const QDir& from)
+{
+    const QDir to = folderOf(design.file);
     std::map<QString, QStringList> folders;
-    for (const FileReference& reference : design.files)
-        if (reference.state == FileState::Exists && m_copies.count(reference.file) == 0)
-            folders[QFileInfo(reference.file).absolutePath()] << reference.file;
+    std::vector<std::pair<const Design*, Place>> designs;
+    for (const FileReference& reference : design.files) {
+        if (reference.state != FileState::Exists)
+            continue;
+        const Place place = placeOf(reference.file, from, to);
+        const Design* const open = openDesign(reference);
+        if (open != nullptr && !m_designs.emplace(open->file, QString()).second)
+            continue;
+        if (open != nullptr)
+            designs.emplace_back(open, place);
+        if (m_copies.count(place) == 0)
+            folders[place.second] << place.first;
+    }
     for (auto& [folder, files] : folders) {
         files.removeDuplicates();
-        if (const std::optional<Problem> problem = copyFiles(placeOf(folder), files))
+        if (const std::optional<Problem> problem = copyFiles(folder, files, to))
             return problem;
     }
+    for (const auto& [open, place] : designs)
+        m_designs[open->file] = m_copies.at(place);
+    if (const std::optional<Problem> problem = referToCopies(design, from))
+        return problem;
+    for (const auto& [open, place] : designs)
+        if (const std::optional<Problem> problem = bringDesign(*open))
+            return problem;
+    return std::nullopt;
+}
+
+/** The place stays the same below the design's folder. */
+DesignRelocation::Place DesignRelocation::placeOf(const QString& file, const QDir& from,
+                                                  const QDir& to)
+{
+    const QString source = m_spellings.firstOf(file);
+    const QString folder = from.relativeFilePath(QFileInfo(source).absolutePath());
+    return {source, QDir::cleanPath(to.filePath(folder))};
+}
+
+/** What has got another name, or is reached by a link elsewhere, is referred to where it is. */
+std::optional<Problem> DesignRelocation::referToCopies(Design& design, const QDir& from)
+{
+    const QDir to = folderOf(design.file);
     for (FileReference& reference : design.files) {
         if (reference.state != FileState::Exists)
             continue;
-        referTo(reference, m_copies.at(reference.file));
-        if (const std::optional<Problem> problem = bringDesign(reference))
-            return problem;
+        const Design* const open = openDesign(reference);
+        const QString copy = open != nullptr ? m_designs.at(open->file)
+                                             : m_copies.at(placeOf(reference.file, from, to));
+        const QString path = to.relativeFilePath(copy);
+        if (path.startsWith(QLatin1String("../")))
+            return Problem{reference.file,
+                           {},
+                           tr("comes along by a link, out of reach from %1").arg(design.name)};
+        refer(reference, path);
     }
+    return std::nullopt;
+}
+
+/** Of copies through links that are in the new folder already. */
+std::optional<Problem> DesignRelocation::obstacleIn(const QString& folder, const QString& source,
+                                                    const QDir& design)
+{
+    if (realPath(folder) == realPath(source))
+        return Problem{folder, {}, tr("is a link to the folder that the files come from")};
+    if (resolveReference(design.path(), design.relativeFilePath(folder)).state ==
+        FileState::Outside)
+        return Problem{folder, {}, tr("is a link that leads out of the design's new folder")};
     return std::nullopt;
 }
 
@@ -103,16 +166,28 @@ std::optional<Problem> DesignRelocation::obstacleTo(const QString& folder,
     if (isInPlace && name.compare(m_name, Qt::CaseInsensitive) == 0)
         return Problem{file, {}, tr("comes along and has the name that the design shall get")};
     const QString target = realPath(QDir(folder).filePath(name));
-    const bool isOpen = std::any_of(m_open.begin(), m_open.end(), [&target](const Design& design) {
-        return design.file == target;
-    });
-    if (isOpen)
+    if (target.isEmpty())
+        return std::nullopt;
+    const auto isOpen = [&target](const Design& design) {
+        return FileNames::areSame(design.file, target);
+    };
+    if (std::any_of(m_open.begin(), m_open.end(), isOpen))
         return Problem{target, {}, tr("is open here and is not replaced")};
+    const auto hasCome = [&target](const auto& copy) {
+        return FileUtilities::isEquivalent(FileName(copy.second), FileName(target));
+    };
+    if (std::any_of(m_copies.begin(), m_copies.end(), hasCome))
+        return Problem{file, {}, tr("has the name of another file that comes along")};
     return std::nullopt;
 }
 
-std::optional<Problem> DesignRelocation::copyFiles(const QString& folder, const QStringList& files)
+/** For a design that goes to the folder `design`. */
+std::optional<Problem> DesignRelocation::copyFiles(const QString& folder, const QStringList& files,
+                                                   const QDir& design)
 {
+    const QString source = QFileInfo(files.front()).absolutePath();
+    if (std::optional<Problem> obstacle = obstacleIn(folder, source, design))
+        return obstacle;
     if (!QDir().mkpath(folder))
         return Problem{folder, {}, tr("cannot be made a folder")};
     for (const QString& file : files)
@@ -128,23 +203,16 @@ std::optional<Problem> DesignRelocation::copyFiles(const QString& folder, const 
         // Another file of that name is not the design's.
         if (copy == nullptr || copy->status == FileCopyUtility::NotCopied)
             return Problem{file, {}, tr("was not copied")};
-        m_copies[file] = copy->target;
+        m_copies[{file, folder}] = QDir(folder).filePath(QFileInfo(copy->target).fileName());
     }
     return std::nullopt;
 }
 
 /** In place of the file's plain copy, whose name the user has agreed to. */
-std::optional<Problem> DesignRelocation::bringDesign(const FileReference& reference)
+std::optional<Problem> DesignRelocation::bringDesign(const Design& open)
 {
-    const QString file = realPath(reference.file);
-    if (reference.kind != FileKind::Design || !m_designs.insert(file).second)
-        return std::nullopt;
-    const auto open = std::find_if(m_open.begin(), m_open.end(),
-                                   [&file](const Design& design) { return design.file == file; });
-    if (open == m_open.end())
-        return std::nullopt;
-    Design copy = DesignCopy::of(*open, m_copies.at(reference.file));
-    if (std::optional<Problem> problem = bring(copy))
+    Design copy = DesignCopy::of(open, m_designs.at(open.file));
+    if (std::optional<Problem> problem = bring(copy, folderOf(open.file)))
         return problem;
     // The copy of a protected file is protected, too.
     QFile::setPermissions(copy.file, QFile::permissions(copy.file) | QFile::WriteOwner);

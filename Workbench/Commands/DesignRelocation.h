@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Workbench/Design/Design.h"
+#include "Workbench/Design/FileSpellings.h"
 #include "Workbench/Design/Problem.h"
 
 #include <QtCore/QCoreApplication>
@@ -12,7 +13,7 @@
 
 #include <map>
 #include <optional>
-#include <set>
+#include <utility>
 #include <vector>
 
 namespace Zorvane::Workbench {
@@ -21,6 +22,9 @@ namespace Zorvane::Workbench {
  * Brings along what a design needs in another folder: the files that it refers to, the designs
  * among them, and their files in turn, each to the same place below the new folder. What leads out
  * of a design's folder stays where it is, and missing files don't count.
+ *
+ * A design behind a link stands where the link stands, with its files beside it. If it is also
+ * referred to otherwise, it comes once, and what cannot reach it there is told.
  *
  * Shows progress and asks about names that are taken; where the user keeps both files, designs
  * refer to the copy. Designs that are open come along as they are shown, unsaved changes included,
@@ -47,11 +51,19 @@ public:
     std::optional<Problem> bringFilesOf(Design& design);
 
 private:
-    std::optional<Problem> bring(Design& design);
+    /** A file, and the folder that it goes to: by way of links, that may be several. */
+    using Place = std::pair<QString, QString>;
+
+    Place placeOf(const QString& file, const QDir& from, const QDir& to);
+    static std::optional<Problem> obstacleIn(const QString& folder, const QString& source,
+                                             const QDir& design);
+    const Design* openDesign(const FileReference& reference) const;
+    std::optional<Problem> bring(Design& design, const QDir& from);
+    std::optional<Problem> bringDesign(const Design& open);
+    std::optional<Problem> referToCopies(Design& design, const QDir& from);
     std::optional<Problem> obstacleTo(const QString& folder, const QString& file) const;
-    std::optional<Problem> copyFiles(const QString& folder, const QStringList& files);
-    std::optional<Problem> bringDesign(const FileReference& reference);
-    QString placeOf(const QString& folder) const;
+    std::optional<Problem> copyFiles(const QString& folder, const QStringList& files,
+                                     const QDir& design);
 
     QPointer<QWidget> m_parent;
     QDir m_from;
@@ -59,10 +71,11 @@ private:
     /** Of the design file there. */
     QString m_name;
     std::vector<Design> m_open;
+    FileSpellings m_spellings;
     /** Where each file has got to. */
-    std::map<QString, QString> m_copies;
-    /** Design files that are brought, or about to be: they may refer to one another in a circle. */
-    std::set<QString> m_designs;
+    std::map<Place, QString> m_copies;
+    /** Where design files have got to; empty for those on their way, as they may form a circle. */
+    std::map<QString, QString> m_designs;
 };
 
 } // namespace Zorvane::Workbench

@@ -107,10 +107,16 @@ bool FileCommands::saveAs(GUIdentifier objectId, Results results)
     std::optional<Problem> obstacle = obstacleTo(target);
     Design copy = copyOf(*design, target, results);
     const GUIdentifier replaced = design->id;
+    const bool wasThere = QFileInfo::exists(target);
     if (!obstacle)
         obstacle = DesignRelocation(m_window, design->file, target, m_session.designs())
                        .bringFilesOf(copy);
-    if (!self || !write(copy, obstacle))
+    if (!self)
+        return false;
+    // Nobody has agreed to lose what has come there while files were copied.
+    if (!obstacle && !wasThere && QFileInfo::exists(target))
+        obstacle = Problem{target, {}, tr("has been made meanwhile and is not replaced")};
+    if (!write(copy, obstacle))
         return false;
     m_session.replace(replaced, target);
     Q_EMIT savedAs(target);
@@ -144,7 +150,7 @@ std::optional<Problem> FileCommands::obstacleTo(const QString& target) const
     if (!obstacle.isEmpty())
         return Problem{target, {}, obstacle};
     for (const Design& open : m_session.designs())
-        if (info.exists() && FileUtilities::isEquivalent(FileName(target), FileName(open.file)))
+        if (FileUtilities::isEquivalent(FileName(target), FileName(open.file)))
             return Problem{target, {}, tr("is open here and is not replaced")};
     return std::nullopt;
 }

@@ -1,7 +1,7 @@
 #include "Workbench/Design/DesignSession.h"
 
-#include "Host/FileHandling/FileUtilities.h"
 #include "Workbench/Design/FileAdditions.h"
+#include "Workbench/Design/FileNames.h"
 #include "Workbench/Meshes/MeshReader.h"
 
 #include <QtCore/QDir>
@@ -26,8 +26,7 @@ bool isDesignFile(const QString& path)
 QString knownSpelling(const std::vector<Design>& designs, const QString& file)
 {
     const auto isSame = [&file](const Design& design) {
-        return design.file.compare(file, Qt::CaseInsensitive) == 0 &&
-               FileUtilities::isEquivalent(FileName(design.file), FileName(file));
+        return FileNames::areSame(design.file, file);
     };
     const auto found = std::find_if(designs.begin(), designs.end(), isSame);
     return found == designs.end() ? file : found->file;

@@ -113,8 +113,13 @@ void putList(QJsonObject& object, const QString& key, const std::vector<Piece>& 
         entries.append(toObject(piece));
     }
     putUnread(std::numeric_limits<int>::max());
-    if (!entries.isEmpty() || object.value(key).isArray())
-        object.insert(key, entries);
+    const QJsonValue former = object.value(key);
+    if (entries.isEmpty() && !former.isArray())
+        return;
+    // What should have been a list is not lost to the first entry of one.
+    if (!former.isArray() && !former.isUndefined() && !former.isNull())
+        entries.prepend(former);
+    object.insert(key, entries);
 }
 
 QJsonObject toObject(const Operation& operation)

@@ -1,6 +1,7 @@
 #include "Workbench/Design/FileNames.h"
 
 #include "Files/FileNameRules.h"
+#include "Host/FileHandling/FileUtilities.h"
 
 #include <QtCore/QStringList>
 
@@ -38,6 +39,12 @@ QString FileNames::obstacle(const QString& name)
 QString FileNames::fitted(const QString& stem, const QString& ending)
 {
     return fittedFileName(stem, ending, s_longestFileName - s_roomForWriting);
+}
+
+bool FileNames::areSame(const QString& left, const QString& right)
+{
+    return left == right || (left.compare(right, Qt::CaseInsensitive) == 0 &&
+                             FileUtilities::isEquivalent(FileName(left), FileName(right)));
 }
 
 bool FileNames::arePossible(const QString& relativePath)

@@ -18,6 +18,11 @@ public:
      * that is being written has behind its name.
      */
     static QString fitted(const QString& stem, const QString& ending);
+    /**
+     * Whether both absolute paths, spelled alike or differing in the case of letters where that
+     * doesn't count, name one file or folder.
+     */
+    static bool areSame(const QString& left, const QString& right);
     /** Whether every name of a path, written with slashes and without a root, can be a file's. */
     static bool arePossible(const QString& relativePath);
 };

@@ -1,5 +1,7 @@
 #include "Workbench/Design/LooseParts.h"
 
+#include "Workbench/Design/FileNames.h"
+#include "Workbench/Design/FileSpellings.h"
 #include "Workbench/Meshes/MeshReader.h"
 
 #include <QtCore/QCollator>
@@ -42,8 +44,9 @@ bool isSame(const Part& left, const Part& right)
 
 void LooseParts::add(const QString& path, bool isFolder)
 {
-    const auto known = std::any_of(m_entries.begin(), m_entries.end(),
-                                   [&path](const Entry& entry) { return entry.path == path; });
+    const auto known = std::any_of(m_entries.begin(), m_entries.end(), [&path](const Entry& entry) {
+        return FileNames::areSame(entry.path, path);
+    });
     if (!known)
         m_entries.push_back({path, isFolder});
 }
@@ -57,14 +60,16 @@ void LooseParts::clear()
 bool LooseParts::refresh()
 {
     std::vector<Part> parts;
+    FileSpellings spellings;
     QSet<QString> seen;
     for (const Entry& entry : m_entries) {
         const QStringList files =
             entry.isFolder ? meshFilesIn(entry.path) : QStringList(entry.path);
         for (const QString& file : files) {
-            if (!seen.contains(file))
+            const QString first = spellings.firstOf(file);
+            if (!seen.contains(first))
                 parts.push_back(partOf(file));
-            seen.insert(file);
+            seen.insert(first);
         }
     }
     const bool same =

@@ -220,6 +220,7 @@ bool MeshLoader::isBusy() const
 void MeshLoader::setMostReadAtOnce(int files)
 {
     m_pool.setMaxThreadCount(std::max(files, 1));
+    startWaiting();
 }
 
 void MeshLoader::setCacheLimit(std::size_t bytes)

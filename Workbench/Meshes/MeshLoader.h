@@ -62,7 +62,7 @@ public:
     /** Answers since the loader was last idle, and files asked for since then. */
     int done() const { return m_done; }
     int total() const { return m_total; }
-    /** How many files are read at the same time: at least one, two unless set. */
+    /** Files read at the same time, those that wait now as well: at least one, two unless set. */
     void setMostReadAtOnce(int files);
     void setCacheLimit(std::size_t bytes);
     std::size_t cachedBytes() const { return m_cachedBytes; }

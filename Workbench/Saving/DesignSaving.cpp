@@ -273,9 +273,11 @@ bool DesignSaving::run(GUIdentifier designId)
     if (design == nullptr)
         return false;
     const std::optional<Problem> problem = m_parts.runner.start(*design);
-    if (problem)
-        Q_EMIT failed(problem->text());
-    return !problem;
+    if (!problem)
+        return true;
+    m_parts.history.putBack(dropped);
+    Q_EMIT failed(problem->text());
+    return false;
 }
 
 GUIdentifier DesignSaving::designOf(const QString& file) const

@@ -54,6 +54,10 @@ void DesignCopyTest::refersToItsOwnPieces()
     QVERIFY(copy.findFile(copy.materials.front().file));
     QCOMPARE(copy.blank->material, copy.materials.front().id);
     QVERIFY(copy.findFile(copy.parts.front().geometry));
+    Design design = designOf(opened);
+    design.parts.front().material = design.materials.front().id;
+    const Design ofSteel = DesignCopy::of(design, QStringLiteral("/x/copy.dsg"));
+    QCOMPARE(ofSteel.parts.front().material, ofSteel.materials.front().id);
     // A reference to nothing stays one.
     const std::vector<Tool>& before = designOf(opened).operations.front().tools;
     for (std::size_t i = 0; i < before.size(); ++i)

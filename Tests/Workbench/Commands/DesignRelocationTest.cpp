@@ -3,6 +3,7 @@
 #include "Files/CopyCollisionDialog.h"
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/PlatformCopies.h"
+#include "Tests/Support/PlatformFacts.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Tree/TreeFixture.h"
 #include "Workbench/Commands/DesignCopy.h"
@@ -10,6 +11,8 @@
 
 #include <QtCore/QDir>
 #include <QtWidgets/QPushButton>
+
+#include <filesystem>
 
 namespace Zorvane::Workbench {
 
@@ -34,6 +37,7 @@ private:
     std::optional<Problem> relocate();
     /** The copy with what it refers to, read from the disk. */
     std::unique_ptr<DesignSession> relocated() const;
+    bool linkDoor(const char* target, const char* link);
 
     Testing::PlatformCopies m_copies;
     std::unique_ptr<Testing::OpenedDesign> m_opened;
@@ -50,6 +54,7 @@ private Q_SLOTS:
     void designsThatAreNotOpenComeAlongAsFiles();
     void circlesEnd();
     void filesReferredToTwiceComeOnce();
+    void filesSpelledInTwoWaysComeOnce();
     void namesThatAreTakenAreAskedAbout_data();
     void namesThatAreTakenAreAskedAbout();
     void designsFollowFilesWithOtherNames();
@@ -58,6 +63,12 @@ private Q_SLOTS:
     void nothingTakesThePlaceOfTheDesign();
     void openDesignsAreNotReplaced();
     void protectedDesignsComeAlong();
+    void designsBehindLinksStandWhereTheLinksStand();
+    void designsReferredToByLinksAsWellComeOnce();
+    void designsOutOfReachAreTold();
+    void filesOfTheSamePlaceAreTold();
+    void linksInTheNewFolderAreTold_data();
+    void linksInTheNewFolderAreTold();
 };
 
 void DesignRelocationTest::init()
@@ -146,6 +157,123 @@ void DesignRelocationTest::protectedDesignsComeAlong()
     QVERIFY(!relocate());
     QVERIFY(QFileInfo(target("door/door.dsg")).isWritable());
     QVERIFY(relocated()->problems().empty());
+}
+
+/** In the small design instead of the door; false where a program may make no links. */
+bool DesignRelocationTest::linkDoor(const char* target, const char* link)
+{
+    m_opened->session.take(objectId(1), {small().files.back().id});
+    return Testing::makeLink(source(target), source(link)) &&
+           m_opened->session.addFiles(objectId(1), {source(link)}).empty();
+}
+
+void DesignRelocationTest::designsBehindLinksStandWhereTheLinksStand()
+{
+    if (!linkDoor("door/door.dsg", "linked.dsg"))
+        QSKIP("programs may not make links on this platform");
+    const QByteArray door = Testing::readFile(source("door/door.dsg"));
+    QVERIFY(!relocate());
+    QVERIFY(!QFileInfo(target("linked.dsg")).isSymLink());
+    QCOMPARE(Testing::readFile(target("geometry/door.stl")),
+             Testing::readFile(source("door/geometry/door.stl")));
+    QVERIFY(isThere("handle/handle.dsg"));
+    QVERIFY(isThere("handle/grip.txt"));
+    QVERIFY(!isThere("door"));
+    QCOMPARE(Testing::readFile(source("door/door.dsg")), door);
+    const std::unique_ptr<DesignSession> moved = relocated();
+    QVERIFY(moved->problems().empty());
+    QCOMPARE(moved->designs().size(), std::size_t(3));
+    for (const Design& design : moved->designs())
+        for (const FileReference& file : design.files)
+            QCOMPARE(int(file.state), int(FileState::Exists));
+}
+
+void DesignRelocationTest::designsReferredToByLinksAsWellComeOnce()
+{
+    if (!Testing::makeLink(source("door/door.dsg"), source("linked.dsg")))
+        QSKIP("programs may not make links on this platform");
+    // Adding it would find that it is there by its own name.
+    QJsonArray files;
+    for (const char* name : {"linked.dsg", "door/door.dsg", "./linked.dsg"})
+        files.append(Testing::fileEntry(90 + files.size(), QStringLiteral("Door"),
+                                        QStringLiteral("design"), QString::fromLatin1(name)));
+    m_opened->session.close();
+    Testing::writeFile(source("small.dsg"), Testing::toText(Testing::designWithFiles(
+                                                1, QStringLiteral("Small"), files)));
+    m_opened->session.open({source("small.dsg")});
+    QCOMPARE(session().designs().size(), std::size_t(3));
+    QVERIFY(!relocate());
+    const std::unique_ptr<DesignSession> moved = relocated();
+    QVERIFY(moved->problems().empty());
+    QCOMPARE(moved->designs().size(), std::size_t(3));
+    for (const FileReference& file : moved->designs().front().files)
+        QCOMPARE(file.design, moved->designs().at(1).id);
+    QCOMPARE(moved->designs().front().files.back().path, QStringLiteral("./linked.dsg"));
+}
+
+void DesignRelocationTest::designsOutOfReachAreTold()
+{
+    // The door refers to the handle, too, which stands above it then.
+    if (!Testing::makeLink(source("door/handle/handle.dsg"), source("linked.dsg")))
+        QSKIP("programs may not make links on this platform");
+    const QJsonArray files{Testing::fileEntry(90, QStringLiteral("Handle"),
+                                              QStringLiteral("design"),
+                                              QStringLiteral("linked.dsg")),
+                           Testing::fileEntry(91, QStringLiteral("Door"), QStringLiteral("design"),
+                                              QStringLiteral("door/door.dsg"))};
+    m_opened->session.close();
+    Testing::writeFile(source("small.dsg"), Testing::toText(Testing::designWithFiles(
+                                                1, QStringLiteral("Small"), files)));
+    m_opened->session.open({source("small.dsg")});
+    const std::optional<Problem> problem = relocate();
+    QVERIFY(problem);
+    QCOMPARE(problem->file, source("door/handle/handle.dsg"));
+    QCOMPARE(problem->reason, QStringLiteral("comes along by a link, out of reach from Door"));
+    QVERIFY(!isThere("moved.dsg"));
+}
+
+void DesignRelocationTest::filesOfTheSamePlaceAreTold()
+{
+    Testing::writeFile(source("geometry/door.stl"), Testing::binaryStl(Testing::cube(3)));
+    QVERIFY(m_opened->session.addFiles(objectId(1), {source("geometry/door.stl")}).empty());
+    m_opened->session.take(objectId(1), {small().files.at(2).id});
+    if (!Testing::makeLink(source("door/door.dsg"), source("linked.dsg")))
+        QSKIP("programs may not make links on this platform");
+    QVERIFY(m_opened->session.addFiles(objectId(1), {source("linked.dsg")}).empty());
+    const std::optional<Problem> problem = relocate();
+    QVERIFY(problem);
+    QCOMPARE(problem->file, source("door/geometry/door.stl"));
+    QCOMPARE(problem->reason, QStringLiteral("has the name of another file that comes along"));
+    QCOMPARE(Testing::readFile(target("geometry/door.stl")),
+             Testing::readFile(source("geometry/door.stl")));
+}
+
+void DesignRelocationTest::linksInTheNewFolderAreTold_data()
+{
+    QTest::addColumn<bool>("toTheFiles");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("to where the files are")
+        << true << QStringLiteral("is a link to the folder that the files come from");
+    QTest::newRow("elsewhere") << false
+                               << QStringLiteral(
+                                      "is a link that leads out of the design's new folder");
+}
+
+void DesignRelocationTest::linksInTheNewFolderAreTold()
+{
+    QFETCH(bool, toTheFiles);
+    QFETCH(QString, reason);
+    const QTemporaryDir elsewhere;
+    const QString to = toTheFiles ? source("geometry") : elsewhere.path();
+    if (!Testing::makeLink(to, target("geometry")))
+        QSKIP("programs may not make links on this platform");
+    const QStringList before = QDir(to).entryList(QDir::Files);
+    const std::optional<Problem> problem = relocate();
+    QVERIFY(problem);
+    QCOMPARE(problem->file, target("geometry"));
+    QCOMPARE(problem->reason, reason);
+    QCOMPARE(QDir(to).entryList(QDir::Files), before);
+    QVERIFY(!isThere("moved.dsg"));
 }
 
 void DesignRelocationTest::allFilesComeAlong()
@@ -238,6 +366,28 @@ void DesignRelocationTest::filesReferredToTwiceComeOnce()
     QVERIFY(relocated()->problems().empty());
     QCOMPARE(QDir(target("door/geometry")).entryList(QDir::Files).size(), 1);
     QCOMPARE(QDir(target("door/handle")).entryList(QDir::Files).size(), 2);
+}
+
+void DesignRelocationTest::filesSpelledInTwoWaysComeOnce()
+{
+    // Where the case of letters counts, two names of one file stand in for two spellings.
+    if (Testing::doesCaseOfNamesCount())
+        std::filesystem::create_hard_link(source("steel.json").toStdU16String(),
+                                          source("STEEL.json").toStdU16String());
+    const QString kind = QStringLiteral("document");
+    const QJsonArray files{
+        Testing::fileEntry(90, QStringLiteral("Card"), kind, QStringLiteral("steel.json")),
+        Testing::fileEntry(91, QStringLiteral("Card, too"), kind, QStringLiteral("STEEL.json"))};
+    m_opened->session.close();
+    Testing::writeFile(source("small.dsg"), Testing::toText(Testing::designWithFiles(
+                                                1, QStringLiteral("Small"), files)));
+    m_opened->session.open({source("small.dsg")});
+    const Testing::ExpectedModals none;
+    QVERIFY(!relocate());
+    QCOMPARE(QDir(m_target->path()).entryList({QStringLiteral("*.json")}).size(), 1);
+    const std::unique_ptr<DesignSession> moved = relocated();
+    for (const FileReference& file : moved->designs().front().files)
+        QCOMPARE(int(file.state), int(FileState::Exists));
 }
 
 void DesignRelocationTest::namesThatAreTakenAreAskedAbout_data()

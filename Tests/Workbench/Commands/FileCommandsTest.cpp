@@ -1,5 +1,7 @@
 #include "Workbench/Commands/FileCommands.h"
 
+#include "Files/CopyCollisionDialog.h"
+#include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/PlatformCopies.h"
 #include "Tests/Support/PlatformFacts.h"
 #include "Tests/Support/TestCase.h"
@@ -8,6 +10,7 @@
 #include "Workbench/Window/MessageBar.h"
 
 #include <QtWidgets/QAction>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QStatusBar>
 
 #include <memory>
@@ -43,6 +46,8 @@ private Q_SLOTS:
     void otherSpellingsOpenNothingTwice();
     void openDesignsAreNotReplaced_data();
     void openDesignsAreNotReplaced();
+    void openDesignsWhoseFilesAreGoneAreNotReplaced();
+    void whatIsMadeMeanwhileIsNotReplaced();
     void otherEndingsAreRefused();
     void impossibleNamesAreRefused_data();
     void impossibleNamesAreRefused();
@@ -287,6 +292,40 @@ void FileCommandsTest::openDesignsAreNotReplaced_data()
         QTest::addRow("as%s", name) << QStringLiteral("Save As...") << isInCapitals;
         QTest::addRow("copy%s", name) << QStringLiteral("Save a Copy…") << isInCapitals;
     }
+}
+
+void FileCommandsTest::openDesignsWhoseFilesAreGoneAreNotReplaced()
+{
+    openDesign();
+    m_window->session().rename(firstPart(), QStringLiteral("Other"));
+    QVERIFY(QFile::remove(m_files->designFile()));
+    for (const char* command : {"Save As...", "Save a Copy…"}) {
+        m_script.saved = m_files->designFile();
+        trigger(command);
+        QVERIFY(message().endsWith(QStringLiteral("is open here and is not replaced")));
+        QCOMPARE(int(m_window->session().designs().size()), 1);
+        QVERIFY(m_window->session().isModified());
+    }
+}
+
+void FileCommandsTest::whatIsMadeMeanwhileIsNotReplaced()
+{
+    if (!Testing::PlatformCopies::askByOurDialog())
+        QSKIP("the system asks about names that are taken, by windows of its own");
+    openDesign();
+    Testing::writeFile(m_files->elsewhere.filePath(QStringLiteral("geometry/die.stl")), "taken");
+    m_script.saved = m_files->elsewhere.filePath(QStringLiteral("moved.dsg"));
+    Testing::ExpectedModals modals;
+    modals.expectDialog<CopyCollisionDialog>(QStringLiteral("collision"),
+                                             [this](CopyCollisionDialog& dialog) {
+                                                 Testing::writeFile(m_script.saved, "theirs");
+                                                 dialog.button(CopyDecision::KeepBoth)->click();
+                                             });
+    trigger("Save As...");
+    QVERIFY(modals.allMet());
+    QVERIFY(message().endsWith(QStringLiteral("has been made meanwhile and is not replaced")));
+    QCOMPARE(Testing::readFile(m_script.saved), QByteArray("theirs"));
+    QCOMPARE(QDir(m_window->session().designs().front().folder()), QDir(m_files->folder.path()));
 }
 
 void FileCommandsTest::openDesignsAreNotReplaced()

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void keepsUnknownFields();
     void keepsUnreadEntriesAtTheirPlaces();
     void keepsBrokenFieldsThatWereNotChanged();
+    void additionsKeepWhatIsNoList();
     void writesChangedFields();
     void writesDesignThatWasNeverRead();
     void leavesTheOldFileWhenItCannotWrite();
@@ -94,6 +95,27 @@ void DesignWriterTest::keepsBrokenFieldsThatWereNotChanged()
     operation.insert(QStringLiteral("tools"), QJsonArray{tool});
     object.insert(QStringLiteral("operations"), QJsonArray{operation});
     QCOMPARE(written(parsed(toText(object))), object);
+}
+
+void DesignWriterTest::additionsKeepWhatIsNoList()
+{
+    const QJsonObject noList = entry(50, QStringLiteral("Written by hand"));
+    QJsonObject object = smallDesign();
+    object.insert(QStringLiteral("files"), noList);
+    object.insert(QStringLiteral("parts"), QJsonValue());
+    Design design = parsed(toText(object));
+    FileReference card;
+    card.id = GUIdentifier::create();
+    card.name = QStringLiteral("Card");
+    design.files.push_back(card);
+    Part part;
+    part.id = GUIdentifier::create();
+    part.name = QStringLiteral("Cup");
+    design.parts.push_back(part);
+    const QJsonArray files = written(design).value(QStringLiteral("files")).toArray();
+    QCOMPARE(files.size(), 2);
+    QCOMPARE(files.first().toObject(), noList);
+    QCOMPARE(written(design).value(QStringLiteral("parts")).toArray().size(), 1);
 }
 
 void DesignWriterTest::writesChangedFields()

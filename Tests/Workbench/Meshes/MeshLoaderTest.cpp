@@ -21,6 +21,7 @@ private Q_SLOTS:
     void readsManyFilesAndTellsProgress();
     void answersInOrderForCachedFiles();
     void firstGoesBeforeAllThatWaits();
+    void raisingTheLimitStartsWhatWaits();
     void asksOnceForTheSameFile();
     void cancelDropsAllAnswers();
     void cancelFromAnswerAndStartAnew();
@@ -150,6 +151,21 @@ void MeshLoaderTest::firstGoesBeforeAllThatWaits()
     // Only the one being read when they were asked for comes before them.
     files.insert(1, other);
     files.insert(2, files.takeLast());
+    QCOMPARE(m_answers, files);
+}
+
+void MeshLoaderTest::raisingTheLimitStartsWhatWaits()
+{
+    const QStringList files = writeMany(3);
+    m_loader->request(files);
+    QTRY_COMPARE(m_finished, 1);
+    m_answers.clear();
+    // What is kept is answered in the order in which its reading starts.
+    m_loader->setMostReadAtOnce(1);
+    m_loader->request({files.at(0), files.at(1)});
+    m_loader->setMostReadAtOnce(2);
+    m_loader->requestFirst(files.at(2));
+    QTRY_COMPARE(m_finished, 2);
     QCOMPARE(m_answers, files);
 }
 

@@ -68,6 +68,7 @@ private Q_SLOTS:
     void startSavesChangesFirst();
     void cancelledStartLeavesEverything();
     void startDropsTheResultsOfBefore();
+    void startThatFailsBringsTheResultsBack();
     void startOnAnotherFileRunsThere();
     void startOfADesignComputedElsewhereIsRefused();
     void resultsAreTakenIntoTheDesignAndSaved();
@@ -434,6 +435,23 @@ void DesignSavingTest::startDropsTheResultsOfBefore()
     QVERIFY(m_saving->start(design().id));
     QVERIFY(!onDisk().contains("draw.csv"));
     QVERIFY(m_runner->isRunning());
+}
+
+void DesignSavingTest::startThatFailsBringsTheResultsBack()
+{
+    addResult();
+    const QString other = m_opened->path(QStringLiteral("other/other.dsg"));
+    session().open({writeFile(other, toText(designWithFiles(70, QStringLiteral("Other"), {})))});
+    m_runner->setSteps(1000000);
+    QVERIFY(!m_runner->start(*session().findDesign(objectId(70))));
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("The simulation results are deleted"),
+                            QMessageBox::Save);
+    QVERIFY(!m_saving->start(design().id));
+    QCOMPARE(m_failures.size(), 1);
+    QVERIFY(m_failures.front().contains(QStringLiteral("is running already")));
+    QCOMPARE(results(), 1);
+    m_runner->stop();
 }
 
 void DesignSavingTest::startOnAnotherFileRunsThere()
