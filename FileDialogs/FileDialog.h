@@ -76,14 +76,15 @@ public:
                                    PathProvider* provider, const QString& scope,
                                    const QString& fileName, QWidget* parent = nullptr);
     /**
-     * Whether the last `getSaveFileName` added an ending to what the user chose. The dialog knew the
-     * name without it, so nobody has agreed to replacing a file of the name that came out.
+     * Whether the last `getSaveFileName` added an ending to what the user chose. The dialog knew
+     * the name without it, so nobody has agreed to replacing a file of the name that came out.
      */
     static bool wasEndingAdded();
     /**
      * A file to write in the folder of `filePath`, or of the process when that is empty. A choice
      * elsewhere is answered by a box with `message` (empty: a text that names the folder), and the
-     * dialog comes again, until the user picks a file there or cancels.
+     * dialog comes again, until the user picks a file there or cancels. No ending is added; whoever
+     * adds one asks before a file of that name is replaced, as the dialog has not.
      */
     static QString getSaveFileNameInDir(const QString& caption, const QString& filter,
                                         const QString& filePath, PathProvider* provider,
