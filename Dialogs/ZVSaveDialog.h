@@ -63,8 +63,8 @@ public:
      *
      * `silent` goes through the motions without showing the box, and returns `ResultContinue`.
      * `saveDisabled` says that the design cannot be saved under its own name. The design must not
-     * be null. Nothing fails; a parent that goes away meanwhile is Cancel. Blocks in the box's event
-     * loop; GUI thread only.
+     * be null. Nothing fails; a parent that goes away meanwhile is Cancel. Blocks in the box's
+     * event loop; GUI thread only.
      */
     static Result showDialog(QWidget* parent, std::shared_ptr<DesignInterface> design,
                              Action action, bool silent, bool saveDisabled);

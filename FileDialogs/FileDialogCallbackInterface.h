@@ -28,8 +28,10 @@ public:
      * as the window is visible. The configuration must live until the dialog is closed.
      */
     virtual void placeDialog(FileDialogConfiguration* configuration) const = 0;
-    /** The outer rectangle of the dialog's window, in Qt's pixels, which are larger than the screen's
-     * where it is scaled; null if there is none. */
+    /**
+     * The outer rectangle of the dialog's window, in Qt's pixels, which are larger than the
+     * screen's where it is scaled; null if there is none.
+     */
     virtual QRect getDialogGeometry() const = 0;
 };
 

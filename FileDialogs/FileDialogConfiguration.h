@@ -22,7 +22,8 @@ class FileDialogEventHandler;
  * return, and nothing in it changes meanwhile except through the geometry calls.
  *
  * Rectangles are outer ones (with the window's frame), in Qt's pixels (`QScreen::geometry`), also
- * where Qt scales screens and the system's dialogs count the screens' own pixels.
+ * where Qt scales screens and the system's dialogs count the screens' own pixels. One exception:
+ * what the system's dialog stores when it was moved is one pixel wider and higher than the window.
  * Not supported: controls in save dialogs and in folder dialogs.
  */
 class ZORVANE_UITOOLS_EXPORT FileDialogConfiguration

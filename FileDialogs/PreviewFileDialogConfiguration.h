@@ -22,9 +22,9 @@ public:
     static const int s_distanceBetweenFileDlgAndPreviewer;
 
     /**
-     * Texts are UTF-8. `showPreviewKey`: the setting of the check box "Preview", empty to start with
-     * a preview every time; `scope`: that of the path provider; `enableAllFilesEntry`: whether the
-     * filter begins with all types at once.
+     * Texts are UTF-8. `showPreviewKey`: the setting of the check box "Preview", empty to start
+     * with a preview every time; `scope`: that of the path provider; `enableAllFilesEntry`: whether
+     * the filter begins with all types at once.
      */
     PreviewFileDialogConfiguration(const std::string& settingsKey,
                                    const std::string& showPreviewKey,

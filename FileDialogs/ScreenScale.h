@@ -21,7 +21,7 @@ struct ScaledScreen
     double pixelRatio = 1.0;
 };
 
-/** The screens of the running application, in its order. All ratios are 1 where Qt doesn't scale. */
+/** The screens of the application, in its order. All ratios are 1 where Qt doesn't scale. */
 ZORVANE_UITOOLS_EXPORT std::vector<ScaledScreen> scaledScreens();
 
 /**

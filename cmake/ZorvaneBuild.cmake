@@ -9,6 +9,9 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTORCC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+# Before 1.0 a new minor version may change interfaces, so programs must not load it unasked.
+set(ZORVANE_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
@@ -71,7 +74,7 @@ function(zorvane_link_subsystems library)
     add_library(${library} SHARED ${objects})
     add_library(Zorvane::UiTools ALIAS ${library})
     set_target_properties(${library} PROPERTIES
-        VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} EXPORT_NAME UiTools
+        VERSION ${PROJECT_VERSION} SOVERSION ${ZORVANE_SOVERSION} EXPORT_NAME UiTools
         LINKER_LANGUAGE CXX AUTOMOC OFF INSTALL_RPATH "$ORIGIN")
     target_include_directories(${library} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
         $<INSTALL_INTERFACE:${${library}_INSTALL_INCLUDEDIR}>)

@@ -63,6 +63,8 @@ void CALLBACK record(HWINEVENTHOOK hook, DWORD event, HWND window, LONG object, 
     if (!recording.configuration || !isEnd || object != OBJID_WINDOW ||
         !GetWindowRect(window, &rect))
         return;
+    // Right and bottom as the system gives them, beyond the window, where QRect counts the last
+    // pixel: settings have held these since there are any, one more than `getDialogGeometry` tells.
     recording.guard->runBetweenMessages([&] {
         recording.configuration->storeFileDialogGeometry(inQtPixels(
             QRect(QPoint(rect.left, rect.top), QPoint(rect.right, rect.bottom)), scaledScreens()));

@@ -190,7 +190,7 @@ int CopyGroup::tryPublish(CopyItem& item)
     return asDecided ? item.staged->publishReplacing(item.order.leaf) : EEXIST;
 }
 
-/** Where the case of letters doesn't count, the name may be an earlier copy's, spelled otherwise. */
+/** Where the case of letters doesn't count, an earlier copy's name may be spelled otherwise. */
 void CopyGroup::recogniseOwnCopy(CopyItem& item) const
 {
     const std::string folded = foldedName(item.candidate.leaf);

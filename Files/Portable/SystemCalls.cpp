@@ -2,22 +2,19 @@
 
 #include <QtCore/QRandomGenerator>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
 #include <fcntl.h>
 #include <string>
-#include <unistd.h>
-#ifdef __linux__
-#include <array>
 #include <sys/statfs.h>
-#endif
+#include <unistd.h>
 
 namespace Zorvane {
 
 namespace {
-
-#ifdef __linux__
 
 ssize_t copyRange(int from, int to, size_t size)
 {
@@ -42,7 +39,7 @@ int flushFileSystem(int file)
 }
 
 /** Network and user-space file systems may answer syncfs without having flushed anything. */
-int flushFileSystemCounts(int file)
+bool isFileSystemFlushReliable(int file)
 {
     constexpr std::array<unsigned long, 5> kinds{
         0xEF53UL,     // ext2, ext3, ext4
@@ -54,12 +51,9 @@ int flushFileSystemCounts(int file)
     struct statfs facts
     {};
     if (::fstatfs(file, &facts) != 0)
-        return -1;
-    for (const unsigned long kind : kinds) {
-        if ((static_cast<unsigned long>(facts.f_type) & 0xFFFFFFFFUL) == kind)
-            return 1;
-    }
-    return 0;
+        return false;
+    const unsigned long kind = static_cast<unsigned long>(facts.f_type) & 0xFFFFFFFFUL;
+    return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
 }
 
 qint64 unwrittenBytes()
@@ -97,59 +91,6 @@ int linkUnnamed(int file, int folder, const char* to)
 
 constexpr int s_unnamedFileFlags = O_TMPFILE | O_RDWR;
 
-#else
-
-template <typename... Arguments>
-int missing(Arguments...)
-{
-    errno = ENOSYS;
-    return -1;
-}
-
-ssize_t copyRange(int from, int to, size_t size)
-{
-    return missing(from, to, size);
-}
-
-int startWriteback(int file, off_t offset, off_t size)
-{
-    return missing(file, offset, size);
-}
-
-int finishWriteback(int file, off_t offset, off_t size)
-{
-    return missing(file, offset, size);
-}
-
-int flushFileSystem(int file)
-{
-    return missing(file);
-}
-
-int flushFileSystemCounts(int)
-{
-    return 0;
-}
-
-qint64 unwrittenBytes()
-{
-    return -1;
-}
-
-int renameNoReplace(int folder, const char* from, const char* to)
-{
-    return missing(folder, from, to);
-}
-
-int linkUnnamed(int file, int folder, const char* to)
-{
-    return missing(file, folder, to);
-}
-
-constexpr int s_unnamedFileFlags = 0;
-
-#endif
-
 qint64 milliseconds()
 {
     using namespace std::chrono;
@@ -177,7 +118,7 @@ SystemCalls makeReal()
     calls.finishWriteback = finishWriteback;
     calls.flush = ::fsync;
     calls.flushFileSystem = flushFileSystem;
-    calls.flushFileSystemCounts = flushFileSystemCounts;
+    calls.isFileSystemFlushReliable = isFileSystemFlushReliable;
     calls.unwrittenBytes = unwrittenBytes;
     calls.rename = [](int folder, const char* from, const char* to) {
         return ::renameat(folder, from, folder, to);

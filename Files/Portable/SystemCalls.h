@@ -12,45 +12,62 @@ namespace Zorvane {
 
 /**
  * Every call to the system that copying makes, so that tests can let each of them fail, be
- * interrupted, fall short or be preceded by somebody else's doing. Results and `errno` are those
- * of the functions of the same name; where a system lacks one, its entry fails with ENOSYS.
+ * interrupted, fall short or be preceded by somebody else's doing. An entry answers and sets
+ * `errno` as the function named beside it. Not supported: systems other than Linux; Windows copies
+ * by its shell.
  */
 struct ZORVANE_UITOOLS_EXPORT SystemCalls
 {
+    /** `openat` */
     std::function<int(int folder, const char* path, int flags, mode_t mode)> openAt;
+    /** `close` */
     std::function<int(int file)> close;
+    /** `read` */
     std::function<ssize_t(int file, void* buffer, size_t size)> read;
+    /** `write` */
     std::function<ssize_t(int file, const void* buffer, size_t size)> write;
-    /** From the present position of one file to that of the other, inside the kernel. */
+    /** `copy_file_range`, from the present position of one file to that of the other. */
     std::function<ssize_t(int from, int to, size_t size)> copyRange;
 
+    /** `fstat` */
     std::function<int(int file, struct stat& status)> status;
+    /** `fstatat` */
     std::function<int(int folder, const char* path, struct stat& status, int flags)> statusAt;
+    /** `fchmod` */
     std::function<int(int file, mode_t mode)> setMode;
+    /** `futimens` */
     std::function<int(int file, const timespec times[2])> setTimes;
+    /** `ftruncate` */
     std::function<int(int file, off_t size)> setSize;
 
-    /** Begins to write a range to disk. A hint: it makes nothing durable. */
+    /** `sync_file_range` that begins to write a range. A hint: it makes nothing durable. */
     std::function<int(int file, off_t offset, off_t size)> startWriteback;
-    /** Waits for what `startWriteback` began, size 0 meaning to the end; reports its errors. */
+    /** `sync_file_range` that waits for that, size 0 meaning to the end; reports its errors. */
     std::function<int(int file, off_t offset, off_t size)> finishWriteback;
+    /** `fsync` */
     std::function<int(int file)> flush;
-    /** Makes everything on the file system of `file` durable. */
+    /** `syncfs`: makes everything on the file system of `file` durable. */
     std::function<int(int file)> flushFileSystem;
-    /** 1 where `flushFileSystem` on the file system of `file` is as good as flushing each file. */
-    std::function<int(int file)> flushFileSystemCounts;
+    /** Whether `flushFileSystem` there is as good as flushing each file. By `fstatfs`. */
+    std::function<bool(int file)> isFileSystemFlushReliable;
     /** Bytes of the whole machine that wait to be written; -1 where that is not known. */
     std::function<qint64()> unwrittenBytes;
 
+    /** `renameat` inside one folder; replaces. */
     std::function<int(int folder, const char* from, const char* to)> rename;
+    /** `renameat2` with `RENAME_NOREPLACE`, inside one folder. */
     std::function<int(int folder, const char* from, const char* to)> renameNoReplace;
+    /** `linkat` inside one folder; never replaces. */
     std::function<int(int folder, const char* from, const char* to)> link;
-    /** Gives a file opened with `unnamedFileFlags` a name that nothing has. */
+    /** `linkat` that gives a file opened with `unnamedFileFlags` a name that nothing has. */
     std::function<int(int file, int folder, const char* to)> linkUnnamed;
+    /** `unlinkat` of a file. */
     std::function<int(int folder, const char* name)> unlink;
 
+    /** `fpathconf` with `_PC_NAME_MAX` */
     std::function<long(int folder)> mostNameBytes;
-    std::function<qint64()> milliseconds; /**< Of a clock that only goes forward. */
+    /** Of a clock that only goes forward. */
+    std::function<qint64()> milliseconds;
     std::function<quint32()> random;
 
     /** Flags of `openAt` for a file without a name in the folder; 0 where there are none such. */

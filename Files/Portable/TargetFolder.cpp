@@ -26,7 +26,7 @@ int TargetFolder::open(const std::string& path)
     if (file < 0)
         return errno;
     m_folder = Descriptor(m_calls, file);
-    m_flushesTogether = m_calls.flushFileSystemCounts(file) == 1;
+    m_flushesTogether = m_calls.isFileSystemFlushReliable(file);
     int error = 0;
     m_means = probe(error);
     return error;

@@ -32,7 +32,7 @@ public:
     QAction* actionOf(const QVariant& value) const;
 
 public Q_SLOTS:
-    /** Checks the action of this value, also a disabled one. Without such an action does nothing. */
+    /** Checks the action of this value, also a disabled one. Does nothing if there is none. */
     void setValue(const QVariant& value);
 
 Q_SIGNALS:

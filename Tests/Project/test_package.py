@@ -5,6 +5,7 @@ Takes the build folder to install from, and a folder for what comes of it.
 
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -13,7 +14,6 @@ import unittest
 SOURCES = pathlib.Path(__file__).resolve().parents[2]
 BUILD, WORK = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
 PREFIX = WORK / "prefix"
-
 
 # A compiler cache may answer with the file names of another build.
 ENVIRONMENT = {**os.environ, "CCACHE_DISABLE": "1", "QT_QPA_PLATFORM": "offscreen"}
@@ -25,6 +25,10 @@ def run(*command):
     if result.returncode != 0:
         raise AssertionError(f"{command[:3]} ended with {result.returncode}:\n{result.stdout}")
     return result.stdout
+
+
+def read(name):
+    return (SOURCES / name).read_text(encoding="utf-8")
 
 
 def configure(source, name, *options):
@@ -43,6 +47,13 @@ class PackageTest(unittest.TestCase):
         build = configure(SOURCES / "Tests/Project/Consumer", "consumer")
         run("cmake", "--build", build)
         self.assertEqual(run(build / "consumer"), "Part 7 1\n")
+
+    def test_a_program_loads_no_other_minor_version(self):
+        version = re.search(r"project\(.* VERSION (\d+\.\d+)\.", read("CMakeLists.txt"))[1]
+        for name in ("ZorvaneHost", "ZorvaneUiTools"):
+            library, = PREFIX.glob(f"lib*/**/lib{name}.so")
+            soname = re.search(r"\(SONAME\).*\[(.*)\]", run("readelf", "-d", library))[1]
+            self.assertEqual(soname, f"lib{name}.so.{version}")
 
     def test_no_path_of_the_sources_is_installed(self):
         for path in PREFIX.rglob("*.cmake"):

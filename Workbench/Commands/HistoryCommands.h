@@ -7,7 +7,7 @@ namespace Zorvane::Workbench {
 class EditHistory;
 class WindowCommands;
 
-/** Undo and Redo, which say what they take back or make again. Commands and history must outlive it. */
+/** Undo and Redo, which say what they take back or redo. Commands and history must outlive it. */
 class HistoryCommands : public QObject
 {
     Q_OBJECT

@@ -18,8 +18,8 @@ namespace Zorvane::Workbench {
  *
  * Mouse: drag with the left button turns, with the middle button or Shift moves, the wheel zooms
  * to the pointer, a double click fits. Keys: arrows turn, Ctrl and arrows move, + and - zoom,
- * Home fits. The view before the last change can be had back. Draws without a graphics card. While it is being turned it draws as fast as it can,
- * and once it rests it smooths the outlines.
+ * Home fits. The view before the last change can be had back. Draws without a graphics card. While
+ * it is being turned it draws as fast as it can, and once it rests it smooths the outlines.
  * Not supported: several meshes at once, picking, touch gestures.
  */
 class MeshView : public QWidget

@@ -33,7 +33,7 @@ public:
     /** Stops what runs. */
     ~SimulationRunner() override;
 
-    /** Works on what the design is at this moment. On failure, told by the problem, nothing runs. */
+    /** Works on what the design is at this moment. On failure, which is told, nothing runs. */
     std::optional<Problem> start(const Design& design);
     /** Nothing is left of the run. */
     void stop();

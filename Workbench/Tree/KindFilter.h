@@ -10,7 +10,10 @@ namespace Zorvane::Workbench {
 
 class DesignCatalog;
 
-/** Accepts objects of the kinds not hidden, and tools of the sides not hidden; none is at first. The catalog must outlive it. */
+/**
+ * Accepts objects of the kinds not hidden, and tools of the sides not hidden. At first none is.
+ * The catalog must outlive it.
+ */
 class KindFilter : public GenericTreeViewModelHandling::ModelItemFilterInterface
 {
 public:

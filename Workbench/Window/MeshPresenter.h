@@ -13,7 +13,8 @@ class MeshView;
 
 /**
  * Puts the mesh of the object chosen into the mesh view, in the object's colour and with a legend
- * of the colours of its design, or words on why there is none. A mesh not read yet is read first. Everything given must outlive it.
+ * of the colours of its design, or words on why there is none. A mesh not read yet is read first.
+ * Everything given must outlive it.
  */
 class MeshPresenter : public QObject
 {

@@ -50,7 +50,7 @@ bool isWine()
 
 } // namespace
 
-/** Whether there is a native dialog, by the version of Windows: this program, started again, tells. */
+/** Whether there is a native dialog, by the version of Windows: told by this program run again. */
 class WindowsVersionTest : public Testing::TestCase
 {
     Q_OBJECT

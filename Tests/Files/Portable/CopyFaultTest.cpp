@@ -242,7 +242,7 @@ void CopyFaultTest::failedGroupFlushFailsItsFilesOnly()
     QFETCH(QString, call);
     CopyFixture fixture;
     FaultySystem system;
-    system.calls.flushFileSystemCounts = [](int) { return 1; };
+    system.calls.isFileSystemFlushReliable = [](int) { return true; };
     const std::string first = call.toStdString();
     system.before = [&](const FaultySystem::Call& made) {
         const bool bad = made.name == first || (first == "flushFileSystem" && made.name == "flush");

@@ -28,7 +28,7 @@ std::vector<int> groupsOf(int files, std::size_t size, qint64 milliseconds)
     std::vector<int> groups;
     qint64 now = 0;
     int waiting = 0;
-    system.calls.flushFileSystemCounts = [](int) { return 1; };
+    system.calls.isFileSystemFlushReliable = [](int) { return true; };
     system.calls.milliseconds = [&] { return now; };
     system.calls.setTimes = [&](int, const timespec*) { return ++waiting, 0; };
     system.calls.flush = [&](int) {
@@ -220,7 +220,7 @@ void CopyPaceTest::manySmallFilesAreFlushedInGroups()
     Testing::FaultySystem system;
     // Slow disks are flushed in other ways.
     system.calls.milliseconds = [] { return 0; };
-    system.calls.flushFileSystemCounts = [](int) { return 1; };
+    system.calls.isFileSystemFlushReliable = [](int) { return true; };
     QStringList sources;
     constexpr int count = 100;
     for (int i = 0; i < count; ++i)

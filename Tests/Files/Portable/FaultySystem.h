@@ -46,7 +46,7 @@ public:
     void removeHardLinks() { failFeature(calls.link); }
     void removeGroupFlush()
     {
-        calls.flushFileSystemCounts = [](int) { return 0; };
+        calls.isFileSystemFlushReliable = [](int) { return false; };
     }
     void removeRangeCopy() { failFeature(calls.copyRange); }
     void removeWriteback()

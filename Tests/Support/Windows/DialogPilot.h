@@ -20,8 +20,8 @@ namespace Zorvane::Testing {
  *     QVERIFY(pilot.isDone());
  *
  * One step a tick, the first when a dialog is visible that was not there before. A step whose
- * condition stays unmet fails the test and closes the dialog, as does a dialog that never comes to be
- * seen, or is still there long after the last step, so that nothing hangs.
+ * condition stays unmet fails the test and closes the dialog, as does a dialog that never comes to
+ * be seen, or is still there long after the last step, so that nothing hangs.
  */
 class DialogPilot : public QObject
 {
