@@ -3,7 +3,7 @@ find_program(ZORVANE_LRELEASE NAMES lrelease lrelease-qt5)
 
 # zorvane_compile_catalogues(OUTPUT NAME PREFIX language...)
 # Sets OUTPUT to a source file with the catalogues <NAME>_<language>.ts of Translations/, as a
-# resource <NAME>_catalogues with the files <PREFIX>/<NAME>_<language>.qm. Without lrelease the
+# resource <NAME>_catalogues with the files :/<PREFIX>/<NAME>_<language>.qm. Without lrelease the
 # resource is empty, and all texts stay in English.
 function(zorvane_compile_catalogues output name prefix)
     set(files "")
@@ -23,7 +23,7 @@ function(zorvane_compile_catalogues output name prefix)
     endif()
     set(list ${CMAKE_CURRENT_BINARY_DIR}/${name}_catalogues.qrc)
     file(CONFIGURE OUTPUT ${list} CONTENT
-        "<RCC><qresource prefix=\"${prefix}\">${files}</qresource></RCC>\n")
+        "<RCC><qresource prefix=\"/${prefix}\">${files}</qresource></RCC>\n")
     set(compiled ${CMAKE_CURRENT_BINARY_DIR}/${name}_catalogues.cpp)
     add_custom_command(OUTPUT ${compiled}
         COMMAND Qt5::rcc --name ${name}_catalogues --output ${compiled} ${list}

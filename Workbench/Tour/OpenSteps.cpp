@@ -57,12 +57,12 @@ void Tour::openWithPreview()
     // Qt's dialog on every system: those of the system itself cannot be driven from here.
     const NativeFileDialogReplacement qtDialogs([] { return nullptr; });
     const QString folder = workFolder(QStringLiteral("drawn-cup"));
-    QFile damaged(folder + QStringLiteral("/geometry/damaged.stl"));
+    QFile damaged(QDir(folder).filePath(QStringLiteral("geometry/damaged.stl")));
     m_report.expect(damaged.open(QIODevice::WriteOnly) && damaged.write("solid cup\nfacet") > 0,
                     QStringLiteral("the damaged file is made"));
     damaged.close();
-    LastPathProvider::getInstance()->setPathToScope(folder + QStringLiteral("/geometry/cup.stl"),
-                                                    FileCommands::scope());
+    LastPathProvider::getInstance()->setPathToScope(
+        QDir(folder).filePath(QStringLiteral("geometry/cup.stl")), FileCommands::scope());
     DialogAnswers answers;
     answers.add([this, &folder](QDialog& dialog) {
         if (auto* files = qobject_cast<QFileDialog*>(&dialog))
