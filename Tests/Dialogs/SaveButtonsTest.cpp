@@ -66,7 +66,7 @@ private Q_SLOTS:
     void hiddenSaveIsThereAllTheSame();
     void enterNeverDropsChanges();
     void pressedButtonsMeanWhatTheRulesSay();
-    void windowFlags();
+    void withoutCancelThereIsNoSystemMenu();
     void switchesAreTheApplicationsProperties();
 };
 
@@ -114,7 +114,7 @@ void SaveButtonsTest::pressedButtonsMeanWhatTheRulesSay()
     }
 }
 
-void SaveButtonsTest::windowFlags()
+void SaveButtonsTest::withoutCancelThereIsNoSystemMenu()
 {
     SaveSwitches switches;
     QCOMPARE(int(saveWindowFlags(switches)), 0x08003800);

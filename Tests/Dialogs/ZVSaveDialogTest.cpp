@@ -129,7 +129,7 @@ private Q_SLOTS:
     void designIsReleased();
     void jobThatEndedMeanwhileDoesNotCount();
     void textsAreAskedForInTheirContexts();
-    void germanBox();
+    void asksInTheUsersLanguage();
 };
 
 ZVSaveDialog::Result ZVSaveDialogTest::ask(const SaveCase& given, const Answer& answer) const
@@ -484,7 +484,7 @@ void ZVSaveDialogTest::textsAreAskedForInTheirContexts()
     }
 }
 
-void ZVSaveDialogTest::germanBox()
+void ZVSaveDialogTest::asksInTheUsersLanguage()
 {
     const Testing::GermanTexts german;
     QVERIFY(german.isInstalled());

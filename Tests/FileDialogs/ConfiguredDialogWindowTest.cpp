@@ -21,9 +21,9 @@ private Q_SLOTS:
     void dialogGeometryIsTheOuterOne();
     void ownerIsBlocked();
     void windowWithoutParentStaysUsable();
-    void ownerDestroyed();
-    void ownerClosed();
-    void secondDialogFromInsideTheFirst();
+    void destroyingTheOwnerCancels();
+    void closingTheOwnersWindowCancels();
+    void aSecondDialogOpensFromInsideTheFirst();
 };
 
 void ConfiguredDialogWindowTest::opensWhereItWasLeft()
@@ -176,7 +176,7 @@ void ConfiguredDialogWindowTest::windowWithoutParentStaysUsable()
     });
 }
 
-void ConfiguredDialogWindowTest::ownerDestroyed()
+void ConfiguredDialogWindowTest::destroyingTheOwnerCancels()
 {
     m_owner = new QWidget;
     m_owner->show();
@@ -187,7 +187,7 @@ void ConfiguredDialogWindowTest::ownerDestroyed()
     QCOMPARE(m_provider.calls.last(), QStringLiteral("set Import to ''"));
 }
 
-void ConfiguredDialogWindowTest::ownerClosed()
+void ConfiguredDialogWindowTest::closingTheOwnersWindowCancels()
 {
     QWidget window;
     auto* panel = new QWidget(&window);
@@ -200,7 +200,7 @@ void ConfiguredDialogWindowTest::ownerClosed()
     QVERIFY(panel->isEnabled());
 }
 
-void ConfiguredDialogWindowTest::secondDialogFromInsideTheFirst()
+void ConfiguredDialogWindowTest::aSecondDialogOpensFromInsideTheFirst()
 {
     FileDialogConfiguration second(QStringLiteral("Second"));
     ExpectedModals modals;

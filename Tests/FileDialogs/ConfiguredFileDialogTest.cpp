@@ -20,8 +20,8 @@ class ConfiguredFileDialogTest : public ConfiguredDialogTestCase
 private Q_SLOTS:
     void chosenFileIsReturned();
     void chosenFilesAreReturnedInOrder();
-    void cancel_data();
-    void cancel();
+    void cancelGivesNothingAndIsTold_data();
+    void cancelGivesNothingAndIsTold();
     void opensInTheFolderOfThePath();
     void presetFileIsSelectedAndTold();
     void deletedFolderOpensTheOneAbove();
@@ -60,7 +60,7 @@ void ConfiguredFileDialogTest::chosenFilesAreReturnedInOrder()
     QCOMPARE(chosen, QStringList({path(QStringLiteral("c.obj")), path(QStringLiteral("a.stl"))}));
 }
 
-void ConfiguredFileDialogTest::cancel_data()
+void ConfiguredFileDialogTest::cancelGivesNothingAndIsTold_data()
 {
     using Act = std::function<void(QFileDialog&)>;
     QTest::addColumn<Act>("act");
@@ -71,7 +71,7 @@ void ConfiguredFileDialogTest::cancel_data()
         [](QFileDialog& dialog) { QTest::mouseClick(cancelButton(dialog), Qt::LeftButton); });
 }
 
-void ConfiguredFileDialogTest::cancel()
+void ConfiguredFileDialogTest::cancelGivesNothingAndIsTold()
 {
     QFETCH(std::function<void(QFileDialog&)>, act);
     QCOMPARE(open([&act](QFileDialog& dialog) {

@@ -13,17 +13,17 @@ class DialogPathsTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void endingIndex_data();
-    void endingIndex();
-    void suffixOfAFilter_data();
-    void suffixOfAFilter();
-    void startOfDialogs_data();
-    void startOfDialogs();
-    void fileInTheFolder_data();
-    void fileInTheFolder();
+    void theEndingBeginsAtTheLastDotOfTheName_data();
+    void theEndingBeginsAtTheLastDotOfTheName();
+    void aFilterAppendsWhatStandsBehindItsFirstStar_data();
+    void aFilterAppendsWhatStandsBehindItsFirstStar();
+    void aStartPathIsSplitIntoFolderAndName_data();
+    void aStartPathIsSplitIntoFolderAndName();
+    void aNewFileLandsInTheFolderOrBesideTheFile_data();
+    void aNewFileLandsInTheFolderOrBesideTheFile();
 };
 
-void DialogPathsTest::endingIndex_data()
+void DialogPathsTest::theEndingBeginsAtTheLastDotOfTheName_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<int>("index");
@@ -43,13 +43,13 @@ void DialogPathsTest::endingIndex_data()
     row("ending behind both separators", "C:/a\\b.c", 6);
 }
 
-void DialogPathsTest::endingIndex()
+void DialogPathsTest::theEndingBeginsAtTheLastDotOfTheName()
 {
     QFETCH(QString, path);
     QTEST(fileEndingIndex(path), "index");
 }
 
-void DialogPathsTest::suffixOfAFilter_data()
+void DialogPathsTest::aFilterAppendsWhatStandsBehindItsFirstStar_data()
 {
     QTest::addColumn<QString>("filter");
     QTest::addColumn<QString>("suffix");
@@ -65,13 +65,13 @@ void DialogPathsTest::suffixOfAFilter_data()
     row("nothing", "", "");
 }
 
-void DialogPathsTest::suffixOfAFilter()
+void DialogPathsTest::aFilterAppendsWhatStandsBehindItsFirstStar()
 {
     QFETCH(QString, filter);
     QTEST(suffixOfFilter(filter), "suffix");
 }
 
-void DialogPathsTest::startOfDialogs_data()
+void DialogPathsTest::aStartPathIsSplitIntoFolderAndName_data()
 {
     QTest::addColumn<QString>("below");
     QTest::addColumn<QString>("folder");
@@ -89,7 +89,7 @@ void DialogPathsTest::startOfDialogs_data()
     row("several dots and a blank at the end", "/folder.d/a.b.c ", "/folder.d", "a.b.c ");
 }
 
-void DialogPathsTest::startOfDialogs()
+void DialogPathsTest::aStartPathIsSplitIntoFolderAndName()
 {
     QFETCH(QString, below);
     QFETCH(QString, folder);
@@ -101,7 +101,7 @@ void DialogPathsTest::startOfDialogs()
     QTEST(start.fileName, "fileName");
 }
 
-void DialogPathsTest::fileInTheFolder_data()
+void DialogPathsTest::aNewFileLandsInTheFolderOrBesideTheFile_data()
 {
     QTest::addColumn<QString>("below");
     QTest::addColumn<QString>("file");
@@ -115,7 +115,7 @@ void DialogPathsTest::fileInTheFolder_data()
     row("in a folder that is gone", "/gone/folder", "/gone/folder/new.dsg");
 }
 
-void DialogPathsTest::fileInTheFolder()
+void DialogPathsTest::aNewFileLandsInTheFolderOrBesideTheFile()
 {
     QFETCH(QString, below);
     QFETCH(QString, file);

@@ -40,17 +40,17 @@ class DialogPlacementTest : public Testing::TestCase
 private Q_SLOTS:
     void init();
 
-    void boundsOfScreens();
-    void ontoTheDesktop_data();
-    void ontoTheDesktop();
+    void theDesktopSpansAllScreens();
+    void rectanglesAreMovedOntoTheDesktop_data();
+    void rectanglesAreMovedOntoTheDesktop();
     void whatFitsLiesOnTheDesktop();
     void fittingTwiceChangesNothing();
-    void ontoSeveralScreens_data();
-    void ontoSeveralScreens();
+    void rectanglesAreMovedOntoTheNearestScreen_data();
+    void rectanglesAreMovedOntoTheNearestScreen();
     void someOfItIsAlwaysShown();
 
-    void offsetFromAScreen_data();
-    void offsetFromAScreen();
+    void offsetsCountFromTheCornerOfTheScreen_data();
+    void offsetsCountFromTheCornerOfTheScreen();
     void storedRectangleIsTaken();
     void withoutOneOffsetAndSizeAreTaken();
     void emptyStoredRectangleIsNone();
@@ -62,14 +62,14 @@ void DialogPlacementTest::init()
     QSettings().clear();
 }
 
-void DialogPlacementTest::boundsOfScreens()
+void DialogPlacementTest::theDesktopSpansAllScreens()
 {
     QCOMPARE(boundingGeometry({}), QRect());
     QCOMPARE(boundingGeometry({QRect(0, 0, 1920, 1080), QRect(1920, -200, 1280, 1024)}),
              QRect(QPoint(0, -200), QPoint(3199, 1079)));
 }
 
-void DialogPlacementTest::ontoTheDesktop_data()
+void DialogPlacementTest::rectanglesAreMovedOntoTheDesktop_data()
 {
     QTest::addColumn<QRect>("rect");
     QTest::addColumn<QRect>("desktop");
@@ -93,7 +93,7 @@ void DialogPlacementTest::ontoTheDesktop_data()
     row("two are not", QRect(1297, 50, 625, 600), s_desktop, QRect(1295, 50, 625, 600));
 }
 
-void DialogPlacementTest::ontoTheDesktop()
+void DialogPlacementTest::rectanglesAreMovedOntoTheDesktop()
 {
     QFETCH(QRect, rect);
     QFETCH(QRect, desktop);
@@ -120,7 +120,7 @@ void DialogPlacementTest::fittingTwiceChangesNothing()
     QVERIFY(holds);
 }
 
-void DialogPlacementTest::ontoSeveralScreens_data()
+void DialogPlacementTest::rectanglesAreMovedOntoTheNearestScreen_data()
 {
     QTest::addColumn<QRect>("rect");
     QTest::addColumn<std::vector<QRect>>("screens");
@@ -145,7 +145,7 @@ void DialogPlacementTest::ontoSeveralScreens_data()
     row("no screen at all", QRect(10, 10, 625, 600), {}, QRect(10, 10, 625, 600));
 }
 
-void DialogPlacementTest::ontoSeveralScreens()
+void DialogPlacementTest::rectanglesAreMovedOntoTheNearestScreen()
 {
     QFETCH(QRect, rect);
     QFETCH(std::vector<QRect>, screens);
@@ -165,7 +165,7 @@ void DialogPlacementTest::someOfItIsAlwaysShown()
     QVERIFY(holds);
 }
 
-void DialogPlacementTest::offsetFromAScreen_data()
+void DialogPlacementTest::offsetsCountFromTheCornerOfTheScreen_data()
 {
     QTest::addColumn<QSize>("offset");
     QTest::addColumn<QRect>("screen");
@@ -184,7 +184,7 @@ void DialogPlacementTest::offsetFromAScreen_data()
     row("no screen", QSize(30, 40), QRect(), QSize(30, 40));
 }
 
-void DialogPlacementTest::offsetFromAScreen()
+void DialogPlacementTest::offsetsCountFromTheCornerOfTheScreen()
 {
     QFETCH(QSize, offset);
     QFETCH(QRect, screen);

@@ -50,14 +50,14 @@ private Q_SLOTS:
     void withoutStoredGeometryTheRectangleStays();
     void emptyRectangleIsKeptToo();
     void temporaryGeometryIsForgotten();
-    void noPositionForAPreviewer();
+    void previewersHaveNoPosition();
 
     void controlsStayInOrder();
     void controlsAreFoundByIdentifier();
     void defaultSizeFollowsThePreviewer();
-    void offsetFromTheScreenOfTheMainWindow();
-    void offsetWithoutAMainWindow_data();
-    void offsetWithoutAMainWindow();
+    void offsetCountsFromTheScreenOfTheMainWindow();
+    void withoutAMainWindowTheOffsetStaysAsGiven_data();
+    void withoutAMainWindowTheOffsetStaysAsGiven();
 
     void copiesShareNothingButTheHandler();
     void handlerDoesNothing();
@@ -147,7 +147,7 @@ void FileDialogConfigurationTest::temporaryGeometryIsForgotten()
     QVERIFY(QSettings().allKeys().isEmpty());
 }
 
-void FileDialogConfigurationTest::noPositionForAPreviewer()
+void FileDialogConfigurationTest::previewersHaveNoPosition()
 {
     QCOMPARE(FileDialogConfiguration().getPositionForPreviewer(), QPoint(-1, -1));
 }
@@ -187,7 +187,7 @@ void FileDialogConfigurationTest::defaultSizeFollowsThePreviewer()
     QCOMPARE(configuration.getDefaultDialogSize(), QSize(500, 300));
 }
 
-void FileDialogConfigurationTest::offsetFromTheScreenOfTheMainWindow()
+void FileDialogConfigurationTest::offsetCountsFromTheScreenOfTheMainWindow()
 {
     FileDialogConfiguration configuration;
     for (const QScreen* screen : QGuiApplication::screens()) {
@@ -203,7 +203,7 @@ void FileDialogConfigurationTest::offsetFromTheScreenOfTheMainWindow()
     }
 }
 
-void FileDialogConfigurationTest::offsetWithoutAMainWindow_data()
+void FileDialogConfigurationTest::withoutAMainWindowTheOffsetStaysAsGiven_data()
 {
     QTest::addColumn<QVariant>("property");
     QTest::newRow("no property") << QVariant();
@@ -212,7 +212,7 @@ void FileDialogConfigurationTest::offsetWithoutAMainWindow_data()
     QTest::newRow("a null widget") << QVariant::fromValue<QWidget*>(nullptr);
 }
 
-void FileDialogConfigurationTest::offsetWithoutAMainWindow()
+void FileDialogConfigurationTest::withoutAMainWindowTheOffsetStaysAsGiven()
 {
     QFETCH(QVariant, property);
     const MainWindowProperty set(property);

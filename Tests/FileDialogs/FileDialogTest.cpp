@@ -47,12 +47,12 @@ private Q_SLOTS:
     void openTellsTheProvider();
     void openAtAFile();
     void openAtTheStartDirectory();
-    void openShortForm();
+    void theShortFormTakesNoOwnerAndAllFiles();
     void openPreselectsAFilter();
     void openDoesNotWriteTheFilterBack();
     void openGivesNativeSeparators();
-    void openSeveral();
-    void openSeveralCancelled();
+    void openSeveralGivesAllChosenInOrder();
+    void openSeveralCancelledTellsTheProviderNothing();
 
     void namesComeThrough_data();
     void namesComeThrough();
@@ -61,7 +61,7 @@ private Q_SLOTS:
 
     void ownerIsTheParent();
     void ownerIsTheMainWindow();
-    void noOwner();
+    void aMainWindowThatIsNoWidgetIsNoOwner();
     void ownerIsBlockedUpToTheMainWindow();
     void mainWindowItselfStaysEnabled();
     void disabledWidgetsStayDisabled();
@@ -76,8 +76,8 @@ private Q_SLOTS:
 
     void counterCounts_data();
     void counterCounts();
-    void counterOfNestedDialogs();
-    void counterAfterAnException();
+    void counterCountsNestedDialogs();
+    void anExceptionLeavesTheCounterAtZero();
 };
 
 void FileDialogTest::openAsksTheDriver()
@@ -133,7 +133,7 @@ void FileDialogTest::openAtTheStartDirectory()
     QCOMPARE(m_provider.calls.first(), QStringLiteral("places of Design"));
 }
 
-void FileDialogTest::openShortForm()
+void FileDialogTest::theShortFormTakesNoOwnerAndAllFiles()
 {
     FileDialog::getOpenFileName(s_caption, QString(), &m_provider, s_scope);
     const NativeFileDialogRequest& request = m_script.last();
@@ -168,7 +168,7 @@ void FileDialogTest::openGivesNativeSeparators()
     QCOMPARE(m_provider.calls.last(), QStringLiteral("set Design to '%1'").arg(expected));
 }
 
-void FileDialogTest::openSeveral()
+void FileDialogTest::openSeveralGivesAllChosenInOrder()
 {
     FileDialogConfiguration configuration;
     QWidget parent;
@@ -184,7 +184,7 @@ void FileDialogTest::openSeveral()
              QStringLiteral("set Design to '%1'").arg(QDir::toNativeSeparators(chosen.first())));
 }
 
-void FileDialogTest::openSeveralCancelled()
+void FileDialogTest::openSeveralCancelledTellsTheProviderNothing()
 {
     QCOMPARE(FileDialog::getOpenFileNames(s_caption, s_filter, &m_provider, s_scope),
              QStringList());
@@ -249,7 +249,7 @@ void FileDialogTest::ownerIsTheMainWindow()
     QCOMPARE(m_script.last().owner, &window);
 }
 
-void FileDialogTest::noOwner()
+void FileDialogTest::aMainWindowThatIsNoWidgetIsNoOwner()
 {
     const MainWindowProperty property(QVariant(QStringLiteral("no widget")));
     FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope);
@@ -465,7 +465,7 @@ void FileDialogTest::counterCounts()
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
 }
 
-void FileDialogTest::counterOfNestedDialogs()
+void FileDialogTest::counterCountsNestedDialogs()
 {
     int counted = 0;
     m_script.whileOpen = [&](const NativeFileDialogRequest&) {
@@ -480,7 +480,7 @@ void FileDialogTest::counterOfNestedDialogs()
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
 }
 
-void FileDialogTest::counterAfterAnException()
+void FileDialogTest::anExceptionLeavesTheCounterAtZero()
 {
     m_script.whileOpen = [](const NativeFileDialogRequest&) {
         throw std::runtime_error("the driver gives up");

@@ -9,13 +9,13 @@ class NativeFileFiltersTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void conversion_data();
-    void conversion();
-    void preselection_data();
-    void preselection();
+    void filtersAreSplitIntoNamesAndPatterns_data();
+    void filtersAreSplitIntoNamesAndPatterns();
+    void onlyAWholeTypeIsPreselected_data();
+    void onlyAWholeTypeIsPreselected();
 };
 
-void NativeFileFiltersTest::conversion_data()
+void NativeFileFiltersTest::filtersAreSplitIntoNamesAndPatterns_data()
 {
     QTest::addColumn<QString>("filter");
     QTest::addColumn<QStringList>("names");
@@ -66,7 +66,7 @@ void NativeFileFiltersTest::conversion_data()
         list({"*.b"}));
 }
 
-void NativeFileFiltersTest::conversion()
+void NativeFileFiltersTest::filtersAreSplitIntoNamesAndPatterns()
 {
     QFETCH(QString, filter);
     const NativeFileFilters filters = nativeFileFilters(filter, nullptr);
@@ -75,7 +75,7 @@ void NativeFileFiltersTest::conversion()
     QVERIFY(filters.preselectedPattern.isNull());
 }
 
-void NativeFileFiltersTest::preselection_data()
+void NativeFileFiltersTest::onlyAWholeTypeIsPreselected_data()
 {
     QTest::addColumn<QString>("selected");
     QTest::addColumn<QString>("pattern");
@@ -86,7 +86,7 @@ void NativeFileFiltersTest::preselection_data()
     QTest::newRow("empty is none") << QString() << QString();
 }
 
-void NativeFileFiltersTest::preselection()
+void NativeFileFiltersTest::onlyAWholeTypeIsPreselected()
 {
     QFETCH(QString, selected);
     QFETCH(QString, pattern);

@@ -54,11 +54,11 @@ private Q_SLOTS:
     void handlerCanBeTakenAway();
     void offsetIsTheMarginOnThePreviewsScreen();
     void offsetIsInvalidWithoutHandlerOrScreen();
-    void positionWithoutHandler();
-    void positionWithAnotherHandler();
-    void positionWithoutStoredGeometry();
-    void positionBesideTheStoredGeometry();
-    void positionBesideTheTemporaryGeometry();
+    void withoutAHandlerThePreviewStandsBesideTheDefaultSize();
+    void withAnotherHandlerStoredGeometryDoesNotCount();
+    void withoutStoredGeometryNothingIsDecided();
+    void previewStandsBesideTheStoredGeometry();
+    void temporaryGeometryCountsMoreThanStored();
     void temporaryGeometryIsUsedOnce();
     void dialogOnNoScreenComesToThePreviews_data();
     void dialogOnNoScreenComesToThePreviews();
@@ -165,7 +165,7 @@ void PreviewFileDialogConfigurationTest::offsetIsInvalidWithoutHandlerOrScreen()
     QCOMPARE(configuration.getTopLeftOffset(), QSize(-1, -1));
 }
 
-void PreviewFileDialogConfigurationTest::positionWithoutHandler()
+void PreviewFileDialogConfigurationTest::withoutAHandlerThePreviewStandsBesideTheDefaultSize()
 {
     PreviewFileDialogConfiguration configuration = previewConfiguration();
     QCOMPARE(configuration.getPositionForPreviewer(), QPoint(629, -1));
@@ -175,7 +175,7 @@ void PreviewFileDialogConfigurationTest::positionWithoutHandler()
     QCOMPARE(configuration.getPositionForPreviewer(), QPoint(404, -1));
 }
 
-void PreviewFileDialogConfigurationTest::positionWithAnotherHandler()
+void PreviewFileDialogConfigurationTest::withAnotherHandlerStoredGeometryDoesNotCount()
 {
     FileDialogEventHandler plain;
     PreviewFileDialogConfiguration configuration = previewConfiguration();
@@ -185,7 +185,7 @@ void PreviewFileDialogConfigurationTest::positionWithAnotherHandler()
     QCOMPARE(configuration.getPositionForPreviewer(), QPoint(629, -1));
 }
 
-void PreviewFileDialogConfigurationTest::positionWithoutStoredGeometry()
+void PreviewFileDialogConfigurationTest::withoutStoredGeometryNothingIsDecided()
 {
     Setup setup;
     const QSize offset = setup.configuration.getTopLeftOffset();
@@ -197,7 +197,7 @@ void PreviewFileDialogConfigurationTest::positionWithoutStoredGeometry()
     QVERIFY(!isStored());
 }
 
-void PreviewFileDialogConfigurationTest::positionBesideTheStoredGeometry()
+void PreviewFileDialogConfigurationTest::previewStandsBesideTheStoredGeometry()
 {
     Setup setup;
     const QRect dialog(40, 50, 350, 300);
@@ -210,7 +210,7 @@ void PreviewFileDialogConfigurationTest::positionBesideTheStoredGeometry()
     QCOMPARE(rect, moved);
 }
 
-void PreviewFileDialogConfigurationTest::positionBesideTheTemporaryGeometry()
+void PreviewFileDialogConfigurationTest::temporaryGeometryCountsMoreThanStored()
 {
     Setup setup;
     setup.configuration.storeFileDialogGeometry({40, 50, 350, 300});

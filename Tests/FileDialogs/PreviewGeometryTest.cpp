@@ -53,19 +53,19 @@ class PreviewGeometryTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void sideBySide_data();
-    void sideBySide();
+    void dialogAndPreviewStandSideBySide_data();
+    void dialogAndPreviewStandSideBySide();
     void nothingOverlaps();
     void sizesStayWhereTheyFit();
     void bothStayInsideWhereTheyFit();
     void tallPreviewsMoveUp();
     void repeatingChangesNothing();
-    void areaOfTheDialogsScreen_data();
-    void areaOfTheDialogsScreen();
+    void theScreenWithTheDialogsMiddleCounts_data();
+    void theScreenWithTheDialogsMiddleCounts();
     void screensOfTheApplication();
 };
 
-void PreviewGeometryTest::sideBySide_data()
+void PreviewGeometryTest::dialogAndPreviewStandSideBySide_data()
 {
     QTest::addColumn<QRect>("area");
     QTest::addColumn<QRect>("dialog");
@@ -121,7 +121,7 @@ void PreviewGeometryTest::sideBySide_data()
     // clang-format on
 }
 
-void PreviewGeometryTest::sideBySide()
+void PreviewGeometryTest::dialogAndPreviewStandSideBySide()
 {
     QFETCH(QRect, area);
     QFETCH(QRect, dialog);
@@ -217,7 +217,7 @@ void PreviewGeometryTest::repeatingChangesNothing()
     }));
 }
 
-void PreviewGeometryTest::areaOfTheDialogsScreen_data()
+void PreviewGeometryTest::theScreenWithTheDialogsMiddleCounts_data()
 {
     QTest::addColumn<QRect>("dialog");
     QTest::addColumn<int>("screen");
@@ -235,7 +235,7 @@ void PreviewGeometryTest::areaOfTheDialogsScreen_data()
     // clang-format on
 }
 
-void PreviewGeometryTest::areaOfTheDialogsScreen()
+void PreviewGeometryTest::theScreenWithTheDialogsMiddleCounts()
 {
     QFETCH(QRect, dialog);
     QFETCH(int, screen);

@@ -16,13 +16,13 @@ class ScreenScaleTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void bothWays_data();
-    void bothWays();
+    void rectanglesAreConvertedBothWays_data();
+    void rectanglesAreConvertedBothWays();
     void thereAndBackChangesNothing();
     void screensOfTheApplication();
 };
 
-void ScreenScaleTest::bothWays_data()
+void ScreenScaleTest::rectanglesAreConvertedBothWays_data()
 {
     using Screens = std::vector<ScaledScreen>;
     QTest::addColumn<Screens>("screens");
@@ -54,7 +54,7 @@ void ScreenScaleTest::bothWays_data()
     // clang-format on
 }
 
-void ScreenScaleTest::bothWays()
+void ScreenScaleTest::rectanglesAreConvertedBothWays()
 {
     QFETCH(std::vector<ScaledScreen>, screens);
     QFETCH(QRect, inQts);

@@ -11,8 +11,8 @@ class SelectedFilesTest : public Testing::TestCase
 private Q_SLOTS:
     void namesInTheBox_data();
     void namesInTheBox();
-    void order_data();
-    void order();
+    void filesComeInTheOrderOfTheFileNameBox_data();
+    void filesComeInTheOrderOfTheFileNameBox();
 };
 
 namespace {
@@ -52,7 +52,7 @@ void SelectedFilesTest::namesInTheBox()
     QTEST(namesInFileNameBox(text), "names");
 }
 
-void SelectedFilesTest::order_data()
+void SelectedFilesTest::filesComeInTheOrderOfTheFileNameBox_data()
 {
     QTest::addColumn<QStringList>("paths");
     QTest::addColumn<QString>("text");
@@ -73,7 +73,7 @@ void SelectedFilesTest::order_data()
         "/d/b.stl|/d/a.stl");
 }
 
-void SelectedFilesTest::order()
+void SelectedFilesTest::filesComeInTheOrderOfTheFileNameBox()
 {
     QFETCH(QStringList, paths);
     QFETCH(QString, text);

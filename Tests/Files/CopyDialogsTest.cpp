@@ -63,9 +63,9 @@ private Q_SLOTS:
     void collisionOffersReplaceForFilesOnly_data();
     void collisionOffersReplaceForFilesOnly();
     void collisionDefaultLosesNothing();
-    void collisionKeys_data();
-    void collisionKeys();
-    void collisionForAll();
+    void collisionKeysDecide_data();
+    void collisionKeysDecide();
+    void collisionAnswersForAllWhereMoreMayFollow();
     void collisionIsAccessible();
     void questionsAskByDialog();
     void questionClosedWithItsOwnerCancels();
@@ -80,8 +80,8 @@ private Q_SLOTS:
     void progressEndsWithItsOwner();
     void windowStaysResponsive();
     void inputWaitsUntilTheDialogIsThere();
-    void timeLeft_data();
-    void timeLeft();
+    void timeLeftIsRounded_data();
+    void timeLeftIsRounded();
 };
 
 void CopyDialogsTest::collisionButtonsDecide_data()
@@ -146,7 +146,7 @@ void CopyDialogsTest::collisionDefaultLosesNothing()
     QCOMPARE(dialog.answer().decision, CopyDecision::KeepBoth);
 }
 
-void CopyDialogsTest::collisionKeys_data()
+void CopyDialogsTest::collisionKeysDecide_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("modifiers");
@@ -158,7 +158,7 @@ void CopyDialogsTest::collisionKeys_data()
     QTest::newRow("Alt+C") << int(Qt::Key_C) << int(Qt::AltModifier) << int(CopyDecision::Cancel);
 }
 
-void CopyDialogsTest::collisionKeys()
+void CopyDialogsTest::collisionKeysDecide()
 {
     QFETCH(int, key);
     QFETCH(int, modifiers);
@@ -171,7 +171,7 @@ void CopyDialogsTest::collisionKeys()
     QCOMPARE(int(dialog.answer().decision), decision);
 }
 
-void CopyDialogsTest::collisionForAll()
+void CopyDialogsTest::collisionAnswersForAllWhereMoreMayFollow()
 {
     CopyCollisionDialog dialog(collision());
     QVERIFY(dialog.forAllBox()->text().contains(QLatin1Char('3')));
@@ -373,7 +373,7 @@ void CopyDialogsTest::inputWaitsUntilTheDialogIsThere()
     QCOMPARE(clicks, 0);
 }
 
-void CopyDialogsTest::timeLeft_data()
+void CopyDialogsTest::timeLeftIsRounded_data()
 {
     QTest::addColumn<qint64>("seconds");
     QTest::addColumn<QString>("text");
@@ -388,7 +388,7 @@ void CopyDialogsTest::timeLeft_data()
     row(5400, "About 2 hours left");
 }
 
-void CopyDialogsTest::timeLeft()
+void CopyDialogsTest::timeLeftIsRounded()
 {
     QFETCH(qint64, seconds);
     QFETCH(QString, text);

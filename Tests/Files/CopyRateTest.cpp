@@ -9,13 +9,13 @@ class CopyRateTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void unknownAtFirst();
-    void steadySpeed();
+    void theRateIsUnknownAtFirst();
+    void aSteadySpeedGivesTheTimeLeft();
     void followsAChange();
     void standstillHasNoTimeLeft();
 };
 
-void CopyRateTest::unknownAtFirst()
+void CopyRateTest::theRateIsUnknownAtFirst()
 {
     CopyRate rate;
     QVERIFY(!rate.bytesPerSecond());
@@ -25,7 +25,7 @@ void CopyRateTest::unknownAtFirst()
     QVERIFY(!rate.secondsLeft(1000));
 }
 
-void CopyRateTest::steadySpeed()
+void CopyRateTest::aSteadySpeedGivesTheTimeLeft()
 {
     CopyRate rate;
     for (int time = 0; time <= 10000; time += 50)

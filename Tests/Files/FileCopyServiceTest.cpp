@@ -61,9 +61,9 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void checkCode_data();
-    void checkCode();
-    void folderOfManySpellings();
+    void checkTellsWhyFilesCannotBeCopied_data();
+    void checkTellsWhyFilesCannotBeCopied();
+    void aFolderOfManySpellingsIsTheSame();
     void utilityCopiesNothingOnACheckCode();
     void utilityReturnsTheCopiersList();
     void utilityNeedsSources();
@@ -79,8 +79,8 @@ private Q_SLOTS:
     void missingSourceCopiesNothing();
     void outListHoldsCopiedAndRenamed();
     void outListIsReplaced();
-    void truthOfTheOutListForm_data();
-    void truthOfTheOutListForm();
+    void outListFormIsFalseWhenItFails_data();
+    void outListFormIsFalseWhenItFails();
     void fileNameFormConverts();
     void fileNamesKeepTheirBytes();
     void realCopyThroughTheWholeService();
@@ -121,7 +121,7 @@ QString FileCopyServiceTest::addFile(const QString& relativePath)
     return path;
 }
 
-void FileCopyServiceTest::checkCode_data()
+void FileCopyServiceTest::checkTellsWhyFilesCannotBeCopied_data()
 {
     QTest::addColumn<QString>("target");
     QTest::addColumn<QStringList>("sources");
@@ -153,7 +153,7 @@ void FileCopyServiceTest::checkCode_data()
     row("sub-folder of the target is elsewhere", "target", {QStringLiteral("target/sub/y")}, 0);
 }
 
-void FileCopyServiceTest::checkCode()
+void FileCopyServiceTest::checkTellsWhyFilesCannotBeCopied()
 {
     QFETCH(QString, target);
     QFETCH(QStringList, sources);
@@ -174,7 +174,7 @@ void FileCopyServiceTest::checkCode()
     QCOMPARE(FileCopyUtility::check(sources, QString()), 2);
 }
 
-void FileCopyServiceTest::folderOfManySpellings()
+void FileCopyServiceTest::aFolderOfManySpellingsIsTheSame()
 {
     const QString folder = m_root->filePath(QStringLiteral("a folder of a long name"));
     QDir().mkdir(folder);
@@ -397,7 +397,7 @@ void FileCopyServiceTest::outListIsReplaced()
     QVERIFY(copied.isEmpty());
 }
 
-void FileCopyServiceTest::truthOfTheOutListForm_data()
+void FileCopyServiceTest::outListFormIsFalseWhenItFails_data()
 {
     QTest::addColumn<QString>("source");
     QTest::addColumn<QString>("folder");
@@ -413,7 +413,7 @@ void FileCopyServiceTest::truthOfTheOutListForm_data()
                               << true;
 }
 
-void FileCopyServiceTest::truthOfTheOutListForm()
+void FileCopyServiceTest::outListFormIsFalseWhenItFails()
 {
     QFETCH(QString, source);
     QFETCH(QString, folder);

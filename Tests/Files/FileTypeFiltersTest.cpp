@@ -35,28 +35,28 @@ class FileTypeFiltersTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void clearText_data();
-    void clearText();
+    void everyTypeHasItsClearText_data();
+    void everyTypeHasItsClearText();
     void textsAreTranslatedAtTheMomentOfUse();
-    void filterForType_data() { clearText_data(); }
-    void filterForType();
-    void filterForKnownEnding_data();
-    void filterForKnownEnding();
-    void filterForUnknownEnding_data();
-    void filterForUnknownEnding();
-    void filterForTypes_data();
-    void filterForTypes();
-    void filterForEndings_data();
-    void filterForEndings();
+    void aTypesFilterNamesItsEnding_data() { everyTypeHasItsClearText_data(); }
+    void aTypesFilterNamesItsEnding();
+    void aKnownEndingIsNamedAfterItsType_data();
+    void aKnownEndingIsNamedAfterItsType();
+    void anUnknownEndingIsNamedAfterItself_data();
+    void anUnknownEndingIsNamedAfterItself();
+    void filtersOfTypesAreJoinedBehindAllAtOnce_data();
+    void filtersOfTypesAreJoinedBehindAllAtOnce();
+    void filtersOfEndingsAreJoinedBehindAllAtOnce_data();
+    void filtersOfEndingsAreJoinedBehindAllAtOnce();
     void allLabelMayHoldPlaceholders();
     void filtersAreTranslated();
     void germanCatalogueIsBuiltIn();
     void fileDialogsUnderstandFilters();
-    void documentationHasTheSameTable_data() { clearText_data(); }
+    void documentationHasTheSameTable_data() { everyTypeHasItsClearText_data(); }
     void documentationHasTheSameTable();
 };
 
-void FileTypeFiltersTest::clearText_data()
+void FileTypeFiltersTest::everyTypeHasItsClearText_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<QString>("text");
@@ -119,7 +119,7 @@ void FileTypeFiltersTest::clearText_data()
     row(-1, "Unknown File");
 }
 
-void FileTypeFiltersTest::clearText()
+void FileTypeFiltersTest::everyTypeHasItsClearText()
 {
     QFETCH(int, number);
     QFETCH(QString, text);
@@ -137,7 +137,7 @@ void FileTypeFiltersTest::textsAreTranslatedAtTheMomentOfUse()
     }
 }
 
-void FileTypeFiltersTest::filterForType()
+void FileTypeFiltersTest::aTypesFilterNamesItsEnding()
 {
     QFETCH(int, number);
     QFETCH(QString, text);
@@ -147,7 +147,7 @@ void FileTypeFiltersTest::filterForType()
     QCOMPARE(getFileFilterForTypes({type(number)}, false, {}), getFileFilterForType(type(number)));
 }
 
-void FileTypeFiltersTest::filterForKnownEnding_data()
+void FileTypeFiltersTest::aKnownEndingIsNamedAfterItsType_data()
 {
     QTest::addColumn<QString>("filter");
     QTest::newRow(".stp") << QStringLiteral("STEP File (*.stp)");
@@ -158,13 +158,13 @@ void FileTypeFiltersTest::filterForKnownEnding_data()
     QTest::newRow(".prt.*") << QStringLiteral("PROE File (*.prt.*)");
 }
 
-void FileTypeFiltersTest::filterForKnownEnding()
+void FileTypeFiltersTest::aKnownEndingIsNamedAfterItsType()
 {
     QFETCH(QString, filter);
     QCOMPARE(QString::fromStdString(getFileFilterForEnding(QTest::currentDataTag())), filter);
 }
 
-void FileTypeFiltersTest::filterForUnknownEnding_data()
+void FileTypeFiltersTest::anUnknownEndingIsNamedAfterItself_data()
 {
     QTest::addColumn<QString>("filter");
     QTest::newRow(".abc") << QStringLiteral("abc (*.abc)");
@@ -177,13 +177,13 @@ void FileTypeFiltersTest::filterForUnknownEnding_data()
     QTest::newRow(".*") << QStringLiteral("* (*.*)");
 }
 
-void FileTypeFiltersTest::filterForUnknownEnding()
+void FileTypeFiltersTest::anUnknownEndingIsNamedAfterItself()
 {
     QFETCH(QString, filter);
     QCOMPARE(QString::fromStdString(getFileFilterForEnding(QTest::currentDataTag())), filter);
 }
 
-void FileTypeFiltersTest::filterForTypes_data()
+void FileTypeFiltersTest::filtersOfTypesAreJoinedBehindAllAtOnce_data()
 {
     QTest::addColumn<QList<int>>("numbers");
     QTest::addColumn<bool>("withAllEntry");
@@ -210,7 +210,7 @@ void FileTypeFiltersTest::filterForTypes_data()
     // clang-format on
 }
 
-void FileTypeFiltersTest::filterForTypes()
+void FileTypeFiltersTest::filtersOfTypesAreJoinedBehindAllAtOnce()
 {
     QFETCH(QList<int>, numbers);
     QFETCH(bool, withAllEntry);
@@ -224,7 +224,7 @@ void FileTypeFiltersTest::filterForTypes()
         filter);
 }
 
-void FileTypeFiltersTest::filterForEndings_data()
+void FileTypeFiltersTest::filtersOfEndingsAreJoinedBehindAllAtOnce_data()
 {
     QTest::addColumn<QStringList>("endings");
     QTest::addColumn<bool>("withAllEntry");
@@ -247,7 +247,7 @@ void FileTypeFiltersTest::filterForEndings_data()
     // clang-format on
 }
 
-void FileTypeFiltersTest::filterForEndings()
+void FileTypeFiltersTest::filtersOfEndingsAreJoinedBehindAllAtOnce()
 {
     QFETCH(QStringList, endings);
     QFETCH(bool, withAllEntry);

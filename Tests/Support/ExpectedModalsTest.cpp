@@ -15,8 +15,8 @@ class ExpectedModalsTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void windowsAndExpectations_data();
-    void windowsAndExpectations();
+    void everyWindowNeedsItsExpectation_data();
+    void everyWindowNeedsItsExpectation();
     void expectationsAreMetInOrder();
     void answersMayOpenFurtherWindows();
     void answerThatLeavesItsWindowOpenFails();
@@ -28,7 +28,7 @@ private Q_SLOTS:
     void windowsThatCloseThemselvesAtOnceHaveNotCome();
 };
 
-void ExpectedModalsTest::windowsAndExpectations_data()
+void ExpectedModalsTest::everyWindowNeedsItsExpectation_data()
 {
     QTest::addColumn<QString>("expected");
     QTest::addColumn<int>("shown");
@@ -44,7 +44,7 @@ void ExpectedModalsTest::windowsAndExpectations_data()
     // clang-format on
 }
 
-void ExpectedModalsTest::windowsAndExpectations()
+void ExpectedModalsTest::everyWindowNeedsItsExpectation()
 {
     QFETCH(QString, expected);
     QFETCH(int, shown);

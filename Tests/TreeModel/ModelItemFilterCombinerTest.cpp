@@ -20,8 +20,8 @@ private Q_SLOTS:
     void init() { m_log.clear(); }
 
     void allMustAcceptIsTwo();
-    void accepts_data();
-    void accepts();
+    void asksFiltersUntilTheAnswerIsKnown_data();
+    void asksFiltersUntilTheAnswerIsKnown();
     void eachOverloadAsksTheSameOne();
     void seriesReachesEveryFilterInOrder();
     void changeOfAnyFilterReachesEverySlotOnce();
@@ -51,7 +51,7 @@ void ModelItemFilterCombinerTest::allMustAcceptIsTwo()
     QCOMPARE(static_cast<int>(ModelItemFilterCombiner::AllMustAccept), 2);
 }
 
-void ModelItemFilterCombinerTest::accepts_data()
+void ModelItemFilterCombinerTest::asksFiltersUntilTheAnswerIsKnown_data()
 {
     QTest::addColumn<Combination>("combination");
     QTest::addColumn<QVector<bool>>("answers");
@@ -78,7 +78,7 @@ void ModelItemFilterCombinerTest::accepts_data()
     // clang-format on
 }
 
-void ModelItemFilterCombinerTest::accepts()
+void ModelItemFilterCombinerTest::asksFiltersUntilTheAnswerIsKnown()
 {
     QFETCH(Combination, combination);
     QFETCH(QVector<bool>, answers);

@@ -167,8 +167,8 @@ private Q_SLOTS:
     void noCallbackIsRegisteredWithTheProvider();
     void severalViewsInTurn();
     void sameModelAnnouncesNothing();
-    void announcements_data();
-    void announcements();
+    void announcesNoMoreThanWhatChanged_data();
+    void announcesNoMoreThanWhatChanged();
     void manyChangesTakeFewAnnouncements_data();
     void manyChangesTakeFewAnnouncements();
     void viewsKnowAllRowsBeforeTheProviderWrites();
@@ -387,7 +387,7 @@ void ModelItemToZVTreeModelSyncronizerTest::sameModelAnnouncesNothing()
     QVERIFY(scene.signalLines.take().isEmpty());
 }
 
-void ModelItemToZVTreeModelSyncronizerTest::announcements_data()
+void ModelItemToZVTreeModelSyncronizerTest::announcesNoMoreThanWhatChanged_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("after");
@@ -407,7 +407,7 @@ void ModelItemToZVTreeModelSyncronizerTest::announcements_data()
     row("first row to the end", "KLMN", "LMNK", {QStringLiteral("layoutChanged")});
 }
 
-void ModelItemToZVTreeModelSyncronizerTest::announcements()
+void ModelItemToZVTreeModelSyncronizerTest::announcesNoMoreThanWhatChanged()
 {
     QFETCH(QString, before);
     QFETCH(QString, after);

@@ -38,8 +38,8 @@ class RowListSortingTest : public Testing::TestCase
 
 private Q_SLOTS:
     void anyListComesOutSortedWithItsRows();
-    void longListsOfIdentifiers_data();
-    void longListsOfIdentifiers();
+    void longListsAreSortedAsShortOnes_data();
+    void longListsAreSortedAsShortOnes();
 };
 
 void RowListSortingTest::anyListComesOutSortedWithItsRows()
@@ -60,7 +60,7 @@ void RowListSortingTest::anyListComesOutSortedWithItsRows()
     QVERIFY(held);
 }
 
-void RowListSortingTest::longListsOfIdentifiers_data()
+void RowListSortingTest::longListsAreSortedAsShortOnes_data()
 {
     QTest::addColumn<quint64>("factor");
     QTest::addColumn<int>("subValues");
@@ -70,7 +70,7 @@ void RowListSortingTest::longListsOfIdentifiers_data()
     QTest::newRow("one value only") << quint64(0) << 3;
 }
 
-void RowListSortingTest::longListsOfIdentifiers()
+void RowListSortingTest::longListsAreSortedAsShortOnes()
 {
     QFETCH(quint64, factor);
     QFETCH(int, subValues);

@@ -19,8 +19,8 @@ private Q_SLOTS:
     void startsWithTheInvalidIdentifier();
     void holdsTheIdentifier();
     void copiesAreEqual();
-    void validity_data();
-    void validity();
+    void anyPartMakesItValid_data();
+    void anyPartMakesItValid();
     void comparesAsTheIdentifiersDo_data();
     void comparesAsTheIdentifiersDo();
     void keysAMap();
@@ -49,7 +49,7 @@ void IdentifierQMetaClassTest::copiesAreEqual()
     QVERIFY(assigned == wrapper);
 }
 
-void IdentifierQMetaClassTest::validity_data()
+void IdentifierQMetaClassTest::anyPartMakesItValid_data()
 {
     QTest::addColumn<Identifier>("identifier");
     QTest::addColumn<bool>("valid");
@@ -60,7 +60,7 @@ void IdentifierQMetaClassTest::validity_data()
     QTest::newRow("high value") << Identifier(std::uint64_t(1) << 63U, 0) << true;
 }
 
-void IdentifierQMetaClassTest::validity()
+void IdentifierQMetaClassTest::anyPartMakesItValid()
 {
     QFETCH(Identifier, identifier);
     QFETCH(bool, valid);

@@ -93,15 +93,15 @@ class CommonItemDialogRunTest : public Testing::CommonItemDialogTestCase
 private Q_SLOTS:
     void dpiAwarenessIsTakenBack_data();
     void dpiAwarenessIsTakenBack();
-    void awareOfEachScreensScaling_data();
-    void awareOfEachScreensScaling();
+    void awarenessOfEachScreensScalingIsTakenBack_data();
+    void awarenessOfEachScreensScalingIsTakenBack();
     void windowEventsAreLeft_data();
     void windowEventsAreLeft();
     void noWindowEventsToBeHad();
     void apartmentIsLeft_data();
     void apartmentIsLeft();
-    void multithreadedApartment();
-    void handlerThatThrows();
+    void aMultithreadedApartmentIsRefused();
+    void handlerThatThrowsClosesTheDialogAndIsUnadvised();
     void placingStartsAgainUntilVisible();
 
 private:
@@ -157,12 +157,12 @@ void CommonItemDialogRunTest::dpiAwarenessIsTakenBack()
     QCOMPARE(s_contexts, contexts);
 }
 
-void CommonItemDialogRunTest::awareOfEachScreensScaling_data()
+void CommonItemDialogRunTest::awarenessOfEachScreensScalingIsTakenBack_data()
 {
     addEndings();
 }
 
-void CommonItemDialogRunTest::awareOfEachScreensScaling()
+void CommonItemDialogRunTest::awarenessOfEachScreensScalingIsTakenBack()
 {
     QFETCH(bool, isSave);
     QFETCH(int, ending);
@@ -232,7 +232,7 @@ void CommonItemDialogRunTest::apartmentIsLeft()
     QCOMPARE(result, CO_E_NOTINITIALIZED);
 }
 
-void CommonItemDialogRunTest::multithreadedApartment()
+void CommonItemDialogRunTest::aMultithreadedApartmentIsRefused()
 {
     // A dialog could be had on that thread, and would hang.
     m_dialogs.reset();
@@ -248,7 +248,7 @@ void CommonItemDialogRunTest::multithreadedApartment()
     QCOMPARE(m_script.dialogs, 0);
 }
 
-void CommonItemDialogRunTest::handlerThatThrows()
+void CommonItemDialogRunTest::handlerThatThrowsClosesTheDialogAndIsUnadvised()
 {
     addControls();
     QVERIFY(runTo(m_driver, false, Thrown));

@@ -51,7 +51,7 @@ private Q_SLOTS:
     void saveInThisOrder();
     void plainOpenAsksForNoMore();
     void controlsInThisOrder();
-    void controlOfAnUnknownType();
+    void controlOfAnUnknownTypeLeavesItsGroupEmpty();
     void optionsAreAdded_data();
     void optionsAreAdded();
     void resultsInTheirOrder();
@@ -62,15 +62,15 @@ private Q_SLOTS:
     void oneFailureOfSave();
     void listenersGetEventsByTheirInterfaces();
     void listenersLeaveQuestionsToTheDialog();
-    void aFailureInAnEvent_data();
-    void aFailureInAnEvent();
+    void aFailureInAnEventStillTellsTheHandler_data();
+    void aFailureInAnEventStillTellsTheHandler();
     void selectionFollowsTheFileNameBox();
     void callbacksOfADialogWithoutControls();
     void foldersOfEveryKind_data();
     void foldersOfEveryKind();
     void saveHasNoControls();
     void emptyPlaceIsNone();
-    void noMemoryForAListener();
+    void aListenerThatCannotBeMadeIsNotAdvised();
     void facadeTakesTheNativeDialog();
     void facadeFallsBack_data();
     void facadeFallsBack();
@@ -175,7 +175,7 @@ void CommonItemDialogTest::controlsInThisOrder()
     QCOMPARE(QStringList(calls.mid(first, expected.size())), expected);
 }
 
-void CommonItemDialogTest::controlOfAnUnknownType()
+void CommonItemDialogTest::controlOfAnUnknownTypeLeavesItsGroupEmpty()
 {
     m_configuration->addCustomControl(item(9, 77, "Group", QStringLiteral("text"), true, true, 1));
     const QStringList calls = openCalls();
@@ -333,7 +333,7 @@ void CommonItemDialogTest::listenersLeaveQuestionsToTheDialog()
     QVERIFY(m_handler.events.isEmpty());
 }
 
-void CommonItemDialogTest::aFailureInAnEvent_data()
+void CommonItemDialogTest::aFailureInAnEventStillTellsTheHandler_data()
 {
     QTest::addColumn<QString>("call");
     QTest::addColumn<QString>("event");
@@ -353,7 +353,7 @@ void CommonItemDialogTest::aFailureInAnEvent_data()
     QTest::newRow("no window") << QStringLiteral("GetWindow") << ordered;
 }
 
-void CommonItemDialogTest::aFailureInAnEvent()
+void CommonItemDialogTest::aFailureInAnEventStillTellsTheHandler()
 {
     QFETCH(QString, call);
     QFETCH(QString, event);
@@ -467,7 +467,7 @@ void CommonItemDialogTest::emptyPlaceIsNone()
     QVERIFY(calls.filter(QStringLiteral("SetFolder")).isEmpty());
 }
 
-void CommonItemDialogTest::noMemoryForAListener()
+void CommonItemDialogTest::aListenerThatCannotBeMadeIsNotAdvised()
 {
     ComPointer<IFileOpenDialog> dialog;
     QCOMPARE(CoCreateInstance(CLSID_FileOpenDialog, nullptr, CLSCTX_INPROC_SERVER,

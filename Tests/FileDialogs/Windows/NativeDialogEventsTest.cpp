@@ -90,26 +90,26 @@ private Q_SLOTS:
     void cleanup();
 
     void controlsAreThere();
-    void noControlsWithoutAHandler();
+    void withoutAHandlerNoControlsAreShown();
     void eventsComeInOrder();
     void selectionIsInOrderOfTheFileNameBox();
-    void nothingSelected();
+    void nothingSelectedIsAnEmptySelection();
     void handlerThatThrowsClosesTheDialog_data();
     void handlerThatThrowsClosesTheDialog();
-    void handlerThatThrowsAtOnce();
+    void handlerThatThrowsAtOnceEndsTheCall();
     void configurationThatThrowsClosesTheDialog_data();
     void configurationThatThrowsClosesTheDialog();
     void handlerSetsStatesOfControls();
     void handlerIsToldTheGeometry();
     void handlerPlacesTheDialog();
-    void placedAsSoonAsVisible();
+    void theDialogIsPlacedAsSoonAsVisible();
     void maximizedDialogIsPlaced();
     void placingADialogThatIsGone();
     void geometryIsRecorded();
     void otherEventsAreNotRecorded();
     void nothingIsRecordedAfterwards();
-    void standardKeyWithoutAConfiguration_data();
-    void standardKeyWithoutAConfiguration();
+    void withoutAConfigurationGeometryGoesToTheStandardKey_data();
+    void withoutAConfigurationGeometryGoesToTheStandardKey();
     void nestedDialogsRecordEachItsOwn();
 
 private:
@@ -182,7 +182,7 @@ void NativeDialogEventsTest::controlsAreThere()
     runToTheEnd(pilot);
 }
 
-void NativeDialogEventsTest::noControlsWithoutAHandler()
+void NativeDialogEventsTest::withoutAHandlerNoControlsAreShown()
 {
     addControls(*m_configuration);
     m_configuration->setEventHandler(nullptr);
@@ -247,7 +247,7 @@ void NativeDialogEventsTest::selectionIsInOrderOfTheFileNameBox()
     runToTheEnd(pilot);
 }
 
-void NativeDialogEventsTest::nothingSelected()
+void NativeDialogEventsTest::nothingSelectedIsAnEmptySelection()
 {
     // A dialog that is not shown has no selection, and fails to give it.
     const ComApartment apartment;
@@ -296,7 +296,7 @@ void NativeDialogEventsTest::handlerThatThrowsClosesTheDialog()
     runToTheEnd(next);
 }
 
-void NativeDialogEventsTest::handlerThatThrowsAtOnce()
+void NativeDialogEventsTest::handlerThatThrowsAtOnceEndsTheCall()
 {
     // The first event comes before the dialog is visible.
     m_handler->reaction = [](const FileDialogCallbackInterface&) {
@@ -417,7 +417,7 @@ void NativeDialogEventsTest::handlerPlacesTheDialog()
     runToTheEnd(pilot);
 }
 
-void NativeDialogEventsTest::placedAsSoonAsVisible()
+void NativeDialogEventsTest::theDialogIsPlacedAsSoonAsVisible()
 {
     // The dialog tells of its first file type before it is visible.
     const QRect place(40, 50, 720, 530);
@@ -550,14 +550,14 @@ void NativeDialogEventsTest::nothingIsRecordedAfterwards()
     QCOMPARE(m_configuration->stored.size(), 1U);
 }
 
-void NativeDialogEventsTest::standardKeyWithoutAConfiguration_data()
+void NativeDialogEventsTest::withoutAConfigurationGeometryGoesToTheStandardKey_data()
 {
     QTest::addColumn<bool>("isSave");
     QTest::newRow("open") << false;
     QTest::newRow("save, whatever configuration is given") << true;
 }
 
-void NativeDialogEventsTest::standardKeyWithoutAConfiguration()
+void NativeDialogEventsTest::withoutAConfigurationGeometryGoesToTheStandardKey()
 {
     QFETCH(bool, isSave);
     if (!isSave)

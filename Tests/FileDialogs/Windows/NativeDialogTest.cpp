@@ -26,8 +26,8 @@ private Q_SLOTS:
     void opensOneFile();
     void opensSeveralFiles();
     void saves();
-    void cancelled_data();
-    void cancelled();
+    void cancelInAnyWayGivesNothing_data();
+    void cancelInAnyWayGivesNothing();
     void showsWhatWasAskedFor();
     void saveShowsWhatWasAskedFor();
     void presetFileIsShownSelected();
@@ -36,14 +36,14 @@ private Q_SLOTS:
     void pathsOfEveryKind();
     void rootOfADriveIsShown();
     void forwardSlashesAreFine();
-    void unicodeNames();
+    void unicodeNamesComeThrough();
     void defaultSaveConfirmsOverwriting();
-    void missingEntryPoint();
-    void multithreadedApartment();
-    void oneDialogAfterAnother();
+    void aMissingEntryPointIsAFailure();
+    void aMultithreadedApartmentIsRefused();
+    void dialogsOpenOneAfterAnother();
     void ownerThatGoesTakesTheDialogAlong_data();
     void ownerThatGoesTakesTheDialogAlong();
-    void throughTheFacade();
+    void theFacadeHandsOverOwnerPathAndPlaces();
 
 private:
     QString path(const char* below) const { return m_folder->path(below); }
@@ -104,7 +104,7 @@ void NativeDialogTest::saves()
     QVERIFY2(result.paths[0].startsWith(path("new.stl")), qPrintable(result.paths[0]));
 }
 
-void NativeDialogTest::cancelled_data()
+void NativeDialogTest::cancelInAnyWayGivesNothing_data()
 {
     QTest::addColumn<bool>("isSave");
     QTest::addColumn<int>("way");
@@ -116,7 +116,7 @@ void NativeDialogTest::cancelled_data()
     }
 }
 
-void NativeDialogTest::cancelled()
+void NativeDialogTest::cancelInAnyWayGivesNothing()
 {
     QFETCH(bool, isSave);
     QFETCH(int, way);
@@ -277,7 +277,7 @@ void NativeDialogTest::forwardSlashesAreFine()
     QVERIFY(pilot.isDone());
 }
 
-void NativeDialogTest::unicodeNames()
+void NativeDialogTest::unicodeNamesComeThrough()
 {
     const QByteArray name("T\xC3\xBCr \xF0\x9F\x94\xA7.stl");
     m_folder->addFile(name.constData());
@@ -313,7 +313,7 @@ void NativeDialogTest::defaultSaveConfirmsOverwriting()
     QVERIFY(pilot.isDone());
 }
 
-void NativeDialogTest::missingEntryPoint()
+void NativeDialogTest::aMissingEntryPointIsAFailure()
 {
     CommonItemDialogDriver driver(L"user32.dll");
     QCOMPARE(driver.open(m_request).code, std::int32_t(E_FAIL));
@@ -321,7 +321,7 @@ void NativeDialogTest::missingEntryPoint()
     QVERIFY(driver.open(m_request).isFailure());
 }
 
-void NativeDialogTest::multithreadedApartment()
+void NativeDialogTest::aMultithreadedApartmentIsRefused()
 {
     NativeFileDialogResult opened;
     NativeFileDialogResult saved;
@@ -336,7 +336,7 @@ void NativeDialogTest::multithreadedApartment()
     QCOMPARE(saved.code, std::int32_t(RPC_E_CHANGED_MODE));
 }
 
-void NativeDialogTest::oneDialogAfterAnother()
+void NativeDialogTest::dialogsOpenOneAfterAnother()
 {
     for (int i = 0; i < 5; ++i)
         opensOneFile();
@@ -363,7 +363,7 @@ void NativeDialogTest::ownerThatGoesTakesTheDialogAlong()
     QVERIFY(result.paths.isEmpty());
 }
 
-void NativeDialogTest::throughTheFacade()
+void NativeDialogTest::theFacadeHandsOverOwnerPathAndPlaces()
 {
     QWidget mainWindow;
     mainWindow.show();

@@ -40,14 +40,14 @@ private Q_SLOTS:
     void cleanup();
 
     void selectsTheFile();
-    void onlyOnce();
-    void nothingWithoutAName();
+    void theFileIsSelectedOnlyOnce();
+    void withoutANameNothingIsSelected();
     void onlyTheWholeNameCounts_data();
     void onlyTheWholeNameCounts();
-    void dialogWithoutAView();
-    void noDialog();
-    void oneFailure_data();
-    void oneFailure();
+    void aDialogWithoutAViewIsLeftAlone();
+    void withoutADialogNothingHappens();
+    void aFailureEndsTheSearchUnlessAnotherItemFollows_data();
+    void aFailureEndsTheSearchUnlessAnotherItemFollows();
     void wantOfMemoryStaysOutOfTheSystemsCode();
 
 private:
@@ -121,13 +121,13 @@ void PresetFileTest::selectsTheFile()
     QCOMPARE(m_script.calls.calls(), s_callsToSelectB);
 }
 
-void PresetFileTest::onlyOnce()
+void PresetFileTest::theFileIsSelectedOnlyOnce()
 {
     change(QStringLiteral("b.stl"), 3);
     QCOMPARE(m_script.calls.calls(), s_callsToSelectB);
 }
 
-void PresetFileTest::nothingWithoutAName()
+void PresetFileTest::withoutANameNothingIsSelected()
 {
     change(QString());
     QVERIFY(m_script.calls.calls().isEmpty());
@@ -150,14 +150,14 @@ void PresetFileTest::onlyTheWholeNameCounts()
     QVERIFY(!m_script.calls.names().contains(QStringLiteral("SelectItem")));
 }
 
-void PresetFileTest::dialogWithoutAView()
+void PresetFileTest::aDialogWithoutAViewIsLeftAlone()
 {
     m_script.services = nullptr;
     change(QStringLiteral("b.stl"));
     QVERIFY(m_script.calls.calls().isEmpty());
 }
 
-void PresetFileTest::noDialog()
+void PresetFileTest::withoutADialogNothingHappens()
 {
     const auto guard = std::make_shared<DialogGuard>(nullptr);
     const auto events = ComPointer<CFileInitializeSelectHandler>::adopt(
@@ -165,14 +165,14 @@ void PresetFileTest::noDialog()
     QCOMPARE(events->OnSelectionChange(nullptr), S_OK);
 }
 
-void PresetFileTest::oneFailure_data()
+void PresetFileTest::aFailureEndsTheSearchUnlessAnotherItemFollows_data()
 {
     QTest::addColumn<int>("place");
     for (int i = 0; i < s_callsToSelectB.size(); ++i)
         QTest::newRow(qPrintable(s_callsToSelectB.at(i))) << i;
 }
 
-void PresetFileTest::oneFailure()
+void PresetFileTest::aFailureEndsTheSearchUnlessAnotherItemFollows()
 {
     QFETCH(int, place);
     m_failing.failCallAt(place, E_ACCESSDENIED);

@@ -56,11 +56,11 @@ class WindowsVersionTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void driverByVersion_data();
-    void driverByVersion();
+    void beforeVersionSixThereIsNoDriver_data();
+    void beforeVersionSixThereIsNoDriver();
 };
 
-void WindowsVersionTest::driverByVersion_data()
+void WindowsVersionTest::beforeVersionSixThereIsNoDriver_data()
 {
     QTest::addColumn<QString>("version");
     QTest::addColumn<int>("answer");
@@ -70,7 +70,7 @@ void WindowsVersionTest::driverByVersion_data()
     QTest::newRow("10.0") << QStringLiteral("win10") << int(Driver);
 }
 
-void WindowsVersionTest::driverByVersion()
+void WindowsVersionTest::beforeVersionSixThereIsNoDriver()
 {
     if (!isWine())
         QSKIP("only Wine can pretend to be another version of Windows");

@@ -65,7 +65,7 @@ private Q_SLOTS:
     void sameFileIsItsOwnAnswer_data();
     void sameFileIsItsOwnAnswer();
     void folderIsNeverReplaced();
-    void equalNamesWithinTheBatch();
+    void equalNamesWithinTheBatchAreAskedAbout();
     void keepBothOfALongNameStaysLegal();
     void nothingIsAskedTwiceWithForAll();
     void openFilesStayBounded();
@@ -352,7 +352,7 @@ void CopyEngineTest::folderIsNeverReplaced()
             FolderContent({{"a", "<folder>"}, {"b", "<folder>"}, {"b (2)", "2"}}));
 }
 
-void CopyEngineTest::equalNamesWithinTheBatch()
+void CopyEngineTest::equalNamesWithinTheBatchAreAskedAbout()
 {
     CopyFixture fixture;
     QCOMPARE(mkdir(fixture.source("sub").c_str(), 0755), 0);

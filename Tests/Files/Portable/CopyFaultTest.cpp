@@ -62,8 +62,8 @@ class CopyFaultTest : public Testing::TestCase
 private Q_SLOTS:
     void everyMeansGivesTheSameResult_data() { addMeansRows(); }
     void everyMeansGivesTheSameResult();
-    void faultAtEveryCall_data();
-    void faultAtEveryCall();
+    void aFaultAtAnyCallLosesNothing_data();
+    void aFaultAtAnyCallLosesNothing();
     void errorStopsOrSkips_data();
     void errorStopsOrSkips();
     void copiedFilesStayReported_data() { addMeansRows(); }
@@ -104,7 +104,7 @@ void CopyFaultTest::everyMeansGivesTheSameResult()
     QCOMPARE(outcomes[3].fate, CopyFate::Skipped);
 }
 
-void CopyFaultTest::faultAtEveryCall_data()
+void CopyFaultTest::aFaultAtAnyCallLosesNothing_data()
 {
     addMeansColumn();
     QTest::addColumn<int>("error");
@@ -114,7 +114,7 @@ void CopyFaultTest::faultAtEveryCall_data()
     QTest::newRow("hard links only, disk full") << int(Link) << ENOSPC;
 }
 
-void CopyFaultTest::faultAtEveryCall()
+void CopyFaultTest::aFaultAtAnyCallLosesNothing()
 {
     QFETCH(int, means);
     QFETCH(int, error);

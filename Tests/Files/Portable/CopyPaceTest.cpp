@@ -57,7 +57,7 @@ class CopyPaceTest : public Testing::TestCase
 private Q_SLOTS:
     void cancelLeavesNoTrace_data();
     void cancelLeavesNoTrace();
-    void cancelBetweenNames();
+    void cancelBetweenNamesKeepsWhatHasItsName();
     void largeFileIsGivenUpInPieces_data();
     void largeFileIsGivenUpInPieces();
     void folderIsFlushedForNewNamesOnly();
@@ -98,7 +98,7 @@ void CopyPaceTest::cancelLeavesNoTrace()
 }
 
 /** Each name may take a while, on the other side of a network. */
-void CopyPaceTest::cancelBetweenNames()
+void CopyPaceTest::cancelBetweenNamesKeepsWhatHasItsName()
 {
     CopyFixture fixture;
     const QStringList sources{fixture.addSource("a", "1"), fixture.addSource("b", "2"),

@@ -42,12 +42,12 @@ private Q_SLOTS:
     void targetToReplaceChangesMeanwhile();
     void targetToReplaceVanishes_data() { addMeansRows(); }
     void targetToReplaceVanishes();
-    void linkSwappedInAtTheTarget_data() { addMeansRows(); }
-    void linkSwappedInAtTheTarget();
-    void linkSwappedInAtTheSource();
-    void targetFolderSwappedForALink();
-    void caseOnlyCollision_data();
-    void caseOnlyCollision();
+    void aLinkSwappedInAtTheTargetIsNotFollowed_data() { addMeansRows(); }
+    void aLinkSwappedInAtTheTargetIsNotFollowed();
+    void aLinkSwappedInAtTheSourceIsNotFollowed();
+    void aLinkSwappedInForTheFolderIsNotFollowed();
+    void namesThatDifferInCaseOnlyCollide_data();
+    void namesThatDifferInCaseOnlyCollide();
     void caseMattersWhereItDoes();
 };
 
@@ -198,7 +198,7 @@ void CopyRaceTest::targetToReplaceVanishes()
     QVERIFY(fixture.targetContent() == FolderContent({{"a", "1"}}));
 }
 
-void CopyRaceTest::linkSwappedInAtTheTarget()
+void CopyRaceTest::aLinkSwappedInAtTheTargetIsNotFollowed()
 {
     QFETCH(int, means);
     CopyFixture fixture;
@@ -218,7 +218,7 @@ void CopyRaceTest::linkSwappedInAtTheTarget()
             FolderContent({{"a", "precious"}, {"precious", "precious"}}));
 }
 
-void CopyRaceTest::linkSwappedInAtTheSource()
+void CopyRaceTest::aLinkSwappedInAtTheSourceIsNotFollowed()
 {
     CopyFixture fixture;
     const QString source = fixture.addSource("a", "1");
@@ -235,7 +235,7 @@ void CopyRaceTest::linkSwappedInAtTheSource()
     QVERIFY(fixture.targetContent() == FolderContent({{"a", "old"}}));
 }
 
-void CopyRaceTest::targetFolderSwappedForALink()
+void CopyRaceTest::aLinkSwappedInForTheFolderIsNotFollowed()
 {
     CopyFixture fixture;
     const std::string folder = pathToBytes(fixture.targetFolder());
@@ -285,7 +285,7 @@ void ignoreCase(FaultySystem& system, const CopyFixture& fixture)
 
 } // namespace
 
-void CopyRaceTest::caseOnlyCollision_data()
+void CopyRaceTest::namesThatDifferInCaseOnlyCollide_data()
 {
     addMeansColumn();
     QTest::addColumn<bool>("withinBatch");
@@ -301,7 +301,7 @@ void CopyRaceTest::caseOnlyCollision_data()
     }
 }
 
-void CopyRaceTest::caseOnlyCollision()
+void CopyRaceTest::namesThatDifferInCaseOnlyCollide()
 {
     QFETCH(int, means);
     QFETCH(bool, withinBatch);

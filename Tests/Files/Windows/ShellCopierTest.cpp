@@ -27,7 +27,7 @@ private Q_SLOTS:
     void copiesAndReports();
     void operationIsSetUp();
     void ownerIsTheWidgetsWindow();
-    void renamedOnCollision();
+    void aCopyRenamedOnCollisionIsToldSo();
     void statusOfEachOutcome_data();
     void statusOfEachOutcome();
     void reportFollowsTheSources();
@@ -37,20 +37,20 @@ private Q_SLOTS:
     void nothingToCopyAsksNobody();
     void pathsOfEveryKind_data();
     void pathsOfEveryKind();
-    void relativePaths();
-    void rootOfADrive();
+    void relativePathsAreMadeAbsolute();
+    void theRootOfADriveIsATarget();
     void pathsForTheShell_data();
     void pathsForTheShell();
     void longPathIsRefusedOrCopied();
     void badSourceStopsEverything();
     void missingFolderStopsEverything();
-    void noEngine();
-    void theSystemsRefusingEngine();
-    void missingEntryPoints();
-    void multithreadedApartment();
+    void withoutAnEngineNothingIsCopied();
+    void anEngineThatRefusesCopiesNothing();
+    void missingEntryPointsDoNotSuffice();
+    void aMultithreadedApartmentIsRefused();
     void apartmentIsLeft_data();
     void apartmentIsLeft();
-    void wholeUtility();
+    void theUtilityCopiesByTheShell();
 
 private:
     QString addFile(const QString& relativePath);
@@ -137,7 +137,7 @@ void ShellCopierTest::ownerIsTheWidgetsWindow()
     QVERIFY(!m_script.owner);
 }
 
-void ShellCopierTest::renamedOnCollision()
+void ShellCopierTest::aCopyRenamedOnCollisionIsToldSo()
 {
     addFile(QStringLiteral("target/a.stl"));
     const QString a = addFile(QStringLiteral("source/a.stl"));
@@ -267,7 +267,7 @@ void ShellCopierTest::pathsOfEveryKind()
     QCOMPARE(records[0].status, 0);
 }
 
-void ShellCopierTest::relativePaths()
+void ShellCopierTest::relativePathsAreMadeAbsolute()
 {
     addFile(QStringLiteral("source/a.stl"));
     const QString before = QDir::currentPath();
@@ -280,7 +280,7 @@ void ShellCopierTest::relativePaths()
     QCOMPARE(records[0].target, path(QStringLiteral("target/a.stl")));
 }
 
-void ShellCopierTest::rootOfADrive()
+void ShellCopierTest::theRootOfADriveIsATarget()
 {
     // Whoever runs this may not write there, so the engine is told to make no copy.
     const QString source = addFile(QStringLiteral("source/a.stl"));
@@ -348,7 +348,7 @@ void ShellCopierTest::missingFolderStopsEverything()
     QVERIFY(!m_script.calls.names().contains(QStringLiteral("CopyItems")));
 }
 
-void ShellCopierTest::noEngine()
+void ShellCopierTest::withoutAnEngineNothingIsCopied()
 {
     const Testing::RegisteredClass none(CLSID_FileOperation,
                                         [](REFIID, void**) { return CLASS_E_CLASSNOTAVAILABLE; });
@@ -357,7 +357,7 @@ void ShellCopierTest::noEngine()
     QCOMPARE(m_script.operations, 0);
 }
 
-void ShellCopierTest::theSystemsRefusingEngine()
+void ShellCopierTest::anEngineThatRefusesCopiesNothing()
 {
     m_engine.reset();
     ComPointer<IFileOperation> engine;
@@ -369,7 +369,7 @@ void ShellCopierTest::theSystemsRefusingEngine()
     QVERIFY(filesInTarget().isEmpty());
 }
 
-void ShellCopierTest::missingEntryPoints()
+void ShellCopierTest::missingEntryPointsDoNotSuffice()
 {
     QVERIFY(ShellFunctions().sufficeForCopying());
     const ShellFunctions wrongLibrary(L"user32.dll");
@@ -378,7 +378,7 @@ void ShellCopierTest::missingEntryPoints()
     QVERIFY(!ShellFunctions(L"no-such-library.dll").sufficeForCopying());
 }
 
-void ShellCopierTest::multithreadedApartment()
+void ShellCopierTest::aMultithreadedApartmentIsRefused()
 {
     // An engine could be had on that thread; its windows would hang.
     const QString source = addFile(QStringLiteral("source/a.stl"));
@@ -431,7 +431,7 @@ void ShellCopierTest::apartmentIsLeft()
     QCOMPARE(result, CO_E_NOTINITIALIZED);
 }
 
-void ShellCopierTest::wholeUtility()
+void ShellCopierTest::theUtilityCopiesByTheShell()
 {
     const QString source = addFile(QStringLiteral("source/a.stl"));
     int result = -1;

@@ -103,11 +103,11 @@ private Q_SLOTS:
     void cleanup();
 
     void callsInThisOrder();
-    void aFailureAtEveryCall_data();
-    void aFailureAtEveryCall();
+    void aFailureAtAnyCallEndsTheCopyInOrder_data();
+    void aFailureAtAnyCallEndsTheCopyInOrder();
     void noCopyWithoutAPath();
     void filesOfTheSameNameAreToldApart();
-    void sameFileTwice();
+    void theSameFileTwiceIsToldOfTwice();
     void onlyTheNamesDecideAboutRenamed_data();
     void onlyTheNamesDecideAboutRenamed();
     void wantOfMemoryStaysOutOfTheSystemsCode();
@@ -187,7 +187,7 @@ void ShellCopyTest::callsInThisOrder()
     QCOMPARE(m_records[0].status, 0);
 }
 
-void ShellCopyTest::aFailureAtEveryCall_data()
+void ShellCopyTest::aFailureAtAnyCallEndsTheCopyInOrder_data()
 {
     QTest::addColumn<int>("place");
     QTest::addColumn<qint64>("result");
@@ -211,7 +211,7 @@ void ShellCopyTest::aFailureAtEveryCall_data()
     row(S_OK, {FileCopyUtility::Copied});
 }
 
-void ShellCopyTest::aFailureAtEveryCall()
+void ShellCopyTest::aFailureAtAnyCallEndsTheCopyInOrder()
 {
     QFETCH(int, place);
     QFETCH(QVector<int>, statuses);
@@ -258,7 +258,7 @@ void ShellCopyTest::filesOfTheSameNameAreToldApart()
     QCOMPARE(m_records[1].status, int(FileCopyUtility::CopiedUnderOtherName));
 }
 
-void ShellCopyTest::sameFileTwice()
+void ShellCopyTest::theSameFileTwiceIsToldOfTwice()
 {
     // Each of the two is the other as well, so that each of both copies is told of twice.
     const QString source = addFile(QStringLiteral("source/a.stl"));

@@ -16,8 +16,8 @@ class FileNameTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void parts_data();
-    void parts();
+    void aPathHasParentLeafAndExtension_data();
+    void aPathHasParentLeafAndExtension();
     void longPathsKeepEveryLetter();
     void emptyNameHasNoParts();
     void fileNameUsesTheSystemsSyntax();
@@ -30,7 +30,7 @@ private Q_SLOTS:
     void emptyNameIsEquivalentOnlyToItself();
 };
 
-void FileNameTest::parts_data()
+void FileNameTest::aPathHasParentLeafAndExtension_data()
 {
     QTest::addColumn<std::string>("path");
     QTest::addColumn<std::string>("parent");
@@ -57,7 +57,7 @@ void FileNameTest::parts_data()
     // clang-format on
 }
 
-void FileNameTest::parts()
+void FileNameTest::aPathHasParentLeafAndExtension()
 {
     QFETCH(std::string, path);
     const FileName file(path);

@@ -11,14 +11,14 @@ class PathSyntaxTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void parts_data();
-    void parts();
+    void everySpellingHasParentLeafAndExtension_data();
+    void everySpellingHasParentLeafAndExtension();
     void windowsSeparatorsTurnBothWays();
     void posixBackslashIsALetter();
     void longPathsKeepEveryLetter();
 };
 
-void PathSyntaxTest::parts_data()
+void PathSyntaxTest::everySpellingHasParentLeafAndExtension_data()
 {
     QTest::addColumn<PathSyntax>("syntax");
     QTest::addColumn<std::string>("path");
@@ -70,7 +70,7 @@ void PathSyntaxTest::parts_data()
     // clang-format on
 }
 
-void PathSyntaxTest::parts()
+void PathSyntaxTest::everySpellingHasParentLeafAndExtension()
 {
     QFETCH(PathSyntax, syntax);
     QFETCH(std::string, path);

@@ -31,21 +31,21 @@ class ZvFileTypeTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void endings_data();
-    void endings();
+    void everyTypeIsFoundByItsEnding_data();
+    void everyTypeIsFoundByItsEnding();
     void everyTypeHasAnEnding();
     void endingsDiffer();
     void numbersOutsideTheTableMatchAnyEnding_data();
     void numbersOutsideTheTableMatchAnyEnding();
-    void unknownEndings_data();
-    void unknownEndings();
-    void typeOfFileName_data();
-    void typeOfFileName();
+    void otherEndingsAreOfNoType_data();
+    void otherEndingsAreOfNoType();
+    void theLastEndingTellsTheType_data();
+    void theLastEndingTellsTheType();
     void stlIsTakenByItsContent_data();
     void stlIsTakenByItsContent();
 };
 
-void ZvFileTypeTest::endings_data()
+void ZvFileTypeTest::everyTypeIsFoundByItsEnding_data()
 {
     QTest::addColumn<int>("number");
     QTest::addColumn<QString>("ending");
@@ -67,7 +67,7 @@ void ZvFileTypeTest::endings_data()
     QCOMPARE(number, 52);
 }
 
-void ZvFileTypeTest::endings()
+void ZvFileTypeTest::everyTypeIsFoundByItsEnding()
 {
     QFETCH(int, number);
     QFETCH(QString, ending);
@@ -114,7 +114,7 @@ void ZvFileTypeTest::numbersOutsideTheTableMatchAnyEnding()
     QCOMPARE(getExtensionForFileType(static_cast<ZvFileType>(number)), std::string("*"));
 }
 
-void ZvFileTypeTest::unknownEndings_data()
+void ZvFileTypeTest::otherEndingsAreOfNoType_data()
 {
     QTest::addColumn<QString>("ending");
     QTest::addColumn<QString>("second");
@@ -129,7 +129,7 @@ void ZvFileTypeTest::unknownEndings_data()
     QTest::newRow("second alone") << QStringLiteral("bak") << QStringLiteral("prt");
 }
 
-void ZvFileTypeTest::unknownEndings()
+void ZvFileTypeTest::otherEndingsAreOfNoType()
 {
     QFETCH(QString, ending);
     QFETCH(QString, second);
@@ -137,7 +137,7 @@ void ZvFileTypeTest::unknownEndings()
              ZvFileType::Unknown);
 }
 
-void ZvFileTypeTest::typeOfFileName_data()
+void ZvFileTypeTest::theLastEndingTellsTheType_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<int>("type");
@@ -159,7 +159,7 @@ void ZvFileTypeTest::typeOfFileName_data()
     row("empty", "", ZvFileType::Unknown);
 }
 
-void ZvFileTypeTest::typeOfFileName()
+void ZvFileTypeTest::theLastEndingTellsTheType()
 {
     QFETCH(QString, file);
     QFETCH(int, type);

@@ -21,8 +21,8 @@ private Q_SLOTS:
     void combinerTellsWhatItCarries();
     void combinersOrderNothingIdentifierPart();
     void equalityLooksAtKindAndValue();
-    void hashOfIdentifier_data();
-    void hashOfIdentifier();
+    void hashesAreTheSameInEveryRun_data();
+    void hashesAreTheSameInEveryRun();
     void hashOfNothingIsZero();
     void hashOfCombinedPartIsThePartsOwn();
     void quickHashTellsAnyTwoBitsApart();
@@ -91,7 +91,7 @@ void IdentifiersTest::equalityLooksAtKindAndValue()
     QVERIFY(IDCombiner(Identifier(3, 1)) != IDCombiner(Identifier(3)));
 }
 
-void IdentifiersTest::hashOfIdentifier_data()
+void IdentifiersTest::hashesAreTheSameInEveryRun_data()
 {
     QTest::addColumn<quint64>("value");
     QTest::addColumn<quint16>("subValue");
@@ -110,7 +110,7 @@ void IdentifiersTest::hashOfIdentifier_data()
         << quint64(0x0) << quint16(0x7) << quint64(0xb5091ee0abdd9041);
 }
 
-void IdentifiersTest::hashOfIdentifier()
+void IdentifiersTest::hashesAreTheSameInEveryRun()
 {
     QFETCH(quint64, value);
     QFETCH(quint16, subValue);

@@ -57,8 +57,8 @@ private:
 
 private Q_SLOTS:
     void init();
-    void standardLocations_data() { addRows(); }
-    void standardLocations();
+    void foldersStandAtTheSystemsLocations_data() { addRows(); }
+    void foldersStandAtTheSystemsLocations();
     void existingSharedFolderIsFound();
     void settingOverrides_data() { addRows(); }
     void settingOverrides();
@@ -87,7 +87,7 @@ void PathConfigurationTest::init()
         qunsetenv(row.variable);
 }
 
-void PathConfigurationTest::standardLocations()
+void PathConfigurationTest::foldersStandAtTheSystemsLocations()
 {
     QFETCH(const Row*, row);
     const QString expected =

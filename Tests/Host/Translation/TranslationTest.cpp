@@ -35,8 +35,8 @@ private Q_SLOTS:
     void textIsTranslatedFromItsContext();
     void disambiguationAndCountAreHandedOn();
     void catalogueInstalledLaterServesTheNextCall();
-    void argString_data();
-    void argString();
+    void argumentsFillTheirPlaceholders_data();
+    void argumentsFillTheirPlaceholders();
     void argStringTakesStandardStringsInUtf8();
 };
 
@@ -71,7 +71,7 @@ void TranslationTest::catalogueInstalledLaterServesTheNextCall()
     QVERIFY(Translator::translate("ZvFileName", "All Files") != QStringLiteral("All Files"));
 }
 
-void TranslationTest::argString_data()
+void TranslationTest::argumentsFillTheirPlaceholders_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QStringList>("values");
@@ -103,7 +103,7 @@ void TranslationTest::argString_data()
     row("empty template", "", {a}, "");
 }
 
-void TranslationTest::argString()
+void TranslationTest::argumentsFillTheirPlaceholders()
 {
     QFETCH(QString, text);
     QFETCH(QStringList, values);

@@ -78,7 +78,7 @@ private Q_SLOTS:
     void bytesOfATextAreNotItsCharacters();
     void secondIdIsSilentWhenEqual();
     // Flags
-    void defaultFlags();
+    void rowsAreEnabledAndSelectableAtFirst();
     void flagsAreReplacedAndAnnouncedOnce();
     // Structure
     void constructorAppendsToItsParent();
@@ -425,7 +425,7 @@ void ZVTreeViewItemTest::secondIdIsSilentWhenEqual()
     QVERIFY(row.data(0, IdRole + 1).value<IDCombiner>() == idOf(2));
 }
 
-void ZVTreeViewItemTest::defaultFlags()
+void ZVTreeViewItemTest::rowsAreEnabledAndSelectableAtFirst()
 {
     const ZVTreeViewItem row;
     QCOMPARE(row.flags(), Qt::ItemIsSelectable | Qt::ItemIsEnabled);

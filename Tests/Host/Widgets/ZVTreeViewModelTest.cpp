@@ -79,7 +79,7 @@ private Q_SLOTS:
     void onlyColumnZeroHasChildren();
     void foreignIndexIsNobodys();
     void foreignRowHasNoIndex();
-    void siblingsAndBuddies();
+    void siblingsStandInTheSameParent();
     void matchFindsTexts();
     // Values
     void modelShowsWhatRowsAnswer();
@@ -283,7 +283,7 @@ void ZVTreeViewModelTest::foreignRowHasNoIndex()
     QVERIFY(!m_model->indexFromItem(&detached).isValid());
 }
 
-void ZVTreeViewModelTest::siblingsAndBuddies()
+void ZVTreeViewModelTest::siblingsStandInTheSameParent()
 {
     m_model->setColumnCount(2);
     appendRows(root(), "a b");

@@ -73,7 +73,7 @@ private Q_SLOTS:
     void saveCopyAsksBeforeTheEndingMeetsAFile();
     void saveCopyStaysInTheFolder();
 
-    void openFolderTyped();
+    void aTypedFolderIsOpened();
     void openFolderIsLeftByEscape();
 
 private:
@@ -303,7 +303,7 @@ void SaveByKeyboardTest::saveCopyStaysInTheFolder()
     QVERIFY(QFile::exists(path("second.dsg")));
 }
 
-void SaveByKeyboardTest::openFolderTyped()
+void SaveByKeyboardTest::aTypedFolderIsOpened()
 {
     m_window->session().close();
     ExpectedModals modals;

@@ -39,7 +39,7 @@ private Q_SLOTS:
     void longWorkShowsADialogUntilItIsDone();
     void cancelledWorkEndsByItself();
     void windowThatGoesMeanwhileCancels();
-    void dialogRejectedCancels();
+    void rejectingTheDialogCancels();
     void windowsCanScaleImagesMeanwhile();
     void exceptionsArriveWhereTheWorkIsWaitedFor();
 };
@@ -113,7 +113,7 @@ void BackgroundWorkTest::windowThatGoesMeanwhileCancels()
     QTRY_COMPARE(work.use_count(), 1L);
 }
 
-void BackgroundWorkTest::dialogRejectedCancels()
+void BackgroundWorkTest::rejectingTheDialogCancels()
 {
     const auto work = std::make_shared<LongWork>();
     Testing::ExpectedModals modals;

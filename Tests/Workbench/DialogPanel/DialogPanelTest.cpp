@@ -51,7 +51,7 @@ private Q_SLOTS:
     void resultsStandOneBelowTheOther();
     void resultsAreCopied();
     void resultsAreCleared();
-    void oneAtATime();
+    void onlyOneOpensAtATime();
     void escapeClosesAndDeletes();
     void escapeWaitsForTheDialog();
     void mayGoWhileADialogIsOpen();
@@ -178,7 +178,7 @@ void DialogPanelTest::resultsAreCleared()
     QVERIFY(m_panel->resultText().startsWith(QStringLiteral("Open one file\n")));
 }
 
-void DialogPanelTest::oneAtATime()
+void DialogPanelTest::onlyOneOpensAtATime()
 {
     m_script.whileOpen = [this](const NativeFileDialogRequest&) { m_panel->openChosen(); };
     m_panel->openChosen();

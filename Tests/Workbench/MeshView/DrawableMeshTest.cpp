@@ -46,7 +46,7 @@ private Q_SLOTS:
     void shallowFoldsAreSmoothed();
     void sharpFoldsKeepFlatNormals();
     void trianglesWithoutAreaHaveNoNormal();
-    void manyTrianglesAroundOnePoint();
+    void everyTriangleAroundOnePointIsDrawn();
 };
 
 void DrawableMeshTest::nothingAndAMeshWithoutTrianglesAreEmpty()
@@ -97,7 +97,7 @@ void DrawableMeshTest::trianglesWithoutAreaHaveNoNormal()
     QVERIFY(mesh.normals[1][2].isNull());
 }
 
-void DrawableMeshTest::manyTrianglesAroundOnePoint()
+void DrawableMeshTest::everyTriangleAroundOnePointIsDrawn()
 {
     const Mesh fan = makeMesh({{0, 0, 5}}, {});
     constexpr std::uint32_t count = 20000;

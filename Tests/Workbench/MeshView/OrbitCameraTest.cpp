@@ -43,8 +43,8 @@ class OrbitCameraTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void standardDirections_data();
-    void standardDirections();
+    void standardDirectionsLookAlongTheirAxes_data();
+    void standardDirectionsLookAlongTheirAxes();
     void fittingShowsTheWholeBoxFromEverySide();
     void fittingAPointOrNothingKeepsAUsableScale();
     void turningStopsStraightAboveAndBelow();
@@ -52,12 +52,12 @@ private Q_SLOTS:
     void zoomingKeepsWhatIsUnderThePointer();
     void zoomingHasLimits();
     void nearerPointsHaveMoreDepth();
-    void scaleBars_data();
-    void scaleBars();
-    void sizeTexts();
+    void scaleBarsTakeRoundLengths_data();
+    void scaleBarsTakeRoundLengths();
+    void sizesAreToldInMillimetres();
 };
 
-void OrbitCameraTest::standardDirections_data()
+void OrbitCameraTest::standardDirectionsLookAlongTheirAxes_data()
 {
     QTest::addColumn<ViewDirection>("direction");
     QTest::addColumn<QString>("right");
@@ -73,7 +73,7 @@ void OrbitCameraTest::standardDirections_data()
     // clang-format on
 }
 
-void OrbitCameraTest::standardDirections()
+void OrbitCameraTest::standardDirectionsLookAlongTheirAxes()
 {
     QFETCH(ViewDirection, direction);
     OrbitCamera camera;
@@ -161,7 +161,7 @@ void OrbitCameraTest::nearerPointsHaveMoreDepth()
     QVERIFY(view.project({0, 0, 5}).z() > view.project({0, 0, -5}).z());
 }
 
-void OrbitCameraTest::scaleBars_data()
+void OrbitCameraTest::scaleBarsTakeRoundLengths_data()
 {
     QTest::addColumn<double>("pixelsPerMm");
     QTest::addColumn<double>("millimetres");
@@ -172,7 +172,7 @@ void OrbitCameraTest::scaleBars_data()
     QTest::newRow("parts of a millimetre") << 3000.0 << 0.05;
 }
 
-void OrbitCameraTest::scaleBars()
+void OrbitCameraTest::scaleBarsTakeRoundLengths()
 {
     QFETCH(double, pixelsPerMm);
     QFETCH(double, millimetres);
@@ -181,7 +181,7 @@ void OrbitCameraTest::scaleBars()
     QCOMPARE(bar.pixels, millimetres * pixelsPerMm);
 }
 
-void OrbitCameraTest::sizeTexts()
+void OrbitCameraTest::sizesAreToldInMillimetres()
 {
     const QLocale c = QLocale::c();
     QCOMPARE(sizeText({120, 80.5f, 45}, c), QStringLiteral("120 × 80.5 × 45 mm"));

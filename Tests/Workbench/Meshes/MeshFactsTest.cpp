@@ -14,10 +14,10 @@ class MeshFactsTest : public TestCase
 private Q_SLOTS:
     void cubeIsWatertight();
     void openBoxIsNot();
-    void watertight_data();
-    void watertight();
+    void aGapOrATurnedTriangleIsNotWatertight_data();
+    void aGapOrATurnedTriangleIsNotWatertight();
     void nothingHasNoFacts();
-    void surfaceFarFromOrigin();
+    void surfaceIsExactFarFromTheOrigin();
 };
 
 Q_DECLARE_METATYPE(TriangleMesh)
@@ -40,7 +40,7 @@ void MeshFactsTest::openBoxIsNot()
     QVERIFY(!facts.watertight);
 }
 
-void MeshFactsTest::watertight_data()
+void MeshFactsTest::aGapOrATurnedTriangleIsNotWatertight_data()
 {
     QTest::addColumn<TriangleMesh>("mesh");
     QTest::addColumn<bool>("watertight");
@@ -81,7 +81,7 @@ void MeshFactsTest::watertight_data()
     QTest::newRow("only triangles of no size") << flat << false;
 }
 
-void MeshFactsTest::watertight()
+void MeshFactsTest::aGapOrATurnedTriangleIsNotWatertight()
 {
     QFETCH(TriangleMesh, mesh);
     QFETCH(bool, watertight);
@@ -97,7 +97,7 @@ void MeshFactsTest::nothingHasNoFacts()
     QVERIFY(!facts.watertight);
 }
 
-void MeshFactsTest::surfaceFarFromOrigin()
+void MeshFactsTest::surfaceIsExactFarFromTheOrigin()
 {
     TriangleMesh mesh = cube(16);
     for (QVector3D& point : mesh.points)

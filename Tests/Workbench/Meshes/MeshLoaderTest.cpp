@@ -26,7 +26,7 @@ private Q_SLOTS:
     void cancelDropsAllAnswers();
     void cancelFromAnswerAndStartAnew();
     void cancelWhileIdleTellsNothing();
-    void requestFromAnswer();
+    void anAnswerMayRequestTheNext();
     void readsChangedFileAgain();
     void readsTouchedFileAgain();
     void changeWhileReadingIsReadAgain();
@@ -216,7 +216,7 @@ void MeshLoaderTest::cancelWhileIdleTellsNothing()
     QCOMPARE(progress.count(), 0);
 }
 
-void MeshLoaderTest::requestFromAnswer()
+void MeshLoaderTest::anAnswerMayRequestTheNext()
 {
     const QStringList files = writeMany(3);
     connect(m_loader.get(), &MeshLoader::loaded, this, [&](const QString& path) {

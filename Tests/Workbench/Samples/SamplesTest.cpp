@@ -27,8 +27,8 @@ private Q_SLOTS:
     void designsOpenWithoutProblems_data();
     void designsOpenWithoutProblems();
     void onlyTheSpringbackResultIsMissing();
-    void meshes_data();
-    void meshes();
+    void meshesAreSoundAndOfTheirSize_data();
+    void meshesAreSoundAndOfTheirSize();
     void sheetsFaceUpWithoutFolds_data();
     void sheetsFaceUpWithoutFolds();
     void everyMeshFileIsPartOfItsDesign();
@@ -81,7 +81,7 @@ void SamplesTest::onlyTheSpringbackResultIsMissing()
     QCOMPARE(missing, QStringList(QStringLiteral("results/springback.csv")));
 }
 
-void SamplesTest::meshes_data()
+void SamplesTest::meshesAreSoundAndOfTheirSize_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<bool>("watertight");
@@ -114,7 +114,7 @@ void SamplesTest::meshes_data()
     // clang-format on
 }
 
-void SamplesTest::meshes()
+void SamplesTest::meshesAreSoundAndOfTheirSize()
 {
     QFETCH(QString, file);
     QFETCH(bool, watertight);

@@ -38,7 +38,7 @@ private Q_SLOTS:
     void secondResultGetsANameOfItsOwn();
     void stoppedRunLeavesNothing();
     void destroyedRunnerLeavesNothing();
-    void oneAtATime();
+    void onlyOneRunsAtATime();
     void designComputedElsewhereIsRefused();
     void unwritableResultsAreTold();
     void listenerMayStopTheLastSlice();
@@ -126,7 +126,7 @@ void SimulationRunnerTest::destroyedRunnerLeavesNothing()
     QVERIFY(results().isEmpty());
 }
 
-void SimulationRunnerTest::oneAtATime()
+void SimulationRunnerTest::onlyOneRunsAtATime()
 {
     QVERIFY(!m_runner->start(design()));
     QVERIFY(m_runner->start(design()));

@@ -79,7 +79,7 @@ private Q_SLOTS:
     void tellsWhatItRemoved();
     void growsToTwiceItsSizeAtMost();
     void neverRunsOutOfRows();
-    void noKindsNoEdits();
+    void withoutKindsNothingIsEdited();
 };
 
 void StressTreeTest::hasTheChosenSizeAndShape_data()
@@ -202,7 +202,7 @@ void StressTreeTest::neverRunsOutOfRows()
     QCOMPARE(int(deep.root()->totalItemCount()), deep.rowCount());
 }
 
-void StressTreeTest::noKindsNoEdits()
+void StressTreeTest::withoutKindsNothingIsEdited()
 {
     StressTree tree(StressShape::Deep, 50, 1);
     const QStringList before = described(*tree.root());
