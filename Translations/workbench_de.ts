@@ -2268,8 +2268,8 @@
         <translation>Zum &amp;Bezug gehen</translation>
     </message>
     <message>
-        <source>Select an object that uses this one</source>
-        <translation>Ein Objekt auswählen, das dieses verwendet</translation>
+        <source>Select an object that uses this one or is used by it</source>
+        <translation>Ein Objekt auswählen, das dieses verwendet oder von ihm verwendet wird</translation>
     </message>
     <message>
         <source>Zoom &amp;In</source>

@@ -34,7 +34,7 @@ void WorkbenchActions::initActions()
         {Rename,           "RenameAction",           QT_TR_NOOP("Re&name"),              QT_TR_NOOP("Change the name of the selected object"),      "F2",               ""},
         {Remove,           "RemoveAction",           QT_TR_NOOP("Re&move from Design"),  QT_TR_NOOP("The file of the object stays"),                "Del",              ""},
         {Find,             "FindAction",             QT_TR_NOOP("&Find"),                QT_TR_NOOP("Filter the tree by words"),                    "Ctrl+F",           ""},
-        {GoToReference,    "GoToReferenceAction",    QT_TR_NOOP("&Go to Reference"),     QT_TR_NOOP("Select an object that uses this one"),         "Ctrl+G",           ""},
+        {GoToReference,    "GoToReferenceAction",    QT_TR_NOOP("&Go to Reference"),     QT_TR_NOOP("Select an object that uses this one or is used by it"), "Ctrl+G",       ""},
         {ZoomIn,           "ZoomInAction",           QT_TR_NOOP("Zoom &In"),             "",                                                        "Ctrl++",           ""},
         {ZoomOut,          "ZoomOutAction",          QT_TR_NOOP("Zoom &Out"),            "",                                                        "Ctrl+-",           ""},
         {ExpandAll,        "ExpandAllAction",        QT_TR_NOOP("&Expand All"),          "",                                                        "Ctrl+Shift+Right", ""},
