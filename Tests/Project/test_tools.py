@@ -134,21 +134,67 @@ class LayersTest(ToolTest):
 
 
 class TextTest(ToolTest):
-    UNWANTED = ("see /ro" "ot/x", "copied to '/tm" "p/pictures'", "C:\\Us" "ers\\someone",
+    UNWANTED = ("see /ho" "me/x", "file:///ho" "me/x", "PATH=bin:/mn" "t/x", "copied to '/tm" "p/pictures'", "C:\\Us" "ers\\someone",
                 "// TO" "DO later", "FIX" "ME: wrong", "<" * 7 + " ours", ">" * 7 + " theirs")
+
+    def assert_finds(self, name, *findings):
+        result = self.check("check-text")
+        self.assertEqual(result.returncode, 1)
+        for finding in findings:
+            self.assertIn(f"{name}:{finding}", result.stdout)
+        self.assertIn(f"Text: {len(findings)} to mend\n", result.stdout)
+
+    def assert_in_order(self):
+        result = self.check("check-text")
+        self.assertEqual((result.returncode, result.stdout), (0, "Text: in order\n"))
 
     def test_finds_what_must_not_stay(self):
         for text in self.UNWANTED:
             with self.subTest(text=text):
                 self.write("Files/A.cpp", f"int a;\n{text}\n")
-                result = self.check("check-text")
-                self.assertEqual(result.returncode, 1)
-                self.assertIn("Files/A.cpp:2: ", result.stdout)
+                self.assert_finds("Files/A.cpp", "2: ")
 
     def test_accepts_what_only_looks_like_it(self):
-        self.write("Files/A.cpp", "path/wo" "rk/a $ROOT/ro" "ot/b \"${x}/tm" "p/c\" <<<<<<< s_todo\n")
-        self.write("picture.png").write_bytes(b"\0/ro" b"ot/x")
-        self.assertEqual(self.check("check-text").returncode, 0)
+        self.write("Files/A.cpp", "path/ho" "me/a $ROOT/ho" "me/b \"${x}/tm" "p/c\" s_todo\n"
+                                  ":/ico" "ns/a.svg //ser" "ver/share <<<<<<< ours\n")
+        self.write("picture.png").write_bytes(b"\0/ho" b"me/x")
+        self.assert_in_order()
+
+    def test_finds_folders_that_no_system_has(self):
+        for name in ("Files/A.cpp", "Tools/a", "Docs/A.md", "Tests/Project/test_a.py"):
+            with self.subTest(name=name):
+                path = self.write(name, "/usr/bin/env /proc/self/statm /etc/apt\n'/proj" "ects/x'\n")
+                self.assert_finds(name, "2: a path of one machine")
+                path.unlink()
+
+    def test_tests_make_up_folders(self):
+        self.write("Tests/Files/A.cpp", "'/proj" "ects/x'\n")
+        self.assert_in_order()
+        self.write("Tests/Files/A.cpp", "'/ho" "me/x'\n")
+        self.assert_finds("Tests/Files/A.cpp", "1: a path of one machine")
+
+    def test_finds_comments_too_wide(self):
+        for begin in ("// ", "    // ", "/** ", " * ", "/// ", "# "):
+            with self.subTest(begin=begin):
+                self.write("Files/A.h", begin + "x" * (100 - len(begin)) + "\n")
+                self.assert_in_order()
+                self.write("Files/A.h", begin + "x" * (101 - len(begin)) + "\n")
+                self.assert_finds("Files/A.h", "1: 101 columns, 100 are the most")
+
+    def test_finds_documents_too_wide(self):
+        for line in ("words " * 17, "- words " * 17):
+            with self.subTest(line=line):
+                self.write("Docs/A.md", line + "\n")
+                self.assert_finds("Docs/A.md", f"1: {len(line)} columns")
+
+    def test_accepts_wide_lines_that_cannot_be_broken(self):
+        wide = "x" * 120
+        self.write("Docs/A.md", f"# {wide}\n| {wide} |\n![{wide}](a.png)\n")
+        self.write("Files/A.cpp", f'auto a = "{wide}";\n// clang-format off\n'
+                                  f"    // {wide}\n// clang-format on\n")
+        self.assert_in_order()
+        self.write("Files/A.cpp", f"// clang-format off\n// clang-format on\n// {wide}\n")
+        self.assert_finds("Files/A.cpp", "3: ")
 
     def test_finds_files_too_long_to_read(self):
         self.write("Files/A.cpp", "\n" * 700)

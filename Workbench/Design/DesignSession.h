@@ -24,8 +24,8 @@ namespace Zorvane::Workbench {
  * Lives in one thread with an event loop. References and pointers into designs are valid until the
  * next `changed`.
  *
- * Edits are `rename`, `setQuantity`, `addFiles` and `take`. `replay` and `putBack` undo them and
- * make them again, by the `DesignEdit` that tells of each.
+ * Edits are `rename`, `setQuantity`, `addFiles` and `take`. `replay`, `takeAgain` and `putBack`
+ * undo them and make them again, by the `DesignEdit` that tells of each.
  * Not supported: removing and adding any but files and their parts.
  */
 class DesignSession : public QObject

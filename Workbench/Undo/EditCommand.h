@@ -11,8 +11,8 @@ class DesignSession;
 
 /**
  * One change of a design that can be taken back and made again, exactly. One that no longer fits,
- * since what it changed isn't as it left it, does nothing: somebody else has changed that, and would
- * lose it. The session must outlive it.
+ * since what it changed isn't as it left it, does nothing: somebody else has changed that, and
+ * would lose it. The session must outlive it.
  */
 class EditCommand
 {
