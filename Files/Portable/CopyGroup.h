@@ -35,8 +35,8 @@ struct CopyContext
 /**
  * Complete files that wait to be made durable and then get their names. Flushing many small files
  * at one stroke costs a small part of flushing each; the size of a group adapts so that it takes
- * some ten milliseconds. Where it takes much longer all the same, since other programs write too,
- * the next groups are flushed file by file, so that one can cancel in between.
+ * 25 to 50 ms. Where it takes much longer all the same, since other programs write too, the next
+ * groups are flushed file by file, so that one can cancel in between.
  */
 class CopyGroup
 {

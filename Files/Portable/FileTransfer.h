@@ -27,7 +27,7 @@ struct TransferResult
 };
 
 /**
- * Copies contents in slices that take some ten milliseconds each, whatever the speed of the disks.
+ * Copies contents in slices that take 10 to 40 ms each, whatever the speed of the disks.
  * What large files have written is pushed to disk on the way, so that flushing them at the end
  * takes no time in which nobody could cancel, and unwritten data doesn't pile up in memory.
  */
