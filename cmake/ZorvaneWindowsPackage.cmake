@@ -2,6 +2,19 @@
 # Windows itself, to be unpacked and started anywhere.
 
 set(component Workbench)
+
+# Under what terms a library in the zip may be passed on: the first of the files that is there.
+function(zorvane_install_license library)
+    foreach(file ${ARGN})
+        if(EXISTS ${file})
+            install(FILES ${file} DESTINATION licenses RENAME ${library}.txt
+                COMPONENT ${component})
+            return()
+        endif()
+    endforeach()
+    message(WARNING "The zip will hold ${library} without its license: none of ${ARGN}")
+endfunction()
+
 install(TARGETS workbench ZorvaneUiTools RUNTIME DESTINATION bin COMPONENT ${component})
 if(NOT ZORVANE_HOST_FROM_PACKAGE)
     install(TARGETS ZorvaneHost RUNTIME DESTINATION bin COMPONENT ${component})
@@ -19,11 +32,22 @@ foreach(plugin platforms/qwindows styles/qwindowsvistastyle imageformats/qsvg ic
     install(FILES ${qt_folder}/plugins/${plugin}.dll
         DESTINATION bin/${kind} COMPONENT ${component})
 endforeach()
+zorvane_install_license(Qt ${qt_folder}/LICENSE.LGPL3 ${qt_folder}/LICENSE.LGPLv3
+    ${qt_folder}/../Licenses/LICENSE)
 
 # assimp's own needs lie beside it.
 find_package(assimp REQUIRED)
 install(DIRECTORY $<TARGET_FILE_DIR:assimp::assimp>/ DESTINATION bin COMPONENT ${component}
     FILES_MATCHING PATTERN "*.dll")
+get_filename_component(assimp_folder ${assimp_DIR}/../../.. ABSOLUTE)
+zorvane_install_license(assimp ${assimp_folder}/LICENSE ${assimp_folder}/share/assimp/copyright)
+
+# Of what is built into them, such as Qt's font engine.
+foreach(folder ${qt_folder} ${assimp_folder})
+    if(EXISTS ${folder}/licenses)
+        install(DIRECTORY ${folder}/licenses/ DESTINATION licenses COMPONENT ${component})
+    endif()
+endforeach()
 
 if(MINGW)
     foreach(library libgcc_s_seh-1 libstdc++-6 libwinpthread-1)
@@ -35,6 +59,8 @@ if(MINGW)
         execute_process(COMMAND ${CMAKE_STRIP} -o ${stripped} ${file})
         install(FILES ${stripped} DESTINATION bin COMPONENT ${component})
     endforeach()
+    zorvane_install_license(GCC /usr/share/doc/gcc-mingw-w64-base/copyright)
+    zorvane_install_license(MinGW-w64 /usr/share/doc/mingw-w64-common/copyright)
 else()
     set(CMAKE_INSTALL_SYSTEM_RUNTIME_COMPONENT ${component})
     include(InstallRequiredSystemLibraries)

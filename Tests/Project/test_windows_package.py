@@ -53,7 +53,8 @@ class WindowsPackageTest(unittest.TestCase):
         for name in ("bin/workbench.exe", "bin/Qt5Core.dll", "bin/platforms/qwindows.dll",
                      "bin/libstdc++-6.dll", "bin/libassimp-5.dll", "README.md",
                      "samples/drawn-cup/drawn-cup.dsg", "samples/door-panel/door-panel.dsg",
-                     "share/doc/zorvane-uitools/Workbench.md"):
+                     "share/doc/zorvane-uitools/Workbench.md", "licenses/Qt.txt",
+                     "licenses/assimp.txt", "licenses/GCC.txt", "licenses/MinGW-w64.txt"):
             with self.subTest(name):
                 self.assertIn(name, names)
         self.assertFalse([name for name in names if "Test" in name])

@@ -32,12 +32,12 @@ Totals: 5 passed, 0 failed, 0 skipped, 0 blacklisted, 2ms</system-out></testcase
 
 class SummaryTest(unittest.TestCase):
     def summary(self, run=RUN, here=("Files.A", "Files.B", "Files.C"),
-                windows=("Files.A", "Files.B", "Files.C"), reasons=()):
+                windows=("Files.A", "Files.B", "Files.C"), reasons=(), is_whole=True):
         with tempfile.TemporaryDirectory() as folder:
             path = pathlib.Path(folder) / "tests.xml"
             path.write_text(run, encoding="utf-8")
             results = SUMMARY.Results(path)
-        return SUMMARY.summarize(results, set(here), set(windows), list(reasons))
+        return SUMMARY.summarize(results, set(here), set(windows), list(reasons), is_whole)
 
     def test_counts_and_names_what_failed(self):
         lines, faults = self.summary()
@@ -51,6 +51,14 @@ class SummaryTest(unittest.TestCase):
         lines, _ = self.summary(run=RUN.replace('status="fail"', 'status="notrun"'))
         self.assertEqual(lines[-1], "2 passed, 1 failed")
         self.assertIn("FAILED: Files.C", lines)
+
+    def test_a_whole_run_has_a_result_of_each_test(self):
+        known = ("Files.A", "Files.B", "Files.C", "Files.D")
+        lines, faults = self.summary(here=known, windows=known)
+        self.assertEqual(faults, ["Files.D has no result"])
+        self.assertIn("TO MEND: Files.D has no result", lines)
+        _, faults = self.summary(here=known, windows=known, is_whole=False)
+        self.assertEqual(faults, [])
 
     def test_tells_what_was_skipped_and_why(self):
         lines, _ = self.summary()
