@@ -186,6 +186,8 @@ void ConfiguredFileDialog::setControlState(int controlId, int state)
 
 void ConfiguredFileDialog::placeLater(FileDialogConfiguration* configuration)
 {
+    if (!configuration)
+        return;
     QTimer::singleShot(s_dialogPlacementDelay, this, [this, configuration] {
         if (m_isClosedDown)
             return;

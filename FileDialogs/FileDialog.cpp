@@ -39,7 +39,7 @@ QString firstOf(const QStringList& paths)
     return paths.isEmpty() ? QString() : paths.first();
 }
 
-/** The filter that each scope saved by last. */
+/** The filter that was used last for saving in each scope. */
 QHash<QString, QString>& lastSaveFilters()
 {
     static QHash<QString, QString> filters;
@@ -68,13 +68,17 @@ QString proposedFolder(const QString& startDir, PathProvider* provider, const QS
     return isPathWanted ? path : proposed;
 }
 
-QString textOfWrongFolder(const QString& message, const QString& folder)
+void tellWrongFolder(const QString& title, const QString& message, const QString& folder)
 {
-    if (!message.isEmpty())
-        return message;
-    return ArgString(Translator::translate("FileDialog", "This file can only be saved at '%1'"))
-        .arg(folder)
-        .toQString();
+    ZVMessageBox box(QMessageBox::Critical, title, message);
+    if (message.isEmpty()) {
+        box.setTextFormat(Qt::PlainText); // names of folders may look like mark-up
+        box.setText(
+            ArgString(Translator::translate("FileDialog", "This file can only be saved at '%1'"))
+                .arg(folder)
+                .toQString());
+    }
+    box.exec();
 }
 
 } // namespace
@@ -169,8 +173,7 @@ QString FileDialog::getSaveFileNameInDir(const QString& caption, const QString& 
     while (!result.isEmpty() && QFileInfo(result).absolutePath() != folder) {
         {
             const ShownDialog box(s_openDialogsCount);
-            ZVMessageBox::critical(nullptr, caption, textOfWrongFolder(message, folder),
-                                   QMessageBox::Ok);
+            tellWrongFolder(caption, message, folder);
         }
         result = ask();
     }

@@ -25,7 +25,8 @@ public:
     virtual void setControlState(int controlId, int state) const = 0;
     /**
      * Moves and sizes the dialog's window by the configuration's geometry, 5 ms later or as soon
-     * as the window is visible. The configuration must live until the dialog is closed.
+     * as the window is visible. The configuration must live until the dialog is closed; a null
+     * one moves nothing.
      */
     virtual void placeDialog(FileDialogConfiguration* configuration) const = 0;
     /**

@@ -42,7 +42,7 @@ QString DefaultPathProvider::getDefaultPathFromScope(const QString& scope)
     const auto found = getDefaultPathes().constFind(scope);
     return found != getDefaultPathes().constEnd()
                ? found.value()
-               : QString::fromStdString(PathConfiguration::getZvPathMyDocuments().toNativeString());
+               : QString::fromStdString(PathConfiguration::getZvPathMyDocuments().toString());
 }
 
 QString DefaultPathProvider::getLastPathFromScope(const QString& scope)

@@ -52,7 +52,7 @@ QHash<QString, QString>& PathProvider::getDefaultPathes()
     static QHash<QString, QString> pathes;
     if (pathes.isEmpty()) {
         for (const DefaultFolder& row : s_defaultFolders)
-            pathes.insert(row.scope, QString::fromStdString(row.folder().toNativeString()));
+            pathes.insert(row.scope, QString::fromStdString(row.folder().toString()));
     }
     return pathes;
 }

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void frameDoesNotGrow();
     void movedDialogIsRecordedBeforeItCloses();
     void handlerPlacesTheDialog();
+    void placingByNothingMovesNothing();
     void maximizedDialogIsRestoredAndPlaced();
     void dialogGeometryIsTheOuterOne();
     void ownerIsBlocked();
@@ -102,6 +103,19 @@ void ConfiguredDialogWindowTest::handlerPlacesTheDialog()
     };
     open([](QFileDialog& dialog) {
         QTRY_COMPARE(dialog.frameGeometry(), QRect(11, 22, 633, 504));
+        dialog.reject();
+    });
+}
+
+void ConfiguredDialogWindowTest::placingByNothingMovesNothing()
+{
+    m_configuration->storeFileDialogGeometry(QRect(40, 50, 610, 500));
+    m_handler->onType = [](const FileDialogCallbackInterface& callbacks) {
+        callbacks.placeDialog(nullptr);
+    };
+    open([this](QFileDialog& dialog) {
+        QTRY_COMPARE(dialog.frameGeometry(), QRect(40, 50, 610, 500));
+        QVERIFY(m_handler->events.contains(QStringLiteral("type")));
         dialog.reject();
     });
 }

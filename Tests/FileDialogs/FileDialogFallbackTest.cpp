@@ -366,6 +366,7 @@ void FileDialogFallbackTest::proposedFolder_data()
     row("the start itself, with a separator", "/other", "/data/x/", "/data/x");
     row("a scope's path below the start's folder", "/data/x", "/data/y", "/data/x");
     row("a scope's path that only begins alike", "/data2", "/data/y", "/data2");
+    row("a scope's path in other letter case", "/DATA/x", "/data/y", "/data");
     row("a start that is gone", "/other", "/gone/deep/y", "/other");
     row("a scope's path that is gone", "/gone/deep", "/data/y", "/data");
 }
@@ -375,7 +376,7 @@ void FileDialogFallbackTest::proposedFolder()
     QFETCH(QString, scopePath);
     QFETCH(QString, startDir);
     QFETCH(QString, proposed);
-    for (const char* folder : {"data/x", "data2", "other"})
+    for (const char* folder : {"data/x", "DATA/x", "data2", "other"})
         QVERIFY(QDir(m_dir->path()).mkpath(QString::fromLatin1(folder)));
     m_provider.path = QDir::toNativeSeparators(m_dir->path() + scopePath);
     ExpectedModals modals;

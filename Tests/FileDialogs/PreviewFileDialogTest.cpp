@@ -364,6 +364,8 @@ void PreviewFileDialogTest::handlerWithoutPreviewConfiguration()
     handler.setFileDialogConfiguration(nullptr);
     handler.onCheckBoxToggled(true, 0, setup.callbacks);
     QCOMPARE(setup.editor->takeCalls(), QStringList{QStringLiteral("setVisible 1")});
+    handler.onTypeChanged(setup.callbacks);
+    QCOMPARE(setup.editor->takeCalls(), QStringList{QStringLiteral("placeDialog")});
     QCOMPARE(handler.getPreviewerSize(), setup.editor->geometry);
 }
 

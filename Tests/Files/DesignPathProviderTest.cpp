@@ -147,8 +147,9 @@ void DesignPathProviderTest::designPathsBecomePlaces()
     DesignPathProvider provider = providerOf(existingDesign());
     provider.setPathToScope(m_folders.makeFile("a/door.zvd"), m_design);
     provider.setPathToScope(m_folders.makeFile("b/door.zvd"), m_design);
-    const std::vector<QString> expected{m_folders.documents(), m_folders.path("b"),
-                                        m_folders.path("a"), m_folders.path("b")};
+    const std::vector<QString> expected{m_folders.asConfigured(m_folders.documents()),
+                                        m_folders.path("b"), m_folders.path("a"),
+                                        m_folders.path("b")};
     QCOMPARE(provider.getPlacesFromScope(m_design), expected);
 }
 

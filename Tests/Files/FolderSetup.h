@@ -20,6 +20,11 @@ public:
 
     QString documents() const { return path("documents"); }
     QString data(const char* folder) const { return path("data/") + QLatin1String(folder); }
+    /** A default folder as the suite's settings give it, without native separators. */
+    static QString asConfigured(const QString& folder)
+    {
+        return QDir::fromNativeSeparators(folder);
+    }
     /** A path below the test's folder, as the system writes it. */
     QString path(const char* below) const
     {

@@ -132,7 +132,7 @@ void PathProviderTest::defaultFolders()
     QFETCH(QString, folder);
     const QString scope = QString::fromLatin1(QTest::currentDataTag());
     DefaultPathProvider provider;
-    QCOMPARE(QDir::toNativeSeparators(provider.getDefaultPathFromScope(scope)), folder);
+    QCOMPARE(provider.getDefaultPathFromScope(scope), m_folders.asConfigured(folder));
     QCOMPARE(provider.getLastPathFromScope(scope), folder);
     LastPathProvider lastProvider;
     QCOMPARE(lastProvider.getPathFromScope(scope), folder);
@@ -272,14 +272,15 @@ void PathProviderTest::placesAreDefaultAndLast()
 {
     DefaultPathProvider provider;
     provider.setPathToScope(m_folders.makeFolder("imports"), m_import);
-    const std::vector<QString> expected{m_folders.documents(), m_folders.path("imports")};
+    const std::vector<QString> expected{m_folders.asConfigured(m_folders.documents()),
+                                        m_folders.path("imports")};
     QCOMPARE(provider.getPlacesFromScope(m_import), expected);
 }
 
 void PathProviderTest::placesOfDesignsGrow()
 {
     DefaultPathProvider provider;
-    const QString documents = m_folders.documents();
+    const QString documents = m_folders.asConfigured(m_folders.documents());
     const QString first = m_folders.makeFile("first/door.zvd");
     const QString second = m_folders.makeFile("second/hood.zvd");
     const QString firstFolder = m_folders.path("first");
