@@ -16,29 +16,9 @@ namespace {
 /** What SIGNAL(triggered()) makes; spelled out, since the macro checks the text at run time. */
 constexpr char s_triggered[] = "2triggered()";
 
-/** Visible ASCII characters that Qt writes as they are; lower-case letters it doesn't. */
-bool isPlainKey(int key)
-{
-    return key > ' ' && key <= '~' && !(key >= 'a' && key <= 'z');
-}
-
-/**
- * As `QKeySequence::PortableText`. Most shortcuts are one plain key with modifiers; these are
- * written here, as asking Qt for them takes longer than all else that a tool tip needs.
- */
 QString withShortcut(const QString& toolTip, const QKeySequence& shortcut)
 {
-    // By their bits: Shift, Ctrl, Alt.
-    static constexpr const char* s_modifiers[] = {
-        "", "Shift+", "Ctrl+", "Ctrl+Shift+", "Alt+", "Alt+Shift+", "Ctrl+Alt+", "Ctrl+Alt+Shift+"};
-    constexpr int s_modifierMask = Qt::SHIFT | Qt::CTRL | Qt::ALT;
-    const QLatin1String gap("    ");
-    const int code = shortcut[0];
-    const int key = code & ~s_modifierMask;
-    if (shortcut.count() != 1 || !isPlainKey(key))
-        return toolTip % gap % shortcut.toString(QKeySequence::PortableText);
-    const auto modifiers = std::size_t(code & s_modifierMask) / std::size_t(Qt::SHIFT);
-    return toolTip % gap % QLatin1String(s_modifiers[modifiers]) % QChar(key);
+    return toolTip % QLatin1String("    ") % shortcut.toString(QKeySequence::PortableText);
 }
 
 } // namespace

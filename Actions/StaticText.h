@@ -8,8 +8,9 @@ namespace Zorvane {
 
 /**
  * An ASCII text in a constant table. Its QString shares the table's memory: as with QStringLiteral,
- * which cannot stand in such a table, nothing is converted or allocated. It must outlive the
- * QString, so only tables of static storage hold one.
+ * which cannot stand in such a table, nothing is converted or allocated, which would add a third to
+ * what creating the main actions takes. It must outlive the QString, so only tables of static
+ * storage hold one.
  *
  * Not supported: texts of more than `s_capacity - 1` characters; these do not compile.
  */
@@ -33,6 +34,8 @@ public:
 
     QString toString() const
     {
+        static_assert(offsetof(StaticText, m_characters) == sizeof(QStringData),
+                      "The text must begin where its header says.");
         // Never written to: the header says that the data is static.
         auto* const header = const_cast<QArrayData*>(&m_header);
         return QString(QStringDataPtr{static_cast<QStringData*>(header)});

@@ -54,7 +54,10 @@ constexpr int keyNamed(const char* name)
     return name[0] != '\0' && name[1] == '\0' ? name[0] : 0;
 }
 
-/** What the untranslated text means: working it out at run time takes longer than all the rest. */
+/**
+ * What the untranslated text means. Qt working it out when the table is created would take 3.5
+ * times as many instructions as all the rest of it.
+ */
 constexpr int keyOf(const char* text)
 {
     int modifiers = 0;

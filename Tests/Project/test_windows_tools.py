@@ -1,9 +1,11 @@
 """Tests of what ./test-windows leans on: the summary must find what is wrong with a run."""
 
+import contextlib
 import importlib.machinery
 import importlib.util
 import os
 import pathlib
+import signal
 import subprocess
 import tempfile
 import unittest
@@ -82,7 +84,8 @@ class SummaryTest(unittest.TestCase):
 
 class PrefixTest(unittest.TestCase):
     def start(self, stub):
-        """Starts Wine with a stand-in for it: what came of that, and whether a prefix is ready."""
+        """Starts Wine with a stand-in for it: what came of that, whether a prefix is ready, and
+        whether the program that keeps Wine up was."""
         with tempfile.TemporaryDirectory() as folder:
             for name, script in (("wine", stub), ("wineserver", "exit 0")):
                 program = pathlib.Path(folder) / name
@@ -92,17 +95,28 @@ class PrefixTest(unittest.TestCase):
             prefix = pathlib.Path(folder) / "state/prefix"
             environment = {**os.environ, "ZORVANE_WINEPREFIX": str(prefix),
                            "PATH": folder + os.pathsep + os.environ["PATH"]}
-            run = subprocess.run([TOOLS / "wine", "--start"], env=environment, check=False,
-                                 stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                                 stderr=subprocess.DEVNULL)
-            return run.returncode, (prefix / "ready").exists()
+            run = subprocess.Popen([TOOLS / "wine", "--start"], env=environment,
+                                   start_new_session=True, stdin=subprocess.DEVNULL,
+                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            try:
+                code = run.wait()
+                is_up = (pathlib.Path(folder) / "is-up").exists()
+                return code, (prefix / "ready").exists(), is_up
+            finally:
+                # What keeps Wine up would stay.
+                with contextlib.suppress(ProcessLookupError):
+                    os.killpg(run.pid, signal.SIGKILL)
 
     def test_a_prefix_that_fails_halfway_is_not_kept(self):
         for name, stub in (("no prefix", "exit 1"), ("no setting", '[ "$1" = wineboot ]')):
             with self.subTest(name):
-                code, is_ready = self.start(stub)
+                code, is_ready, _ = self.start(stub)
                 self.assertNotEqual(code, 0)
                 self.assertFalse(is_ready)
+
+    def test_a_start_ends_when_wine_is_up(self):
+        slow = 'case "$*" in *"set /p"*) sleep 1; touch "$WINEPREFIX/../../is-up"; echo up ;; esac'
+        self.assertEqual(self.start(slow), (0, True, True))
 
 
 if __name__ == "__main__":
