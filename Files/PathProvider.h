@@ -11,9 +11,9 @@ namespace Zorvane {
 
 /**
  * Tells in which folder a file dialog opens and which folders it offers as places, by scope: a
- * short name of what the dialog is for, such as "Design", "Import" or "Presses". Nothing here fails:
- * an unknown scope has the user's documents folder. Which separators a path has depends on where it
- * comes from; a dialog that needs native ones converts them.
+ * short name of what the dialog is for, such as "Design", "Import" or "Presses". Nothing here
+ * fails: an unknown scope has the user's documents folder. Which separators a path has depends on
+ * where it comes from; a dialog that needs native ones converts them.
  *
  * Implementations may override each operation by itself; the others call it.
  */

@@ -16,6 +16,8 @@ using Testing::RecordingHandler;
 namespace {
 
 const QRect s_untouched(1, 2, 3, 4);
+/** Asked for before there is an application, and so a desktop. */
+const QSize s_offsetWithoutDesktop = FileDialogConfiguration().getTopLeftOffset();
 
 CustomItem item(int id, const char* text)
 {
@@ -58,6 +60,7 @@ private Q_SLOTS:
     void offsetCountsFromTheScreenOfTheMainWindow();
     void withoutAMainWindowTheOffsetStaysAsGiven_data();
     void withoutAMainWindowTheOffsetStaysAsGiven();
+    void withoutADesktopThereIsNoOffset();
 
     void copiesShareNothingButTheHandler();
     void handlerDoesNothing();
@@ -219,6 +222,11 @@ void FileDialogConfigurationTest::withoutAMainWindowTheOffsetStaysAsGiven()
     FileDialogConfiguration configuration;
     configuration.setTopLeftOffset(QSize(30, 40));
     QCOMPARE(configuration.getTopLeftOffset(), QSize(30, 40));
+}
+
+void FileDialogConfigurationTest::withoutADesktopThereIsNoOffset()
+{
+    QVERIFY(!s_offsetWithoutDesktop.isValid());
 }
 
 void FileDialogConfigurationTest::copiesShareNothingButTheHandler()
