@@ -5,8 +5,6 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
-#include <map>
-
 namespace Zorvane::Workbench {
 
 namespace {
@@ -62,13 +60,15 @@ public:
             renew(piece);
     }
 
+    const Successors& all() const { return m_ids; }
+
 private:
-    std::map<GUIdentifier, GUIdentifier> m_ids;
+    Successors m_ids;
 };
 
 } // namespace
 
-Design DesignCopy::of(const Design& design, const QString& file)
+Design DesignCopy::of(const Design& design, const QString& file, Successors* successors)
 {
     Design copy = design;
     copy.file = file;
@@ -80,6 +80,8 @@ Design DesignCopy::of(const Design& design, const QString& file)
     ids.renew(copy.operations);
     ids.renew(copy.materials);
     ids.renew(copy.files);
+    if (successors != nullptr)
+        *successors = ids.all();
     return copy;
 }
 

@@ -40,15 +40,20 @@ FileChoice choiceFor(const Design& design, const QString& caption)
             FileCommands::tr("Designs (%1)").arg(s_pattern)};
 }
 
-Design copyOf(const Design& design, const QString& file, FileCommands::Results results)
+Design copyOf(const Design& design, const QString& file, FileCommands::Results results,
+              Successors* successors = nullptr)
 {
-    Design copy = DesignCopy::of(design, file);
-    if (results == FileCommands::Results::LeaveOut)
-        copy.files.erase(std::remove_if(copy.files.begin(), copy.files.end(),
-                                        [](const FileReference& reference) {
-                                            return reference.kind == FileKind::Result;
-                                        }),
-                         copy.files.end());
+    Design copy = DesignCopy::of(design, file, successors);
+    if (results == FileCommands::Results::Keep)
+        return copy;
+    const auto isResult = [](const FileReference& reference) {
+        return reference.kind == FileKind::Result;
+    };
+    copy.files.erase(std::remove_if(copy.files.begin(), copy.files.end(), isResult),
+                     copy.files.end());
+    for (const FileReference& reference : design.files)
+        if (successors != nullptr && isResult(reference))
+            (*successors)[reference.id] = GUIdentifier();
     return copy;
 }
 
@@ -105,7 +110,8 @@ bool FileCommands::saveAs(GUIdentifier objectId, Results results)
     if (design == nullptr)
         return false;
     std::optional<Problem> obstacle = obstacleTo(target);
-    Design copy = copyOf(*design, target, results);
+    Successors successors;
+    Design copy = copyOf(*design, target, results, &successors);
     const GUIdentifier replaced = design->id;
     const bool wasThere = QFileInfo::exists(target);
     if (!obstacle)
@@ -118,6 +124,7 @@ bool FileCommands::saveAs(GUIdentifier objectId, Results results)
         obstacle = Problem{target, {}, tr("has been made meanwhile and is not replaced")};
     if (!write(copy, obstacle))
         return false;
+    Q_EMIT replacing(successors);
     m_session.replace(replaced, target);
     Q_EMIT savedAs(target);
     Q_EMIT done(tr("Saved as %1").arg(QDir::toNativeSeparators(target)));

@@ -2,6 +2,7 @@
 
 #include "Host/Identifiers/GUIdentifier.h"
 #include "Workbench/Design/Problem.h"
+#include "Workbench/Design/Successors.h"
 #include "Workbench/Import/FileChooser.h"
 
 #include <QtCore/QObject>
@@ -57,6 +58,8 @@ public:
 Q_SIGNALS:
     /** What the user wants to have opened. */
     void chosen(const QStringList& paths);
+    /** A design is about to be replaced in the session by its copy. */
+    void replacing(const Successors& successors);
     /** The design of this file replaces the other one in the session. */
     void savedAs(const QString& file);
     void done(const QString& text);

@@ -52,6 +52,7 @@ DesignSaving::DesignSaving(const Parts& parts, QWidget* window)
     connect(&parts.runner, &SimulationRunner::stopped, this, [this](const QString& file) {
         Q_EMIT done(tr("The simulation of %1 was stopped.").arg(QFileInfo(file).fileName()));
     });
+    connect(&parts.files, &FileCommands::replacing, &parts.history, &EditHistory::follow);
     connect(&parts.files, &FileCommands::savedAs, this,
             [this](const QString& file) { m_savedAs = file; });
 }

@@ -6,6 +6,37 @@
 
 namespace Zorvane::Workbench {
 
+namespace {
+
+/** Calls `visit(id)` for every identifier in the edit. */
+template <typename Visit>
+void visitIds(TakenObjects& objects, Visit visit)
+{
+    visit(objects.design);
+    for (auto& [place, file] : objects.files)
+        visit(file.id);
+    for (auto& [place, part] : objects.parts) {
+        visit(part.id);
+        visit(part.geometry);
+        visit(part.material);
+    }
+}
+
+template <typename Visit>
+void visitIds(DesignEdit& edit, Visit visit)
+{
+    if (auto* name = std::get_if<NameEdit>(&edit))
+        visit(name->object);
+    else if (auto* value = std::get_if<QuantityEdit>(&edit))
+        visit(value->object);
+    else if (auto* addition = std::get_if<AdditionEdit>(&edit))
+        visitIds(addition->objects, visit);
+    else
+        visitIds(std::get<RemovalEdit>(edit).objects, visit);
+}
+
+} // namespace
+
 EditCommand::EditCommand(DesignSession& session, DesignEdit edit)
     : m_session(&session)
     , m_edit(std::move(edit))
@@ -65,6 +96,23 @@ bool EditCommand::isNothing() const
 {
     const auto* value = std::get_if<QuantityEdit>(&m_edit);
     return value && value->after == value->before;
+}
+
+bool EditCommand::follow(Successors& successors)
+{
+    bool isWhole = true;
+    const auto follow = [&successors, &isWhole](GUIdentifier& id) {
+        if (id.isNull())
+            return;
+        const auto [known, isNew] = successors.emplace(id, GUIdentifier());
+        if (isNew)
+            known->second = GUIdentifier::create();
+        isWhole = isWhole && !known->second.isNull();
+        id = known->second;
+    };
+    visitIds(m_edit, follow);
+    follow(m_design);
+    return isWhole;
 }
 
 bool EditCommand::apply(bool forward)

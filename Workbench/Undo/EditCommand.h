@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Workbench/Design/DesignEdit.h"
+#include "Workbench/Design/Successors.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QString>
@@ -34,6 +35,12 @@ public:
     bool mergeWith(const EditCommand& later);
     /** Whether merging left nothing: a value that is what it was. */
     bool isNothing() const;
+
+    /**
+     * Makes it one of the successors instead; objects without one, as they are not in the design at
+     * present, get one. False, and of no use any more, if the copy is left without one of them.
+     */
+    bool follow(Successors& successors);
 
     /** False, and nothing is different, if it no longer fits. */
     bool undo() { return apply(false); }

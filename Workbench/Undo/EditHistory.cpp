@@ -83,6 +83,28 @@ void EditHistory::putBack(const TakenObjects& taken)
         m_session.putBack(taken);
 }
 
+void EditHistory::follow(Successors successors)
+{
+    bool fits = true;
+    const auto follows = [&successors, &fits](EditCommand& edit) {
+        if (successors.count(edit.design()) == 0)
+            return true;
+        fits = fits && edit.follow(successors);
+        return fits;
+    };
+    for (std::size_t place = m_made; place-- > 0;)
+        if (!follows(m_edits[place]))
+            drop(place);
+    fits = true;
+    for (std::size_t place = m_made; place < m_edits.size();) {
+        if (follows(m_edits[place]))
+            ++place;
+        else
+            drop(place);
+    }
+    Q_EMIT changed();
+}
+
 void EditHistory::note(const DesignEdit& edit)
 {
     if (m_isReplaying)

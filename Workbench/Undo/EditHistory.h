@@ -14,8 +14,9 @@ class DesignSession;
 /**
  * Remembers what people change in the designs of a session, whichever window they do it in, and
  * takes it back or makes it again: the edits of all designs in the order in which they were made.
- * Saving doesn't end it. Closing a design or reading it from its file again drops what was done to
- * it, and keeps the edits of the others, which is more than a `QUndoStack` can do.
+ * Saving doesn't end it, nor does saving under another name. Closing a design or reading it from
+ * its file again drops what was done to it, and keeps the edits of the others, which is more than a
+ * `QUndoStack` can do.
  *
  * A design that closes with the reference to it comes back with that, and so do its edits. If its
  * file was changed meanwhile, what no longer fits overwrites nothing and ends the history of that
@@ -46,6 +47,12 @@ public:
      * last edit, else is an edit of its own. What is back already stays.
      */
     void putBack(const TakenObjects& taken);
+
+    /**
+     * What was done to a design goes on with its copy, which is about to take its place in the
+     * session; but not what was done to objects that the copy is left without, and before.
+     */
+    void follow(Successors successors);
 
 public Q_SLOTS:
     void undo();

@@ -1,7 +1,10 @@
 #include "Tests/Support/ExpectedModals.h"
+#include "Tests/Support/PlatformCopies.h"
 #include "Tests/Workbench/Saving/SavingFixture.h"
+#include "Workbench/Design/DesignWriter.h"
 
 #include <QtCore/QFileInfo>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QScopeGuard>
 #include <QtWidgets/QAbstractButton>
 
@@ -14,17 +17,33 @@ class DesignSavingOneTest : public SavingFixture
 {
     Q_OBJECT
 
+private:
+    QString withoutIds();
+
+    Testing::PlatformCopies m_copies;
+
 private Q_SLOTS:
     void init() { setUp(); }
     void cleanup() { tearDown(); }
     void saveAsThatCostsNothingAsksNothing();
     void saveAsLeavesOutdatedResultsOnTheUsersWord();
     void saveAsOfAnOlderDesignAsks();
+    void undoGoesOnAfterSaveAs_data();
+    void undoGoesOnAfterSaveAs();
+    void undoEndsAtWhatSaveAsLeftOut();
+    void undoStaysWithTheDesignThatWasSavedAs();
     void copyLeavesOutdatedResultsToTheDesign();
     void closesOneDesign();
     void closingOneUnderAnotherNameClosesThat();
     void closingOneStopsItsSimulationOnlyOnTheUsersWord();
 };
+
+/** What the first design is written as. */
+QString DesignSavingOneTest::withoutIds()
+{
+    static const QRegularExpression id(QStringLiteral("[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}"));
+    return QString::fromUtf8(DesignWriter::toJson(design())).remove(id);
+}
 
 void DesignSavingOneTest::saveAsThatCostsNothingAsksNothing()
 {
@@ -80,6 +99,87 @@ void DesignSavingOneTest::saveAsOfAnOlderDesignAsks()
     QVERIFY(m_saving->saveAs(design().id));
     QVERIFY(onOtherDisk().contains("\"version\": 2"));
     QVERIFY(onDisk().contains("\"version\": 1"));
+}
+
+void DesignSavingOneTest::undoGoesOnAfterSaveAs_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("beside it") << QStringLiteral("other.dsg");
+    QTest::newRow("elsewhere") << QStringLiteral("elsewhere/other.dsg");
+}
+
+void DesignSavingOneTest::undoGoesOnAfterSaveAs()
+{
+    QFETCH(QString, name);
+    const QString before = withoutIds();
+    const QString mesh = writeFile(m_opened->path(QStringLiteral("rib.stl")), binaryStl(cube()));
+    QVERIFY(session().addFiles(design().id, {mesh}).empty());
+    const GUIdentifier rib = design().parts.back().id;
+    session().rename(rib, QStringLiteral("Rib"));
+    session().setQuantity(rib, Quantity::Thickness, 3);
+    session().take(design().id, {rib, objectId(10), objectId(41)});
+    session().setQuantity(objectId(2), Quantity::Thickness, 4);
+    const QString after = withoutIds();
+    m_history->undo();
+    chooseForSaveAs(name);
+    QVERIFY(m_saving->saveAs(design().id));
+    QCOMPARE(QFileInfo(design().file), QFileInfo(m_opened->path(name)));
+    const QSignalSpy refused(m_history.get(), &EditHistory::refused);
+    QCOMPARE(m_history->count(), 5);
+    m_history->redo();
+    QCOMPARE(withoutIds(), after);
+    while (m_history->canUndo())
+        m_history->undo();
+    QCOMPARE(withoutIds(), before);
+    QVERIFY(session().isModified());
+    // What refers to what was taken out refers to it again.
+    QCOMPARE(design().materials.front().file, design().files.back().id);
+    QCOMPARE(design().parts.front().geometry, design().files.front().id);
+    while (m_history->canRedo())
+        m_history->redo();
+    QCOMPARE(withoutIds(), after);
+    QCOMPARE(refused.count(), 0);
+}
+
+void DesignSavingOneTest::undoEndsAtWhatSaveAsLeftOut()
+{
+    edit();
+    addResult();
+    session().setQuantity(objectId(2), Quantity::Thickness, 1.75);
+    session().setQuantity(objectId(10), Quantity::Thickness, 2);
+    m_history->undo();
+    chooseForSaveAs(QStringLiteral("other.dsg"));
+    QVERIFY(m_files->saveAs(design().id, FileCommands::Results::LeaveOut));
+    QVERIFY(!hasResult());
+    QCOMPARE(m_history->count(), 2);
+    m_history->redo();
+    QCOMPARE(design().parts.front().thickness, 2.0);
+    m_history->undo();
+    m_history->undo();
+    QCOMPARE(design().blank->thickness, 1.25);
+    QVERIFY(!m_history->canUndo());
+    QCOMPARE(design().parts.front().name, QStringLiteral("Left door"));
+}
+
+void DesignSavingOneTest::undoStaysWithTheDesignThatWasSavedAs()
+{
+    const QString file = m_opened->path(QStringLiteral("frame.dsg"));
+    const QJsonArray files{fileEntry(61, QStringLiteral("Small"), QStringLiteral("design"),
+                                     QStringLiteral("small.dsg"))};
+    session().open({writeFile(file, toText(designWithFiles(60, QStringLiteral("Frame"), files)))});
+    edit();
+    session().rename(objectId(60), QStringLiteral("Door frame"));
+    chooseForSaveAs(QStringLiteral("other.dsg"));
+    QVERIFY(m_saving->saveAs(objectId(1)));
+    // The frame refers to the former one, which is as it lies on the disk.
+    QCOMPARE(session().name(objectId(10)), QStringLiteral("Cup"));
+    QCOMPARE(m_history->count(), 2);
+    m_history->undo();
+    QCOMPARE(session().name(objectId(60)), QStringLiteral("Frame"));
+    m_history->undo();
+    QCOMPARE(session().designs().front().parts.front().name, QStringLiteral("Cup"));
+    QVERIFY(session().isDesignModified(session().designs().front().id));
+    QVERIFY(!session().isDesignModified(objectId(1)));
 }
 
 void DesignSavingOneTest::copyLeavesOutdatedResultsToTheDesign()
