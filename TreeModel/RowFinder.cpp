@@ -12,7 +12,10 @@ namespace {
 /** One search walks over so many rows at most: what is farther away wants an index. */
 constexpr int ShortWalk = 16;
 
-/** So many searches in a row without a run show that the rows really are scattered. */
+/**
+ * So many searches in a row without a run show that the rows really are scattered. From then on
+ * looking ahead beats asking the index item by item: see `LookAhead`.
+ */
 constexpr int ManyStrayed = 8;
 
 std::size_t bucketCount(std::size_t rows)
@@ -174,7 +177,9 @@ std::int32_t RowFinder::slotOf(int item)
             strayed = 0;
         return slot;
     }
-    // Rows mostly move in runs: a neighbour of the one found last is the likely one.
+    // Rows mostly move in runs: a neighbour of the one found last is the likely one. Without this
+    // guess, reversing 100,000 rows takes 1.4 times as long, though only 1.03 times the
+    // instructions: the index's buckets lie scattered in memory.
     for (const std::int32_t slot : {m_index->found + 1, m_index->found - 1}) {
         if (m_index->isWaiting(slot) && hasId(m_index->rowAt(slot), id)) {
             strayed = 0;

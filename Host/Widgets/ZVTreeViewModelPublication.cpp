@@ -315,38 +315,36 @@ bool ZVTreeViewModelPrivate::changeLayout(Plan& plan)
         return false;
     }
     const QModelIndexList before = q->persistentIndexList();
-    for (ListPlan& list : plan) {
+    markLeaving(plan);
+    // Asked while rows are still where views see them: none is looked for among those gone.
+    const SortedRows gone = rowsThatLeave(before);
+    showAll(plan);
+    mapIndexes(before, gone);
+    Q_EMIT q->layoutChanged();
+    return isAsPlanned();
+}
+
+void ZVTreeViewModelPrivate::markLeaving(const Plan& plan)
+{
+    for (const ListPlan& list : plan) {
         for (ZVTreeViewItem* row : list.leaving) {
             if (!list.keepsCount && list.attached && !isAttached(row))
                 row->addState(ZVTreeViewItem::Leaving);
         }
     }
-    std::vector<const ZVTreeViewItem*> gone;
-    for (const QModelIndex& index : before) {
+}
+
+ZVTreeViewModelPrivate::SortedRows
+ZVTreeViewModelPrivate::rowsThatLeave(const QModelIndexList& indexes) const
+{
+    SortedRows gone;
+    for (const QModelIndex& index : indexes) {
         const auto* row = static_cast<const ZVTreeViewItem*>(index.internalPointer());
         if (leavesWithLayout(row))
             gone.push_back(row);
     }
     std::sort(gone.begin(), gone.end());
-    for (ListPlan& list : plan)
-        showTarget(list);
-    forgetRelocations();
-    for (const ListPlan& list : plan)
-        leaveWithLayout(list);
-    QModelIndexList from;
-    QModelIndexList to;
-    for (const QModelIndex& index : before) {
-        const auto* row = static_cast<const ZVTreeViewItem*>(index.internalPointer());
-        const bool leaves = std::binary_search(gone.begin(), gone.end(), row);
-        const QModelIndex now = leaves ? QModelIndex() : shownIndex(row, index.column());
-        if (now != index) {
-            from.append(index);
-            to.append(now);
-        }
-    }
-    q->changePersistentIndexList(from, to);
-    Q_EMIT q->layoutChanged();
-    return isAsPlanned();
+    return gone;
 }
 
 bool ZVTreeViewModelPrivate::leavesWithLayout(const ZVTreeViewItem* row) const
@@ -358,6 +356,15 @@ bool ZVTreeViewModelPrivate::leavesWithLayout(const ZVTreeViewItem* row) const
             return true;
     }
     return false;
+}
+
+void ZVTreeViewModelPrivate::showAll(Plan& plan)
+{
+    for (ListPlan& list : plan)
+        showTarget(list);
+    forgetRelocations();
+    for (const ListPlan& list : plan)
+        leaveWithLayout(list);
 }
 
 void ZVTreeViewModelPrivate::showTarget(ListPlan& list) const
@@ -382,6 +389,22 @@ void ZVTreeViewModelPrivate::leaveWithLayout(const ListPlan& list)
         if (row->hasState(ZVTreeViewItem::Taken) && row->m_parent == list.parent)
             leaveViews(row);
     }
+}
+
+void ZVTreeViewModelPrivate::mapIndexes(const QModelIndexList& indexes, const SortedRows& gone)
+{
+    QModelIndexList from;
+    QModelIndexList to;
+    for (const QModelIndex& index : indexes) {
+        const auto* row = static_cast<const ZVTreeViewItem*>(index.internalPointer());
+        const bool leaves = std::binary_search(gone.begin(), gone.end(), row);
+        const QModelIndex now = leaves ? QModelIndex() : shownIndex(row, index.column());
+        if (now != index) {
+            from.append(index);
+            to.append(now);
+        }
+    }
+    q->changePersistentIndexList(from, to);
 }
 
 bool ZVTreeViewModelPrivate::removeLeaving(const ListPlan& list)

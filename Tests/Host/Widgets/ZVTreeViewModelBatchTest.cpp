@@ -88,6 +88,7 @@ private Q_SLOTS:
     void takenRowsOutliveBatchAndModel();
     void persistentIndexesFollowBetweenParents();
     void placeIsKeptByWayOfANewRow();
+    void rowGoesBelowItsFormerChild();
     void rowGoesFromModelToModel();
     void viewsKeepTheirPlaces_data();
     void viewsKeepTheirPlaces();
@@ -506,6 +507,30 @@ void ZVTreeViewModelBatchTest::placeIsKeptByWayOfANewRow()
     QCOMPARE(lines, linesOf("layoutChanged"));
     QCOMPARE(QModelIndex(index), m_tree->model.indexFromItem(row));
     QCOMPARE(index.row(), 499);
+}
+
+void ZVTreeViewModelBatchTest::rowGoesBelowItsFormerChild()
+{
+    appendRows(root(), "a b");
+    appendRows(root()->child(0), "x y");
+    const ZVTreeViewModel& model = m_tree->model;
+    ZVTreeViewItem* a = root()->child(0);
+    ZVTreeViewItem* x = a->child(0);
+    const QPersistentModelIndex indexOfA = model.indexFromItem(a);
+    const QPersistentModelIndex indexOfX = model.indexFromItem(x);
+    const QStringList lines = inBatch([=] {
+        // Views see x below a while a is below x and both are taken out.
+        a->takeChild(x);
+        root()->takeChild(a);
+        QVERIFY(x->insertChild(0, a));
+        QVERIFY(!x->model());
+        QVERIFY(root()->insertChild(0, x));
+        QCOMPARE(x->model(), &m_tree->model);
+    });
+    QCOMPARE(lines, linesOf("layoutChanged"));
+    QCOMPARE(textsOf(model), QStringLiteral("x(a(y)) b"));
+    QCOMPARE(QModelIndex(indexOfX), model.index(0, 0));
+    QCOMPARE(QModelIndex(indexOfA), model.index(0, 0, model.index(0, 0)));
 }
 
 void ZVTreeViewModelBatchTest::rowGoesFromModelToModel()
