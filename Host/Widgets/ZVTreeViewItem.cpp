@@ -333,9 +333,12 @@ void ZVTreeViewItem::orphan(ZVTreeViewItem* child, bool wasShownRow)
 
 bool ZVTreeViewItem::insertChild(int index, ZVTreeViewItem* child)
 {
-    if (index < 0 || index > childCount() || !canAdopt(child))
+    const auto fits = [=] { return index >= 0 && index <= childCount() && canAdopt(child); };
+    if (!fits())
         return false;
-    ZVTreeViewModelPrivate::prepareMove(child, this);
+    // Slots of an announcement may have put the row elsewhere, or left fewer rows here.
+    if (ZVTreeViewModelPrivate::prepareMove(child, this) && !fits())
+        return false;
     ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::announcing(this);
     if (model)
         model->beginInsert(this, index, 1);
@@ -352,8 +355,11 @@ bool ZVTreeViewItem::appendChildren(const QVector<ZVTreeViewItem*>& added)
     const bool fit = canAdoptAll(added);
     if (!fit || added.isEmpty())
         return fit;
+    bool isAnnounced = false;
     for (ZVTreeViewItem* child : added)
-        ZVTreeViewModelPrivate::prepareMove(child, this);
+        isAnnounced = ZVTreeViewModelPrivate::prepareMove(child, this) || isAnnounced;
+    if (isAnnounced && !canAdoptAll(added))
+        return false;
     ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::announcing(this);
     if (model)
         model->beginInsert(this, childCount(), added.size());

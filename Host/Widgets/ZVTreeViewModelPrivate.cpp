@@ -68,14 +68,14 @@ bool ZVTreeViewModelPrivate::isAttached(const ZVTreeViewItem* row)
     return row != nullptr;
 }
 
-void ZVTreeViewModelPrivate::prepareMove(const ZVTreeViewItem* row, ZVTreeViewItem* newParent)
+bool ZVTreeViewModelPrivate::prepareMove(const ZVTreeViewItem* row, ZVTreeViewItem* newParent)
 {
     if (!row->hasState(ZVTreeViewItem::Taken) || row->m_parent == newParent)
-        return;
+        return false;
     ZVTreeViewModelPrivate* model = owning(row);
     if (model != owning(newParent)) {
         model->publish();
-        return;
+        return true;
     }
     ZVTreeViewItem* top = newParent;
     while (ZVTreeViewItem* above = top->parent())
@@ -84,6 +84,7 @@ void ZVTreeViewModelPrivate::prepareMove(const ZVTreeViewItem* row, ZVTreeViewIt
     if (top->hasState(ZVTreeViewItem::Taken) &&
         !top->hasState(ZVTreeViewItem::Fresh | ZVTreeViewItem::Relocated))
         model->hold(top);
+    return false;
 }
 
 void ZVTreeViewModelPrivate::hold(ZVTreeViewItem* row)

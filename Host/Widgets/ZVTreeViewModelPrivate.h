@@ -83,8 +83,11 @@ public:
     static ZVTreeViewModelPrivate* announcing(ZVTreeViewItem* row);
     /** The parent that views see. */
     static ZVTreeViewItem* shownParent(const ZVTreeViewItem* row);
-    /** A row that views of a model still see does not go below a row of another. */
-    static void prepareMove(const ZVTreeViewItem* row, ZVTreeViewItem* newParent);
+    /**
+     * A row that views of a model still see does not go below a row of another: what has been
+     * gathered is announced before. True if so, since slots may have changed anything then.
+     */
+    static bool prepareMove(const ZVTreeViewItem* row, ZVTreeViewItem* newParent);
     /** In the tree as callers left it. */
     static bool isAttached(const ZVTreeViewItem* row);
 

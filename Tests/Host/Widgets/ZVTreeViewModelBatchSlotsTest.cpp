@@ -82,6 +82,9 @@ private Q_SLOTS:
     void slotMayCloseTheBatchAgain();
     void changesAfterTheAnnouncementAreAnnouncedToo();
     void rowsMayChangeTheModelWhenTheyEnd();
+    void slotMayPutElsewhereWhatIsOnItsWay_data();
+    void slotMayPutElsewhereWhatIsOnItsWay();
+    void slotMayEmptyTheListThatARowGoesTo();
 
 private:
     ZVTreeViewItem* root() const { return m_tree->root(); }
@@ -421,6 +424,44 @@ void ZVTreeViewModelBatchSlotsTest::rowsMayChangeTheModelWhenTheyEnd()
     QCOMPARE(textsOf(m_tree->model), QStringLiteral("A"));
     appendRows(root(), "c");
     QCOMPARE(textsOf(m_tree->model), QStringLiteral("A c"));
+}
+
+void ZVTreeViewModelBatchSlotsTest::slotMayPutElsewhereWhatIsOnItsWay_data()
+{
+    QTest::addColumn<bool>("isAppended");
+    QTest::newRow("inserted") << false;
+    QTest::newRow("appended") << true;
+}
+
+void ZVTreeViewModelBatchSlotsTest::slotMayPutElsewhereWhatIsOnItsWay()
+{
+    QFETCH(bool, isAppended);
+    appendRows(root(), "a b");
+    ZVTreeViewItem target;
+    ZVTreeViewItem other;
+    const ZVTreeViewModelBatch batch(&m_tree->model);
+    ZVTreeViewItem* a = root()->takeChild(0);
+    at(Published, [&] { QVERIFY(other.insertChild(0, a)); });
+    // Leaving the model, the row has to be announced gone first.
+    QVERIFY(!(isAppended ? target.appendChildren({a}) : target.insertChild(0, a)));
+    QCOMPARE(target.childCount(), 0);
+    QCOMPARE(a->parent(), &other);
+}
+
+void ZVTreeViewModelBatchSlotsTest::slotMayEmptyTheListThatARowGoesTo()
+{
+    appendRows(root(), "a b");
+    ZVTreeViewItem target;
+    appendRows(&target, "x y");
+    const ZVTreeViewModelBatch batch(&m_tree->model);
+    m_kept.reset(root()->takeChild(0));
+    at(Published, [&] {
+        target.deleteChild(1);
+        target.deleteChild(0);
+    });
+    QVERIFY(!target.insertChild(2, m_kept.get()));
+    QCOMPARE(target.childCount(), 0);
+    QVERIFY(!m_kept->parent());
 }
 
 ZORVANE_TEST_MAIN(ZVTreeViewModelBatchSlotsTest)
