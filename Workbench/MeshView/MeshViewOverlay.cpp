@@ -106,8 +106,8 @@ void drawAxes(QPainter& painter, const QRect& area, const ViewTransform& view)
         painter.setPen(QPen(axis.colour, 2.5, Qt::SolidLine, Qt::RoundCap));
         painter.drawLine(origin, origin + way * s_axisLength);
         const QPointF letter = origin + way * (s_axisLength + 10);
-        painter.drawText(QRectF(letter.x() - 10, letter.y() - 10, 20, 20), Qt::AlignCenter,
-                         axis.letter);
+        painter.drawText(QRectF(letter.x() - 10, letter.y() - 10, 20, 20),
+                         Qt::AlignCenter | Qt::TextDontClip, axis.letter);
     }
     painter.restore();
 }
@@ -126,7 +126,7 @@ void drawScaleBar(QPainter& painter, const QRect& area, double pixelsPerMm, cons
         inItsOrder(QCoreApplication::translate("Zorvane::Workbench::MeshView", "%1 mm")
                        .arg(numberText(bar.millimetres, QLocale())));
     painter.drawText(QRectF(right - 200, y - 26, 200, 20),
-                     Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignBottom, text);
+                     Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignBottom | Qt::TextDontClip, text);
 }
 
 } // namespace Zorvane::Workbench

@@ -213,6 +213,7 @@ void DesignTree::refreshNow()
     const QScopedValueRollback<bool> busy(m_busy, true);
     const bool isWhole = std::exchange(m_structureChanged, false);
     m_expansionDue = isWhole;
+    const IDCombiner chosen = currentId();
     {
         const ZVTreeViewModelBatch batch(&m_model);
         if (isWhole) {
@@ -224,8 +225,10 @@ void DesignTree::refreshNow()
     }
     // There may have been nothing to announce, and yet another filter.
     expandNewRows();
-    if (isWhole)
+    if (isWhole) {
         widenForNewObjects();
+        keepChoice(chosen);
+    }
     Q_EMIT refreshed();
 }
 
@@ -250,6 +253,16 @@ void DesignTree::applyExpansion(const QModelIndex& parent)
         m_view->setExpanded(index, m_nameFilter->isActive() || m_collapsed.count(idAt(index)) == 0);
         applyExpansion(index);
     }
+}
+
+void DesignTree::keepChoice(const IDCombiner& before)
+{
+    // Else nobody has chosen anything since the last refresh.
+    if (before != m_standIn)
+        m_choice = before;
+    if (m_choice != IDCombiner() && m_choice != currentId())
+        select(m_choice);
+    m_standIn = currentId();
 }
 
 void DesignTree::noteExpansion(const QModelIndex& index, bool expanded)

@@ -99,6 +99,8 @@ private:
     void schedule(Scope scope, When when);
     void expandNewRows();
     void applyExpansion(const QModelIndex& parent);
+    /** A choice that a filter takes away is current again as soon as it is shown again. */
+    void keepChoice(const IDCombiner& before);
     void noteExpansion(const QModelIndex& index, bool expanded);
     void widenForNewObjects();
     void takeOverName(const QModelIndex& index, const QVariant& value, int role);
@@ -115,6 +117,9 @@ private:
     std::set<IDCombiner> m_collapsed;
     /** Designs and mesh files whose names the column is wide enough for. */
     std::set<GUIdentifier> m_fitted;
+    /** What was chosen last, shown or not, and what the view has current after a refresh. */
+    IDCombiner m_choice;
+    IDCombiner m_standIn;
     QTimer m_soon;
     PostedCall m_refresh;
     /** Files that could not be read last time. */

@@ -1,6 +1,7 @@
 #include "Workbench/Window/ProblemsPanel.h"
 
 #include "Host/ApplicationWidgets/SvgIcon.h"
+#include "Workbench/Window/ScaledColumns.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -39,6 +40,7 @@ ProblemsPanel::ProblemsPanel(QWidget* parent)
     m_list->setAlternatingRowColors(true);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->header()->setStretchLastSection(true);
+    new ScaledColumns(m_list);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

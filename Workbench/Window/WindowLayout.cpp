@@ -2,6 +2,7 @@
 
 #include "Workbench/Window/LastColumn.h"
 #include "Workbench/Window/ProblemsPanel.h"
+#include "Workbench/Window/ScaledColumns.h"
 
 #include <QtGui/QFontMetrics>
 #include <QtGui/QGuiApplication>
@@ -85,6 +86,7 @@ QWidget* WindowLayout::createTreeSide()
     for (int column = 0; column < header->count(); ++column)
         header->resizeSection(
             column, std::max(int(widths[column] * digitWidth()), header->sectionSizeHint(column)));
+    new ScaledColumns(m_parts.tree);
     m_lastColumn = new LastColumn(m_parts.tree);
     auto* side = new QWidget(m_sides);
     QVBoxLayout* const layout = layOutTightly(side);

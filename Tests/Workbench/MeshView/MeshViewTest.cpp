@@ -6,6 +6,7 @@
 #include <QtGui/QPainter>
 #include <QtGui/QWheelEvent>
 
+#include <functional>
 #include <set>
 
 namespace Zorvane::Workbench {
@@ -40,19 +41,35 @@ void move(QWidget* widget, const QPoint& to, Qt::MouseButtons buttons)
     QCoreApplication::sendEvent(widget, &event);
 }
 
-/** Where the caption leaves something when there is so much room. */
-QRect captionFor(const QString& size, int room)
+/** Where something is left on a white ground. */
+QRect inkOf(const std::function<void(QPainter&, const QRect&)>& draw)
 {
     QImage image(400, 300, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
-    drawCaption(painter, QRect(0, 0, room, image.height()), QStringLiteral("Part"), size);
+    draw(painter, image.rect());
     QRect drawn;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
             if (image.pixelColor(x, y) != Qt::white)
                 drawn |= QRect(x, y, 1, 1);
     return drawn;
+}
+
+QRect captionFor(const QString& size, int room)
+{
+    return inkOf([&](QPainter& painter, QRect area) {
+        area.setWidth(room);
+        drawCaption(painter, area, QStringLiteral("Part"), size);
+    });
+}
+
+/** Without the room that a font leaves above and below. */
+int heightOfDigits(int pixelSize)
+{
+    QFont font;
+    font.setPixelSize(pixelSize);
+    return QFontMetrics(font).tightBoundingRect(QStringLiteral("500")).height();
 }
 
 QPalette darkPalette()
@@ -85,6 +102,7 @@ private Q_SLOTS:
     void picturesFollowTheScreensPixels();
     void aTabStopWithVisibleFocus();
     void figuresAreNeverCut();
+    void theScaleIsWholeInAnyFont();
 
 private:
     QImage picture() { return m_view->grab().toImage(); }
@@ -278,6 +296,20 @@ void MeshViewTest::figuresAreNeverCut()
     const QRect narrow = captionFor(size, room);
     QVERIFY(narrow.right() < room);
     QVERIFY2(narrow.bottom() > whole.bottom(), "goes on in another line");
+}
+
+void MeshViewTest::theScaleIsWholeInAnyFont()
+{
+    for (const int pixelSize : {12, 30, 60}) {
+        const QRect drawn = inkOf([pixelSize](QPainter& painter, const QRect& area) {
+            QFont font = painter.font();
+            font.setPixelSize(pixelSize);
+            painter.setFont(font);
+            drawScaleBar(painter, area, 0.3, Qt::black);
+        });
+        QVERIFY2(drawn.height() >= heightOfDigits(pixelSize),
+                 qPrintable(QString::number(pixelSize)));
+    }
 }
 
 } // namespace Zorvane::Workbench

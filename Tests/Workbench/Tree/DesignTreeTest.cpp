@@ -49,6 +49,8 @@ private Q_SLOTS:
     void selectionAndExpansionSurviveAChange();
     void collapsedRowsStayCollapsedThroughAFilter();
     void aFilteringTextShowsWhatItFinds();
+    void aChoiceComesBackWithItsRow();
+    void aNewChoiceReplacesTheHiddenOne();
     void theFirstRowInSightStays();
     void expandAndCollapseAll();
     void namesOfWhatIsOpenedAreShownWhole();
@@ -251,6 +253,32 @@ void DesignTreeTest::aFilteringTextShowsWhatItFinds()
     m_shown->tree.setFilterText({});
     m_shown->tree.refreshNow();
     QVERIFY(!m_shown->view.isExpanded(at(1)));
+}
+
+void DesignTreeTest::aChoiceComesBackWithItsRow()
+{
+    QVERIFY(m_shown->tree.select(objectId(21)));
+    for (const char* text : {"s", "st", "steel", "nothing like this", "steel"}) {
+        m_shown->tree.setFilterText(QString::fromLatin1(text));
+        m_shown->tree.refreshNow();
+    }
+    QVERIFY(m_shown->tree.currentId() != IDCombiner(objectId(21)));
+    m_shown->tree.setFilterText({});
+    m_shown->tree.refreshNow();
+    QVERIFY(m_shown->tree.currentId() == IDCombiner(objectId(21)));
+    QVERIFY(m_shown->view.selectionModel()->isSelected(at(21)));
+}
+
+void DesignTreeTest::aNewChoiceReplacesTheHiddenOne()
+{
+    QVERIFY(m_shown->tree.select(objectId(21)));
+    m_shown->tree.setFilterText(QStringLiteral("steel"));
+    m_shown->tree.refreshNow();
+    QVERIFY(m_shown->tree.currentId() != IDCombiner(objectId(30)));
+    QVERIFY(m_shown->tree.select(objectId(30)));
+    m_shown->tree.setFilterText({});
+    m_shown->tree.refreshNow();
+    QVERIFY(m_shown->tree.currentId() == IDCombiner(objectId(30)));
 }
 
 void DesignTreeTest::theFirstRowInSightStays()

@@ -28,6 +28,8 @@
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QTreeView>
 
+#include <map>
+
 namespace Zorvane::Workbench {
 
 using Testing::objectId;
@@ -108,6 +110,7 @@ private Q_SLOTS:
     void aMeasuredValueIsEdited();
     void closeAllForgetsEverything();
     void droppedFilesAreOpened();
+    void columnsFollowTheFontSize();
     void findFocusesTheFilter();
     void activatingAProblemSelectsItsObject();
 
@@ -563,6 +566,21 @@ void MainWindowTest::droppedFilesAreOpened()
     QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(m_window.get(), &drop);
     QCOMPARE(m_window->session().designs().size(), std::size_t(1));
+}
+
+void MainWindowTest::columnsFollowTheFontSize()
+{
+    openDesign();
+    const auto views = m_window->findChildren<QTreeView*>();
+    QVERIFY(views.contains(&m_window->treeView()));
+    std::map<QTreeView*, int> before;
+    for (QTreeView* const view : views)
+        before[view] = view->columnWidth(0);
+    QFont large = m_window->font();
+    large.setPointSizeF(2 * large.pointSizeF());
+    m_window->setFont(large);
+    for (QTreeView* const view : views)
+        QVERIFY2(view->columnWidth(0) > 3 * before[view] / 2, qPrintable(view->accessibleName()));
 }
 
 void MainWindowTest::findFocusesTheFilter()
