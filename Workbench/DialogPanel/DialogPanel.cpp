@@ -2,6 +2,7 @@
 
 #include "FileDialogs/FileDialog.h"
 #include "Workbench/DialogPanel/ExampleFiles.h"
+#include "Workbench/Window/ScreenFit.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QClipboard>
@@ -36,7 +37,7 @@ DialogPanel::DialogPanel(QWidget* parent)
     layout->addWidget(createChoice());
     layout->addWidget(createResults(), 1);
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    resize(s_widthInDigits * digit, s_heightInDigits * digit);
+    resize(fittedToScreen(*this, QSize(s_widthInDigits, s_heightInDigits) * digit));
     m_variants->setCurrentRow(0);
     m_variants->setFocus();
     if (!m_files->areThere())

@@ -1,5 +1,7 @@
 #include "Workbench/Help/HelpWindow.h"
 
+#include "Workbench/Window/ScreenFit.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QEvent>
@@ -57,7 +59,7 @@ HelpWindow::HelpWindow(QWidget* parent)
     sides->setSizes({s_widthOfList, s_size.width() - s_widthOfList});
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(sides);
-    resize(s_size);
+    resize(fittedToScreen(*this, s_size));
     listPages();
     connect(m_pages, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
         if (item)

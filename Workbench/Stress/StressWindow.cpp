@@ -2,6 +2,7 @@
 
 #include "Host/Widgets/ZVTreeViewPlaceKeeper.h"
 #include "Workbench/Stress/TimeChart.h"
+#include "Workbench/Window/ScreenFit.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtWidgets/QCheckBox>
@@ -81,7 +82,7 @@ StressWindow::StressWindow(QWidget* parent)
     for (const QKeySequence::StandardKey key : {QKeySequence::Close, QKeySequence::Cancel})
         connect(new QShortcut(key, this), &QShortcut::activated, this, &QWidget::close);
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    resize(130 * digit, 88 * digit);
+    resize(fittedToScreen(*this, QSize(130, 88) * digit));
     refill();
     m_startStop->setFocus();
 }

@@ -3,13 +3,11 @@
 #include "Workbench/Window/LastColumn.h"
 #include "Workbench/Window/ProblemsPanel.h"
 #include "Workbench/Window/ScaledColumns.h"
+#include "Workbench/Window/ScreenFit.h"
 
 #include <QtGui/QFontMetrics>
-#include <QtGui/QGuiApplication>
-#include <QtGui/QScreen>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QSplitter>
-#include <QtWidgets/QStyle>
 #include <QtWidgets/QTreeView>
 #include <QtWidgets/QVBoxLayout>
 
@@ -71,10 +69,7 @@ double WindowLayout::digitWidth() const
 QSize WindowLayout::usualSize() const
 {
     const double unit = digitWidth();
-    // The frame that the window is going to get is not known yet.
-    const QSize frame(0, m_central->style()->pixelMetric(QStyle::PM_TitleBarHeight));
-    return QSize(int(s_digitsAcross * unit), int(s_digitsDown * unit))
-        .boundedTo(QGuiApplication::primaryScreen()->availableSize() - frame);
+    return fittedToScreen(*m_central, QSize(int(s_digitsAcross * unit), int(s_digitsDown * unit)));
 }
 
 QWidget* WindowLayout::createTreeSide()

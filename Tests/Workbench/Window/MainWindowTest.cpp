@@ -16,7 +16,6 @@
 #include <QtGui/QAccessible>
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QDropEvent>
-#include <QtGui/QScreen>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QHeaderView>
@@ -25,7 +24,6 @@
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollBar>
-#include <QtWidgets/QStyle>
 #include <QtWidgets/QTreeView>
 
 #include <map>
@@ -83,7 +81,6 @@ private Q_SLOTS:
     void everyControlHasAName();
     void everyControlIsReachedByTab();
     void theTreeHasTheFocusFirst();
-    void aNewWindowFitsTheScreenWithItsFrame();
     void opensADesignAndSelectsItsFirstPart();
     void opensAMeshFile();
     void whatCannotBeOpenedIsToldAndTheRestOpens();
@@ -200,20 +197,6 @@ void MainWindowTest::theTreeHasTheFocusFirst()
 {
     openDesign();
     QTRY_VERIFY(m_window->treeView().hasFocus());
-}
-
-void MainWindowTest::aNewWindowFitsTheScreenWithItsFrame()
-{
-    QFont large = m_window->font();
-    large.setPointSize(30);
-    const QFont before = QApplication::font();
-    QApplication::setFont(large);
-    const MainWindow window;
-    QApplication::setFont(before);
-    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
-    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    QVERIFY(window.width() <= screen.width());
-    QVERIFY(window.height() + title <= screen.height());
 }
 
 void MainWindowTest::opensADesignAndSelectsItsFirstPart()
