@@ -8,7 +8,7 @@ QT_END_NAMESPACE
 
 namespace Zorvane::Workbench {
 
-/** Lets the columns of a view grow and shrink with its font, so that as much text stays readable. */
+/** Lets the columns of a view grow and shrink with its font, so that texts stay as readable. */
 class ScaledColumns : public QObject
 {
     Q_OBJECT
