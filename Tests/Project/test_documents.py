@@ -1,4 +1,5 @@
-"""Tests of what the documents say: the example is the one that is run, and every link leads on."""
+"""Tests of what the documents say: the example is the one that is run, every link leads on, and
+what they name is there."""
 
 import pathlib
 import re
@@ -8,8 +9,19 @@ import unittest
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 DOCUMENTS = sorted([*ROOT.glob("*.md"), *(ROOT / "Docs").glob("*.md")])
 LINK = re.compile(r"!?\[[^\]]*\]\(([^)\s#]+)(?:#[^)]*)?\)")
+LINK_TO_HEADING = re.compile(r"\]\(([^)\s#:]*)#([^)]+)\)")
+HEADING = re.compile(r"^#+ (.*)$", re.M)
 CODE_NAME = re.compile(r"`((?:Host|TreeModel|Files|FileDialogs|Actions|Dialogs|Utilities|Workbench|"
                        r"Tests|Benchmarks|Docs|Tools|cmake)/[\w./-]*)`")
+CODE = re.compile(r"^```.*?^```|`([^`\n]+)`", re.S | re.M)
+IDENTIFIER = re.compile(r"\b[A-Za-z_]\w*[a-z0-9][A-Z]\w*")
+SOURCE_FOLDERS = ("Host", "TreeModel", "Files", "FileDialogs", "Actions", "Dialogs", "Utilities",
+                  "Workbench", "Tests", "Benchmarks", "Tools", "cmake")
+
+
+def anchor(heading):
+    """What a link calls a heading."""
+    return re.sub(r"[^\w -]", "", heading.lower()).replace(" ", "-")
 
 
 class DocumentsTest(unittest.TestCase):
@@ -28,6 +40,29 @@ class DocumentsTest(unittest.TestCase):
             for folder, target in targets:
                 with self.subTest(document=document.name, target=target):
                     self.assertTrue((folder / target).exists())
+
+    def test_links_to_headings_lead_somewhere(self):
+        for document in DOCUMENTS:
+            for name, wanted in LINK_TO_HEADING.findall(document.read_text(encoding="utf-8")):
+                with self.subTest(document=document.name, target=f"{name}#{wanted}"):
+                    target = document.parent / name if name else document
+                    headings = HEADING.findall(target.read_text(encoding="utf-8"))
+                    self.assertIn(wanted, list(map(anchor, headings)))
+
+    def test_names_of_the_code_are_in_the_code(self):
+        texts = [f"{path.name}\n{path.read_text(encoding='utf-8')}"
+                 for folder in SOURCE_FOLDERS for path in (ROOT / folder).rglob("*")
+                 if path.suffix in {".h", ".cpp", ".txt", ".cmake", ".in"}]
+        words = set().union(*map(re.compile(r"\w+").findall, texts))
+        # The page of the actions is made by a program, and has a test of its own.
+        for document in (name for name in DOCUMENTS if name.name != "Actions.md"):
+            text = document.read_text(encoding="utf-8")
+            named = {name for code in CODE.findall(text) for name in IDENTIFIER.findall(code)}
+            with self.subTest(document=document.name):
+                # A name may be told by its end, such as "...ForTypes".
+                unknown = [name for name in sorted(named - words)
+                           if not any(name in text for text in texts)]
+                self.assertEqual(unknown, [])
 
 
 if __name__ == "__main__":
