@@ -44,7 +44,7 @@ private Q_SLOTS:
     void openAtADeletedFolder();
     void openPassesOptions();
     void openWritesTheFilterBack();
-    void openSeveral();
+    void openSeveralGivesAllAsQtSpellsThem();
     void saveAsksQt_data();
     void saveAsksQt();
     void saveRemembersTheFilterTheUserPicked();
@@ -55,13 +55,13 @@ private Q_SLOTS:
     void failureOfAnyKindAsksQt_data();
     void failureOfAnyKindAsksQt();
     void widgetsAreEnabledBeforeTheFallback();
-    void cancel();
+    void cancelGivesNothingAndIsTold();
 
     void folderIsAlwaysAskedOfQt();
-    void proposedFolder_data();
-    void proposedFolder();
-    void folderWithoutAProvider();
-    void folderCancelled();
+    void theFolderOfTheStartIsProposedUnlessTheScopesLiesInIt_data();
+    void theFolderOfTheStartIsProposedUnlessTheScopesLiesInIt();
+    void aFolderNeedsNoProvider();
+    void aFolderCancelledTellsTheProviderNothing();
 
 private:
     void setUp(Reason reason);
@@ -174,7 +174,7 @@ void FileDialogFallbackTest::openWritesTheFilterBack()
     QCOMPARE(selected, s_parts);
 }
 
-void FileDialogFallbackTest::openSeveral()
+void FileDialogFallbackTest::openSeveralGivesAllAsQtSpellsThem()
 {
     setUp(Reason::Unwanted);
     QVERIFY(writeFile(path(QStringLiteral("b.prt"))));
@@ -314,7 +314,7 @@ void FileDialogFallbackTest::widgetsAreEnabledBeforeTheFallback()
     FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope, nullptr, &parent);
 }
 
-void FileDialogFallbackTest::cancel()
+void FileDialogFallbackTest::cancelGivesNothingAndIsTold()
 {
     setUp(Reason::NoDriver);
     ExpectedModals modals;
@@ -350,7 +350,7 @@ void FileDialogFallbackTest::folderIsAlwaysAskedOfQt()
     QCOMPARE(m_provider.calls.last(), QStringLiteral("set Design to '%1'").arg(below));
 }
 
-void FileDialogFallbackTest::proposedFolder_data()
+void FileDialogFallbackTest::theFolderOfTheStartIsProposedUnlessTheScopesLiesInIt_data()
 {
     QTest::addColumn<QString>("scopePath");
     QTest::addColumn<QString>("startDir");
@@ -371,7 +371,7 @@ void FileDialogFallbackTest::proposedFolder_data()
     row("a scope's path that is gone", "/gone/deep", "/data/y", "/data");
 }
 
-void FileDialogFallbackTest::proposedFolder()
+void FileDialogFallbackTest::theFolderOfTheStartIsProposedUnlessTheScopesLiesInIt()
 {
     QFETCH(QString, scopePath);
     QFETCH(QString, startDir);
@@ -389,7 +389,7 @@ void FileDialogFallbackTest::proposedFolder()
                                                             : QString(m_dir->path() + startDir));
 }
 
-void FileDialogFallbackTest::folderWithoutAProvider()
+void FileDialogFallbackTest::aFolderNeedsNoProvider()
 {
     ExpectedModals modals;
     modals.expectDialog<QFileDialog>(s_caption, [this](QFileDialog& dialog) {
@@ -401,7 +401,7 @@ void FileDialogFallbackTest::folderWithoutAProvider()
              m_dir->path());
 }
 
-void FileDialogFallbackTest::folderCancelled()
+void FileDialogFallbackTest::aFolderCancelledTellsTheProviderNothing()
 {
     ExpectedModals modals;
     modals.expectDialog<QFileDialog>(s_caption, [](QFileDialog& dialog) { dialog.reject(); });

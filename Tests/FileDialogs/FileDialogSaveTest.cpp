@@ -18,11 +18,11 @@ private Q_SLOTS:
     void saveTellsTheProvider();
     void saveProposes_data();
     void saveProposes();
-    void saveCancelled();
+    void cancelGivesNothingAndIsTold();
 
-    void defaultSuffix_data();
-    void defaultSuffix();
-    void defaultSuffixOfTheSelectedFilter();
+    void aNameWithoutAnEndingGetsTheFilters_data();
+    void aNameWithoutAnEndingGetsTheFilters();
+    void theSelectedFilterGivesTheEnding();
     void suffixIsToldToTheProvider();
     void addedEndingsAreKnown_data();
     void addedEndingsAreKnown();
@@ -39,12 +39,12 @@ private Q_SLOTS:
     void inDirShowsTheMessage_data();
     void inDirShowsTheMessage();
     void inDirCountsTheBox();
-    void inDirCancelled_data();
-    void inDirCancelled();
+    void inDirCancelGivesNothingAndIsTold_data();
+    void inDirCancelGivesNothingAndIsTold();
     void inDirComparesFoldersExactly();
     void inDirGivesTheAbsolutePath();
 
-    void lastDirectoryOpened();
+    void theLastFolderIsProposedWithTheName();
 
 private:
     /** Saves in a scope that no other test uses. */
@@ -120,14 +120,14 @@ void FileDialogSaveTest::saveProposes()
     QTEST(m_script.last().fileName, "proposed");
 }
 
-void FileDialogSaveTest::saveCancelled()
+void FileDialogSaveTest::cancelGivesNothingAndIsTold()
 {
     QCOMPARE(FileDialog::getSaveFileName(s_caption, s_filter, &m_provider, s_scope, QString()),
              QString());
     QCOMPARE(m_provider.calls.last(), QStringLiteral("set Design to ''"));
 }
 
-void FileDialogSaveTest::defaultSuffix_data()
+void FileDialogSaveTest::aNameWithoutAnEndingGetsTheFilters_data()
 {
     QTest::addColumn<QString>("filter");
     QTest::addColumn<QString>("chosen");
@@ -154,7 +154,7 @@ void FileDialogSaveTest::defaultSuffix_data()
     row("cancel gets none", "Design (*.dsg)", "", "");
 }
 
-void FileDialogSaveTest::defaultSuffix()
+void FileDialogSaveTest::aNameWithoutAnEndingGetsTheFilters()
 {
     QFETCH(QString, filter);
     QFETCH(QString, chosen);
@@ -164,7 +164,7 @@ void FileDialogSaveTest::defaultSuffix()
     QTEST(saveIn(QTest::currentDataTag(), filter, QString()), "result");
 }
 
-void FileDialogSaveTest::defaultSuffixOfTheSelectedFilter()
+void FileDialogSaveTest::theSelectedFilterGivesTheEnding()
 {
     m_script.answer({QStringLiteral("C:/parts/part")});
     QCOMPARE(saveIn("selected", s_filter, s_tables), QStringLiteral("C:/parts/part.csv"));
@@ -347,14 +347,14 @@ void FileDialogSaveTest::inDirCountsTheBox()
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
 }
 
-void FileDialogSaveTest::inDirCancelled_data()
+void FileDialogSaveTest::inDirCancelGivesNothingAndIsTold_data()
 {
     QTest::addColumn<int>("wrongChoices");
     QTest::newRow("at once") << 0;
     QTest::newRow("after a wrong choice") << 1;
 }
 
-void FileDialogSaveTest::inDirCancelled()
+void FileDialogSaveTest::inDirCancelGivesNothingAndIsTold()
 {
     QFETCH(int, wrongChoices);
     ExpectedModals modals;
@@ -389,7 +389,7 @@ void FileDialogSaveTest::inDirGivesTheAbsolutePath()
              QDir::current().filePath(QStringLiteral("new")));
 }
 
-void FileDialogSaveTest::lastDirectoryOpened()
+void FileDialogSaveTest::theLastFolderIsProposedWithTheName()
 {
     m_provider.path = m_dir->path();
     QCOMPARE(FileDialog::getLastDirectoryOpened(&m_provider, s_scope, QString()), m_dir->path());

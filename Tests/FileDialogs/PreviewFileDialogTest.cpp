@@ -96,7 +96,7 @@ private Q_SLOTS:
     void otherCheckBoxesAreNotOurs();
     void stateIsWrittenOnlyWhenItChanges();
     void withoutKeyThePreviewIsWantedAndNotRemembered();
-    void handlerWithoutPreviewConfiguration();
+    void anyConfigurationMayHaveThePreviewsHandler();
     void alternativeDialogHasNoPreview();
     void configurationOutlivesTheDialog();
 };
@@ -348,7 +348,7 @@ void PreviewFileDialogTest::withoutKeyThePreviewIsWantedAndNotRemembered()
     QVERIFY(QSettings().allKeys().filter(QStringLiteral("Preview")).isEmpty());
 }
 
-void PreviewFileDialogTest::handlerWithoutPreviewConfiguration()
+void PreviewFileDialogTest::anyConfigurationMayHaveThePreviewsHandler()
 {
     Setup setup;
     PreviewFileDialogEventHandler handler(setup.editor);

@@ -61,8 +61,8 @@ private:
 
 private Q_SLOTS:
     void init();
-    void defaultFolders_data();
-    void defaultFolders();
+    void everyScopeHasItsDefaultFolder_data();
+    void everyScopeHasItsDefaultFolder();
     void defaultFoldersAreFilledOnce();
     void directoryOfAFileIsItsFolder();
     void directoryOfAnythingElseIsItself();
@@ -71,8 +71,8 @@ private Q_SLOTS:
     void lastPathOfAFolderIsItself();
     void lastPathOfAFileThatIsGoneIsTheNameItself();
     void lastPathWhoseFolderIsGoneIsTheDefault();
-    void unusableLastPaths_data();
-    void unusableLastPaths();
+    void unusableLastPathsGiveTheDefaultFolder_data();
+    void unusableLastPathsGiveTheDefaultFolder();
     void lastPathWithoutDefaultStays();
     void defaultProviderForgetsOtherScopes();
     void lastProviderRemembersEveryScope();
@@ -95,7 +95,7 @@ void PathProviderTest::init()
     QSettings().clear();
 }
 
-void PathProviderTest::defaultFolders_data()
+void PathProviderTest::everyScopeHasItsDefaultFolder_data()
 {
     QTest::addColumn<QString>("folder");
     const auto row = [this](const char* scope, const char* folder) {
@@ -127,7 +127,7 @@ void PathProviderTest::defaultFolders_data()
     // clang-format on
 }
 
-void PathProviderTest::defaultFolders()
+void PathProviderTest::everyScopeHasItsDefaultFolder()
 {
     QFETCH(QString, folder);
     const QString scope = QString::fromLatin1(QTest::currentDataTag());
@@ -210,7 +210,7 @@ void PathProviderTest::lastPathWhoseFolderIsGoneIsTheDefault()
     QCOMPARE(lastPathSetting(scope), file);
 }
 
-void PathProviderTest::unusableLastPaths_data()
+void PathProviderTest::unusableLastPathsGiveTheDefaultFolder_data()
 {
     QTest::addColumn<QVariant>("stored");
     QTest::newRow("a dot") << QVariant(QStringLiteral("."));
@@ -219,7 +219,7 @@ void PathProviderTest::unusableLastPaths_data()
     QTest::newRow("folder is gone") << QVariant(m_folders.path("never there/file"));
 }
 
-void PathProviderTest::unusableLastPaths()
+void PathProviderTest::unusableLastPathsGiveTheDefaultFolder()
 {
     QFETCH(QVariant, stored);
     QSettings().setValue(QStringLiteral("LastFile/Presses"), stored);
