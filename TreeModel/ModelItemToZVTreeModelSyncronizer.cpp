@@ -29,9 +29,14 @@ std::size_t countBelow(const ZVTreeViewItem* row)
 
 } // namespace
 
+struct ModelItemToZVTreeModelSyncronizer::SearchMemory
+{
+    RowFinder::SpareIndexes spareIndexes;
+};
+
 ModelItemToZVTreeModelSyncronizer::ModelItemToZVTreeModelSyncronizer(int idRole)
     : m_idRole(idRole)
-    , m_spareIndexes(std::make_unique<RowFinder::SpareIndexes>())
+    , m_searchMemory(std::make_unique<SearchMemory>())
 {}
 
 ModelItemToZVTreeModelSyncronizer::~ModelItemToZVTreeModelSyncronizer() = default;
@@ -101,7 +106,7 @@ int ModelItemToZVTreeModelSyncronizer::placeRows(ZVTreeViewItem* parent, const I
 {
     const int wanted = static_cast<int>(items.size());
     int count = parent->childCount();
-    RowFinder finder(parent, items, {m_idColumn, m_idRole}, *m_spareIndexes);
+    RowFinder finder(parent, items, {m_idColumn, m_idRole}, m_searchMemory->spareIndexes);
     int front = 0;
     for (; front < count && front < wanted; ++front) {
         const ModelItem& item = *items[static_cast<std::size_t>(front)];

@@ -3,7 +3,6 @@
 #include "Host/Identifiers/IDCombiner.h"
 #include "TreeModel/ModelItem.h"
 #include "TreeModel/ModelRoot.h"
-#include "TreeModel/RowFinder.h"
 #include "TreeModel/ZVTreeItemDataProviderInterface.h"
 #include "UiToolsExport.h"
 
@@ -63,6 +62,7 @@ public:
 
 private:
     using Items = std::vector<std::shared_ptr<ModelItem>>;
+    struct SearchMemory;
     using RowList = ZVTreeItemDataProviderInterface::RowList;
 
     RowList align(ZVTreeViewModel* viewModel, const ModelRoot& root);
@@ -85,7 +85,7 @@ private:
     RowList m_itemList;
     Qt::ItemFlags m_newItemFlags;
     /** Memory of earlier searches, as much as the longest list needed. */
-    std::unique_ptr<RowFinder::SpareIndexes> m_spareIndexes;
+    std::unique_ptr<SearchMemory> m_searchMemory;
 };
 
 } // namespace Zorvane::GenericTreeViewModelHandling

@@ -64,6 +64,14 @@ function(zorvane_add_subsystem name)
     set_property(GLOBAL APPEND PROPERTY ZORVANE_SUBSYSTEM_FOLDERS ${CMAKE_CURRENT_SOURCE_DIR})
 endfunction()
 
+# zorvane_internal_headers(header...)
+# Headers of this folder that only its own library includes: they are not installed, and no header
+# that is may include them, which Tools/check-layers sees to.
+function(zorvane_internal_headers)
+    list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE headers)
+    set_property(GLOBAL APPEND PROPERTY ZORVANE_INTERNAL_HEADERS ${headers})
+endfunction()
+
 # The one shared library made of all subsystem folders.
 function(zorvane_link_subsystems library)
     get_property(subsystems GLOBAL PROPERTY ZORVANE_SUBSYSTEMS)

@@ -1,5 +1,6 @@
 # What `cmake --install` leaves: two packages, ZorvaneHost with the target Zorvane::Host and
-# ZorvaneUiTools with Zorvane::UiTools, and the headers as they lie in the source folders.
+# ZorvaneUiTools with Zorvane::UiTools, and the headers as they lie in the source folders,
+# except internal ones.
 
 include(CMakePackageConfigHelpers)
 
@@ -12,9 +13,15 @@ function(zorvane_install_package package target)
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
     install(EXPORT ${package}Targets NAMESPACE Zorvane:: DESTINATION ${destination})
+    get_property(internal_headers GLOBAL PROPERTY ZORVANE_INTERNAL_HEADERS)
+    set(exclude_internal)
+    foreach(header IN LISTS internal_headers)
+        file(RELATIVE_PATH name ${PROJECT_SOURCE_DIR} ${header})
+        list(APPEND exclude_internal PATTERN ${name} EXCLUDE)
+    endforeach()
     install(DIRECTORY ${arg_FOLDERS} DESTINATION ${${target}_INSTALL_INCLUDEDIR}
         FILES_MATCHING PATTERN "*.h"
-        REGEX "/(Windows|Portable)$" EXCLUDE)
+        REGEX "/(Windows|Portable)$" EXCLUDE ${exclude_internal})
 
     set(config ${PROJECT_BINARY_DIR}/${package}Config.cmake)
     set(version ${PROJECT_BINARY_DIR}/${package}ConfigVersion.cmake)

@@ -23,6 +23,43 @@ def anchor(heading):
     """What a link calls a heading."""
     return re.sub(r"[^\w -]", "", heading.lower()).replace(" ", "-")
 
+HOST_INCLUDE = re.compile(r'^#include "(Host/[^"]+)"', re.M)
+HOST_ROW = re.compile(r"^\| `(Host/[\w/]+\.h)` \| (.+) \| (library|Workbench) \|$", re.M)
+# What a header of the host declares for its users: types and functions at the margin.
+HOST_NAME = re.compile(r"^(?:class|struct|enum class) (?:ZORVANE_HOST_EXPORT )?([\w:]+)\b(?![:;])|"
+                       r"^ZORVANE_HOST_EXPORT [^;(]*?\b(\w+)\(|^using (\w+) =", re.M)
+
+
+def host_headers_of(*folders):
+    sources = [path for folder in folders for ending in ("*.h", "*.cpp")
+               for path in (ROOT / folder).rglob(ending)]
+    return {header for path in sources
+            for header in HOST_INCLUDE.findall(path.read_text(encoding="utf-8"))}
+
+
+class HostGuideTest(unittest.TestCase):
+    def setUp(self):
+        text = (ROOT / "Docs/HostGuide.md").read_text(encoding="utf-8")
+        self.rows = HOST_ROW.findall(text)
+
+    def headers_for(self, user):
+        return {header for header, _, of in self.rows if of == user}
+
+    def test_the_table_has_the_headers_that_are_included(self):
+        library = host_headers_of("TreeModel", "Files", "FileDialogs", "Actions", "Dialogs",
+                                  "Utilities")
+        more = host_headers_of("Workbench", "Benchmarks", "Tools")
+        self.assertGreater(len(library), 20)
+        self.assertEqual(self.headers_for("library"), library)
+        self.assertEqual(self.headers_for("Workbench"), more - library)
+
+    def test_the_table_names_what_each_header_declares(self):
+        for header, names, _ in self.rows:
+            with self.subTest(header=header):
+                text = (ROOT / header).read_text(encoding="utf-8")
+                declared = {"".join(groups) for groups in HOST_NAME.findall(text)}
+                self.assertEqual(set(re.findall(r"`([\w:]+)`", names)), declared)
+
 
 class DocumentsTest(unittest.TestCase):
     def test_the_example_is_the_one_that_is_run(self):

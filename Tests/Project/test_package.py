@@ -37,6 +37,12 @@ def configure(source, name, *options):
     return WORK / name
 
 
+def installed_headers():
+    """As they are included."""
+    return sorted(path.relative_to(folder).as_posix() for folder in (PREFIX / "include").iterdir()
+                  for path in folder.rglob("*.h"))
+
+
 class PackageTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
@@ -54,6 +60,24 @@ class PackageTest(unittest.TestCase):
             library, = PREFIX.glob(f"lib*/**/lib{name}.so")
             soname = re.search(r"\(SONAME\).*\[(.*)\]", run("readelf", "-d", library))[1]
             self.assertEqual(soname, f"lib{name}.so.{version}")
+
+    def test_installed_headers_need_nothing_that_is_not_installed(self):
+        headers = installed_headers()
+        self.assertIn("TreeModel/ModelItemToZVTreeModelSyncronizer.h", headers)
+        project = WORK / "headers-source"
+        project.mkdir()
+        listing = (SOURCES / "Tests/Project/Consumer/CMakeLists.txt").read_text()
+        (project / "CMakeLists.txt").write_text(listing)
+        lines = [f'#include "{header}"' for header in headers] + ["int main() {}", ""]
+        (project / "Main.cpp").write_text("\n".join(lines))
+        run("cmake", "--build", configure(project, "headers"))
+
+    def test_a_class_of_an_installed_header_can_be_linked(self):
+        for header in installed_headers():
+            if (SOURCES / header).with_suffix(".cpp").exists():
+                with self.subTest(header=header):
+                    self.assertRegex((SOURCES / header).read_text(),
+                                     r"\bZORVANE_(HOST|UITOOLS)_EXPORT\b")
 
     def test_no_path_of_the_sources_is_installed(self):
         for path in PREFIX.rglob("*.cmake"):

@@ -127,6 +127,35 @@ class LayersTest(ToolTest):
                 self.assertIn("\n" + finding, "\n" + result.stdout)
         self.assertIn(f"Layers: {len(expected)} to mend\n", result.stdout)
 
+    def test_internal_headers_stay_inside_their_library(self):
+        self.write("Host/Widgets/CMakeLists.txt", "zorvane_internal_headers(WaitingSlots.h)\n")
+        include = '#include "Host/Widgets/WaitingSlots.h"\n'
+        inside = ("Host/Widgets/A.cpp", "Tests/Host/A.cpp", "Host/Widgets/WaitingSlots.h")
+        for name in inside:
+            self.write(name, include)
+        self.assertEqual(self.check("check-layers").stdout, "Layers: in order\n")
+        for name in ("Host/Widgets/A.h", "Utilities/A.cpp", "Workbench/A.cpp"):
+            self.write(name, include)
+        result = self.check("check-layers")
+        line = ":1: " + include.strip() + ": "
+        self.assertIn(f"Host/Widgets/A.h{line}an installed header", result.stdout)
+        self.assertIn(f"Utilities/A.cpp{line}internal to another", result.stdout)
+        self.assertIn(f"Workbench/A.cpp{line}internal to another", result.stdout)
+        self.assertIn("Layers: 3 to mend\n", result.stdout)
+
+    def test_internal_headers_of_one_library_may_meet_across_folders(self):
+        self.write("Files/CMakeLists.txt", "zorvane_internal_headers(\n    A.h\n    B.h)\n")
+        self.write("Files/A.h")
+        self.write("Files/B.h")
+        self.write("FileDialogs/A.cpp", '#include "Files/B.h"\n')
+        self.assertEqual(self.check("check-layers").stdout, "Layers: in order\n")
+
+    def test_a_list_of_internal_headers_names_only_what_is_there(self):
+        self.write("Files/CMakeLists.txt", "zorvane_internal_headers(Gone.h)\n")
+        self.assertEqual(self.check("check-layers").stdout,
+                         "Files/Gone.h: an internal header that is not there\n"
+                         "Layers: 1 to mend\n")
+
     def test_an_empty_folder_is_not_in_order(self):
         self.root = self.root / "nothing"
         self.root.mkdir()
