@@ -82,10 +82,10 @@ ConfiguredFileDialog::ConfiguredFileDialog(const NativeFileDialogRequest& reques
     setWindowModality(request.owner ? Qt::WindowModal : Qt::ApplicationModal);
     setAcceptMode(QFileDialog::AcceptOpen);
     setFileMode(request.multiSelection ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
-    m_selection = findChild<QListView*>(QStringLiteral("listView"))->selectionModel();
+    m_parts = findQtDialogParts(*this);
     setUpFiles(request);
     addPlaces(request.places);
-    if (m_handler) {
+    if (m_handler && m_parts) {
         addControls();
         connectEvents();
     }
@@ -128,28 +128,25 @@ void ConfiguredFileDialog::addPlaces(const std::vector<QString>& places)
 
 void ConfiguredFileDialog::addControls()
 {
-    // The grid of Qt's dialog: folder, list, name and type, with the buttons beside the last two.
-    auto* rows = qobject_cast<QGridLayout*>(layout());
-    auto* buttons = findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
-    auto* types = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
-    Q_ASSERT(rows && buttons && types);
+    QGridLayout& rows = *m_parts->rows;
+    QDialogButtonBox* const buttons = m_parts->buttons;
     int row = 0;
     int column = 0;
     int rowSpan = 0;
     int columnSpan = 0;
-    rows->getItemPosition(rows->indexOf(buttons), &row, &column, &rowSpan, &columnSpan);
-    rows->removeWidget(buttons);
+    rows.getItemPosition(rows.indexOf(buttons), &row, &column, &rowSpan, &columnSpan);
+    rows.removeWidget(buttons);
 
     auto* besideButtons = new QGridLayout;
     m_controls = new CustomControls(this);
-    m_controls->add(*m_configuration, *rows, *besideButtons);
+    m_controls->add(*m_configuration, rows, *besideButtons);
     auto* corner = new QHBoxLayout;
     corner->addLayout(besideButtons);
     corner->addWidget(buttons);
-    rows->addLayout(corner, row, column, rowSpan, columnSpan);
+    rows.addLayout(corner, row, column, rowSpan, columnSpan);
 
-    setTabOrder(findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), types);
-    m_controls->followInTabOrder(types);
+    setTabOrder(m_parts->name, m_parts->types);
+    m_controls->followInTabOrder(m_parts->types);
     // The box, which comes right after the name, would hand the focus on to its first button.
     buttons->setFocusProxy(nullptr);
 }
@@ -163,7 +160,7 @@ void ConfiguredFileDialog::connectEvents()
         tell([&] { m_handler->onItemSelected(controlId, itemIndex); });
     });
     connect(this, &QFileDialog::filterSelected, this, &ConfiguredFileDialog::tellType);
-    connect(m_selection, &QItemSelectionModel::selectionChanged, this,
+    connect(m_parts->list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &ConfiguredFileDialog::tellSelection);
 }
 
@@ -176,12 +173,15 @@ void ConfiguredFileDialog::selectType(const QString& type)
 
 QString ConfiguredFileDialog::selectedType() const
 {
-    return m_types.value(findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))->currentIndex());
+    // By its place, since two types may read alike.
+    return m_types.value(m_parts ? m_parts->types->currentIndex()
+                                 : nameFilters().indexOf(selectedNameFilter()));
 }
 
 void ConfiguredFileDialog::setControlState(int controlId, int state)
 {
-    m_controls->setState(controlId, state);
+    if (m_controls)
+        m_controls->setState(controlId, state);
 }
 
 void ConfiguredFileDialog::placeLater(FileDialogConfiguration* configuration)
@@ -266,11 +266,11 @@ void ConfiguredFileDialog::showEvent(QShowEvent* event)
     widenSideBar(*this);
     // The frame was unknown when the window got its first geometry.
     placeLater(m_configuration);
-    if (!m_handler)
+    if (!m_handler || !m_parts)
         return;
     tellType();
     QTimer::singleShot(0, this, [this] {
-        if (m_selection->hasSelection())
+        if (m_parts->list->selectionModel()->hasSelection())
             tellSelection();
     });
 }
@@ -296,17 +296,16 @@ void ConfiguredFileDialog::tellType()
 
 void ConfiguredFileDialog::tellSelection()
 {
-    const auto* name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     QStringList paths;
     // A folder that was entered stays selected while its name stands in the box.
-    const QModelIndex folder = findChild<QListView*>(QStringLiteral("listView"))->rootIndex();
-    const QModelIndexList rows = m_selection->selectedRows();
+    const QModelIndex folder = m_parts->list->rootIndex();
+    const QModelIndexList rows = m_parts->list->selectionModel()->selectedRows();
     for (const QModelIndex& row : rows) {
         const QString path = row.data(QFileSystemModel::FilePathRole).toString();
         if (row.parent() == folder)
             paths.append(QDir::toNativeSeparators(path));
     }
-    const QStringList files = inOrderOfFileNameBox(paths, name->text());
+    const QStringList files = inOrderOfFileNameBox(paths, m_parts->name->text());
     tell([&] { m_handler->onSelectionChanged(files, Callbacks(*this)); });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/QtDialogParts.h"
 
 #include <QtCore/QList>
 #include <QtCore/QTimer>
@@ -8,8 +9,7 @@
 #include <QtWidgets/QFileDialog>
 
 #include <exception>
-
-class QItemSelectionModel;
+#include <optional>
 
 namespace Zorvane {
 
@@ -70,7 +70,9 @@ private:
     /** As the caller wrote them, where the dialog shows them in another form. */
     QStringList m_types;
     QList<QUrl> m_addedPlaces;
-    QItemSelectionModel* m_selection = nullptr;
+    /** Without them, in a version of Qt that lacks one, there are neither controls nor events. */
+    std::optional<QtDialogParts> m_parts;
+    /** Null without a handler or without parts. */
     CustomControls* m_controls = nullptr;
     QTimer m_movementEnd;
     bool m_wasShown = false;

@@ -9,7 +9,7 @@ namespace Zorvane {
 
 namespace {
 
-constexpr int s_firstGroupId = 201;
+constexpr int s_firstGroupId = FileDialogConfiguration::s_firstGroupId;
 
 QLabel* makeLabel(const QString& text, QWidget* control, QWidget* dialog)
 {

@@ -1,8 +1,8 @@
 #include "FileDialogs/FileDialogConfiguration.h"
 
-#include "FileDialogs/ApplicationMainWindow.h"
 #include "FileDialogs/DialogPlacement.h"
 #include "FileDialogs/FileDialogEventHandler.h"
+#include "Files/ApplicationMainWindow.h"
 
 #include <QtCore/QSettings>
 #include <QtWidgets/QApplication>

@@ -43,10 +43,13 @@ public:
         ControlEnabledVisible = 3
     };
 
+    /** Each control is a group as well, which this number plus the control's index names. */
+    static constexpr std::int32_t s_firstGroupId = 201;
+
     /** One control below the file list. */
     struct CustomItem
     {
-        /** Names the control in events; should be used once, and not lie at 201 + an index. */
+        /** Names the control in events; should be used once, and not be a group's number. */
         std::int32_t controlId = 0;
         /** A `ControlType`; any other value adds no control. */
         std::int32_t controlType = CheckBox;

@@ -1,11 +1,11 @@
 #include "FileDialogs/FileDialogRun.h"
 
 #include "FileDialogs/ApplicationBlock.h"
-#include "FileDialogs/ApplicationMainWindow.h"
 #include "FileDialogs/ConfiguredFileDialog.h"
 #include "FileDialogs/DialogPaths.h"
 #include "FileDialogs/NativeFileDialog.h"
 #include "FileDialogs/SideBar.h"
+#include "Files/ApplicationMainWindow.h"
 #include "Host/System/CommandLineParser.h"
 
 #include <QtCore/QPointer>

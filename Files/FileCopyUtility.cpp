@@ -1,22 +1,12 @@
 #include "Files/FileCopyUtility.h"
 
+#include "Files/ApplicationMainWindow.h"
 #include "Files/FileCopier.h"
 #include "Files/PathProbe.h"
 
-#include <QtCore/QVariant>
-#include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
 
 namespace Zorvane {
-
-namespace {
-
-QWidget* mainWindow()
-{
-    const QVariant property = QCoreApplication::instance()->property("MainWindow");
-    return qobject_cast<QWidget*>(property.value<QObject*>());
-}
-
-} // namespace
 
 FileCopyUtility::FileCopyUtility(QWidget* parent, const QStringList& sourceFiles,
                                  const QString& targetFolder)
@@ -31,7 +21,7 @@ FileCopyUtility& FileCopyUtility::operator=(const FileCopyUtility& other) = defa
 
 const QList<FileCopyUtility::FileCopyInfo>& FileCopyUtility::copyFiles(int& result)
 {
-    QWidget* owner = m_parent ? m_parent.data() : mainWindow();
+    QWidget* owner = m_parent ? m_parent.data() : applicationMainWindow();
     m_result.clear();
     result = check(m_sourceFiles, m_targetFolder);
     if (result == 0 && !m_sourceFiles.isEmpty() && !m_targetFolder.isEmpty())

@@ -9,8 +9,7 @@ namespace {
 
 using CustomItem = FileDialogConfiguration::CustomItem;
 
-/** Identifiers of groups are these and those that follow, by the place of the control. */
-constexpr DWORD s_firstGroupId = 201;
+constexpr DWORD s_firstGroupId = FileDialogConfiguration::s_firstGroupId;
 
 HRESULT addCheckBox(IFileDialogCustomize* dialog, const CustomItem& item)
 {

@@ -13,6 +13,37 @@ using namespace Zorvane::Testing;
 
 Q_DECLARE_METATYPE(std::function<void(QFileDialog&)>)
 
+namespace {
+
+/** Gives a part of Qt's dialogs another name as soon as it has its own. */
+class PartRenamer : public QObject
+{
+public:
+    explicit PartRenamer(const QString& part)
+        : m_part(part)
+    {
+        qApp->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::ChildAdded) {
+            QObject* const child = static_cast<QChildEvent*>(event)->child();
+            connect(child, &QObject::objectNameChanged, this, [this, child](const QString& name) {
+                if (name == m_part)
+                    child->setObjectName(QStringLiteral("renamed"));
+            });
+        }
+        return false;
+    }
+
+private:
+    const QString m_part;
+};
+
+} // namespace
+
 class ConfiguredFileDialogTest : public ConfiguredDialogTestCase
 {
     Q_OBJECT
@@ -38,6 +69,8 @@ private Q_SLOTS:
     void handlerThatThrowsEndsTheDialog_data();
     void handlerThatThrowsEndsTheDialog();
     void placesAreOfferedForOneDialogOnly();
+    void dialogWithoutAPartHasNoControls_data();
+    void dialogWithoutAPartHasNoControls();
 };
 
 void ConfiguredFileDialogTest::chosenFileIsReturned()
@@ -292,6 +325,34 @@ void ConfiguredFileDialogTest::placesAreOfferedForOneDialogOnly()
     QFileDialog later;
     later.setOption(QFileDialog::DontUseNativeDialog);
     QCOMPARE(later.sidebarUrls(), before);
+}
+
+void ConfiguredFileDialogTest::dialogWithoutAPartHasNoControls_data()
+{
+    QTest::addColumn<QString>("part");
+    for (const char* part : {"listView", "fileNameEdit", "fileTypeCombo", "buttonBox"})
+        QTest::newRow(part) << QString::fromLatin1(part);
+}
+
+void ConfiguredFileDialogTest::dialogWithoutAPartHasNoControls()
+{
+    QFETCH(QString, part);
+    m_configuration->addCustomControl(checkBox(1, "Repair"));
+    expectWarning(QStringLiteral("Qt's file dialog is built otherwise"));
+    const PartRenamer renamer(part);
+    QString type = QStringLiteral("Tables (*.csv)");
+    ExpectedModals modals;
+    modals.expectDialog<QFileDialog>(s_caption, [this](QFileDialog& dialog) {
+        QVERIFY(!custom<QCheckBox>(dialog, "Repair"));
+        dialog.selectFile(path(QStringLiteral("d.csv")));
+        static_cast<QDialog&>(dialog).accept();
+    });
+    const QString chosen =
+        FileDialog::getOpenFileName(s_caption, m_dir->path(), s_filter, &m_provider, s_scope, &type,
+                                    {}, m_configuration.get(), m_owner);
+    QCOMPARE(chosen, path(QStringLiteral("d.csv")));
+    QCOMPARE(type, QStringLiteral("Tables (*.csv)"));
+    QCOMPARE(m_handler->events, QStringList());
 }
 
 ZORVANE_TEST_MAIN(ConfiguredFileDialogTest)

@@ -1,4 +1,4 @@
-#include "FileDialogs/ApplicationMainWindow.h"
+#include "Files/ApplicationMainWindow.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QVariant>
