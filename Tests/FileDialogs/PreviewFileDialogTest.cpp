@@ -6,6 +6,7 @@
 #include "Files/FileTypeFilters.h"
 #include "Files/LastPathProvider.h"
 #include "Host/System/CommandLineParser.h"
+#include "Tests/FileDialogs/DialogFixtures.h"
 #include "Tests/FileDialogs/PreviewFixtures.h"
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/TestCase.h"
@@ -19,29 +20,24 @@ using namespace Zorvane;
 
 namespace {
 
-using Script = std::function<NativeFileDialogResult(const NativeFileDialogRequest&)>;
-
-class ScriptedDriver : public NativeFileDialogDriver
+/** As long as it lives, dialogs answer as the function does that is told what they were asked. */
+class AnsweredDialog
 {
 public:
-    explicit ScriptedDriver(Script script)
-        : m_script(std::move(script))
-    {}
-    NativeFileDialogResult open(const NativeFileDialogRequest& request) override
+    using Answer = std::function<NativeFileDialogResult(const NativeFileDialogRequest&)>;
+
+    explicit AnsweredDialog(Answer answer)
     {
-        return m_script(request);
+        m_script.whileOpen = [this, answer = std::move(answer)](const auto& request) {
+            m_script.results.push_back(answer(request));
+        };
     }
-    NativeFileDialogResult save(const NativeFileDialogRequest&) override { return {}; }
 
 private:
-    Script m_script;
+    Testing::DialogScript m_script;
+    const NativeFileDialogReplacement m_replacement{
+        [this] { return std::make_unique<Testing::ScriptedDriver>(m_script); }};
 };
-
-NativeFileDialogReplacement dialogOf(const Script& script)
-{
-    return NativeFileDialogReplacement(
-        [script] { return std::make_unique<ScriptedDriver>(script); });
-}
 
 } // namespace
 
@@ -112,7 +108,7 @@ void PreviewFileDialogTest::init()
 void PreviewFileDialogTest::showsThePreviewAroundTheDialog()
 {
     Setup setup;
-    const auto replacement = dialogOf([&](const NativeFileDialogRequest&) {
+    const AnsweredDialog replacement([&](const NativeFileDialogRequest&) {
         const QSize offset = setup.configuration->getTopLeftOffset();
         const QString moved =
             QStringLiteral("moveTo %1 %2").arg(offset.width() + 630).arg(offset.height());
@@ -128,8 +124,8 @@ void PreviewFileDialogTest::showsThePreviewAroundTheDialog()
 void PreviewFileDialogTest::initializesThePreviewOnce()
 {
     Setup setup;
-    const auto replacement =
-        dialogOf([](const NativeFileDialogRequest&) { return NativeFileDialogResult{}; });
+    const AnsweredDialog replacement(
+        [](const NativeFileDialogRequest&) { return NativeFileDialogResult{}; });
     setup.dialog.getOpenFileName(nullptr);
     setup.dialog.getOpenFileNames(nullptr);
     QCOMPARE(setup.editor->calls.count(QStringLiteral("initialize -1")), 1);
@@ -140,8 +136,8 @@ void PreviewFileDialogTest::keepsThePreviewHiddenIfTheUserWantsNone()
 {
     storeShowPreview(false);
     Setup setup;
-    const auto replacement =
-        dialogOf([](const NativeFileDialogRequest&) { return NativeFileDialogResult{}; });
+    const AnsweredDialog replacement(
+        [](const NativeFileDialogRequest&) { return NativeFileDialogResult{}; });
     setup.dialog.getOpenFileName(nullptr);
     const QStringList wanted{QStringLiteral("setVisible 0"), QStringLiteral("setVisible 0")};
     QCOMPARE(setup.editor->takeCalls(), wanted);
@@ -152,7 +148,7 @@ void PreviewFileDialogTest::asksForOneFile()
     Setup setup;
     const QString wantedFilter = QString::fromStdString(
         getFileFilterForTypes({ZvFileType::StlAscii, ZvFileType::Csv}, true, {}));
-    const auto replacement = dialogOf([&](const NativeFileDialogRequest& request) {
+    const AnsweredDialog replacement([&](const NativeFileDialogRequest& request) {
         [&] {
             QCOMPARE(request.caption, QStringLiteral("Open one"));
             QVERIFY(!request.multiSelection);
@@ -170,7 +166,7 @@ void PreviewFileDialogTest::asksForTypesOfTheCaller()
 {
     Setup setup;
     QList<QStringList> names;
-    const auto replacement = dialogOf([&](const NativeFileDialogRequest& request) {
+    const AnsweredDialog replacement([&](const NativeFileDialogRequest& request) {
         names << request.filters.names;
         return NativeFileDialogResult{};
     });
@@ -186,7 +182,7 @@ void PreviewFileDialogTest::asksForSeveralFiles()
 {
     Setup setup;
     const QStringList chosen{file(), QStringLiteral("b")};
-    const auto replacement = dialogOf([&](const NativeFileDialogRequest& request) {
+    const AnsweredDialog replacement([&](const NativeFileDialogRequest& request) {
         [&] {
             QCOMPARE(request.caption, QStringLiteral("Open several"));
             QVERIFY(request.multiSelection);
@@ -203,7 +199,7 @@ void PreviewFileDialogTest::usesTheLastPathWithoutAProvider()
     LastPathProvider::getInstance()->setPathToScope(file(), QStringLiteral("Import"));
     Setup setup;
     QStringList folders;
-    const auto replacement = dialogOf([&](const NativeFileDialogRequest& request) {
+    const AnsweredDialog replacement([&](const NativeFileDialogRequest& request) {
         folders << request.folder;
         return NativeFileDialogResult{};
     });
@@ -216,7 +212,7 @@ void PreviewFileDialogTest::usesTheLastPathWithoutAProvider()
 void PreviewFileDialogTest::cancelHidesThePreview()
 {
     Setup setup;
-    const auto replacement = dialogOf([](const NativeFileDialogRequest&) {
+    const AnsweredDialog replacement([](const NativeFileDialogRequest&) {
         return NativeFileDialogResult{NativeFileDialogResult::s_cancelled, {}};
     });
     QCOMPARE(setup.dialog.getOpenFileName(nullptr), QString());
@@ -228,7 +224,7 @@ void PreviewFileDialogTest::cancelHidesThePreview()
 void PreviewFileDialogTest::exceptionHidesThePreview()
 {
     Setup setup;
-    const auto replacement = dialogOf([](const NativeFileDialogRequest&) -> NativeFileDialogResult {
+    const AnsweredDialog replacement([](const NativeFileDialogRequest&) -> NativeFileDialogResult {
         throw std::length_error("too long");
     });
     QVERIFY_EXCEPTION_THROWN(setup.dialog.getOpenFileName(nullptr), std::length_error);
@@ -271,7 +267,7 @@ void PreviewFileDialogTest::secondDialogIsNotPlacedByTypeChanges()
 {
     Setup setup;
     int placed = 0;
-    const auto replacement = dialogOf([&](const NativeFileDialogRequest& request) {
+    const AnsweredDialog replacement([&](const NativeFileDialogRequest& request) {
         request.configuration->getEventHandler()->onTypeChanged(setup.callbacks);
         placed += setup.editor->takeCalls().count(QStringLiteral("placeDialog"));
         return NativeFileDialogResult{};

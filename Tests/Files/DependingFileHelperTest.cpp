@@ -1,9 +1,9 @@
 #include "Files/CopyCollisionDialog.h"
-#include "Files/FileCopier.h"
 #include "Files/FileTypeDependingFilesHelper.h"
 #include "Files/PathText.h"
 #include "Host/FileHandling/FileUtilities.h"
 #include "Tests/Files/FolderSetup.h"
+#include "Tests/Files/ScriptedCopier.h"
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/PlatformCopies.h"
 #include "Tests/Support/PlatformFacts.h"
@@ -19,8 +19,6 @@
 using namespace Zorvane;
 
 namespace {
-
-using Records = QList<FileCopyUtility::FileCopyInfo>;
 
 class SavedDesign : public DesignInterface
 {
@@ -40,34 +38,6 @@ public:
 
 private:
     FileName m_file;
-};
-
-/** Copies nothing: returns what it was told to, and writes down what it was asked. */
-class ScriptedCopier : public FileCopier
-{
-public:
-    struct Script
-    {
-        Records answer;
-        QStringList sources;
-        QString targetFolder;
-        QWidget* owner = nullptr;
-    };
-
-    explicit ScriptedCopier(Script& script)
-        : m_script(script)
-    {}
-
-    Records copy(QWidget* owner, const QStringList& sources, const QString& targetFolder) override
-    {
-        m_script.owner = owner;
-        m_script.sources = sources;
-        m_script.targetFolder = targetFolder;
-        return m_script.answer;
-    }
-
-private:
-    Script& m_script;
 };
 
 /** The policy written down, to see what the base class asks it. */
@@ -428,16 +398,14 @@ void DependingFileHelperTest::importOfFilesThatAllFailIsGivenUp()
     const Testing::FolderSetup folders;
     FileTypeDependingFilesHelper helper = helperFor(folders.makeFile("designs/door.zvd"));
     const QString file = folders.makeFile("parts/a.stl");
-    ScriptedCopier::Script script;
-    script.answer = {{file, QString(), FileCopyUtility::NotCopied}};
-    const FileCopierReplacement copier(
-        [&script] { return std::make_unique<ScriptedCopier>(script); });
+    Testing::ScriptedCopier copier;
+    copier.records = {{file, QString(), FileCopyUtility::NotCopied}};
     Testing::ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("Copy File"), QMessageBox::Yes);
     std::list<FileName> used;
     QVERIFY(!helper.handleExternalFilesForImport(names({file}), used));
     QVERIFY(used.empty());
-    QCOMPARE(script.sources, QStringList{file});
+    QCOMPARE(copier.sources, QStringList{file});
 }
 
 void DependingFileHelperTest::importUsesRenamedCopies()
@@ -445,11 +413,9 @@ void DependingFileHelperTest::importUsesRenamedCopies()
     const Testing::FolderSetup folders;
     FileTypeDependingFilesHelper helper = helperFor(folders.makeFile("designs/door.zvd"));
     const QString file = folders.makeFile("parts/a.stl");
-    ScriptedCopier::Script script;
+    Testing::ScriptedCopier copier;
     const QString renamed = folders.path("designs/a (2).stl");
-    script.answer = {{file, renamed, FileCopyUtility::CopiedUnderOtherName}};
-    const FileCopierReplacement copier(
-        [&script] { return std::make_unique<ScriptedCopier>(script); });
+    copier.records = {{file, renamed, FileCopyUtility::CopiedUnderOtherName}};
     Testing::ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("Copy File"), QMessageBox::Yes);
     std::list<FileName> used;
@@ -462,11 +428,9 @@ void DependingFileHelperTest::importTakesPartOfTheCopies()
     const Testing::FolderSetup folders;
     FileTypeDependingFilesHelper helper = helperFor(folders.makeFile("designs/door.zvd"));
     const QStringList files{folders.makeFile("parts/a.stl"), folders.makeFile("parts/b.stl")};
-    ScriptedCopier::Script script;
-    script.answer = {{files.at(0), QString(), FileCopyUtility::NotCopied},
-                     {files.at(1), folders.path("designs/b.stl"), FileCopyUtility::Copied}};
-    const FileCopierReplacement copier(
-        [&script] { return std::make_unique<ScriptedCopier>(script); });
+    Testing::ScriptedCopier copier;
+    copier.records = {{files.at(0), QString(), FileCopyUtility::NotCopied},
+                      {files.at(1), folders.path("designs/b.stl"), FileCopyUtility::Copied}};
     Testing::ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("Copy Files"), QMessageBox::Yes);
     std::list<FileName> used;
@@ -538,10 +502,8 @@ void DependingFileHelperTest::importKeepsNamesThatAreNoText()
         std::fclose(file);
     if (!FileUtilities::exists(FileName(source)))
         QSKIP("this file system has no names that are not UTF-8");
-    ScriptedCopier::Script script;
-    script.answer = {{pathFromBytes(source), pathFromBytes(target), FileCopyUtility::Copied}};
-    const FileCopierReplacement copier(
-        [&script] { return std::make_unique<ScriptedCopier>(script); });
+    Testing::ScriptedCopier copier;
+    copier.records = {{pathFromBytes(source), pathFromBytes(target), FileCopyUtility::Copied}};
     Testing::ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("Copy File"), QMessageBox::Yes);
     std::list<FileName> used;
@@ -549,7 +511,7 @@ void DependingFileHelperTest::importKeepsNamesThatAreNoText()
     // QTemporaryDir cannot remove such names.
     std::remove(source.c_str());
     QVERIFY(isHandled);
-    QCOMPARE(script.sources, QStringList{pathFromBytes(source)});
+    QCOMPARE(copier.sources, QStringList{pathFromBytes(source)});
     QVERIFY(used == std::list<FileName>{FileName(target)});
 }
 
@@ -563,9 +525,7 @@ void DependingFileHelperTest::importAsksThePolicy()
     helper.view = &view;
     const QStringList files{folders.makeFile("parts/x1.any"), folders.makeFile("parts/y.stl"),
                             folders.makeFile("parts/x2.any")};
-    ScriptedCopier::Script script;
-    const FileCopierReplacement copier(
-        [&script] { return std::make_unique<ScriptedCopier>(script); });
+    Testing::ScriptedCopier copier;
     Testing::ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("^scripted text$"), [&view](QMessageBox& box) {
         QCOMPARE(box.windowTitle(), QStringLiteral("scripted title"));
@@ -576,7 +536,7 @@ void DependingFileHelperTest::importAsksThePolicy()
     QVERIFY(!helper.handleExternalFilesForImport(names(files), used));
     const QStringList asked{files.at(0), files.at(2)};
     QCOMPARE(texts(helper.messageFiles), asked);
-    QCOMPARE(script.sources, asked);
+    QCOMPARE(copier.sources, asked);
     QVERIFY(helper.messageFolder == helper.designFolder);
 }
 
@@ -649,12 +609,10 @@ void DependingFileHelperTest::exportLeavesFailedFilesOut()
     const QStringList files{folders.makeFile("parts/a.stl"), folders.makeFile("parts/b.stl"),
                             folders.makeFile("parts/c.stl")};
     const QString renamed = folders.path("designs/c (2).stl");
-    ScriptedCopier::Script script;
-    script.answer = {{files.at(0), folders.path("designs/a.stl"), FileCopyUtility::Copied},
-                     {files.at(1), QString(), FileCopyUtility::NotCopied},
-                     {files.at(2), renamed, FileCopyUtility::CopiedUnderOtherName}};
-    const FileCopierReplacement copier(
-        [&script] { return std::make_unique<ScriptedCopier>(script); });
+    Testing::ScriptedCopier copier;
+    copier.records = {{files.at(0), folders.path("designs/a.stl"), FileCopyUtility::Copied},
+                      {files.at(1), QString(), FileCopyUtility::NotCopied},
+                      {files.at(2), renamed, FileCopyUtility::CopiedUnderOtherName}};
     Testing::ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("Copy Files"), QMessageBox::Yes);
     std::list<DependingFileHelper::ExportedFileName> exported;
@@ -671,9 +629,7 @@ void DependingFileHelperTest::exportUsesTheViewAndTheNativeFolder()
     FileTypeDependingFilesHelper helper(
         &view, std::make_shared<SavedDesign>(folders.makeFile("designs/door.zvd")),
         ZvFileType::StlAscii);
-    ScriptedCopier::Script script;
-    const FileCopierReplacement copier(
-        [&script] { return std::make_unique<ScriptedCopier>(script); });
+    Testing::ScriptedCopier copier;
     Testing::ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("Copy File"), [&view](QMessageBox& box) {
         QCOMPARE(box.parentWidget(), &view);
@@ -682,8 +638,8 @@ void DependingFileHelperTest::exportUsesTheViewAndTheNativeFolder()
     std::list<DependingFileHelper::ExportedFileName> exported;
     QVERIFY(
         helper.handleExternalFilesForExport(names({folders.makeFile("parts/a.stl")}), exported));
-    QCOMPARE(script.owner, &view);
-    QCOMPARE(script.targetFolder, folders.path("designs"));
+    QCOMPARE(copier.owner, &view);
+    QCOMPARE(copier.targetFolder, folders.path("designs"));
 }
 
 ZORVANE_TEST_MAIN(DependingFileHelperTest)

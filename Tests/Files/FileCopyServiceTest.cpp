@@ -1,7 +1,7 @@
 #include "Files/FileCopyService.h"
 
-#include "Files/FileCopier.h"
 #include "Files/PathText.h"
+#include "Tests/Files/ScriptedCopier.h"
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/PlatformCopies.h"
 #include "Tests/Support/PlatformFacts.h"
@@ -21,35 +21,6 @@ namespace {
 
 const QString s_title = QStringLiteral("Copy Files");
 const QString s_text = QStringLiteral("Really copy?");
-
-struct CopierScript
-{
-    QList<Info> records;
-    int calls = 0;
-    QWidget* owner = nullptr;
-    QStringList sources;
-    QString targetFolder;
-};
-
-class ScriptedCopier : public FileCopier
-{
-public:
-    explicit ScriptedCopier(CopierScript& script)
-        : m_script(script)
-    {}
-    QList<Info> copy(QWidget* owner, const QStringList& sources,
-                     const QString& targetFolder) override
-    {
-        ++m_script.calls;
-        m_script.owner = owner;
-        m_script.sources = sources;
-        m_script.targetFolder = targetFolder;
-        return m_script.records;
-    }
-
-private:
-    CopierScript& m_script;
-};
 
 } // namespace
 
@@ -90,9 +61,8 @@ private:
     QString target() const { return m_root->filePath(QStringLiteral("target")); }
 
     std::unique_ptr<QTemporaryDir> m_root;
-    CopierScript m_script;
     Testing::PlatformCopies m_copies;
-    std::unique_ptr<FileCopierReplacement> m_replacement;
+    std::unique_ptr<Testing::ScriptedCopier> m_copier;
 };
 
 void FileCopyServiceTest::init()
@@ -100,14 +70,12 @@ void FileCopyServiceTest::init()
     m_root = std::make_unique<QTemporaryDir>();
     QDir(m_root->path()).mkdir(QStringLiteral("source"));
     QDir(m_root->path()).mkdir(QStringLiteral("target"));
-    m_script = {};
-    m_replacement = std::make_unique<FileCopierReplacement>(
-        [this] { return std::make_unique<ScriptedCopier>(m_script); });
+    m_copier = std::make_unique<Testing::ScriptedCopier>();
 }
 
 void FileCopyServiceTest::cleanup()
 {
-    m_replacement.reset();
+    m_copier.reset();
     m_root.reset();
     TestCase::cleanup();
 }
@@ -191,21 +159,21 @@ void FileCopyServiceTest::utilityCopiesNothingOnACheckCode()
     FileCopyUtility utility(nullptr, {m_root->filePath(QStringLiteral("missing"))}, target());
     QVERIFY(utility.copyFiles(result).isEmpty());
     QCOMPARE(result, 4);
-    QCOMPARE(m_script.calls, 0);
+    QCOMPARE(m_copier->calls, 0);
 }
 
 void FileCopyServiceTest::utilityReturnsTheCopiersList()
 {
     const QString source = addFile(QStringLiteral("source/a"));
-    m_script.records = {{source, QStringLiteral("x"), FileCopyUtility::CopiedUnderOtherName}};
+    m_copier->records = {{source, QStringLiteral("x"), FileCopyUtility::CopiedUnderOtherName}};
     int result = -1;
     FileCopyUtility utility(nullptr, {source}, target());
     const QList<Info>& list = utility.copyFiles(result);
     QCOMPARE(result, 0);
     QCOMPARE(list.size(), 1);
     QCOMPARE(list[0].target, QStringLiteral("x"));
-    QCOMPARE(m_script.sources, QStringList{source});
-    QCOMPARE(m_script.targetFolder, target());
+    QCOMPARE(m_copier->sources, QStringList{source});
+    QCOMPARE(m_copier->targetFolder, target());
     QCOMPARE(&utility.copyFiles(result), &list);
     QCOMPARE(list.size(), 1);
 }
@@ -215,7 +183,7 @@ void FileCopyServiceTest::utilityNeedsSources()
     int result = -1;
     QVERIFY(FileCopyUtility(nullptr, {}, target()).copyFiles(result).isEmpty());
     QCOMPARE(result, 0);
-    QCOMPARE(m_script.calls, 0);
+    QCOMPARE(m_copier->calls, 0);
 }
 
 void FileCopyServiceTest::ownerIsTheParentOrTheMainWindow()
@@ -223,28 +191,28 @@ void FileCopyServiceTest::ownerIsTheParentOrTheMainWindow()
     const QString source = addFile(QStringLiteral("source/a"));
     int result = 0;
     FileCopyUtility(nullptr, {source}, target()).copyFiles(result);
-    QCOMPARE(m_script.owner, nullptr);
+    QCOMPARE(m_copier->owner, nullptr);
 
     QWidget mainWindow;
     qApp->setProperty("MainWindow", QVariant::fromValue<QObject*>(&mainWindow));
     FileCopyUtility(nullptr, {source}, target()).copyFiles(result);
-    QCOMPARE(m_script.owner, &mainWindow);
+    QCOMPARE(m_copier->owner, &mainWindow);
 
     QWidget parent;
     FileCopyUtility(&parent, {source}, target()).copyFiles(result);
-    QCOMPARE(m_script.owner, &parent);
+    QCOMPARE(m_copier->owner, &parent);
 
     QObject noWidget;
     qApp->setProperty("MainWindow", QVariant::fromValue<QObject*>(&noWidget));
     FileCopyUtility(nullptr, {source}, target()).copyFiles(result);
-    QCOMPARE(m_script.owner, nullptr);
+    QCOMPARE(m_copier->owner, nullptr);
     qApp->setProperty("MainWindow", QVariant());
 }
 
 void FileCopyServiceTest::utilityCanBeCopied()
 {
     const QString source = addFile(QStringLiteral("source/a"));
-    m_script.records = {{source, QStringLiteral("x"), FileCopyUtility::Copied}};
+    m_copier->records = {{source, QStringLiteral("x"), FileCopyUtility::Copied}};
     int result = -1;
     FileCopyUtility first(nullptr, {source}, target());
     FileCopyUtility second(nullptr, {}, QString());
@@ -275,8 +243,8 @@ void FileCopyServiceTest::questionIsAsked()
     int result = -1;
     FileCopyService::copyFilesToDirectory(&parent, s_title, s_text, {source}, target(), result);
     QCOMPARE(result, 0);
-    QCOMPARE(m_script.calls, 1);
-    QCOMPARE(m_script.owner, &parent);
+    QCOMPARE(m_copier->calls, 1);
+    QCOMPARE(m_copier->owner, &parent);
 }
 
 void FileCopyServiceTest::questionIsPlainText()
@@ -304,7 +272,7 @@ void FileCopyServiceTest::questionThatGoesWithItsParentIsDeclined()
             .isEmpty());
     QVERIFY(!parent);
     QCOMPARE(result, 77);
-    QCOMPARE(m_script.calls, 0);
+    QCOMPARE(m_copier->calls, 0);
 }
 
 void FileCopyServiceTest::declinedQuestionLeavesTheResult()
@@ -317,7 +285,7 @@ void FileCopyServiceTest::declinedQuestionLeavesTheResult()
         FileCopyService::copyFilesToDirectory(nullptr, s_title, s_text, {source}, target(), result)
             .isEmpty());
     QCOMPARE(result, 77);
-    QCOMPARE(m_script.calls, 0);
+    QCOMPARE(m_copier->calls, 0);
 }
 
 void FileCopyServiceTest::escapeDeclines()
@@ -329,7 +297,7 @@ void FileCopyServiceTest::escapeDeclines()
     int result = 77;
     FileCopyService::copyFilesToDirectory(nullptr, s_title, s_text, {source}, target(), result);
     QCOMPARE(result, 77);
-    QCOMPARE(m_script.calls, 0);
+    QCOMPARE(m_copier->calls, 0);
 }
 
 void FileCopyServiceTest::filesThatLieThereAreNotAskedAbout()
@@ -355,7 +323,7 @@ void FileCopyServiceTest::missingTargetFolderIsStillAsked()
                                                   result)
                 .isEmpty());
     QCOMPARE(result, 2);
-    QCOMPARE(m_script.calls, 0);
+    QCOMPARE(m_copier->calls, 0);
 }
 
 void FileCopyServiceTest::missingSourceCopiesNothing()
@@ -368,13 +336,13 @@ void FileCopyServiceTest::missingSourceCopiesNothing()
         nullptr, s_title, s_text, {source, m_root->filePath(QStringLiteral("source/missing"))},
         target(), result);
     QCOMPARE(result, 4);
-    QCOMPARE(m_script.calls, 0);
+    QCOMPARE(m_copier->calls, 0);
 }
 
 void FileCopyServiceTest::outListHoldsCopiedAndRenamed()
 {
     const QString source = addFile(QStringLiteral("source/a"));
-    m_script.records = {
+    m_copier->records = {
         {QStringLiteral("1"), QStringLiteral("t1"), FileCopyUtility::Copied},
         {QStringLiteral("2"), QString(), FileCopyUtility::NotCopied},
         {QStringLiteral("3"), QStringLiteral("t3"), FileCopyUtility::CopiedUnderOtherName}};
@@ -434,14 +402,14 @@ void FileCopyServiceTest::outListFormIsFalseWhenItFails()
 void FileCopyServiceTest::fileNameFormConverts()
 {
     const QString source = addFile(QStringLiteral("source/a"));
-    m_script.records = {{source, target() + QStringLiteral("/a"), FileCopyUtility::Copied}};
+    m_copier->records = {{source, target() + QStringLiteral("/a"), FileCopyUtility::Copied}};
     ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("Really copy"), QMessageBox::Yes);
     std::list<FileName> copied{FileName("from before")};
     QVERIFY(FileCopyService::copyFilesToDirectory(nullptr, s_title, s_text, {FileName(source)},
                                                   FileName(target()), copied));
     QVERIFY(copied == std::list<FileName>{FileName(target() + QStringLiteral("/a"))});
-    QCOMPARE(m_script.targetFolder, QDir::toNativeSeparators(target()));
+    QCOMPARE(m_copier->targetFolder, QDir::toNativeSeparators(target()));
 }
 
 void FileCopyServiceTest::fileNamesKeepTheirBytes()
@@ -457,7 +425,7 @@ void FileCopyServiceTest::fileNamesKeepTheirBytes()
 
 void FileCopyServiceTest::realCopyThroughTheWholeService()
 {
-    m_replacement.reset();
+    m_copier.reset();
     const QString source = addFile(QStringLiteral("source/a"));
     ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("Really copy"), QMessageBox::Yes);
