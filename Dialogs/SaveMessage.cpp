@@ -38,12 +38,6 @@ constexpr std::array<const char*, 16> s_factTexts = {
 };
 // clang-format on
 
-bool willDropResults(const SaveState& state, ZVSaveDialog::Action action)
-{
-    return state.hasResults && (state.areResultsOutdated || state.areResultsLostByConversion ||
-                                action == ZVSaveDialog::ActionStart);
-}
-
 bool isTheUnsavedToldOf(const SaveState& state, ZVSaveDialog::Action action)
 {
     switch (action) {
@@ -144,6 +138,12 @@ std::vector<SaveMessage::Entry> consequencesFor(const SaveState& state, ZVSaveDi
 }
 
 } // namespace
+
+bool willDropResults(const SaveState& state, ZVSaveDialog::Action action)
+{
+    return state.hasResults && (state.areResultsOutdated || state.areResultsLostByConversion ||
+                                action == ZVSaveDialog::ActionStart);
+}
 
 SaveMessage saveMessageFor(const SaveState& state, ZVSaveDialog::Action action,
                            const SaveSubject& subject)

@@ -47,6 +47,9 @@ struct SaveSubject
     QString name;
 };
 
+/** Whether the design has results that the action costs it. */
+ZORVANE_UITOOLS_EXPORT bool willDropResults(const SaveState& state, ZVSaveDialog::Action action);
+
 ZORVANE_UITOOLS_EXPORT SaveMessage saveMessageFor(const SaveState& state,
                                                   ZVSaveDialog::Action action,
                                                   const SaveSubject& subject);

@@ -127,6 +127,28 @@ class LayersTest(ToolTest):
                 self.assertIn("\n" + finding, "\n" + result.stdout)
         self.assertIn(f"Layers: {len(expected)} to mend\n", result.stdout)
 
+    def test_folders_of_the_workbench_make_no_circle(self):
+        self.write("Workbench/Tree/Tree.h", '#include "Workbench/Design/Design.h"\n')
+        self.write("Workbench/Window/Window.cpp", '#include "Workbench/Tree/Tree.h"\n'
+                                                  '#include "Workbench/Design/Design.h"\n')
+        self.write("Workbench/main.cpp", '#include "Workbench/Tree/Tree.h"\n')
+        self.write("Workbench/Window/Window.h")
+        self.assertEqual(self.check("check-layers").stdout, "Layers: in order\n")
+        self.write("Workbench/Design/Design.cpp", '\n#include "Workbench/Window/Window.h"\n')
+        result = self.check("check-layers")
+        self.assertEqual(result.returncode, 1)
+        self.assertIn('Workbench/Design/Design.cpp:2: #include "Workbench/Window/Window.h": folders '
+                      'include each other: Design > Window > Design\n', result.stdout)
+        self.assertIn('Workbench/Tree/Tree.h:1: #include "Workbench/Design/Design.h": folders '
+                      'include each other: Tree > Design > Window > Tree\n', result.stdout)
+        self.assertIn("Layers: 4 to mend\n", result.stdout)
+
+    def test_folders_of_the_host_make_no_circle(self):
+        self.write("Host/Identifiers/A.cpp", '#include "Host/Widgets/ZVTreeViewItem.h"\n')
+        self.assertEqual(self.check("check-layers").stdout, "Layers: in order\n")
+        self.write("Host/Widgets/A.cpp", '#include "Host/Identifiers/IDCombiner.h"\n')
+        self.assertIn("Layers: 2 to mend\n", self.check("check-layers").stdout)
+
     def test_internal_headers_stay_inside_their_library(self):
         self.write("Host/Widgets/CMakeLists.txt", "zorvane_internal_headers(WaitingSlots.h)\n")
         include = '#include "Host/Widgets/WaitingSlots.h"\n'

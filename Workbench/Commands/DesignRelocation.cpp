@@ -4,7 +4,6 @@
 #include "Host/FileHandling/FileUtilities.h"
 #include "Workbench/Commands/DesignCopy.h"
 #include "Workbench/Design/DesignWriter.h"
-#include "Workbench/Design/FileNames.h"
 #include "Workbench/Design/FileReferences.h"
 
 #include <QtCore/QFile>
@@ -168,10 +167,7 @@ std::optional<Problem> DesignRelocation::obstacleTo(const QString& folder,
     const QString target = realPath(QDir(folder).filePath(name));
     if (target.isEmpty())
         return std::nullopt;
-    const auto isOpen = [&target](const Design& design) {
-        return FileNames::areSame(design.file, target);
-    };
-    if (std::any_of(m_open.begin(), m_open.end(), isOpen))
+    if (designOfFile(m_open, target) != nullptr)
         return Problem{target, {}, tr("is open here and is not replaced")};
     const auto hasCome = [&target](const auto& copy) {
         return FileUtilities::isEquivalent(FileName(copy.second), FileName(target));

@@ -2,7 +2,7 @@
 
 #include "Workbench/Design/Design.h"
 #include "Workbench/Design/FileSpellings.h"
-#include "Workbench/Design/Problem.h"
+#include "Workbench/Texts/Problem.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>

@@ -4,7 +4,7 @@
 #include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/MeshView/MeshView.h"
 #include "Workbench/Tree/DesignTree.h"
-#include "Workbench/Window/FilterBar.h"
+#include "Workbench/Tree/FilterBar.h"
 
 namespace Zorvane::Workbench {
 

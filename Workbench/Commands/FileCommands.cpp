@@ -2,7 +2,6 @@
 
 #include "Files/DesignPathProvider.h"
 #include "Files/LastPathProvider.h"
-#include "Host/FileHandling/FileUtilities.h"
 #include "Workbench/Commands/DesignCopy.h"
 #include "Workbench/Commands/DesignRelocation.h"
 #include "Workbench/Design/DesignSession.h"
@@ -151,14 +150,13 @@ bool FileCommands::saveCopy(GUIdentifier objectId, Results results)
 std::optional<Problem> FileCommands::obstacleTo(const QString& target) const
 {
     const QFileInfo info(target);
-    if (info.suffix().compare(QLatin1String("dsg"), Qt::CaseInsensitive) != 0)
+    if (!FileNames::isDesign(target))
         return Problem{target, {}, tr("is no name for a design: it must end with .dsg")};
     const QString obstacle = FileNames::obstacle(info.fileName());
     if (!obstacle.isEmpty())
         return Problem{target, {}, obstacle};
-    for (const Design& open : m_session.designs())
-        if (FileUtilities::isEquivalent(FileName(target), FileName(open.file)))
-            return Problem{target, {}, tr("is open here and is not replaced")};
+    if (m_session.findByFile(target) != nullptr)
+        return Problem{target, {}, tr("is open here and is not replaced")};
     return std::nullopt;
 }
 

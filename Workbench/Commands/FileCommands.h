@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Host/Identifiers/GUIdentifier.h"
-#include "Workbench/Design/Problem.h"
 #include "Workbench/Design/Successors.h"
 #include "Workbench/Import/FileChooser.h"
+#include "Workbench/Texts/Problem.h"
 
 #include <QtCore/QObject>
 #include <QtWidgets/QWidget>

@@ -1,5 +1,7 @@
 #include "Workbench/Design/Design.h"
 
+#include "Host/FileHandling/FileUtilities.h"
+
 #include <QtCore/QFileInfo>
 
 #include <algorithm>
@@ -173,6 +175,15 @@ std::vector<GUIdentifier> Design::allIds() const
         return false;
     });
     return ids;
+}
+
+const Design* designOfFile(const std::vector<Design>& designs, const QString& path)
+{
+    const auto isSame = [&path](const Design& design) {
+        return FileUtilities::isEquivalent(FileName(design.file), FileName(path));
+    };
+    const auto found = std::find_if(designs.begin(), designs.end(), isSame);
+    return found == designs.end() ? nullptr : &*found;
 }
 
 QString fileKindWord(FileKind kind)

@@ -159,6 +159,9 @@ struct Design
     std::vector<GUIdentifier> allIds() const;
 };
 
+/** The design of the file, however its path is written; null if none is. */
+const Design* designOfFile(const std::vector<Design>& designs, const QString& path);
+
 /** The word of the design file, such as "mesh"; empty for `Other`. */
 QString fileKindWord(FileKind kind);
 /** `Other` for an unknown word. */

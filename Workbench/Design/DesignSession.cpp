@@ -2,6 +2,7 @@
 
 #include "Workbench/Design/FileAdditions.h"
 #include "Workbench/Design/FileNames.h"
+#include "Workbench/Design/ObjectNames.h"
 #include "Workbench/Meshes/MeshReader.h"
 
 #include <QtCore/QDir>
@@ -14,13 +15,6 @@
 namespace Zorvane::Workbench {
 
 namespace {
-
-constexpr int longestName = 255;
-
-bool isDesignFile(const QString& path)
-{
-    return QFileInfo(path).suffix().compare(QStringLiteral("dsg"), Qt::CaseInsensitive) == 0;
-}
 
 /** As it was opened before, where the case of letters doesn't count; else as it is. */
 QString knownSpelling(const std::vector<Design>& designs, const QString& file)
@@ -37,10 +31,10 @@ QString nameObstacle(const QString& name)
 {
     if (name.isEmpty())
         return DesignSession::tr("A name must not be empty.");
-    if (name.size() > longestName)
-        return DesignSession::tr("A name must not be longer than %1 characters.").arg(longestName);
-    const auto isControl = [](QChar c) { return c.category() == QChar::Other_Control; };
-    if (std::any_of(name.begin(), name.end(), isControl))
+    if (name.size() > s_longestObjectName)
+        return DesignSession::tr("A name must not be longer than %1 characters.")
+            .arg(s_longestObjectName);
+    if (std::any_of(name.begin(), name.end(), isControlCharacter))
         return DesignSession::tr("A name must be one line without control characters.");
     return {};
 }
@@ -97,7 +91,7 @@ void DesignSession::openFolder(const QString& folder)
 
 void DesignSession::openFile(const QString& file)
 {
-    if (isDesignFile(file))
+    if (FileNames::isDesign(file))
         m_store.add(knownSpelling(designs(), file));
     else if (MeshReader::isMeshFile(file))
         m_looseParts.add(file, false);
@@ -153,6 +147,11 @@ Problems DesignSession::problems() const
 const Design* DesignSession::findDesign(const GUIdentifier& objectId) const
 {
     return m_store.find(objectId);
+}
+
+const Design* DesignSession::findByFile(const QString& path) const
+{
+    return designOfFile(designs(), path);
 }
 
 const Part* DesignSession::findLoosePart(const GUIdentifier& id) const

@@ -5,7 +5,7 @@
 #include "Workbench/Design/DesignStore.h"
 #include "Workbench/Design/FileWatch.h"
 #include "Workbench/Design/LooseParts.h"
-#include "Workbench/Design/Problem.h"
+#include "Workbench/Texts/Problem.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QStringList>
@@ -72,6 +72,8 @@ public:
 
     /** The design with this object, or with this id itself; null if none. */
     const Design* findDesign(const GUIdentifier& objectId) const;
+    /** The design that is open from this file, however its path is written; null if none is. */
+    const Design* findByFile(const QString& path) const;
     /** Of any design, object of a design or loose part; empty if none has the id. */
     QString name(const GUIdentifier& objectId) const;
     /**

@@ -3,7 +3,7 @@
 #include "Workbench/Design/Design.h"
 #include "Workbench/Design/DesignEdit.h"
 #include "Workbench/Design/DesignReader.h"
-#include "Workbench/Design/Problem.h"
+#include "Workbench/Texts/Problem.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>

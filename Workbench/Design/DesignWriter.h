@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Workbench/Design/Design.h"
-#include "Workbench/Design/Problem.h"
+#include "Workbench/Texts/Problem.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>

@@ -1,7 +1,9 @@
 #include "Workbench/Design/FileAdditions.h"
 
 #include "Host/FileHandling/ZvFileType.h"
+#include "Workbench/Design/FileNames.h"
 #include "Workbench/Design/FileReferences.h"
+#include "Workbench/Design/ObjectNames.h"
 #include "Workbench/Meshes/MeshReader.h"
 
 #include <QtCore/QDir>
@@ -13,8 +15,6 @@
 namespace Zorvane::Workbench {
 
 namespace {
-
-constexpr int s_longestName = 255;
 
 /** With the links in its folder followed, but not one that the file itself may be. */
 QString relativePath(const Design& design, const QString& file)
@@ -30,9 +30,8 @@ QString objectName(const QString& file)
 {
     const QFileInfo info(file);
     QString name = info.completeBaseName().isEmpty() ? info.fileName() : info.completeBaseName();
-    const auto isControl = [](QChar c) { return c.category() == QChar::Other_Control; };
-    std::replace_if(name.begin(), name.end(), isControl, QLatin1Char(' '));
-    name = name.left(s_longestName).trimmed();
+    std::replace_if(name.begin(), name.end(), isControlCharacter, QLatin1Char(' '));
+    name = name.left(s_longestObjectName).trimmed();
     return name.isEmpty() ? FileAdditions::tr("File") : name;
 }
 
@@ -42,7 +41,7 @@ FileKind FileAdditions::kindOf(const QString& file)
 {
     if (MeshReader::isMeshFile(file))
         return FileKind::Mesh;
-    if (QFileInfo(file).suffix().compare(QStringLiteral("dsg"), Qt::CaseInsensitive) == 0)
+    if (FileNames::isDesign(file))
         return FileKind::Design;
     switch (getFileTypeFromEnding(QFileInfo(file).suffix().toStdString(), {})) {
     case ZvFileType::MaterialAscii:

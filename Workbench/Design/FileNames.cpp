@@ -3,6 +3,7 @@
 #include "Files/FileNameRules.h"
 #include "Host/FileHandling/FileUtilities.h"
 
+#include <QtCore/QFileInfo>
 #include <QtCore/QStringList>
 
 #include <algorithm>
@@ -15,6 +16,11 @@ namespace {
 constexpr int s_roomForWriting = 7;
 
 } // namespace
+
+bool FileNames::isDesign(const QString& path)
+{
+    return QFileInfo(path).suffix().compare(QLatin1String("dsg"), Qt::CaseInsensitive) == 0;
+}
 
 QString FileNames::obstacle(const QString& name)
 {

@@ -5,12 +5,14 @@
 
 namespace Zorvane::Workbench {
 
-/** Names for files that the Workbench writes. */
+/** Names of files that the Workbench reads and writes. */
 class FileNames
 {
     Q_DECLARE_TR_FUNCTIONS(Zorvane::Workbench::FileNames)
 
 public:
+    /** Whether the path ends as those of designs do. */
+    static bool isDesign(const QString& path);
     /** Why no file can have the name here, translated, to follow it; empty if one can. */
     static QString obstacle(const QString& name);
     /**

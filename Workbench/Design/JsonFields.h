@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Host/Identifiers/GUIdentifier.h"
-#include "Workbench/Design/Problem.h"
+#include "Workbench/Texts/Problem.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonArray>

@@ -1,7 +1,7 @@
 #include "Workbench/DialogPanel/ExampleFiles.h"
 
+#include "Workbench/Meshes/GeneratedMeshes.h"
 #include "Workbench/Meshes/MeshWriter.h"
-#include "Workbench/Tour/GeneratedMeshes.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

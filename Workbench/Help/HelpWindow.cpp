@@ -63,10 +63,10 @@ HelpWindow::HelpWindow(QWidget* parent)
     listPages();
     connect(m_pages, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
         if (item)
-            open(item->data(Qt::UserRole).toString());
+            showPage(item->data(Qt::UserRole).toString());
     });
     connect(m_text, &QTextBrowser::anchorClicked, this, &HelpWindow::follow);
-    if (!open(s_firstPage))
+    if (!showPage(s_firstPage))
         m_text->setPlainText(tr("The documentation is not installed."));
     m_pages->setFocus();
 }
@@ -96,7 +96,7 @@ void HelpWindow::listPages()
     }
 }
 
-bool HelpWindow::open(const QString& page)
+bool HelpWindow::showPage(const QString& page)
 {
     const QString folder = documentationFolder();
     QFile file(QDir(folder).filePath(page));
@@ -124,7 +124,7 @@ void HelpWindow::changeEvent(QEvent* event)
     // The links of a text keep the colour they were made with.
     QScrollBar* const place = m_text->verticalScrollBar();
     const int value = place->value();
-    open(currentPage());
+    showPage(currentPage());
     place->setValue(value);
 }
 
@@ -132,7 +132,7 @@ void HelpWindow::follow(const QUrl& link)
 {
     if (!link.isRelative())
         QDesktopServices::openUrl(link);
-    else if (!open(link.path()) && !link.fragment().isEmpty())
+    else if (!showPage(link.path()) && !link.fragment().isEmpty())
         m_text->scrollToAnchor(link.fragment());
 }
 

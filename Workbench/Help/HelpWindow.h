@@ -25,7 +25,7 @@ public:
     /** Empty when there is no documentation; the window then says so. */
     static QString documentationFolder();
     /** Shows a page, named as its file, such as "Actions.md"; false where there is none. */
-    bool open(const QString& page);
+    bool showPage(const QString& page);
     QString currentPage() const;
 
 protected:

@@ -2,8 +2,8 @@
 
 #include "Host/Identifiers/GUIdentifier.h"
 #include "Host/Widgets/BaseView.h"
-#include "Workbench/Design/Problem.h"
 #include "Workbench/Import/FileChooser.h"
+#include "Workbench/Texts/Problem.h"
 
 #include <QtCore/QObject>
 

@@ -2,7 +2,7 @@
 
 #include "Files/FileTypeDependingFilesHelper.h"
 #include "Workbench/Design/FileAdditions.h"
-#include "Workbench/Import/SessionDesign.h"
+#include "Workbench/Design/SessionDesign.h"
 
 #include <QtCore/QFileInfo>
 

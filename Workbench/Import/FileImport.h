@@ -3,7 +3,7 @@
 #include "Host/Identifiers/GUIdentifier.h"
 #include "Host/Widgets/BaseView.h"
 #include "Workbench/Design/DesignSession.h"
-#include "Workbench/Design/Problem.h"
+#include "Workbench/Texts/Problem.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>

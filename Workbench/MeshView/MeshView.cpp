@@ -2,6 +2,7 @@
 
 #include "Workbench/MeshView/MeshPalette.h"
 #include "Workbench/MeshView/MeshViewOverlay.h"
+#include "Workbench/Texts/SizeText.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtGui/QKeyEvent>

@@ -1,7 +1,7 @@
 #include "Workbench/MeshView/MeshViewOverlay.h"
 
-#include <QtCore/QCoreApplication>
-#include <QtGui/QGuiApplication>
+#include "Workbench/Texts/SizeText.h"
+
 #include <QtGui/QPainter>
 
 #include <algorithm>
@@ -23,28 +23,6 @@ struct Axis
     QColor colour;
 };
 
-QString numberText(double value, const QLocale& locale)
-{
-    const int decimals = value >= 1000 ? 0 : value >= 100 ? 1 : value >= 10 ? 2 : 3;
-    QString text = locale.toString(value, 'f', decimals);
-    const QString point(locale.decimalPoint());
-    if (text.contains(point)) {
-        while (text.endsWith(QLatin1Char('0')))
-            text.chop(1);
-        if (text.endsWith(point))
-            text.chop(point.size());
-    }
-    return text;
-}
-
-/** Kept in its order where texts run from right to left. */
-QString inItsOrder(const QString& figures)
-{
-    const QChar begin(0x2066);
-    const QChar end(0x2069);
-    return QGuiApplication::isRightToLeft() ? begin + figures + end : figures;
-}
-
 } // namespace
 
 ScaleBar scaleBarFor(double pixelsPerMm, double atMost)
@@ -55,20 +33,6 @@ ScaleBar scaleBarFor(double pixelsPerMm, double atMost)
         if (step * power <= longest)
             return {step * power, step * power * pixelsPerMm};
     return {power, power * pixelsPerMm};
-}
-
-QString sizeFigures(const QVector3D& millimetres, const QLocale& locale)
-{
-    return inItsOrder(QStringLiteral("%1 × %2 × %3")
-                          .arg(numberText(double(millimetres.x()), locale),
-                               numberText(double(millimetres.y()), locale),
-                               numberText(double(millimetres.z()), locale)));
-}
-
-QString sizeText(const QVector3D& millimetres, const QLocale& locale)
-{
-    return inItsOrder(QCoreApplication::translate("Zorvane::Workbench::MeshView", "%1 mm")
-                          .arg(sizeFigures(millimetres, locale)));
 }
 
 void drawCaption(QPainter& painter, const QRect& area, const QString& title, const QString& size)
@@ -122,11 +86,9 @@ void drawScaleBar(QPainter& painter, const QRect& area, double pixelsPerMm, cons
     painter.drawLine(QPointF(left, y), QPointF(right, y));
     painter.drawLine(QPointF(left, y - 5), QPointF(left, y));
     painter.drawLine(QPointF(right, y - 5), QPointF(right, y));
-    const QString text =
-        inItsOrder(QCoreApplication::translate("Zorvane::Workbench::MeshView", "%1 mm")
-                       .arg(numberText(bar.millimetres, QLocale())));
     painter.drawText(QRectF(right - 200, y - 26, 200, 20),
-                     Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignBottom | Qt::TextDontClip, text);
+                     Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignBottom | Qt::TextDontClip,
+                     lengthText(bar.millimetres, QLocale()));
 }
 
 } // namespace Zorvane::Workbench

@@ -2,7 +2,6 @@
 
 #include "Workbench/MeshView/OrbitCamera.h"
 
-#include <QtCore/QLocale>
 #include <QtCore/QRect>
 #include <QtCore/QString>
 #include <QtGui/QColor>
@@ -22,11 +21,6 @@ struct ScaleBar
 
 /** The longest bar of 1, 2 or 5 times a power of ten millimetres that fits into `atMost` pixels. */
 ScaleBar scaleBarFor(double pixelsPerMm, double atMost);
-
-/** A size such as "120 × 80.5 × 45", to about four digits. */
-QString sizeFigures(const QVector3D& millimetres, const QLocale& locale);
-/** The same with its unit, "mm". */
-QString sizeText(const QVector3D& millimetres, const QLocale& locale);
 
 /** What is shown and its size in the upper left corner of `area`, in which both stay. */
 void drawCaption(QPainter& painter, const QRect& area, const QString& title, const QString& size);

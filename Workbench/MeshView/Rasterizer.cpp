@@ -145,7 +145,9 @@ void Rasterizer::drawTriangle(std::array<Vertex, 3> corners, const ColourTable& 
     // Sorted the same way in both triangles of an edge, so that they leave no gap between them.
     std::sort(corners.begin(), corners.end(),
               [](const Vertex& left, const Vertex& right) { return left.y < right.y; });
-    const auto& [top, middle, bottom] = corners;
+    const Vertex& top = corners[0];
+    const Vertex& middle = corners[1];
+    const Vertex& bottom = corners[2];
     const int end = firstPixel(bottom.y, m_image.height());
     int y = firstPixel(top.y, m_image.height());
     const double area =

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Workbench/Design/Problem.h"
 #include "Workbench/Meshes/MeshFacts.h"
 #include "Workbench/Meshes/TriangleMesh.h"
+#include "Workbench/Texts/Problem.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QHash>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Workbench/Design/Problem.h"
 #include "Workbench/Meshes/TriangleMesh.h"
+#include "Workbench/Texts/Problem.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>

@@ -1,10 +1,10 @@
 #include "Workbench/Preview/FilePreview.h"
 
 #include "Workbench/MeshView/MeshPalette.h"
-#include "Workbench/MeshView/MeshViewOverlay.h"
 #include "Workbench/Meshes/MeshReader.h"
 #include "Workbench/Preview/TableHead.h"
 #include "Workbench/Preview/TextHead.h"
+#include "Workbench/Texts/SizeText.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>

@@ -33,9 +33,11 @@ QJsonArray toJson(const std::vector<QStringList>& rows)
 std::vector<QStringList> rowsFromJson(const QJsonArray& all)
 {
     std::vector<QStringList> rows;
-    for (const QJsonValue& row : all) {
+    // By value: such arrays make their elements while they are walked.
+    for (const QJsonValue row : all) {
+        const QJsonArray cells = row.toArray();
         rows.emplace_back();
-        for (const QJsonValue& cell : row.toArray())
+        for (const QJsonValue cell : cells)
             rows.back().append(cell.toString());
     }
     return rows;

@@ -1,6 +1,6 @@
 #include "Workbench/Preview/PreviewWorker.h"
 
-#include "Workbench/Window/Language.h"
+#include "Workbench/Texts/Language.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLocale>

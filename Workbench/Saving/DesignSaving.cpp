@@ -1,11 +1,12 @@
 #include "Workbench/Saving/DesignSaving.h"
 
+#include "Dialogs/SaveMessage.h"
 #include "Dialogs/SaveState.h"
 #include "Host/Widgets/ZVMessageBox.h"
 #include "Workbench/Commands/FileCommands.h"
 #include "Workbench/Design/DesignEdit.h"
 #include "Workbench/Design/DesignSession.h"
-#include "Workbench/Import/SessionDesign.h"
+#include "Workbench/Design/SessionDesign.h"
 #include "Workbench/Solver/SimulationRunner.h"
 #include "Workbench/Undo/EditHistory.h"
 
@@ -24,9 +25,7 @@ namespace {
 bool needsQuestion(const SaveState& state, ZVSaveDialog::Action action)
 {
     const bool isStarting = action == ZVSaveDialog::ActionStart;
-    const bool losesResults = state.hasResults && (isStarting || state.areResultsOutdated ||
-                                                   state.areResultsLostByConversion);
-    return state.isJobRunning || losesResults || !state.isCurrentVersion ||
+    return state.isJobRunning || willDropResults(state, action) || !state.isCurrentVersion ||
            (isStarting && state.isModified);
 }
 

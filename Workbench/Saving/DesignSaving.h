@@ -2,7 +2,7 @@
 
 #include "Dialogs/ZVSaveDialog.h"
 #include "Host/Identifiers/GUIdentifier.h"
-#include "Workbench/Design/Problem.h"
+#include "Workbench/Texts/Problem.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QString>

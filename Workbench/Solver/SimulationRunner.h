@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Workbench/Design/Problem.h"
 #include "Workbench/Solver/DrawSimulation.h"
+#include "Workbench/Texts/Problem.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QString>

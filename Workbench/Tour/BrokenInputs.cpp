@@ -1,7 +1,7 @@
 #include "Workbench/Tour/BrokenInputs.h"
 
+#include "Workbench/Meshes/GeneratedMeshes.h"
 #include "Workbench/Meshes/MeshWriter.h"
-#include "Workbench/Tour/GeneratedMeshes.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -44,7 +44,7 @@ QJsonObject fileReference(const QString& name, const QString& kind, const QStrin
 QByteArray design(const QString& name, const QJsonArray& files)
 {
     QJsonArray parts;
-    for (const QJsonValue& file : files)
+    for (const QJsonValue file : files)
         if (file[QLatin1String("kind")].toString() == QLatin1String("mesh"))
             parts.append(QJsonObject{{QStringLiteral("id"), newId()},
                                      {QStringLiteral("name"), file[QLatin1String("name")]},

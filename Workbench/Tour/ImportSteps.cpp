@@ -2,9 +2,9 @@
 
 #include "Files/CopyCollisionDialog.h"
 #include "Workbench/Import/FileExchange.h"
+#include "Workbench/Meshes/GeneratedMeshes.h"
 #include "Workbench/Meshes/MeshWriter.h"
 #include "Workbench/Tour/DialogAnswers.h"
-#include "Workbench/Tour/GeneratedMeshes.h"
 #include "Workbench/Tour/TourCopier.h"
 #include "Workbench/Window/MainWindow.h"
 #include "Workbench/Window/MessageBar.h"

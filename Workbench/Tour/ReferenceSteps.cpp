@@ -5,7 +5,7 @@
 #include "Workbench/Edit/EngineeringSpinBox.h"
 #include "Workbench/Edit/QuantityPanel.h"
 #include "Workbench/MeshView/MeshView.h"
-#include "Workbench/Window/Language.h"
+#include "Workbench/Texts/Language.h"
 #include "Workbench/Window/MainWindow.h"
 
 #include <QtGui/QPainter>

@@ -1,6 +1,6 @@
 #include "Workbench/Window/DetailsPanel.h"
 
-#include "Workbench/MeshView/MeshViewOverlay.h"
+#include "Workbench/Texts/SizeText.h"
 #include "Workbench/Tree/FactTexts.h"
 
 #include <QtCore/QDir>

@@ -17,10 +17,10 @@
 #include "Workbench/Solver/SimulationProgress.h"
 #include "Workbench/Solver/SimulationRunner.h"
 #include "Workbench/Stress/StressWindow.h"
+#include "Workbench/Tree/FilterBar.h"
 #include "Workbench/Undo/EditHistory.h"
 #include "Workbench/Window/DetailsPanel.h"
 #include "Workbench/Window/FactsReader.h"
-#include "Workbench/Window/FilterBar.h"
 #include "Workbench/Window/MeshPresenter.h"
 #include "Workbench/Window/MessageBar.h"
 #include "Workbench/Window/ProblemsPanel.h"
@@ -68,11 +68,18 @@ QStringList localPaths(const QMimeData& data)
     return paths;
 }
 
+/** The first part of a window that shows pictures. */
+DesignTree* makeTree(DesignSession& session, MeshLoader& loader, QObject* parent)
+{
+    initializeResources();
+    return new DesignTree(session, loader, parent);
+}
+
 } // namespace
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent)
-    , m_tree((initializeResources(), new DesignTree(m_session, m_loader, this)))
+    , m_tree(makeTree(m_session, m_loader, this))
     , m_commands(new WindowCommands(*this))
     , m_history(new EditHistory(m_session, this))
     , m_factsReader(new FactsReader(m_session, m_loader, this))

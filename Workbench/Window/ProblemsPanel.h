@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Workbench/Design/Problem.h"
+#include "Workbench/Texts/Problem.h"
 
 #include <QtWidgets/QWidget>
 

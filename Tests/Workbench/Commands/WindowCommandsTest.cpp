@@ -4,7 +4,7 @@
 #include "Tests/Workbench/Tree/TreeFixture.h"
 #include "Workbench/Help/HelpWindow.h"
 #include "Workbench/MeshView/MeshView.h"
-#include "Workbench/Window/FilterBar.h"
+#include "Workbench/Tree/FilterBar.h"
 #include "Workbench/Window/MainWindow.h"
 
 #include <QtCore/QMetaEnum>
@@ -464,9 +464,9 @@ void WindowCommandsTest::helpShowsLongTitlesWhole()
 void WindowCommandsTest::helpFollowsLinks()
 {
     HelpWindow help;
-    QVERIFY(help.open(QStringLiteral("Actions.md")));
+    QVERIFY(help.showPage(QStringLiteral("Actions.md")));
     QCOMPARE(help.currentPage(), QStringLiteral("Actions.md"));
-    QVERIFY(!help.open(QStringLiteral("NoSuchPage.md")));
+    QVERIFY(!help.showPage(QStringLiteral("NoSuchPage.md")));
     QCOMPARE(help.currentPage(), QStringLiteral("Actions.md"));
 }
 
@@ -480,7 +480,7 @@ void WindowCommandsTest::helpFollowsTheColours()
     };
     const QPalette before = QApplication::palette();
     HelpWindow help;
-    QVERIFY(help.open(QStringLiteral("Workbench.md")));
+    QVERIFY(help.showPage(QStringLiteral("Workbench.md")));
     QPalette changed = before;
     changed.setColor(QPalette::Link, QColor(10, 200, 30));
     QApplication::setPalette(changed);

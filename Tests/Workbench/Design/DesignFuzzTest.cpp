@@ -42,7 +42,7 @@ QJsonValue disturbed(const QJsonValue& value)
                                              QJsonObject(), QJsonArray{QJsonArray{1}});
     if (value.isArray()) {
         QJsonArray entries;
-        for (const QJsonValue& entry : value.toArray())
+        for (const QJsonValue entry : value.toArray())
             entries.append(disturbed(entry));
         return entries;
     }

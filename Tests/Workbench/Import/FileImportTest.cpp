@@ -5,7 +5,7 @@
 #include "Tests/Support/PlatformFacts.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Import/ImportFixture.h"
-#include "Workbench/Import/SessionDesign.h"
+#include "Workbench/Design/SessionDesign.h"
 
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QPushButton>

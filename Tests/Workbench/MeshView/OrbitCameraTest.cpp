@@ -54,7 +54,6 @@ private Q_SLOTS:
     void nearerPointsHaveMoreDepth();
     void scaleBarsTakeRoundLengths_data();
     void scaleBarsTakeRoundLengths();
-    void sizesAreToldInMillimetres();
 };
 
 void OrbitCameraTest::standardDirectionsLookAlongTheirAxes_data()
@@ -179,13 +178,6 @@ void OrbitCameraTest::scaleBarsTakeRoundLengths()
     const ScaleBar bar = scaleBarFor(pixelsPerMm, 160);
     QCOMPARE(bar.millimetres, millimetres);
     QCOMPARE(bar.pixels, millimetres * pixelsPerMm);
-}
-
-void OrbitCameraTest::sizesAreToldInMillimetres()
-{
-    const QLocale c = QLocale::c();
-    QCOMPARE(sizeText({120, 80.5f, 45}, c), QStringLiteral("120 × 80.5 × 45 mm"));
-    QCOMPARE(sizeText({0, 0.125f, 999.96f}, c), QStringLiteral("0 × 0.125 × 1000 mm"));
 }
 
 } // namespace Zorvane::Workbench

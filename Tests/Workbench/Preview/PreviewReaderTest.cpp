@@ -5,7 +5,7 @@
 #include "Tests/Workbench/Design/DesignFiles.h"
 #include "Tests/Workbench/Meshes/MeshFiles.h"
 #include "Workbench/Meshes/MeshWriter.h"
-#include "Workbench/Window/Language.h"
+#include "Workbench/Texts/Language.h"
 
 #include <QtCore/QEventLoop>
 #include <QtCore/QFile>

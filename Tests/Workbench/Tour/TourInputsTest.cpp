@@ -1,8 +1,8 @@
 #include "Tests/Support/TestCase.h"
+#include "Workbench/Meshes/GeneratedMeshes.h"
 #include "Workbench/Meshes/MeshFacts.h"
 #include "Workbench/Meshes/MeshReader.h"
 #include "Workbench/Tour/BrokenInputs.h"
-#include "Workbench/Tour/GeneratedMeshes.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>

@@ -7,7 +7,7 @@
 #include "Workbench/Edit/EngineeringSpinBox.h"
 #include "Workbench/Edit/QuantityPanel.h"
 #include "Workbench/MeshView/MeshView.h"
-#include "Workbench/Window/FilterBar.h"
+#include "Workbench/Tree/FilterBar.h"
 #include "Workbench/Window/MessageBar.h"
 #include "Workbench/Window/ProblemsPanel.h"
 #include "Workbench/Window/ReadingProgress.h"

@@ -1,7 +1,7 @@
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Design/DesignFiles.h"
+#include "Workbench/Tree/FilterBar.h"
 #include "Workbench/Window/Appearance.h"
-#include "Workbench/Window/FilterBar.h"
 #include "Workbench/Window/MainWindow.h"
 #include "Workbench/Window/MessageBar.h"
 #include "Workbench/Window/ProblemsPanel.h"

@@ -1,4 +1,4 @@
-#include "Workbench/Import/SessionDesign.h"
+#include "Workbench/Design/SessionDesign.h"
 
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Tree/TreeFixture.h"

@@ -1,4 +1,4 @@
-#include "Workbench/Window/FilterBar.h"
+#include "Workbench/Tree/FilterBar.h"
 
 #include "Host/ApplicationWidgets/SvgIcon.h"
 

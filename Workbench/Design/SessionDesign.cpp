@@ -1,4 +1,4 @@
-#include "Workbench/Import/SessionDesign.h"
+#include "Workbench/Design/SessionDesign.h"
 
 #include "Workbench/Design/DesignReader.h"
 

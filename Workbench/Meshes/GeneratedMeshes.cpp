@@ -1,4 +1,4 @@
-#include "Workbench/Tour/GeneratedMeshes.h"
+#include "Workbench/Meshes/GeneratedMeshes.h"
 
 #include "Workbench/Meshes/MeshWriter.h"
 

@@ -1,4 +1,4 @@
-#include "Workbench/Design/Problem.h"
+#include "Workbench/Texts/Problem.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QStringList>

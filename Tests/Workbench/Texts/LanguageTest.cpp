@@ -1,4 +1,4 @@
-#include "Workbench/Window/Language.h"
+#include "Workbench/Texts/Language.h"
 
 #include "Host/Translation/Translator.h"
 #include "Tests/Support/TestCase.h"
