@@ -1,4 +1,4 @@
-#include "Workbench/Tour/Tour.h"
+#include "Workbench/Tour/CommandSteps.h"
 
 #include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/Help/HelpWindow.h"
@@ -16,7 +16,7 @@ namespace Zorvane::Workbench {
 
 using Main = ZVMainActions;
 
-void Tour::useCommands()
+void CommandSteps::perform()
 {
     useShortcuts();
     showOnlyGeometry();
@@ -24,7 +24,7 @@ void Tour::useCommands()
     readHelp();
 }
 
-void Tour::useShortcuts()
+void CommandSteps::useShortcuts()
 {
     m_report.beginStep(QStringLiteral("Views by keyboard"),
                        QStringLiteral("One key for each side, keys to roll and to flip, and one to "
@@ -42,7 +42,7 @@ void Tour::useShortcuts()
     picture(QStringLiteral("from-the-other-corner"));
 }
 
-void Tour::showOnlyGeometry()
+void CommandSteps::showOnlyGeometry()
 {
     m_report.beginStep(QStringLiteral("Only the geometry"),
                        QStringLiteral("Blanks, tools and surfaces go for the time being, and what "
@@ -67,7 +67,7 @@ void Tour::showOnlyGeometry()
     m_window.commands()[Main::ViewFitToWindow]->trigger();
 }
 
-void Tour::showMenus()
+void CommandSteps::showMenus()
 {
     m_report.beginStep(QStringLiteral("Menus"),
                        QStringLiteral("The commands of the suite's tables with their shortcuts; "
@@ -98,7 +98,7 @@ void Tour::showMenus()
     m_driver.settle();
 }
 
-void Tour::readHelp()
+void CommandSteps::readHelp()
 {
     m_report.beginStep(QStringLiteral("Help"),
                        QStringLiteral("F1 opens the documentation; Help > About tells what "

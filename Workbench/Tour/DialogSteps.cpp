@@ -1,4 +1,4 @@
-#include "Workbench/Tour/Tour.h"
+#include "Workbench/Tour/DialogSteps.h"
 
 #include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/DialogPanel/DialogPanel.h"
@@ -35,7 +35,7 @@ void chooseBlock(QDialog& dialog)
 
 } // namespace
 
-void Tour::openDialogVariants()
+void DialogSteps::perform()
 {
     m_report.beginStep(QStringLiteral("Every variant of the file dialogs"),
                        QStringLiteral("A window opens each of them and tells what came out: here "
@@ -57,7 +57,7 @@ void Tour::openDialogVariants()
                     QStringLiteral("the main window again"));
 }
 
-void Tour::openAllVariants(DialogPanel& panel)
+void DialogSteps::openAllVariants(DialogPanel& panel)
 {
     const auto open = [this, &panel](DialogVariant variant, DialogAnswers& answers) {
         panel.choose(variant, DialogShower::Qt);
@@ -85,7 +85,7 @@ void Tour::openAllVariants(DialogPanel& panel)
     openNestedDialogs(panel);
 }
 
-void Tour::lookAtControls(QDialog& dialog, const QString& suffix)
+void DialogSteps::lookAtControls(QDialog& dialog, const QString& suffix)
 {
     dialog.resize(s_dialogSize);
     for (auto* const box : dialog.findChildren<QCheckBox*>())
@@ -100,7 +100,7 @@ void Tour::lookAtControls(QDialog& dialog, const QString& suffix)
     chooseBlock(dialog);
 }
 
-void Tour::openNestedDialogs(DialogPanel& panel)
+void DialogSteps::openNestedDialogs(DialogPanel& panel)
 {
     DialogAnswers answers;
     QPointer<QDialog> outer;

@@ -1,4 +1,4 @@
-#include "Workbench/Tour/Tour.h"
+#include "Workbench/Tour/ImportSteps.h"
 
 #include "Files/CopyCollisionDialog.h"
 #include "Workbench/Import/FileExchange.h"
@@ -65,7 +65,7 @@ void clickYes(QDialog& dialog)
 
 } // namespace
 
-void Tour::importAndExport()
+void ImportSteps::perform()
 {
     if (!tourCopiers({})) {
         m_report.beginStep(QStringLiteral("Import and export"),
@@ -80,7 +80,7 @@ void Tour::importAndExport()
     exportTheSelection();
 }
 
-void Tour::importFiles()
+void ImportSteps::importFiles()
 {
     m_report.beginStep(QStringLiteral("Files imported"),
                        QStringLiteral("A mesh and a table from elsewhere: the question whether to "
@@ -119,7 +119,7 @@ void Tour::importFiles()
     m_report.expect(m_window.session().save().empty(), QStringLiteral("the design is saved"));
 }
 
-void Tour::cancelAnImport()
+void ImportSteps::cancelAnImport()
 {
     m_report.beginStep(QStringLiteral("An import cancelled"),
                        QStringLiteral("A large file is being copied; Cancel leaves the design and "
@@ -146,7 +146,7 @@ void Tour::cancelAnImport()
     m_report.expect(m_window.messageBar().text().isEmpty(), QStringLiteral("nothing to tell"));
 }
 
-void Tour::exportTheSelection()
+void ImportSteps::exportTheSelection()
 {
     m_report.beginStep(QStringLiteral("The selection exported"),
                        QStringLiteral("The draw die's mesh is copied to another folder, as it "

@@ -1,4 +1,4 @@
-#include "Workbench/Tour/Tour.h"
+#include "Workbench/Tour/OpenSteps.h"
 
 #include "FileDialogs/NativeFileDialog.h"
 #include "Files/LastPathProvider.h"
@@ -48,7 +48,13 @@ bool isClosedFile(const QString& path)
 
 } // namespace
 
-void Tour::openWithPreview()
+void OpenSteps::perform()
+{
+    openWithPreview();
+    askForNames();
+}
+
+void OpenSteps::openWithPreview()
 {
     m_report.beginStep(QStringLiteral("Files seen before they are opened"),
                        QStringLiteral("File > Open with the preview beside the dialog: a mesh, in "
@@ -74,7 +80,7 @@ void Tour::openWithPreview()
     m_report.expect(damaged.remove(), QStringLiteral("the damaged file is gone"));
 }
 
-void Tour::lookAtFiles(QFileDialog& dialog, const QString& folder)
+void OpenSteps::lookAtFiles(QFileDialog& dialog, const QString& folder)
 {
     PreviewWindow* preview = previewWindow();
     m_report.expect(preview != nullptr && preview->isVisible(),
@@ -110,7 +116,7 @@ void Tour::lookAtFiles(QFileDialog& dialog, const QString& folder)
     look(QStringLiteral("geometry/damaged.stl"), Kind::Message, QStringLiteral("preview-damaged"));
 }
 
-void Tour::askForNames()
+void OpenSteps::askForNames()
 {
     m_report.beginStep(QStringLiteral("Asked for names"),
                        QStringLiteral("Save As with a name whose ending makes it another design's, "

@@ -1,8 +1,6 @@
-#include "Workbench/Tour/Tour.h"
+#include "Workbench/Tour/QuestionSteps.h"
 
-#include "Host/Widgets/ZVConverterDialog.h"
 #include "Workbench/Commands/WindowCommands.h"
-#include "Workbench/Convert/BackgroundWork.h"
 #include "Workbench/Saving/DesignSaving.h"
 #include "Workbench/Tour/BoxGallery.h"
 #include "Workbench/Tour/DialogAnswers.h"
@@ -11,37 +9,13 @@
 #include "Workbench/Window/MessageBar.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QSemaphore>
-#include <QtCore/QThreadPool>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
 
-#include <memory>
-
 namespace Zorvane::Workbench {
 
 namespace {
-
-/** While it lives, no work begins in the background, however fast the machine is. */
-class HeldBackWork
-{
-public:
-    HeldBackWork()
-    {
-        // Work is begun in the order it comes, so what comes later waits for these.
-        for (int i = 0; i < m_count; ++i)
-            m_threads.start([gate = m_gate] { gate->acquire(); });
-    }
-    ~HeldBackWork() { m_gate->release(m_count); }
-
-private:
-    Q_DISABLE_COPY(HeldBackWork)
-
-    QThreadPool& m_threads = backgroundThreads();
-    int m_count = m_threads.maxThreadCount();
-    std::shared_ptr<QSemaphore> m_gate = std::make_shared<QSemaphore>();
-};
 
 bool replaceInFile(const QString& path, const QByteArray& before, const QByteArray& after)
 {
@@ -57,27 +31,13 @@ bool replaceInFile(const QString& path, const QByteArray& before, const QByteArr
 
 } // namespace
 
-void Tour::cancelAConversion(ZVConverterDialog& window)
+void QuestionSteps::perform()
 {
-    DialogAnswers answers;
-    answers.add([this, &window](QDialog& dialog) {
-        pictureInBoth(QStringLiteral("converting"), dialog, &window);
-        dialog.reject();
-    });
-    // Its name is in the title of the progress.
-    window.activateWindow();
-    m_driver.waitFor([&window] { return window.isActiveWindow(); });
-    {
-        const HeldBackWork held;
-        Q_EMIT window.convertWasClicked();
-    }
-    m_report.expect(answers.allGiven(), QStringLiteral("the progress with Cancel"));
-    m_report.expect(
-        window.logText().trimmed().endsWith(QStringLiteral("Cancelled. Nothing was written.")),
-        QStringLiteral("the log's last line"));
+    askAboutChangesOfOthers();
+    callAnUndefinedAction();
 }
 
-void Tour::askAboutChangesOfOthers()
+void QuestionSteps::askAboutChangesOfOthers()
 {
     m_report.beginStep(QStringLiteral("Two at one design"),
                        QStringLiteral("Another program changes the file of a design with unsaved "
@@ -112,7 +72,7 @@ void Tour::askAboutChangesOfOthers()
     m_report.addPicture(QStringLiteral("questions-about-changes-dark"), gallery.dark());
 }
 
-void Tour::callAnUndefinedAction()
+void QuestionSteps::callAnUndefinedAction()
 {
     m_report.beginStep(QStringLiteral("A command without an action"),
                        QStringLiteral("A number that the table of commands has no action for "
@@ -126,16 +86,6 @@ void Tour::callAnUndefinedAction()
         ->action(ZVMainActions::ExportForCorvashel_DISCONTINUED_DO_NOT_USE)
         ->trigger();
     m_report.expect(answers.allGiven(), QStringLiteral("the warning"));
-}
-
-void Tour::pictureInBoth(const QString& name, QWidget& dialog, QWidget* beside)
-{
-    m_report.addPicture(name, m_driver.pictureWith(dialog, beside));
-    applyAppearance(*qApp, Appearance::Dark);
-    m_driver.settle();
-    m_report.addPicture(name + QStringLiteral("-dark"), m_driver.pictureWith(dialog, beside));
-    applyAppearance(*qApp, Appearance::Light);
-    m_driver.settle();
 }
 
 } // namespace Zorvane::Workbench

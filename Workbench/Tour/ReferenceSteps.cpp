@@ -1,32 +1,19 @@
-#include "Workbench/Tour/Tour.h"
+#include "Workbench/Tour/ReferenceSteps.h"
 
 #include "Utilities/ReferenceIndicatorDelegate.h"
 #include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/Edit/EngineeringSpinBox.h"
 #include "Workbench/Edit/QuantityPanel.h"
 #include "Workbench/MeshView/MeshView.h"
-#include "Workbench/Texts/Language.h"
 #include "Workbench/Window/MainWindow.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
-#include <QtWidgets/QTreeView>
 
 namespace Zorvane::Workbench {
 
 namespace {
-
-constexpr double s_largeScale = 1.5;
-
-/** A window as on a screen of another scale. */
-QImage scaledPicture(QWidget& window, double scale)
-{
-    QImage picture(window.size() * scale, QImage::Format_RGB32);
-    picture.setDevicePixelRatio(scale);
-    window.render(&picture);
-    return picture;
-}
 
 QString usedBy(const QModelIndex& row, int role)
 {
@@ -35,7 +22,31 @@ QString usedBy(const QModelIndex& row, int role)
 
 } // namespace
 
-void Tour::showReferences()
+void ReferenceSteps::perform()
+{
+    openDoor();
+    showReferences();
+    showColours();
+    measure();
+}
+
+void ReferenceSteps::openDoor()
+{
+    m_report.beginStep(text("A door panel"),
+                       text("A second sample: several operations with their tools."));
+    m_report.expect(copySample(text("door-panel")), text("the sample beside the program"));
+    reopen({workFolder(text("door-panel"))});
+    m_report.expect(m_driver.waitUntilRead(), text("all meshes are read"));
+    const QStringList names = m_driver.visibleNames();
+    for (const char* name : {"Door panel", "OP20 Draw", "OP30 Trim", "OP40 Flange"})
+        m_report.expect(names.contains(text(name)), text("the row ") + text(name));
+    m_driver.select(ObjectKind::Part, text("Door panel"));
+    m_report.expect(m_driver.waitFor([this] { return m_window.meshView().hasMesh(); }),
+                    text("the panel's mesh"));
+    picture(text("door-panel"));
+}
+
+void ReferenceSteps::showReferences()
 {
     m_report.beginStep(
         QStringLiteral("Who uses what"),
@@ -67,7 +78,7 @@ void Tour::showReferences()
                     QStringLiteral("the part selected by keyboard"));
 }
 
-void Tour::showColours()
+void ReferenceSteps::showColours()
 {
     m_report.beginStep(
         QStringLiteral("Colours of parts"),
@@ -85,7 +96,7 @@ void Tour::showColours()
     picture(QStringLiteral("colours-of-parts"));
 }
 
-void Tour::measure()
+void ReferenceSteps::measure()
 {
     m_report.beginStep(QStringLiteral("Thickness and force"),
                        QStringLiteral("Values in engineering notation, stepped by what suits them; "
@@ -107,56 +118,6 @@ void Tour::measure()
     m_window.session().revert(m_window.session().designs().front().id);
     m_driver.settle();
     m_report.expect(force.text() == before, QStringLiteral("the values of the file again"));
-}
-
-void Tour::lookClosely()
-{
-    m_report.beginStep(QStringLiteral("At 150 %"),
-                       QStringLiteral("Patches and pictures as sharp as the screen."));
-    m_driver.select(ObjectKind::Material, QStringLiteral("DC06, 0.8 mm"));
-    m_report.addPicture(QStringLiteral("at-150-percent"), scaledPicture(m_window, s_largeScale));
-}
-
-void Tour::mirror()
-{
-    m_report.beginStep(QStringLiteral("From right to left"),
-                       QStringLiteral("Mirrored, as languages written from right to left are."));
-    m_driver.select(ObjectKind::Part, QStringLiteral("Door panel"));
-    m_driver.waitFor([this] { return m_window.meshView().hasMesh(); });
-    QApplication::setLayoutDirection(Qt::RightToLeft);
-    m_driver.settle();
-    const MeshLegend& legend = m_window.meshView().legend();
-    m_report.expect(legend.geometry().center().x() < m_window.meshView().width() / 2,
-                    QStringLiteral("the legend on the left"));
-    picture(QStringLiteral("from-right-to-left"));
-    QApplication::setLayoutDirection(Qt::LeftToRight);
-    m_driver.settle();
-}
-
-void Tour::speakGerman()
-{
-    m_report.beginStep(QStringLiteral("In German"),
-                       QStringLiteral("Another window, as on a German system."));
-    const QLocale before;
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    {
-        const Language language{QLocale()};
-        MainWindow window;
-        window.resizeAndDivide(m_window.size());
-        window.show();
-        window.open({workFolder(QStringLiteral("drawn-cup"))});
-        m_report.expect(m_driver.waitFor([&window] { return !window.loader().isBusy(); }),
-                        QStringLiteral("all meshes are read"));
-        window.tree().refreshNow();
-        const QAbstractItemModel& model = window.tree().model();
-        const QString title = model.headerData(TreeColumn::UsedBy, Qt::Horizontal).toString();
-        m_report.expect(title == QStringLiteral("Nutzer"), QStringLiteral("the title ") + title);
-        m_report.addPicture(QStringLiteral("in-german"), window.grab().toImage());
-    }
-    QLocale::setDefault(before);
-    m_window.activateWindow();
-    m_report.expect(m_driver.waitFor([this] { return m_window.isActiveWindow(); }),
-                    QStringLiteral("the first window again"));
 }
 
 } // namespace Zorvane::Workbench

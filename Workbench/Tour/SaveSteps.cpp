@@ -1,7 +1,5 @@
-#include "Workbench/Tour/Tour.h"
+#include "Workbench/Tour/SaveSteps.h"
 
-#include "FileDialogs/NativeFileDialog.h"
-#include "Host/Widgets/ZVConverterDialog.h"
 #include "Workbench/Saving/DesignSaving.h"
 #include "Workbench/Solver/SimulationRunner.h"
 #include "Workbench/Tour/BoxGallery.h"
@@ -13,11 +11,9 @@
 #include <QtCore/QFile>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAction>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMessageBox>
 
-#include <memory>
+#include <functional>
 
 namespace Zorvane::Workbench {
 
@@ -26,29 +22,6 @@ namespace {
 /** Far more than the tour waits for. */
 constexpr int s_endlessSteps = 1'000'000;
 constexpr int s_shortSteps = 20;
-
-/** Chooses one file, as a person would in the system's dialog. */
-class TourFileDialog : public NativeFileDialogDriver
-{
-public:
-    explicit TourFileDialog(QString file)
-        : m_file(std::move(file))
-    {}
-
-    NativeFileDialogResult open(const NativeFileDialogRequest&) override
-    {
-        NativeFileDialogResult result;
-        result.paths = QStringList(m_file);
-        return result;
-    }
-    NativeFileDialogResult save(const NativeFileDialogRequest& request) override
-    {
-        return open(request);
-    }
-
-private:
-    QString m_file;
-};
 
 bool makeVersion1(const QString& file)
 {
@@ -60,18 +33,9 @@ bool makeVersion1(const QString& file)
     return design.resize(0) && design.seek(0) && design.write(text) == text.size();
 }
 
-/** Wherever the menus have it. */
-QAction* commandNamed(QWidget& window, const QString& text)
-{
-    for (QAction* action : window.actions())
-        if (QString(action->text()).remove(QLatin1Char('&')).startsWith(text))
-            return action;
-    return nullptr;
-}
-
 } // namespace
 
-void Tour::saveAndCompute()
+void SaveSteps::perform()
 {
     m_window.session().close();
     const QString folder = workFolder(QStringLiteral("drawn-cup"));
@@ -83,12 +47,9 @@ void Tour::saveAndCompute()
     m_report.expect(isFresh, QStringLiteral("the sample as it came"));
     runASimulation();
     undoAndRedo();
-    convertAMesh();
-    askAboutChangesOfOthers();
-    callAnUndefinedAction();
 }
 
-void Tour::askBeforeSaving()
+void SaveSteps::askBeforeSaving()
 {
     m_report.beginStep(QStringLiteral("Asked before it is too late"),
                        QStringLiteral("What is asked before a design is closed, saved or computed: "
@@ -128,7 +89,7 @@ void Tour::askBeforeSaving()
     m_report.addPicture(QStringLiteral("save-questions-dark"), gallery.dark());
 }
 
-void Tour::runASimulation()
+void SaveSteps::runASimulation()
 {
     m_report.beginStep(QStringLiteral("A simulation"),
                        QStringLiteral("It runs beside everything else and can be stopped; at its "
@@ -144,7 +105,7 @@ void Tour::runASimulation()
     int done = 0;
     const auto progress = QObject::connect(&runner, &SimulationRunner::progressed, &m_window,
                                            [&done](int strokes, int) { done = strokes; });
-    QAction* start = commandNamed(m_window, QStringLiteral("Compute"));
+    QAction* start = commandNamed(QStringLiteral("Compute"));
     if (start != nullptr)
         start->trigger();
     m_report.expect(runner.isRunning(), QStringLiteral("it runs"));
@@ -165,7 +126,7 @@ void Tour::runASimulation()
     picture(QStringLiteral("simulation-results"));
 }
 
-void Tour::undoAndRedo()
+void SaveSteps::undoAndRedo()
 {
     m_report.beginStep(QStringLiteral("Undo and redo"),
                        QStringLiteral("Every change of a design can be taken back, also after it "
@@ -175,7 +136,7 @@ void Tour::undoAndRedo()
     const QString name = session.name(blank);
     session.rename(blank, QStringLiteral("Round blank 180 mm"));
     session.setQuantity(blank, Quantity::Thickness, 1.2);
-    QAction* undo = commandNamed(m_window, QStringLiteral("Undo"));
+    QAction* undo = commandNamed(QStringLiteral("Undo"));
     m_report.expect(undo && undo->isEnabled(), QStringLiteral("the command Undo"));
     m_window.history().undo();
     m_window.history().undo();
@@ -187,60 +148,6 @@ void Tour::undoAndRedo()
     m_driver.waitUntilRead();
     picture(QStringLiteral("redone"));
     m_window.history().undo();
-}
-
-void Tour::convertAMesh()
-{
-    m_report.beginStep(QStringLiteral("A mesh converted"),
-                       QStringLiteral("The cup's ASCII STL file as binary, with what the converter "
-                                      "had to say, a conversion that is cancelled, and a file "
-                                      "that is no mesh."));
-    QAction* convert = commandNamed(m_window, QStringLiteral("Convert"));
-    m_report.expect(convert != nullptr, QStringLiteral("the command Convert"));
-    if (convert == nullptr)
-        return;
-    convert->trigger();
-    auto* window = m_window.findChild<ZVConverterDialog*>();
-    const QString folder = workFolder(QStringLiteral("converted"));
-    m_report.expect(window && QDir().mkpath(folder), QStringLiteral("the converter's window"));
-    DialogAnswers answers;
-    answers.add([folder](QDialog& dialog) {
-        if (auto* chooser = qobject_cast<QFileDialog*>(&dialog))
-            chooser->selectFile(folder);
-        dialog.accept();
-    });
-    chooseAndConvert(*window, workFolder(QStringLiteral("drawn-cup/geometry/cup.stl")));
-    m_report.expect(answers.allGiven(), QStringLiteral("the question for the folder"));
-    m_report.expect(window->status() == ZVConverterDialog::StatusSucceeded &&
-                        QFile::exists(QDir(folder).filePath(QStringLiteral("cup-binary.stl"))),
-                    QStringLiteral("the binary file"));
-    m_driver.settle();
-    pictureInBoth(QStringLiteral("converted"), *window);
-    cancelAConversion(*window);
-    const NativeFileDialogReplacement chooser([this] {
-        return std::make_unique<TourFileDialog>(
-            workFolder(QStringLiteral("drawn-cup/drawn-cup.dsg")));
-    });
-    Q_EMIT window->inputWasClicked();
-    Q_EMIT window->convertWasClicked();
-    m_report.expect(window->status() == ZVConverterDialog::StatusInputFailed,
-                    QStringLiteral("a design is no mesh"));
-    m_driver.settle();
-    pictureInBoth(QStringLiteral("not-converted"), *window);
-    window->close();
-}
-
-void Tour::chooseAndConvert(ZVConverterDialog& window, const QString& file)
-{
-    const NativeFileDialogReplacement chooser(
-        [file] { return std::make_unique<TourFileDialog>(file); });
-    // Nobody is there to answer a dialog of the system.
-    const bool isNative = !QCoreApplication::testAttribute(Qt::AA_DontUseNativeDialogs);
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    Q_EMIT window.inputWasClicked();
-    Q_EMIT window.outputWasClicked();
-    Q_EMIT window.convertWasClicked();
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, !isNative);
 }
 
 } // namespace Zorvane::Workbench
