@@ -29,7 +29,8 @@ public:
     void add(const FileDialogConfiguration& configuration, QGridLayout& below,
              QGridLayout& besideButtons);
     /**
-     * Sets `FileDialogConfiguration::ControlState` flags of a control, or of a group by its number. A label goes with its control. An unknown identifier changes nothing.
+     * Sets `FileDialogConfiguration::ControlState` flags of a control, or of a group by its
+     * number. A label goes with its control. An unknown identifier changes nothing.
      */
     void setState(int id, int state);
     /** Lets the tabulator go through the controls, in their order, behind the widget. */
