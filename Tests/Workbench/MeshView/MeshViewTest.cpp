@@ -2,6 +2,7 @@
 
 #include "Tests/Support/TestCase.h"
 #include "Workbench/MeshView/MeshViewOverlay.h"
+#include "Workbench/Texts/SizeText.h"
 
 #include <QtGui/QPainter>
 #include <QtGui/QWheelEvent>

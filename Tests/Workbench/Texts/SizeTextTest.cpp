@@ -11,13 +11,13 @@ class SizeTextTest : public Testing::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void sizeTexts();
-    void lengthTexts();
-    void figuresOfALanguage();
+    void sizesAreToldInMillimetres();
+    void lengthsAreToldInMillimetres();
+    void figuresAreThoseOfTheLanguage();
     void figuresStayInOrderFromRightToLeft();
 };
 
-void SizeTextTest::sizeTexts()
+void SizeTextTest::sizesAreToldInMillimetres()
 {
     const QLocale c = QLocale::c();
     QCOMPARE(sizeText({120, 80.5f, 45}, c), QStringLiteral("120 × 80.5 × 45 mm"));
@@ -25,13 +25,13 @@ void SizeTextTest::sizeTexts()
     QCOMPARE(sizeFigures({120, 80.5f, 45}, c), QStringLiteral("120 × 80.5 × 45"));
 }
 
-void SizeTextTest::lengthTexts()
+void SizeTextTest::lengthsAreToldInMillimetres()
 {
     QCOMPARE(lengthText(50, QLocale::c()), QStringLiteral("50 mm"));
     QCOMPARE(lengthText(0.5, QLocale::c()), QStringLiteral("0.5 mm"));
 }
 
-void SizeTextTest::figuresOfALanguage()
+void SizeTextTest::figuresAreThoseOfTheLanguage()
 {
     QCOMPARE(lengthText(80.5, QLocale(QLocale::German)), QStringLiteral("80,5 mm"));
 }
