@@ -2,7 +2,7 @@
 
 #include "FileDialogs/FileDialog.h"
 #include "Workbench/DialogPanel/ExampleFiles.h"
-#include "Workbench/Window/ScreenFit.h"
+#include "Workbench/Screens/ScreenFit.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QClipboard>

@@ -1,6 +1,6 @@
 #include "Workbench/Help/HelpWindow.h"
 
-#include "Workbench/Window/ScreenFit.h"
+#include "Workbench/Screens/ScreenFit.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>

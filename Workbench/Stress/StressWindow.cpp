@@ -1,8 +1,8 @@
 #include "Workbench/Stress/StressWindow.h"
 
 #include "Host/Widgets/ZVTreeViewPlaceKeeper.h"
+#include "Workbench/Screens/ScreenFit.h"
 #include "Workbench/Stress/TimeChart.h"
-#include "Workbench/Window/ScreenFit.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtWidgets/QCheckBox>

@@ -1,9 +1,9 @@
 #include "Workbench/Window/WindowLayout.h"
 
+#include "Workbench/Screens/ScreenFit.h"
 #include "Workbench/Window/LastColumn.h"
 #include "Workbench/Window/ProblemsPanel.h"
 #include "Workbench/Window/ScaledColumns.h"
-#include "Workbench/Window/ScreenFit.h"
 
 #include <QtGui/QFontMetrics>
 #include <QtWidgets/QHeaderView>

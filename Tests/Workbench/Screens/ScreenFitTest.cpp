@@ -1,4 +1,4 @@
-#include "Workbench/Window/ScreenFit.h"
+#include "Workbench/Screens/ScreenFit.h"
 
 #include "Tests/Support/TestCase.h"
 #include "Workbench/DialogPanel/DialogPanel.h"

@@ -1,4 +1,4 @@
-#include "Workbench/Window/ScreenFit.h"
+#include "Workbench/Screens/ScreenFit.h"
 
 #include <QtGui/QScreen>
 #include <QtWidgets/QStyle>
