@@ -61,7 +61,7 @@ DesignRelocation::DesignRelocation(QWidget* parent, const QString& from, const Q
     , m_name(QFileInfo(to).fileName())
     , m_open(std::move(open))
     , m_copies{{{from, m_to.path()}, m_to.filePath(m_name)}}
-    , m_designs{{realPath(from), m_to.filePath(m_name)}}
+    , m_designs{{from, m_to.filePath(m_name)}}
 {}
 
 std::optional<Problem> DesignRelocation::bringFilesOf(Design& design)
@@ -76,23 +76,23 @@ const Design* DesignRelocation::openDesign(const FileReference& reference) const
 {
     if (reference.kind != FileKind::Design)
         return nullptr;
-    const QString file = realPath(reference.file);
-    const auto open = std::find_if(m_open.begin(), m_open.end(),
-                                   [&file](const Design& design) { return design.file == file; });
+    const QString real = realPath(reference.file);
+    // A file that is gone may be back when it is copied.
+    const QString& file = real.isEmpty() ? reference.file : real;
+    const auto isIt = [&file](const Design& design) {
+        return FileNames::areSame(design.file, file);
+    };
+    const auto open = std::find_if(m_open.begin(), m_open.end(), isIt);
     return open == m_open.end() ? nullptr : &*open;
 }
 
 /** What the copy of a design refers to, which itself has the folder `from`. */
 std::optional<Problem> DesignRelocation::bring(Design& design, const QDir& from)
 {
-    const QDir to = folderOf(design.file);
+    const std::vector<Coming> coming = whatComesWith(design, from);
     std::map<QString, QStringList> folders;
     std::vector<std::pair<const Design*, Place>> designs;
-    for (const FileReference& reference : design.files) {
-        if (reference.state != FileState::Exists)
-            continue;
-        const Place place = placeOf(reference.file, from, to);
-        const Design* const open = openDesign(reference);
+    for (const auto& [reference, place, open] : coming) {
         if (open != nullptr && !m_designs.emplace(open->file, QString()).second)
             continue;
         if (open != nullptr)
@@ -102,17 +102,29 @@ std::optional<Problem> DesignRelocation::bring(Design& design, const QDir& from)
     }
     for (auto& [folder, files] : folders) {
         files.removeDuplicates();
-        if (const std::optional<Problem> problem = copyFiles(folder, files, to))
+        if (const std::optional<Problem> problem = copyFiles(folder, files, folderOf(design.file)))
             return problem;
     }
     for (const auto& [open, place] : designs)
         m_designs[open->file] = m_copies.at(place);
-    if (const std::optional<Problem> problem = referToCopies(design, from))
+    if (const std::optional<Problem> problem = referToCopies(design, coming))
         return problem;
     for (const auto& [open, place] : designs)
         if (const std::optional<Problem> problem = bringDesign(*open))
             return problem;
     return std::nullopt;
+}
+
+std::vector<DesignRelocation::Coming> DesignRelocation::whatComesWith(Design& design,
+                                                                      const QDir& from)
+{
+    const QDir to = folderOf(design.file);
+    std::vector<Coming> coming;
+    for (FileReference& reference : design.files)
+        if (reference.state == FileState::Exists)
+            coming.push_back(
+                {&reference, placeOf(reference.file, from, to), openDesign(reference)});
+    return coming;
 }
 
 /** The place stays the same below the design's folder. */
@@ -125,21 +137,18 @@ DesignRelocation::Place DesignRelocation::placeOf(const QString& file, const QDi
 }
 
 /** What has got another name, or is reached by a link elsewhere, is referred to where it is. */
-std::optional<Problem> DesignRelocation::referToCopies(Design& design, const QDir& from)
+std::optional<Problem> DesignRelocation::referToCopies(const Design& design,
+                                                       const std::vector<Coming>& coming) const
 {
     const QDir to = folderOf(design.file);
-    for (FileReference& reference : design.files) {
-        if (reference.state != FileState::Exists)
-            continue;
-        const Design* const open = openDesign(reference);
-        const QString copy = open != nullptr ? m_designs.at(open->file)
-                                             : m_copies.at(placeOf(reference.file, from, to));
+    for (const auto& [reference, place, open] : coming) {
+        const QString& copy = open != nullptr ? m_designs.at(open->file) : m_copies.at(place);
         const QString path = to.relativeFilePath(copy);
         if (path.startsWith(QLatin1String("../")))
-            return Problem{reference.file,
+            return Problem{reference->file,
                            {},
                            tr("comes along by a link, out of reach from %1").arg(design.name)};
-        refer(reference, path);
+        refer(*reference, path);
     }
     return std::nullopt;
 }

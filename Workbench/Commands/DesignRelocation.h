@@ -53,14 +53,24 @@ public:
 private:
     /** A file, and the folder that it goes to: by way of links, that may be several. */
     using Place = std::pair<QString, QString>;
+    /** What a reference led to before the first question, as files come and go while it asks. */
+    struct Coming
+    {
+        FileReference* reference;
+        Place place;
+        /** Null for what is no design or isn't open. */
+        const Design* open;
+    };
 
+    std::vector<Coming> whatComesWith(Design& design, const QDir& from);
     Place placeOf(const QString& file, const QDir& from, const QDir& to);
     static std::optional<Problem> obstacleIn(const QString& folder, const QString& source,
                                              const QDir& design);
     const Design* openDesign(const FileReference& reference) const;
     std::optional<Problem> bring(Design& design, const QDir& from);
     std::optional<Problem> bringDesign(const Design& open);
-    std::optional<Problem> referToCopies(Design& design, const QDir& from);
+    std::optional<Problem> referToCopies(const Design& design,
+                                         const std::vector<Coming>& coming) const;
     std::optional<Problem> obstacleTo(const QString& folder, const QString& file) const;
     std::optional<Problem> copyFiles(const QString& folder, const QStringList& files,
                                      const QDir& design);

@@ -59,6 +59,8 @@ private Q_SLOTS:
     void namesThatAreTakenAreAskedAbout();
     void designsFollowFilesWithOtherNames();
     void designsWhoseNamesAreTakenAreKept();
+    void designsMayGoWhileQuestionsAreAsked();
+    void designsMayComeBackWhileQuestionsAreAsked();
     void folderThatCannotBeMadeIsTold();
     void nothingTakesThePlaceOfTheDesign();
     void openDesignsAreNotReplaced();
@@ -455,6 +457,56 @@ void DesignRelocationTest::designsWhoseNamesAreTakenAreKept()
     QCOMPARE(Testing::readFile(taken), QByteArray("another design"));
     QVERIFY(relocated()->problems().empty());
     QCOMPARE(relocated()->designs().size(), std::size_t(3));
+}
+
+void DesignRelocationTest::designsMayGoWhileQuestionsAreAsked()
+{
+    if (!Testing::PlatformCopies::askByOurDialog())
+        QSKIP("the system asks about names that are taken, by windows of its own");
+    if (!linkDoor("door/door.dsg", "linked.dsg"))
+        QSKIP("programs may not make links on this platform");
+    Testing::writeFile(source("note.txt"), "note");
+    Testing::writeFile(
+        source("other.dsg"),
+        Testing::toText(Testing::designWithFiles(
+            80, QStringLiteral("Other"),
+            {Testing::fileEntry(81, QStringLiteral("The door"), QStringLiteral("design"),
+                                QStringLiteral("door/door.dsg")),
+             Testing::fileEntry(82, QStringLiteral("Note"), QStringLiteral("document"),
+                                QStringLiteral("note.txt"))})));
+    QVERIFY(m_opened->session.addFiles(objectId(1), {source("other.dsg")}).empty());
+    Testing::writeFile(target("note.txt"), "old");
+    Testing::ExpectedModals modals;
+    modals.expectDialog<CopyCollisionDialog>(QStringLiteral("collision"),
+                                             [this](CopyCollisionDialog& dialog) {
+                                                 QVERIFY(QFile::remove(source("door/door.dsg")));
+                                                 dialog.button(CopyDecision::KeepBoth)->click();
+                                             });
+    QVERIFY(!relocate());
+    QVERIFY(modals.allMet());
+    QVERIFY(relocated()->problems().empty());
+    QCOMPARE(relocated()->designs().size(), std::size_t(4));
+}
+
+void DesignRelocationTest::designsMayComeBackWhileQuestionsAreAsked()
+{
+    if (!Testing::PlatformCopies::askByOurDialog())
+        QSKIP("the system asks about names that are taken, by windows of its own");
+    // Asked about before the door's folder is.
+    Testing::writeFile(target("steel.json"), "old");
+    m_opened->session.rename(objectId(60), QStringLiteral("Back door"));
+    const QByteArray door = Testing::readFile(source("door/door.dsg"));
+    QVERIFY(QFile::remove(source("door/door.dsg")));
+    Testing::ExpectedModals modals;
+    modals.expectDialog<CopyCollisionDialog>(QStringLiteral("collision"),
+                                             [this, &door](CopyCollisionDialog& dialog) {
+                                                 Testing::writeFile(source("door/door.dsg"), door);
+                                                 dialog.button(CopyDecision::KeepBoth)->click();
+                                             });
+    QVERIFY(!relocate());
+    QVERIFY(modals.allMet());
+    QVERIFY(relocated()->problems().empty());
+    QCOMPARE(relocated()->designs().at(1).name, QStringLiteral("Back door"));
 }
 
 void DesignRelocationTest::folderThatCannotBeMadeIsTold()
