@@ -4,6 +4,7 @@
 #include "Host/FileHandling/FileUtilities.h"
 #include "Workbench/Commands/DesignCopy.h"
 #include "Workbench/Design/DesignWriter.h"
+#include "Workbench/Design/FileNames.h"
 #include "Workbench/Design/FileReferences.h"
 
 #include <QtCore/QFile>
