@@ -2,6 +2,8 @@
 
 #include "Host/ApplicationWidgets/SvgIcon.h"
 
+#include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLineEdit>
@@ -10,8 +12,49 @@
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace Zorvane::Workbench {
+
+namespace {
+
+/** Stays open while entries are checked, by the mouse or the space bar: often several are meant. */
+class CheckMenu : public QMenu
+{
+public:
+    using QMenu::QMenu;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        m_isPressed = true;
+        QMenu::mousePressEvent(event);
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        // The click that opened the menu is released here, too, and chooses nothing.
+        if (!std::exchange(m_isPressed, false) || !toggle(actionAt(event->pos())))
+            QMenu::mouseReleaseEvent(event);
+    }
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() != Qt::Key_Space || !toggle(activeAction()))
+            QMenu::keyPressEvent(event);
+    }
+
+private:
+    static bool toggle(QAction* action)
+    {
+        if (!action || !action->isCheckable() || !action->isEnabled())
+            return false;
+        action->trigger();
+        return true;
+    }
+
+    bool m_isPressed = false;
+};
+
+} // namespace
 
 FilterBar::FilterBar(QWidget* parent)
     : QWidget(parent)
@@ -39,7 +82,7 @@ FilterBar::FilterBar(QWidget* parent)
 
 void FilterBar::addKinds()
 {
-    auto* menu = new QMenu(m_kinds);
+    auto* menu = new CheckMenu(m_kinds);
     for (const ObjectKind kind : s_filterableKinds) {
         QAction* action = menu->addAction(createSvgIcon(iconPath(kind)), pluralText(kind));
         action->setCheckable(true);

@@ -41,6 +41,7 @@ private Q_SLOTS:
     void recentPathsComeNewestFirstOnceAndTenAtMost();
     void theAppearanceIsKept();
     void theFilterBarTellsTextsAndKinds();
+    void severalKindsAreToggledAtOnce();
     void escapeClearsTheFilterText();
     void theMessageBarTellsTheNewestAndCloses();
     void theMessageBarFollowsTheAppearance();
@@ -92,6 +93,32 @@ void WindowPartsTest::theFilterBarTellsTextsAndKinds()
     QCOMPARE(toggles, 2);
     QCOMPARE(kinds->text(), before);
     QVERIFY(waitForClearButton(bar, true));
+}
+
+void WindowPartsTest::severalKindsAreToggledAtOnce()
+{
+    FilterBar bar;
+    QMenu& menu = *bar.findChild<QToolButton*>()->menu();
+    menu.popup({0, 0});
+    QTRY_VERIFY(menu.isVisible());
+    QAction* const first = menu.actions().at(0);
+    QAction* const second = menu.actions().at(1);
+    QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(first).center());
+    QVERIFY(!first->isChecked());
+    QVERIFY(menu.isVisible());
+    menu.setActiveAction(second);
+    QTest::keyClick(&menu, Qt::Key_Space);
+    QVERIFY(!second->isChecked());
+    QVERIFY(menu.isVisible());
+    QTest::keyClick(&menu, Qt::Key_Return);
+    QVERIFY(second->isChecked());
+    QVERIFY(!menu.isVisible());
+    menu.popup({0, 0});
+    QTRY_VERIFY(menu.isVisible());
+    QAction* const all = menu.actions().last();
+    QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(all).center());
+    QVERIFY(first->isChecked());
+    QVERIFY(!menu.isVisible());
 }
 
 void WindowPartsTest::escapeClearsTheFilterText()
