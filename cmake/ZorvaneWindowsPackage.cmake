@@ -22,6 +22,8 @@ endif()
 install(DIRECTORY ${CMAKE_BINARY_DIR}/samples DESTINATION . COMPONENT ${component})
 install(FILES README.md CHANGELOG.md DESTINATION . COMPONENT ${component})
 
+# Folders that use it find it for themselves only.
+find_package(Qt5 5.15 REQUIRED COMPONENTS Svg)
 foreach(library Core Gui Widgets Svg)
     install(FILES $<TARGET_FILE:Qt5::${library}> DESTINATION bin COMPONENT ${component})
 endforeach()
