@@ -50,11 +50,13 @@ namespace Zorvane {
 //
 // What always holds, also while slots run:
 // - The way up by `m_parent` ends at the root for every row in a model's care: so `owning` finds
-//   the model of rows that are out, too, and it goes in no circles (`prepareMove` sees to that).
+//   the model of rows that are out, too. It goes in no circles: a row that is out becomes one that
+//   is away as soon as another goes below it, which may be the very parent it had (`prepareMove`).
 // - Only the topmost row that views do not see is new; those below it are settled.
 // - A staged list shows what views have been told, and changes only between the two halves of an
-//   announcement. The row's number, `m_row`, is that of the shown list.
-// - `Leaving` and `Counted` mark rows within one function and are dropped before it ends.
+//   announcement. A row's number, `m_row`, is that of the shown list it is in; rows in none use
+//   theirs otherwise, which is why the list checks each.
+// - `Leaving` marks rows during one change of layout, `Counted` during one check of a list of rows.
 
 /** What a model knows besides its rows: headers, and the changes that an open batch gathers. */
 class ZVTreeViewModelPrivate

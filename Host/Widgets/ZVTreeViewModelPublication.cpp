@@ -316,7 +316,7 @@ bool ZVTreeViewModelPrivate::changeLayout(Plan& plan)
     }
     const QModelIndexList before = q->persistentIndexList();
     markLeaving(plan);
-    // Asked while rows are still where views see them: none is looked for among those gone.
+    // Asked while rows are still where views see them: afterwards nothing tells them apart.
     const SortedRows gone = rowsThatLeave(before);
     showAll(plan);
     mapIndexes(before, gone);
