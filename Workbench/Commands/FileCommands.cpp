@@ -123,7 +123,7 @@ bool FileCommands::saveAs(GUIdentifier objectId, Results results)
         obstacle = Problem{target, {}, tr("has been made meanwhile and is not replaced")};
     if (!write(copy, obstacle))
         return false;
-    Q_EMIT replacing(successors);
+    Q_EMIT replacing(successors, copy);
     m_session.replace(replaced, target);
     Q_EMIT savedAs(target);
     Q_EMIT done(tr("Saved as %1").arg(QDir::toNativeSeparators(target)));

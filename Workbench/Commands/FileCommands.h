@@ -58,8 +58,8 @@ public:
 Q_SIGNALS:
     /** What the user wants to have opened. */
     void chosen(const QStringList& paths);
-    /** A design is about to be replaced in the session by its copy. */
-    void replacing(const Successors& successors);
+    /** A design is about to be replaced in the session by this copy. */
+    void replacing(const Successors& successors, const Design& copy);
     /** The design of this file replaces the other one in the session. */
     void savedAs(const QString& file);
     void done(const QString& text);

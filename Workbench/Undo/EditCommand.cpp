@@ -8,6 +8,15 @@ namespace Zorvane::Workbench {
 
 namespace {
 
+/** Null for an edit of another kind. */
+TakenObjects* objectsOf(DesignEdit& edit)
+{
+    if (auto* addition = std::get_if<AdditionEdit>(&edit))
+        return &addition->objects;
+    auto* removal = std::get_if<RemovalEdit>(&edit);
+    return removal == nullptr ? nullptr : &removal->objects;
+}
+
 /** Calls `visit(id)` for every identifier in the edit. */
 template <typename Visit>
 void visitIds(TakenObjects& objects, Visit visit)
@@ -29,10 +38,8 @@ void visitIds(DesignEdit& edit, Visit visit)
         visit(name->object);
     else if (auto* value = std::get_if<QuantityEdit>(&edit))
         visit(value->object);
-    else if (auto* addition = std::get_if<AdditionEdit>(&edit))
-        visitIds(addition->objects, visit);
     else
-        visitIds(std::get<RemovalEdit>(edit).objects, visit);
+        visitIds(*objectsOf(edit), visit);
 }
 
 } // namespace
@@ -98,7 +105,7 @@ bool EditCommand::isNothing() const
     return value && value->after == value->before;
 }
 
-bool EditCommand::follow(Successors& successors)
+bool EditCommand::follow(Successors& successors, const Design& copy)
 {
     bool isWhole = true;
     const auto follow = [&successors, &isWhole](GUIdentifier& id) {
@@ -112,6 +119,10 @@ bool EditCommand::follow(Successors& successors)
     };
     visitIds(m_edit, follow);
     follow(m_design);
+    if (TakenObjects* objects = objectsOf(m_edit))
+        for (auto& [place, file] : objects->files)
+            if (const FileReference* const present = copy.findFile(file.id))
+                file.path = present->path;
     return isWhole;
 }
 

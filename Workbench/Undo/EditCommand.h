@@ -37,10 +37,11 @@ public:
     bool isNothing() const;
 
     /**
-     * Makes it one of the successors instead; objects without one, as they are not in the design at
-     * present, get one. False, and of no use any more, if the copy is left without one of them.
+     * Makes it one of the successors in the copy instead, whose files may be at other places;
+     * objects without one, as they are not in the design at present, get one. False, and of no use
+     * any more, if the copy is left without one of them.
      */
-    bool follow(Successors& successors);
+    bool follow(Successors& successors, const Design& copy);
 
     /** False, and nothing is different, if it no longer fits. */
     bool undo() { return apply(false); }

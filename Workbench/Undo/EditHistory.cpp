@@ -83,13 +83,13 @@ void EditHistory::putBack(const TakenObjects& taken)
         m_session.putBack(taken);
 }
 
-void EditHistory::follow(Successors successors)
+void EditHistory::follow(Successors successors, const Design& copy)
 {
     bool fits = true;
-    const auto follows = [&successors, &fits](EditCommand& edit) {
+    const auto follows = [&successors, &copy, &fits](EditCommand& edit) {
         if (successors.count(edit.design()) == 0)
             return true;
-        fits = fits && edit.follow(successors);
+        fits = fits && edit.follow(successors, copy);
         return fits;
     };
     for (std::size_t place = m_made; place-- > 0;)

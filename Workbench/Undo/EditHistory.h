@@ -52,7 +52,7 @@ public:
      * What was done to a design goes on with its copy, which is about to take its place in the
      * session; but not what was done to objects that the copy is left without, and before.
      */
-    void follow(Successors successors);
+    void follow(Successors successors, const Design& copy);
 
 public Q_SLOTS:
     void undo();

@@ -1,3 +1,4 @@
+#include "Files/CopyCollisionDialog.h"
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/PlatformCopies.h"
 #include "Tests/Workbench/Saving/SavingFixture.h"
@@ -7,6 +8,7 @@
 #include <QtCore/QRegularExpression>
 #include <QtCore/QScopeGuard>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QPushButton>
 
 using namespace Zorvane;
 using namespace Zorvane::Testing;
@@ -30,6 +32,7 @@ private Q_SLOTS:
     void saveAsOfAnOlderDesignAsks();
     void undoGoesOnAfterSaveAs_data();
     void undoGoesOnAfterSaveAs();
+    void undoFollowsFilesThatGotOtherNames();
     void undoEndsAtWhatSaveAsLeftOut();
     void undoStaysWithTheDesignThatWasSavedAs();
     void copyLeavesOutdatedResultsToTheDesign();
@@ -139,6 +142,28 @@ void DesignSavingOneTest::undoGoesOnAfterSaveAs()
         m_history->redo();
     QCOMPARE(withoutIds(), after);
     QCOMPARE(refused.count(), 0);
+}
+
+void DesignSavingOneTest::undoFollowsFilesThatGotOtherNames()
+{
+    const QString mesh = writeFile(m_opened->path(QStringLiteral("rib.stl")), binaryStl(cube()));
+    QVERIFY(session().addFiles(design().id, {mesh}).empty());
+    writeFile(m_opened->path(QStringLiteral("elsewhere/rib.stl")), "taken");
+    chooseForSaveAs(QStringLiteral("elsewhere/other.dsg"));
+    ExpectedModals modals;
+    // The engine that stands in for a shell keeps both by itself.
+    if (PlatformCopies::askByOurDialog())
+        modals.expectDialog<CopyCollisionDialog>(
+            QStringLiteral("collision"),
+            [](CopyCollisionDialog& dialog) { dialog.button(CopyDecision::KeepBoth)->click(); });
+    QVERIFY(m_saving->saveAs(design().id));
+    const QString path = design().files.back().path;
+    QVERIFY(path != QStringLiteral("rib.stl"));
+    m_history->undo();
+    QCOMPARE(design().files.size(), std::size_t(2));
+    m_history->redo();
+    QCOMPARE(design().files.back().path, path);
+    QCOMPARE(int(design().files.back().state), int(FileState::Exists));
 }
 
 void DesignSavingOneTest::undoEndsAtWhatSaveAsLeftOut()
