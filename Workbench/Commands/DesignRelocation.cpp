@@ -24,6 +24,12 @@ QString realPath(const QString& path)
     return QFileInfo(path).canonicalFilePath();
 }
 
+/** Of folders that are there; systems spell one in several ways. */
+bool isSameFolder(const QString& left, const QString& right)
+{
+    return FileUtilities::isEquivalent(FileName(left), FileName(right));
+}
+
 QDir folderOf(const QString& file)
 {
     return QDir::cleanPath(QFileInfo(file).absolutePath());
@@ -67,7 +73,7 @@ DesignRelocation::DesignRelocation(QWidget* parent, const QString& from, const Q
 
 std::optional<Problem> DesignRelocation::bringFilesOf(Design& design)
 {
-    if (m_from.canonicalPath() == m_to.canonicalPath())
+    if (isSameFolder(m_from.path(), m_to.path()))
         return std::nullopt;
     return bring(design, m_from);
 }
@@ -158,7 +164,7 @@ std::optional<Problem> DesignRelocation::referToCopies(const Design& design,
 std::optional<Problem> DesignRelocation::obstacleIn(const QString& folder, const QString& source,
                                                     const QDir& design)
 {
-    if (realPath(folder) == realPath(source))
+    if (isSameFolder(folder, source))
         return Problem{folder, {}, tr("is a link to the folder that the files come from")};
     if (resolveReference(design.path(), design.relativeFilePath(folder)).state ==
         FileState::Outside)
@@ -171,7 +177,7 @@ std::optional<Problem> DesignRelocation::obstacleTo(const QString& folder,
                                                     const QString& file) const
 {
     const QString name = QFileInfo(file).fileName();
-    const bool isInPlace = realPath(folder) == m_to.canonicalPath();
+    const bool isInPlace = isSameFolder(folder, m_to.path());
     if (isInPlace && name.compare(m_name, Qt::CaseInsensitive) == 0)
         return Problem{file, {}, tr("comes along and has the name that the design shall get")};
     const QString target = realPath(QDir(folder).filePath(name));

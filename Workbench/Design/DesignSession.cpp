@@ -16,16 +16,6 @@ namespace Zorvane::Workbench {
 
 namespace {
 
-/** As it was opened before, where the case of letters doesn't count; else as it is. */
-QString knownSpelling(const std::vector<Design>& designs, const QString& file)
-{
-    const auto isSame = [&file](const Design& design) {
-        return FileNames::areSame(design.file, file);
-    };
-    const auto found = std::find_if(designs.begin(), designs.end(), isSame);
-    return found == designs.end() ? file : found->file;
-}
-
 /** Empty if an object may be called so. */
 QString nameObstacle(const QString& name)
 {
@@ -92,7 +82,7 @@ void DesignSession::openFolder(const QString& folder)
 void DesignSession::openFile(const QString& file)
 {
     if (FileNames::isDesign(file))
-        m_store.add(knownSpelling(designs(), file));
+        m_store.add(file);
     else if (MeshReader::isMeshFile(file))
         m_looseParts.add(file, false);
     else

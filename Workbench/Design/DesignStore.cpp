@@ -2,6 +2,7 @@
 
 #include "Workbench/Design/DesignWriter.h"
 #include "Workbench/Design/FileAdditions.h"
+#include "Workbench/Design/FileNames.h"
 #include "Workbench/Design/FileReferences.h"
 
 #include <QtCore/QFileInfo>
@@ -78,9 +79,22 @@ void append(Problems& problems, const Problems& more)
 
 void DesignStore::add(const QString& file)
 {
-    if (!m_opened.contains(file))
-        m_opened.append(file);
+    const QString known = knownSpelling(file);
+    if (!m_opened.contains(known))
+        m_opened.append(known);
     arrange();
+}
+
+/** As it is known already; else as it is. */
+QString DesignStore::knownSpelling(const QString& file) const
+{
+    if (m_records.count(file) != 0)
+        return file;
+    const auto isSame = [&file](const auto& entry) {
+        return FileNames::areSame(entry.first, file);
+    };
+    const auto found = std::find_if(m_records.begin(), m_records.end(), isSame);
+    return found == m_records.end() ? file : found->first;
 }
 
 void DesignStore::replace(GUIdentifier designId, const QString& file)
@@ -90,8 +104,9 @@ void DesignStore::replace(GUIdentifier designId, const QString& file)
         return;
     const QString replaced = found->file;
     const int place = m_opened.indexOf(replaced);
-    m_opened.removeAll(file);
-    m_opened.insert(place < 0 ? m_opened.size() : place, file);
+    const QString known = knownSpelling(file);
+    m_opened.removeAll(known);
+    m_opened.insert(place < 0 ? m_opened.size() : place, known);
     // If others refer to it, it is read again.
     forget(replaced);
     arrange();
@@ -227,7 +242,7 @@ void DesignStore::followReference(std::size_t index, std::size_t reference, QStr
     source.design = {};
     if (source.kind != FileKind::Design || source.state != FileState::Exists)
         return;
-    const QString target = QFileInfo(source.file).canonicalFilePath();
+    const QString target = knownSpelling(QFileInfo(source.file).canonicalFilePath());
     m_referred.insert(target);
     const QString where = tr("reference \"%1\"").arg(source.name);
     if (path.contains(target)) {

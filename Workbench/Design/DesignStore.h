@@ -39,7 +39,10 @@ public:
     /** Designs may refer to designs as deep as this, against chains without end. */
     static constexpr int deepestReference = 100;
 
-    /** Opens the design file at an absolute path, and those that it refers to. */
+    /**
+     * Opens the design file at an absolute path, and those that it refers to. Where the case of
+     * letters doesn't count, a file stays known by the spelling that came first.
+     */
     void add(const QString& file);
     /** Opens the file in place of the design, whose unsaved changes are dropped. */
     void replace(GUIdentifier designId, const QString& file);
@@ -121,6 +124,7 @@ private:
     };
     using Pool = std::map<QString, Design>;
 
+    QString knownSpelling(const QString& file) const;
     void forget(const QString& file);
     void arrange();
     void placeOpened(const QString& file, Pool& pool);

@@ -282,11 +282,8 @@ bool DesignSaving::run(GUIdentifier designId)
 
 GUIdentifier DesignSaving::designOf(const QString& file) const
 {
-    const QString real = QFileInfo(file).canonicalFilePath();
-    for (const Design& design : m_parts.session.designs())
-        if (design.file == real)
-            return design.id;
-    return {};
+    const Design* const design = m_parts.session.findByFile(file);
+    return design == nullptr ? GUIdentifier() : design->id;
 }
 
 void DesignSaving::takeResults(const QString& designFile, const QString& resultFile)

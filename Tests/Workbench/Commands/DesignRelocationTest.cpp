@@ -48,6 +48,7 @@ private Q_SLOTS:
     void cleanup();
     void allFilesComeAlong();
     void filesStayInTheSameFolder();
+    void filesStayInTheSameFolderSpelledOtherwise();
     void missingFilesDontCount();
     void bothCanBeOpenAtOnce();
     void designsComeAlongAsTheyAreShown();
@@ -55,6 +56,7 @@ private Q_SLOTS:
     void circlesEnd();
     void filesReferredToTwiceComeOnce();
     void filesSpelledInTwoWaysComeOnce();
+    void designsSpelledOtherwiseComeAsTheyAreShown();
     void namesThatAreTakenAreAskedAbout_data();
     void namesThatAreTakenAreAskedAbout();
     void designsFollowFilesWithOtherNames();
@@ -303,6 +305,19 @@ void DesignRelocationTest::filesStayInTheSameFolder()
     QCOMPARE(QDir(m_opened->folder.path()).entryList(), before);
 }
 
+void DesignRelocationTest::filesStayInTheSameFolderSpelledOtherwise()
+{
+    if (Testing::doesCaseOfNamesCount())
+        QSKIP("a folder has one spelling where the case of letters counts");
+    const QDir folder(m_opened->folder.path());
+    const QStringList before = folder.entryList();
+    const QString capitals = folder.path().toUpper() + QStringLiteral("/b.dsg");
+    Design copy = DesignCopy::of(small(), capitals);
+    QVERIFY(
+        !DesignRelocation(nullptr, small().file, capitals, session().designs()).bringFilesOf(copy));
+    QCOMPARE(folder.entryList(), before);
+}
+
 void DesignRelocationTest::missingFilesDontCount()
 {
     QVERIFY(QFile::remove(source("steel.json")));
@@ -390,6 +405,26 @@ void DesignRelocationTest::filesSpelledInTwoWaysComeOnce()
     const std::unique_ptr<DesignSession> moved = relocated();
     for (const FileReference& file : moved->designs().front().files)
         QCOMPARE(int(file.state), int(FileState::Exists));
+}
+
+void DesignRelocationTest::designsSpelledOtherwiseComeAsTheyAreShown()
+{
+    if (Testing::doesCaseOfNamesCount())
+        std::filesystem::create_hard_link(source("door/door.dsg").toStdU16String(),
+                                          source("door/DOOR.DSG").toStdU16String());
+    m_opened->session.close();
+    Testing::writeFile(source("small.dsg"),
+                       Testing::toText(Testing::designWithFiles(
+                           1, QStringLiteral("Small"),
+                           {Testing::fileEntry(90, QStringLiteral("Door"), QStringLiteral("design"),
+                                               QStringLiteral("door/DOOR.DSG"))})));
+    m_opened->session.open({source("door/door.dsg"), source("small.dsg")});
+    m_opened->session.rename(objectId(60), QStringLiteral("Back door"));
+    QVERIFY(!relocate());
+    const std::unique_ptr<DesignSession> moved = relocated();
+    QVERIFY(moved->problems().empty());
+    QCOMPARE(moved->designs().size(), std::size_t(3));
+    QCOMPARE(moved->designs().at(1).name, QStringLiteral("Back door"));
 }
 
 void DesignRelocationTest::namesThatAreTakenAreAskedAbout_data()
