@@ -1102,6 +1102,10 @@
         <source>has been made meanwhile and is not replaced</source>
         <translation>ist inzwischen entstanden und wird nicht ersetzt</translation>
     </message>
+    <message>
+        <source>was closed meanwhile and is not saved</source>
+        <translation>wurde inzwischen geschlossen und wird nicht gespeichert</translation>
+    </message>
 </context>
 <context>
     <name>Zorvane::Workbench::FileExchange</name>

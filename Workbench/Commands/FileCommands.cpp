@@ -112,12 +112,15 @@ bool FileCommands::saveAs(GUIdentifier objectId, Results results)
     Successors successors;
     Design copy = copyOf(*design, target, results, &successors);
     const GUIdentifier replaced = design->id;
+    const QString former = design->file;
     const bool wasThere = QFileInfo::exists(target);
     if (!obstacle)
-        obstacle = DesignRelocation(m_window, design->file, target, m_session.designs())
-                       .bringFilesOf(copy);
+        obstacle =
+            DesignRelocation(m_window, former, target, m_session.designs()).bringFilesOf(copy);
     if (!self)
         return false;
+    if (!obstacle && m_session.findDesign(replaced) == nullptr)
+        obstacle = Problem{former, {}, tr("was closed meanwhile and is not saved")};
     // Nobody has agreed to lose what has come there while files were copied.
     if (!obstacle && !wasThere && QFileInfo::exists(target))
         obstacle = Problem{target, {}, tr("has been made meanwhile and is not replaced")};

@@ -9,6 +9,7 @@
 #include "Workbench/Window/MainWindow.h"
 #include "Workbench/Window/MessageBar.h"
 
+#include <QtTest/QSignalSpy>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QStatusBar>
@@ -48,6 +49,7 @@ private Q_SLOTS:
     void openDesignsAreNotReplaced();
     void openDesignsWhoseFilesAreGoneAreNotReplaced();
     void whatIsMadeMeanwhileIsNotReplaced();
+    void whatIsClosedMeanwhileIsNotSaved();
     void otherEndingsAreRefused();
     void impossibleNamesAreRefused_data();
     void impossibleNamesAreRefused();
@@ -326,6 +328,27 @@ void FileCommandsTest::whatIsMadeMeanwhileIsNotReplaced()
     QVERIFY(message().endsWith(QStringLiteral("has been made meanwhile and is not replaced")));
     QCOMPARE(Testing::readFile(m_script.saved), QByteArray("theirs"));
     QCOMPARE(QDir(m_window->session().designs().front().folder()), QDir(m_files->folder.path()));
+}
+
+void FileCommandsTest::whatIsClosedMeanwhileIsNotSaved()
+{
+    if (!Testing::PlatformCopies::askByOurDialog())
+        QSKIP("the system asks about names that are taken, by windows of its own");
+    openDesign();
+    Testing::writeFile(m_files->elsewhere.filePath(QStringLiteral("geometry/die.stl")), "taken");
+    m_script.saved = m_files->elsewhere.filePath(QStringLiteral("moved.dsg"));
+    const QSignalSpy saved(&m_window->fileCommands(), &FileCommands::savedAs);
+    Testing::ExpectedModals modals;
+    modals.expectDialog<CopyCollisionDialog>(QStringLiteral("collision"),
+                                             [this](CopyCollisionDialog& dialog) {
+                                                 m_window->session().close();
+                                                 dialog.button(CopyDecision::KeepBoth)->click();
+                                             });
+    trigger("Save As...");
+    QVERIFY(modals.allMet());
+    QVERIFY(message().endsWith(QStringLiteral("was closed meanwhile and is not saved")));
+    QVERIFY(!QFile::exists(m_script.saved));
+    QVERIFY(saved.isEmpty());
 }
 
 void FileCommandsTest::openDesignsAreNotReplaced()
