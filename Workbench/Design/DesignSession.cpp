@@ -222,8 +222,7 @@ bool DesignSession::replay(const NameEdit& edit)
     if (design == nullptr || *design->findName(edit.object) != edit.before)
         return false;
     m_store.rename(edit.object, edit.after);
-    Q_EMIT edited(edit);
-    Q_EMIT changed();
+    tellEdited(edit, edit.object);
     return true;
 }
 
@@ -252,8 +251,7 @@ bool DesignSession::replay(const QuantityEdit& edit)
     if (quantity(edit.object, edit.quantity) != edit.before)
         return false;
     m_store.setQuantity(edit.object, edit.quantity, edit.after);
-    Q_EMIT edited(edit);
-    Q_EMIT changed();
+    tellEdited(edit, edit.object);
     return true;
 }
 
@@ -271,8 +269,7 @@ Problems DesignSession::addFiles(GUIdentifier designId, const QStringList& files
     const TakenObjects added = m_store.addFiles(designId, files);
     if (!added.isEmpty()) {
         watch();
-        Q_EMIT edited(AdditionEdit{added});
-        Q_EMIT changed();
+        tellEdited(AdditionEdit{added}, added.design);
     }
     return {};
 }
@@ -282,8 +279,7 @@ TakenObjects DesignSession::take(GUIdentifier designId, const std::vector<GUIden
     TakenObjects taken = m_store.take(designId, objects);
     if (!taken.isEmpty()) {
         watch();
-        Q_EMIT edited(RemovalEdit{taken});
-        Q_EMIT changed();
+        tellEdited(RemovalEdit{taken}, taken.design);
     }
     return taken;
 }
@@ -305,8 +301,7 @@ bool DesignSession::putBack(const TakenObjects& taken)
     if (!m_store.putBack(taken))
         return false;
     watch();
-    Q_EMIT edited(AdditionEdit{taken});
-    Q_EMIT changed();
+    tellEdited(AdditionEdit{taken}, taken.design);
     return true;
 }
 
@@ -384,6 +379,18 @@ void DesignSession::reload()
     m_looseParts.refresh();
     watch();
     tellReread(before);
+    Q_EMIT changed();
+}
+
+/** For a change of the object that has just been made. */
+void DesignSession::tellEdited(const DesignEdit& edit, const GUIdentifier& objectId)
+{
+    // Posted: whoever makes the change relies on the design until that is done.
+    if (hasConflict(objectId) && !isDesignModified(objectId))
+        QMetaObject::invokeMethod(
+            this, [this, file = findDesign(objectId)->file] { follow({file}); },
+            Qt::QueuedConnection);
+    Q_EMIT edited(edit);
     Q_EMIT changed();
 }
 

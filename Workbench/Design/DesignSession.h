@@ -177,6 +177,7 @@ private:
     void openOne(const QString& path);
     void openFolder(const QString& folder);
     void openFile(const QString& file);
+    void tellEdited(const DesignEdit& edit, const GUIdentifier& objectId);
     void tellReread(const DesignStore::Readings& before);
     void watch();
     void follow(const QStringList& files);

@@ -36,6 +36,8 @@ private:
 private Q_SLOTS:
     void init();
     void cleanup();
+    void undoingTheLastEditTakesTheirs_data();
+    void undoingTheLastEditTakesTheirs();
     void othersChangesStay_data();
     void othersChangesStay();
     void whatNobodyElseTouchedIsUndone_data();
@@ -114,6 +116,29 @@ void EditHistoryOthersTest::makeEdit(const QString& edit)
     } else {
         QVERIFY(!session().take(objectId(1), {objectId(10), objectId(41)}).isEmpty());
     }
+}
+
+void EditHistoryOthersTest::undoingTheLastEditTakesTheirs_data()
+{
+    QTest::addColumn<QString>("edit");
+    for (const char* edit : {"name", "value", "addition", "removal"})
+        QTest::newRow(edit) << QString::fromLatin1(edit);
+}
+
+void EditHistoryOthersTest::undoingTheLastEditTakesTheirs()
+{
+    QFETCH(QString, edit);
+    makeEdit(edit);
+    QJsonObject theirs = Testing::smallDesign();
+    theirs.insert(QStringLiteral("name"), QStringLiteral("Theirs"));
+    Testing::replaceFile(m_opened->designFile(), Testing::toText(theirs));
+    QTRY_VERIFY(session().hasConflict(objectId(1)));
+    m_history->undo();
+    QTRY_COMPARE(small()->name, QStringLiteral("Theirs"));
+    QVERIFY(!session().hasConflict(objectId(1)));
+    QVERIFY(session().problems().empty());
+    QVERIFY(!session().isModified());
+    QVERIFY2(!m_history->canRedo(), "it was made to what theirs has replaced");
 }
 
 void EditHistoryOthersTest::othersChangesStay_data()
