@@ -70,6 +70,13 @@ void putInto(std::vector<Piece>& pieces, const TakenObjects::Places<Piece>& take
         pieces.insert(pieces.begin() + std::ptrdiff_t(std::min(place, pieces.size())), piece);
 }
 
+template <typename Map>
+void moveEntry(Map& from, const typename Map::key_type& key, Map& to)
+{
+    if (auto entry = from.extract(key))
+        to.insert(std::move(entry));
+}
+
 void append(Problems& problems, const Problems& more)
 {
     problems.insert(problems.end(), more.begin(), more.end());
@@ -357,7 +364,7 @@ bool DesignStore::rename(GUIdentifier objectId, const QString& name)
             continue;
         if (*present == name)
             return false;
-        std::map<GUIdentifier, QString>& saved = m_records[design.file].savedNames;
+        Names& saved = m_records[design.file].savedNames;
         const auto first = saved.emplace(objectId, *present).first;
         if (first->second == name)
             saved.erase(first);
@@ -375,7 +382,7 @@ bool DesignStore::setQuantity(GUIdentifier objectId, Quantity quantity, double v
             continue;
         if (*present == value)
             return false;
-        auto& saved = m_records[design.file].savedQuantities;
+        Quantities& saved = m_records[design.file].savedQuantities;
         const auto first = saved.emplace(std::pair(objectId, quantity), *present).first;
         if (first->second == value)
             saved.erase(first);
@@ -421,8 +428,7 @@ TakenObjects DesignStore::take(GUIdentifier designId, const std::vector<GUIdenti
                        takeFrom(design->parts, objects)};
     Record& record = m_records[design->file];
     for (const GUIdentifier& id : taken.ids())
-        if (record.added.erase(id) == 0)
-            record.removed.insert(id);
+        record.noteTaken(id);
     if (!taken.isEmpty())
         arrange();
     return taken;
@@ -440,8 +446,7 @@ bool DesignStore::putBack(const TakenObjects& taken)
     putInto(design->parts, taken.parts);
     Record& record = m_records[design->file];
     for (const GUIdentifier& id : ids)
-        if (record.removed.erase(id) == 0)
-            record.added.insert(id);
+        record.notePutBack(id);
     refreshReferences(*design);
     arrange();
     return true;
@@ -466,6 +471,27 @@ bool DesignStore::Record::isModified(const GUIdentifier& objectId) const
     };
     return savedNames.count(objectId) != 0 || added.count(objectId) != 0 ||
            std::any_of(std::begin(s_quantities), std::end(s_quantities), hasOtherValue);
+}
+
+void DesignStore::Record::noteTaken(const GUIdentifier& objectId)
+{
+    if (added.erase(objectId) == 0) {
+        removed.insert(objectId);
+        return;
+    }
+    moveEntry(savedNames, objectId, namesOfTaken);
+    for (const Quantity quantity : s_quantities)
+        moveEntry(savedQuantities, {objectId, quantity}, quantitiesOfTaken);
+}
+
+void DesignStore::Record::notePutBack(const GUIdentifier& objectId)
+{
+    if (removed.erase(objectId) != 0)
+        return;
+    added.insert(objectId);
+    moveEntry(namesOfTaken, objectId, savedNames);
+    for (const Quantity quantity : s_quantities)
+        moveEntry(quantitiesOfTaken, {objectId, quantity}, savedQuantities);
 }
 
 bool DesignStore::hasConflict(const GUIdentifier& designId) const

@@ -94,6 +94,9 @@ public:
     void retryUnread();
 
 private:
+    using Names = std::map<GUIdentifier, QString>;
+    using Quantities = std::map<std::pair<GUIdentifier, Quantity>, double>;
+
     /** How a design stands to its file. */
     struct Record
     {
@@ -107,13 +110,16 @@ private:
         /** Counts over all designs; saving leaves it. */
         int reading = 0;
         /** Names as in the file, of the objects that have another one now. */
-        std::map<GUIdentifier, QString> savedNames;
+        Names savedNames;
         /** Values as in the file, of the objects that have another one now. */
-        std::map<std::pair<GUIdentifier, Quantity>, double> savedQuantities;
+        Quantities savedQuantities;
         /** Objects that the file doesn't have yet. */
         std::set<GUIdentifier> added;
         /** Objects that only the file has. */
         std::set<GUIdentifier> removed;
+        /** Those that were added and taken out again would have, once they are put back. */
+        Names namesOfTaken;
+        Quantities quantitiesOfTaken;
 
         bool isModified() const
         {
@@ -121,6 +127,8 @@ private:
                    !removed.empty();
         }
         bool isModified(const GUIdentifier& objectId) const;
+        void noteTaken(const GUIdentifier& objectId);
+        void notePutBack(const GUIdentifier& objectId);
     };
     using Pool = std::map<QString, Design>;
 

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void addsFilesAndSaves();
     void addsAllFilesOrNone();
     void addedObjectsMayBeRenamed();
+    void whatIsAddedAndTakenOutLeavesNoChange();
     void keepsAddedFilesOnConflict();
 };
 
@@ -127,6 +128,30 @@ void FileAdditionsTest::addedObjectsMayBeRenamed()
     QVERIFY(!m_session->isModified());
     QVERIFY(m_session->findObject(id(1), table).isNull());
     QCOMPARE(readFile(file), toText(smallDesign()));
+}
+
+void FileAdditionsTest::whatIsAddedAndTakenOutLeavesNoChange()
+{
+    openSmallDesign();
+    const QString mesh = writeFile(path("rib.stl"), "solid");
+    QVERIFY(m_session->addFiles(id(1), {mesh}).empty());
+    const GUIdentifier part = m_session->findObject(id(1), mesh);
+    const GUIdentifier file = m_session->findDesign(id(1))->files.back().id;
+    QCOMPARE(m_session->rename(part, QStringLiteral("Other")), QString());
+    QCOMPARE(m_session->setQuantity(part, Quantity::Thickness, 3), QString());
+    const TakenObjects taken = m_session->take(id(1), {part});
+    QVERIFY2(!m_session->areQuantitiesModified(id(1)), "nothing has the value any more");
+    const TakenObjects takenFile = m_session->take(id(1), {file});
+    QVERIFY(!m_session->isModified());
+    // What comes back is as much of a change as it was.
+    QVERIFY(m_session->putBack(takenFile));
+    QVERIFY(m_session->putBack(taken));
+    QVERIFY(m_session->areQuantitiesModified(id(1)));
+    QCOMPARE(m_session->setQuantity(part, Quantity::Thickness, 0), QString());
+    QVERIFY(!m_session->areQuantitiesModified(id(1)));
+    QCOMPARE(m_session->rename(part, QStringLiteral("rib")), QString());
+    m_session->take(id(1), {part, file});
+    QVERIFY(!m_session->isModified());
 }
 
 void FileAdditionsTest::keepsAddedFilesOnConflict()
