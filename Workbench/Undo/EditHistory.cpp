@@ -78,13 +78,28 @@ void EditHistory::putBack(const TakenObjects& taken)
     if (std::any_of(ids.begin(), ids.end(), isBack) || ids.empty())
         return;
     if (canUndo() && m_edits[m_made - 1].isRemovalOf(taken))
-        undo();
+        retract();
     else
         m_session.putBack(taken);
 }
 
+/** Undoes the last edit and leaves nothing of it, if nothing has been done since. */
+void EditHistory::retract()
+{
+    if (canRedo() || !replay(m_edits.back(), &EditCommand::undo)) {
+        undo();
+        return;
+    }
+    m_edits.pop_back();
+    m_made = m_edits.size();
+    m_edits.insert(m_edits.end(), m_superseded.begin(), m_superseded.end());
+    m_superseded.clear();
+    Q_EMIT changed();
+}
+
 void EditHistory::follow(Successors successors, const Design& copy)
 {
+    m_superseded.clear();
     bool fits = true;
     const auto follows = [&successors, &copy, &fits](EditCommand& edit) {
         if (successors.count(edit.design()) == 0)
@@ -109,7 +124,9 @@ void EditHistory::note(const DesignEdit& edit)
 {
     if (m_isReplaying)
         return;
-    m_edits.erase(m_edits.begin() + std::ptrdiff_t(m_made), m_edits.end());
+    const auto firstUndone = m_edits.begin() + std::ptrdiff_t(m_made);
+    m_superseded.assign(firstUndone, m_edits.end());
+    m_edits.erase(firstUndone, m_edits.end());
     EditCommand command(m_session, edit);
     if (!canUndo() || !m_edits.back().mergeWith(command))
         m_edits.push_back(std::move(command));
@@ -145,6 +162,8 @@ void EditHistory::dropIf(const Condition& condition)
     for (std::size_t place = m_edits.size(); place-- > 0;)
         if (condition(m_edits[place]))
             drop(place);
+    m_superseded.erase(std::remove_if(m_superseded.begin(), m_superseded.end(), condition),
+                       m_superseded.end());
 }
 
 void EditHistory::drop(std::size_t place)

@@ -43,8 +43,8 @@ public:
     int madeCount() const { return int(m_made); }
 
     /**
-     * Puts back what was taken out of a design, and nothing else: undoes the taking if that was the
-     * last edit, else is an edit of its own. What is back already stays.
+     * Puts back what was taken out of a design, and nothing else: as if it had never been taken out
+     * if that was the last edit, else by an edit of its own. What is back already stays.
      */
     void putBack(const TakenObjects& taken);
 
@@ -68,6 +68,7 @@ private:
     void note(const DesignEdit& edit);
     void forget(const std::vector<GUIdentifier>& designs);
     bool replay(EditCommand& edit, bool (EditCommand::*operation)());
+    void retract();
     void giveUp(std::size_t place, const QString& text);
     template <typename Condition>
     void dropIf(const Condition& condition);
@@ -77,6 +78,8 @@ private:
     /** Those made come first, in the order in which they were made. */
     std::vector<EditCommand> m_edits;
     std::size_t m_made = 0;
+    /** What could have been made again until the last edit was. */
+    std::vector<EditCommand> m_superseded;
     bool m_isReplaying = false;
 };
 

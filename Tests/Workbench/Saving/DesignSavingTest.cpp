@@ -51,6 +51,7 @@ private Q_SLOTS:
     void cancelledSaveAsLeavesEverything();
     void changeByAnotherProgramIsReplacedOnlyOnTheUsersWord();
     void failedSaveBringsDroppedResultsBack();
+    void failedSaveKeepsWhatCanBeMadeAgain();
     void failedSaveLeavesWhatOthersEditedMeanwhile();
     void failedStartLeavesWhatOthersEditedMeanwhile();
     void resultsBroughtBackMeanwhileAreThereOnce();
@@ -206,6 +207,27 @@ void DesignSavingTest::failedSaveBringsDroppedResultsBack()
     QVERIFY(hasResult());
     QCOMPARE(m_history->madeCount(), edits);
     QCOMPARE(m_failures.size(), 1);
+}
+
+void DesignSavingTest::failedSaveKeepsWhatCanBeMadeAgain()
+{
+    addOutdatedResult();
+    edit();
+    m_history->undo();
+    const QString again = m_history->redoText();
+    const int edits = m_history->count();
+    changeFileElsewhere();
+    ExpectedModals modals;
+    expectConflict(modals, [] {});
+    const QSignalSpy changed(m_history.get(), &EditHistory::changed);
+    QVERIFY(!m_saving->saveAll());
+    QCOMPARE(m_history->redoText(), again);
+    QCOMPARE(m_history->count(), edits);
+    QVERIFY(changed.count() > 0);
+    m_history->redo();
+    QCOMPARE(session().name(objectId(10)), QStringLiteral("Left door"));
+    QVERIFY(!m_history->canRedo());
+    QCOMPARE(results(), 1);
 }
 
 void DesignSavingTest::failedSaveLeavesWhatOthersEditedMeanwhile()
@@ -444,6 +466,9 @@ void DesignSavingTest::startThatFailsBringsTheResultsBack()
     session().open({writeFile(other, toText(designWithFiles(70, QStringLiteral("Other"), {})))});
     m_runner->setSteps(1000000);
     QVERIFY(!m_runner->start(*session().findDesign(objectId(70))));
+    edit();
+    const QString again = m_history->undoText();
+    m_history->undo();
     ExpectedModals modals;
     modals.expectMessageBox(QStringLiteral("The simulation results are deleted"),
                             QMessageBox::Save);
@@ -451,6 +476,7 @@ void DesignSavingTest::startThatFailsBringsTheResultsBack()
     QCOMPARE(m_failures.size(), 1);
     QVERIFY(m_failures.front().contains(QStringLiteral("is running already")));
     QCOMPARE(results(), 1);
+    QCOMPARE(m_history->redoText(), again);
     m_runner->stop();
 }
 
