@@ -1,7 +1,12 @@
 #include "Workbench/Undo/EditCommand.h"
 
 #include "Workbench/Design/DesignSession.h"
+#include "Workbench/Design/FileNames.h"
+#include "Workbench/Design/FileReferences.h"
 
+#include <QtCore/QDir>
+
+#include <algorithm>
 #include <utility>
 
 namespace Zorvane::Workbench {
@@ -40,6 +45,23 @@ void visitIds(DesignEdit& edit, Visit visit)
         visit(value->object);
     else
         visitIds(*objectsOf(edit), visit);
+}
+
+bool areInOneFolder(const Design& left, const Design& right)
+{
+    return QDir(left.folder()).canonicalPath() == QDir(right.folder()).canonicalPath();
+}
+
+/** Whether there is a file at the path from the design's folder that the design doesn't know. */
+bool isTaken(const QString& path, const Design& design)
+{
+    const QString folder = design.folder();
+    const ResolvedReference there = resolveReference(folder, path);
+    const auto leadsThere = [&](const FileReference& reference) {
+        return FileNames::areSame(resolveReference(folder, reference.path).file, there.file);
+    };
+    return there.state == FileState::Exists &&
+           std::none_of(design.files.begin(), design.files.end(), leadsThere);
 }
 
 } // namespace
@@ -107,6 +129,8 @@ bool EditCommand::isNothing() const
 
 bool EditCommand::follow(Successors& successors, const Design& copy)
 {
+    const Design* const former = m_session->findDesign(m_design);
+    const bool isElsewhere = former == nullptr || !areInOneFolder(*former, copy);
     bool isWhole = true;
     const auto follow = [&successors, &isWhole](GUIdentifier& id) {
         if (id.isNull())
@@ -119,11 +143,22 @@ bool EditCommand::follow(Successors& successors, const Design& copy)
     };
     visitIds(m_edit, follow);
     follow(m_design);
-    if (TakenObjects* objects = objectsOf(m_edit))
-        for (auto& [place, file] : objects->files)
-            if (const FileReference* const present = copy.findFile(file.id))
-                file.path = present->path;
-    return isWhole;
+    return followFiles(copy, isElsewhere) && isWhole;
+}
+
+/** False if one of the files would be found at the place of a stranger's. */
+bool EditCommand::followFiles(const Design& copy, bool isElsewhere)
+{
+    TakenObjects* const objects = objectsOf(m_edit);
+    if (objects == nullptr)
+        return true;
+    for (auto& [place, file] : objects->files) {
+        if (const FileReference* const present = copy.findFile(file.id))
+            file.path = present->path;
+        else if (isElsewhere && isTaken(file.path, copy))
+            return false;
+    }
+    return true;
 }
 
 bool EditCommand::apply(bool forward)

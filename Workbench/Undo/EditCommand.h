@@ -39,7 +39,8 @@ public:
     /**
      * Makes it one of the successors in the copy instead, whose files may be at other places;
      * objects without one, as they are not in the design at present, get one. False, and of no use
-     * any more, if the copy is left without one of them.
+     * any more, if the copy is left without one of them, or if what lies where a file of them would
+     * be looked for is somebody else's.
      */
     bool follow(Successors& successors, const Design& copy);
 
@@ -50,6 +51,7 @@ public:
 private:
     QString describe() const;
     GUIdentifier designChanged() const;
+    bool followFiles(const Design& copy, bool isElsewhere);
     bool apply(bool forward);
 
     DesignSession* m_session;

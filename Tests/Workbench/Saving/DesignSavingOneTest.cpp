@@ -21,6 +21,7 @@ class DesignSavingOneTest : public SavingFixture
 
 private:
     QString withoutIds();
+    void addRib();
 
     Testing::PlatformCopies m_copies;
 
@@ -33,6 +34,9 @@ private Q_SLOTS:
     void undoGoesOnAfterSaveAs_data();
     void undoGoesOnAfterSaveAs();
     void undoFollowsFilesThatGotOtherNames();
+    void undoTakesNoStrangersFile();
+    void redoTakesNoStrangersFile();
+    void undoTakesTheFileThatCameAlong();
     void undoEndsAtWhatSaveAsLeftOut();
     void undoStaysWithTheDesignThatWasSavedAs();
     void copyLeavesOutdatedResultsToTheDesign();
@@ -46,6 +50,12 @@ QString DesignSavingOneTest::withoutIds()
 {
     static const QRegularExpression id(QStringLiteral("[0-9a-f]{8}(-[0-9a-f]{4}){3}-[0-9a-f]{12}"));
     return QString::fromUtf8(DesignWriter::toJson(design())).remove(id);
+}
+
+void DesignSavingOneTest::addRib()
+{
+    const QString mesh = writeFile(m_opened->path(QStringLiteral("rib.stl")), binaryStl(cube()));
+    QVERIFY(session().addFiles(design().id, {mesh}).empty());
 }
 
 void DesignSavingOneTest::saveAsThatCostsNothingAsksNothing()
@@ -146,8 +156,7 @@ void DesignSavingOneTest::undoGoesOnAfterSaveAs()
 
 void DesignSavingOneTest::undoFollowsFilesThatGotOtherNames()
 {
-    const QString mesh = writeFile(m_opened->path(QStringLiteral("rib.stl")), binaryStl(cube()));
-    QVERIFY(session().addFiles(design().id, {mesh}).empty());
+    addRib();
     writeFile(m_opened->path(QStringLiteral("elsewhere/rib.stl")), "taken");
     chooseForSaveAs(QStringLiteral("elsewhere/other.dsg"));
     ExpectedModals modals;
@@ -163,6 +172,50 @@ void DesignSavingOneTest::undoFollowsFilesThatGotOtherNames()
     QCOMPARE(design().files.size(), std::size_t(2));
     m_history->redo();
     QCOMPARE(design().files.back().path, path);
+    QCOMPARE(int(design().files.back().state), int(FileState::Exists));
+}
+
+void DesignSavingOneTest::undoTakesNoStrangersFile()
+{
+    addRib();
+    session().take(design().id, {design().parts.back().id, design().files.back().id});
+    edit();
+    writeFile(m_opened->path(QStringLiteral("elsewhere/rib.stl")), "a stranger's");
+    chooseForSaveAs(QStringLiteral("elsewhere/other.dsg"));
+    QVERIFY(m_saving->saveAs(design().id));
+    QCOMPARE(m_history->count(), 1);
+    m_history->undo();
+    QCOMPARE(design().parts.front().name, QStringLiteral("Cup"));
+    QVERIFY(!m_history->canUndo());
+    QCOMPARE(design().files.size(), std::size_t(2));
+}
+
+void DesignSavingOneTest::redoTakesNoStrangersFile()
+{
+    edit();
+    addRib();
+    m_history->undo();
+    m_history->undo();
+    writeFile(m_opened->path(QStringLiteral("elsewhere/rib.stl")), "a stranger's");
+    chooseForSaveAs(QStringLiteral("elsewhere/other.dsg"));
+    QVERIFY(m_saving->saveAs(design().id));
+    m_history->redo();
+    QCOMPARE(design().parts.front().name, QStringLiteral("Left door"));
+    QVERIFY(!m_history->canRedo());
+    QCOMPARE(design().files.size(), std::size_t(2));
+}
+
+void DesignSavingOneTest::undoTakesTheFileThatCameAlong()
+{
+    addRib();
+    session().take(design().id, {design().parts.back().id, design().files.back().id});
+    addRib();
+    chooseForSaveAs(QStringLiteral("elsewhere/other.dsg"));
+    QVERIFY(m_saving->saveAs(design().id));
+    QCOMPARE(m_history->count(), 3);
+    m_history->undo();
+    m_history->undo();
+    QCOMPARE(design().files.back().path, QStringLiteral("rib.stl"));
     QCOMPARE(int(design().files.back().state), int(FileState::Exists));
 }
 
