@@ -1,10 +1,9 @@
 #include "Workbench/Undo/EditCommand.h"
 
+#include "Host/FileHandling/FileUtilities.h"
 #include "Workbench/Design/DesignSession.h"
 #include "Workbench/Design/FileNames.h"
 #include "Workbench/Design/FileReferences.h"
-
-#include <QtCore/QDir>
 
 #include <algorithm>
 #include <utility>
@@ -49,7 +48,7 @@ void visitIds(DesignEdit& edit, Visit visit)
 
 bool areInOneFolder(const Design& left, const Design& right)
 {
-    return QDir(left.folder()).canonicalPath() == QDir(right.folder()).canonicalPath();
+    return FileUtilities::isEquivalent(FileName(left.folder()), FileName(right.folder()));
 }
 
 /** Whether there is a file at the path from the design's folder that the design doesn't know. */
