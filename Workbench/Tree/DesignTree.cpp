@@ -117,6 +117,8 @@ void DesignTree::attach(QTreeView* view)
             [this](const QModelIndex& index) { noteExpansion(index, false); });
     connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &DesignTree::currentChanged);
+    // Also of the row that is current already.
+    connect(view, &QTreeView::pressed, this, &DesignTree::noteChoice);
 }
 
 void DesignTree::setFilterText(const QString& text)
@@ -161,6 +163,7 @@ bool DesignTree::select(const IDCombiner& id)
     const QModelIndex index = indexOf(id);
     if (!m_view || !index.isValid())
         return false;
+    noteChoice();
     m_view->setCurrentIndex(index);
     m_view->scrollTo(index);
     return true;
@@ -255,8 +258,16 @@ void DesignTree::applyExpansion(const QModelIndex& parent)
     }
 }
 
+void DesignTree::noteChoice()
+{
+    m_standIn = IDCombiner();
+}
+
 void DesignTree::keepChoice(const IDCombiner& before)
 {
+    // Another row would take the name that is being typed for finished.
+    if (m_view && m_view->isPersistentEditorOpen(m_view->currentIndex()))
+        return;
     // Else nobody has chosen anything since the last refresh.
     if (before != m_standIn)
         m_choice = before;
@@ -306,6 +317,7 @@ void DesignTree::takeOverName(const QModelIndex& index, const QVariant& value, i
     const QString refusal = m_session.rename(id.getCombinedPart(), value.toString());
     // Also on success: the session trims what was typed.
     m_model.itemFromIndex(index)->setText(m_session.name(id.getCombinedPart()).toStdString());
+    noteChoice();
     if (!refusal.isEmpty())
         Q_EMIT renameRefused(value.toString(), refusal);
 }

@@ -99,6 +99,8 @@ private:
     void schedule(Scope scope, When when);
     void expandNewRows();
     void applyExpansion(const QModelIndex& parent);
+    /** What is current, or will be, is somebody's choice. */
+    void noteChoice();
     /** A choice that a filter takes away is current again as soon as it is shown again. */
     void keepChoice(const IDCombiner& before);
     void noteExpansion(const QModelIndex& index, bool expanded);
@@ -117,8 +119,9 @@ private:
     std::set<IDCombiner> m_collapsed;
     /** Designs and mesh files whose names the column is wide enough for. */
     std::set<GUIdentifier> m_fitted;
-    /** What was chosen last, shown or not, and what the view has current after a refresh. */
+    /** What was chosen last, shown or not. */
     IDCombiner m_choice;
+    /** What the view had current after a refresh, unless it was chosen since. */
     IDCombiner m_standIn;
     QTimer m_soon;
     PostedCall m_refresh;

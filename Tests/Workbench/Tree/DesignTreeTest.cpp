@@ -51,6 +51,10 @@ private Q_SLOTS:
     void aFilteringTextShowsWhatItFinds();
     void aChoiceComesBackWithItsRow();
     void aNewChoiceReplacesTheHiddenOne();
+    void clickingWhatIsCurrentReplacesTheHiddenChoice();
+    void goingToWhatIsCurrentReplacesTheHiddenChoice();
+    void renamingWhatIsCurrentReplacesTheHiddenChoice();
+    void aNameBeingTypedIsLeftAlone();
     void theFirstRowInSightStays();
     void expandAndCollapseAll();
     void namesOfWhatIsOpenedAreShownWhole();
@@ -64,6 +68,9 @@ private:
     {
         return at(number).siblingAtColumn(column).data().toString();
     }
+    /** Chooses the die and filters it away; what is current instead, an object with a name. */
+    IDCombiner hideTheChoice();
+    void clearFilter();
     /** Types over the current row's name. */
     void rename(int number, const QString& name);
 
@@ -79,6 +86,23 @@ void DesignTreeTest::cleanup()
 {
     m_shown.reset();
     TestCase::cleanup();
+}
+
+IDCombiner DesignTreeTest::hideTheChoice()
+{
+    m_shown->tree.select(objectId(21));
+    m_shown->tree.setFilterText(QStringLiteral("punch"));
+    m_shown->tree.refreshNow();
+    const IDCombiner current = m_shown->tree.currentId();
+    if (current == IDCombiner() || current == IDCombiner(objectId(21)))
+        qFatal("nothing stands in for the row that is hidden");
+    return current;
+}
+
+void DesignTreeTest::clearFilter()
+{
+    m_shown->tree.setFilterText({});
+    m_shown->tree.refreshNow();
 }
 
 void DesignTreeTest::rename(int number, const QString& name)
@@ -279,6 +303,48 @@ void DesignTreeTest::aNewChoiceReplacesTheHiddenOne()
     m_shown->tree.setFilterText({});
     m_shown->tree.refreshNow();
     QVERIFY(m_shown->tree.currentId() == IDCombiner(objectId(30)));
+}
+
+void DesignTreeTest::clickingWhatIsCurrentReplacesTheHiddenChoice()
+{
+    const IDCombiner standIn = hideTheChoice();
+    const QRect place = m_shown->view.visualRect(m_shown->view.currentIndex());
+    QTest::mouseClick(m_shown->view.viewport(), Qt::LeftButton, {}, place.center());
+    clearFilter();
+    QVERIFY(m_shown->tree.currentId() == standIn);
+}
+
+void DesignTreeTest::goingToWhatIsCurrentReplacesTheHiddenChoice()
+{
+    const IDCombiner standIn = hideTheChoice();
+    QVERIFY(m_shown->tree.select(standIn));
+    clearFilter();
+    QVERIFY(m_shown->tree.currentId() == standIn);
+}
+
+void DesignTreeTest::renamingWhatIsCurrentReplacesTheHiddenChoice()
+{
+    const IDCombiner standIn = hideTheChoice();
+    const QModelIndex name = m_shown->view.currentIndex().siblingAtColumn(TreeColumn::Name);
+    m_shown->view.model()->setData(name, QString(name.data().toString() + QLatin1String(" 2")));
+    clearFilter();
+    QVERIFY(m_shown->tree.currentId() == standIn);
+}
+
+void DesignTreeTest::aNameBeingTypedIsLeftAlone()
+{
+    const IDCombiner standIn = hideTheChoice();
+    const QString name = m_shown->session.name(standIn.getCombinedPart());
+    QVERIFY(m_shown->tree.editCurrent());
+    auto* const editor = m_shown->view.viewport()->findChild<QLineEdit*>();
+    QVERIFY(editor != nullptr);
+    editor->setText(QStringLiteral("half ty"));
+    // Meanwhile the row chosen before comes back.
+    clearFilter();
+    QVERIFY(m_shown->tree.currentId() == standIn);
+    QCOMPARE(m_shown->session.name(standIn.getCombinedPart()), name);
+    QTest::keyClick(editor, Qt::Key_Escape);
+    QTRY_VERIFY(m_shown->view.viewport()->findChild<QLineEdit*>() == nullptr);
 }
 
 void DesignTreeTest::theFirstRowInSightStays()
