@@ -30,6 +30,7 @@
 #include "Workbench/Window/WindowLayout.h"
 #include "Workbench/Window/WindowMenus.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QMimeData>
 #include <QtCore/QSettings>
@@ -41,6 +42,7 @@
 #include <QtWidgets/QStatusBar>
 #include <QtWidgets/QTreeView>
 
+#include <algorithm>
 #include <utility>
 
 // Resources of a static library must be asked for, outside of any namespace, unnamed ones too.
@@ -66,6 +68,31 @@ QStringList localPaths(const QMimeData& data)
         if (url.isLocalFile())
             paths << url.toLocalFile();
     return paths;
+}
+
+bool isOf(const Problem& problem, const QStringList& paths)
+{
+    return std::any_of(paths.begin(), paths.end(), [&problem](const QString& path) {
+        const QFileInfo info(path);
+        return problem.file == QDir::cleanPath(info.absoluteFilePath()) ||
+               problem.file == info.canonicalFilePath();
+    });
+}
+
+/**
+ * What to say after opening: what is wrong with one of the paths themselves, also if it was wrong
+ * before, or else the first thing that has come with them. Empty if all is well.
+ */
+QString complaint(const Problems& before, const Problems& now, const QStringList& paths)
+{
+    const auto isNew = [&before](const Problem& problem) {
+        return std::find(before.begin(), before.end(), problem) == before.end();
+    };
+    auto found = std::find_if(now.begin(), now.end(),
+                              [&paths](const Problem& problem) { return isOf(problem, paths); });
+    if (found == now.end())
+        found = std::find_if(now.begin(), now.end(), isNew);
+    return found == now.end() ? QString() : found->text();
 }
 
 /** The first part of a window that shows pictures. */
@@ -254,13 +281,13 @@ void MainWindow::open(const QStringList& paths)
         // However it was opened: dialogs start there next.
         LastPathProvider::getInstance()->setPathToScope(absolute.last(), FileCommands::scope());
     }
-    const std::size_t before = m_session.problems().size();
+    const Problems before = m_session.problems();
     m_session.open(absolute);
     m_tree->refreshNow();
     selectSomething();
-    const Problems problems = m_session.problems();
-    if (problems.size() > before)
-        m_messageBar->say(problems.back().text());
+    const QString text = complaint(before, m_session.problems(), absolute);
+    if (!text.isEmpty())
+        m_messageBar->say(text);
 }
 
 void MainWindow::selectSomething()

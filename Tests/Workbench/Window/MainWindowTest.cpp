@@ -84,6 +84,8 @@ private Q_SLOTS:
     void opensADesignAndSelectsItsFirstPart();
     void opensAMeshFile();
     void whatCannotBeOpenedIsToldAndTheRestOpens();
+    void whatCannotBeOpenedIsToldEachTime();
+    void whatWasWrongBeforeIsNotToldAgain();
     void aBrokenMeshIsListedWithItsReason();
     void missingFilesAreListed();
     void theStatusBarCounts();
@@ -223,6 +225,29 @@ void MainWindowTest::whatCannotBeOpenedIsToldAndTheRestOpens()
     QVERIFY(m_window->messageBar().text().contains(QDir::toNativeSeparators(wrong)));
     QVERIFY(m_window->problemsPanel().isVisible());
     QCOMPARE(m_window->session().designs().size(), std::size_t(1));
+}
+
+void MainWindowTest::whatCannotBeOpenedIsToldEachTime()
+{
+    const QString nowhere = m_files->path(QStringLiteral("nowhere.dsg"));
+    const QString broken = m_files->path(QStringLiteral("broken.dsg"));
+    Testing::writeFile(broken, "no design");
+    for (const QString& wrong : {nowhere, broken, nowhere}) {
+        for (int time = 0; time < 2; ++time) {
+            m_window->open({wrong});
+            QVERIFY(m_window->messageBar().text().contains(QDir::toNativeSeparators(wrong)));
+        }
+    }
+}
+
+void MainWindowTest::whatWasWrongBeforeIsNotToldAgain()
+{
+    const QString broken = m_files->path(QStringLiteral("broken.dsg"));
+    Testing::writeFile(broken, "no design");
+    m_window->open({broken});
+    QVERIFY(m_window->messageBar().text().contains(QDir::toNativeSeparators(broken)));
+    m_window->open({m_files->path(QStringLiteral("geometry/die.stl"))});
+    QCOMPARE(m_window->messageBar().text(), QString());
 }
 
 void MainWindowTest::aBrokenMeshIsListedWithItsReason()
