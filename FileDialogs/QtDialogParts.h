@@ -1,13 +1,17 @@
 #pragma once
 
+#include <QtCore/qglobal.h>
+
 #include <optional>
 
+QT_BEGIN_NAMESPACE
 class QComboBox;
 class QDialogButtonBox;
 class QFileDialog;
 class QGridLayout;
 class QLineEdit;
 class QListView;
+QT_END_NAMESPACE
 
 namespace Zorvane {
 

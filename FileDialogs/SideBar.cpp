@@ -16,9 +16,7 @@ void widenSideBar(const QFileDialog& dialog)
     const auto* const bar = dialog.findChild<QListView*>(QStringLiteral("sidebar"));
     if (!splitter || !bar)
         return;
-    // The view keeps its own answer from others, the views' common base does not.
-    const QAbstractItemView& places = *bar;
-    const int wanted = places.sizeHintForColumn(0) + bar->width() - bar->viewport()->width();
+    const int wanted = bar->sizeHintForColumn(0) + bar->width() - bar->viewport()->width();
     const int whole = splitter->width() - splitter->handleWidth();
     const int width = std::min(wanted, whole / 3);
     if (width > bar->width())

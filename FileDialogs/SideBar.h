@@ -12,8 +12,9 @@ namespace Zorvane {
 
 /**
  * Gives the side bar of Qt's own file dialog the width that the names of its places take, up to a
- * third of the dialog. A side bar that is wider stays so. For a dialog that is shown, or about to
- * be; nothing happens to one that the system draws.
+ * third of the dialog. A side bar that is wider stays so; one that the user has narrowed does not,
+ * as Qt keeps the width of every dialog and can't tell whose it is. For a dialog that is shown, or
+ * about to be; nothing happens to one that the system draws.
  */
 ZORVANE_UITOOLS_EXPORT void widenSideBar(const QFileDialog& dialog);
 

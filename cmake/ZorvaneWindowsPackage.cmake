@@ -48,6 +48,8 @@ zorvane_install_license(assimp ${assimp_folder}/LICENSE ${assimp_folder}/share/a
 foreach(folder ${qt_folder} ${assimp_folder})
     if(EXISTS ${folder}/licenses)
         install(DIRECTORY ${folder}/licenses/ DESTINATION licenses COMPONENT ${component})
+    else()
+        message(WARNING "The zip will lack the licenses of what is built into ${folder}")
     endif()
 endforeach()
 

@@ -77,7 +77,7 @@ public:
     /** Null when the index is out of range. */
     ZVTreeViewItem* child(int index) const;
 
-    /** Takes ownership on success; on failure the caller keeps it and nothing has changed. */
+    /** Takes ownership on success; else the caller keeps it, or the parent a slot gave it to. */
     bool insertChild(int index, ZVTreeViewItem* child);
     /** One announcement for all; on failure (any of them unfit) none is appended. */
     bool appendChildren(const QVector<ZVTreeViewItem*>& children);

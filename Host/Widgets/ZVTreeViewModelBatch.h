@@ -24,8 +24,8 @@ namespace Zorvane {
  * slot while a batch is announced it makes views start over.
  *
  * Not supported: slots of `rowsAboutToBeInserted`, `rowsAboutToBeRemoved` and
- * `layoutAboutToBeChanged` that move rows from one parent to another; slots of others
- * may.
+ * `layoutAboutToBeChanged` that move rows from one parent to another;
+ * slots of others may.
  */
 class ZORVANE_HOST_EXPORT ZVTreeViewModelBatch
 {

@@ -24,8 +24,14 @@ QSplitter& splitterOf(const QFileDialog& dialog)
 
 int widthOfNames(const QFileDialog& dialog)
 {
-    const QAbstractItemView& places = sideBarOf(dialog);
-    return places.sizeHintForColumn(0);
+    return sideBarOf(dialog).sizeHintForColumn(0);
+}
+
+/** What Qt keeps of one dialog for the next, and nothing else of its settings. */
+void forgetWidths()
+{
+    QSettings(QSettings::UserScope, QStringLiteral("QtProject"))
+        .remove(QStringLiteral("FileDialog"));
 }
 
 bool areNamesWhole(const QFileDialog& dialog)
@@ -70,6 +76,7 @@ private Q_SLOTS:
 void SideBarTest::init()
 {
     ConfiguredDialogTestCase::init();
+    forgetWidths();
     QList<QUrl> urls;
     for (const QString& name : {s_shortName, s_longName}) {
         QVERIFY(QDir(m_dir->path()).mkpath(name));
@@ -81,7 +88,7 @@ void SideBarTest::init()
 
 void SideBarTest::cleanup()
 {
-    QSettings(QSettings::UserScope, QStringLiteral("QtProject")).clear();
+    forgetWidths();
     TestCase::cleanup();
 }
 

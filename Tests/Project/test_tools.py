@@ -185,7 +185,8 @@ class LayersTest(ToolTest):
 
 
 class TextTest(ToolTest):
-    UNWANTED = ("see /ho" "me/x", "file:///ho" "me/x", "PATH=bin:/mn" "t/x", "copied to '/tm" "p/pictures'", "C:\\Us" "ers\\someone",
+    UNWANTED = ("see /ho" "me/x", "file:///ho" "me/x", "file:///proj" "ects/x",
+                "PATH=bin:/mn" "t/x", "copied to '/tm" "p/pictures'", "C:\\Us" "ers\\someone",
                 "// TO" "DO later", "FIX" "ME: wrong", "<" * 7 + " ours", ">" * 7 + " theirs")
 
     def assert_finds(self, name, *findings):

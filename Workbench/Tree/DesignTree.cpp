@@ -117,6 +117,10 @@ void DesignTree::attach(QTreeView* view)
             [this](const QModelIndex& index) { noteExpansion(index, false); });
     connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &DesignTree::currentChanged);
+    connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
+        if (!m_busy)
+            noteChoice();
+    });
     // Also of the row that is current already.
     connect(view, &QTreeView::pressed, this, &DesignTree::noteChoice);
 }
@@ -271,9 +275,25 @@ void DesignTree::keepChoice(const IDCombiner& before)
     // Else nobody has chosen anything since the last refresh.
     if (before != m_standIn)
         m_choice = before;
+    if (m_session.designs().empty() && m_session.looseParts().empty())
+        m_choice = IDCombiner();
     if (m_choice != IDCombiner() && m_choice != currentId())
-        select(m_choice);
+        chooseAgain();
     m_standIn = currentId();
+}
+
+void DesignTree::chooseAgain()
+{
+    const QModelIndex index = indexOf(m_choice);
+    if (!m_view || !index.isValid())
+        return;
+    // By itself the view opens what the user has closed above the current row.
+    const bool scrolls = m_view->hasAutoScroll();
+    m_view->setAutoScroll(false);
+    m_view->setCurrentIndex(index);
+    m_view->setAutoScroll(scrolls);
+    if (!m_view->visualRect(index).isEmpty())
+        m_view->scrollTo(index);
 }
 
 void DesignTree::noteExpansion(const QModelIndex& index, bool expanded)

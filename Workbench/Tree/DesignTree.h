@@ -103,6 +103,7 @@ private:
     void noteChoice();
     /** A choice that a filter takes away is current again as soon as it is shown again. */
     void keepChoice(const IDCombiner& before);
+    void chooseAgain();
     void noteExpansion(const QModelIndex& index, bool expanded);
     void widenForNewObjects();
     void takeOverName(const QModelIndex& index, const QVariant& value, int role);

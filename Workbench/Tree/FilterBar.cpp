@@ -27,7 +27,7 @@ public:
 protected:
     void mousePressEvent(QMouseEvent* event) override
     {
-        m_isPressed = true;
+        m_isPressed = rect().contains(event->pos());
         QMenu::mousePressEvent(event);
     }
     void mouseReleaseEvent(QMouseEvent* event) override

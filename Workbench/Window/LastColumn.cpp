@@ -22,6 +22,11 @@ LastColumn::LastColumn(QTreeView* view)
 {
     m_header->viewport()->installEventFilter(this);
     connect(m_header, &QHeaderView::sectionResized, this, &LastColumn::fit);
+    connect(m_header, &QHeaderView::sectionMoved, this, &LastColumn::fit);
+    // Often many rows are expanded at once.
+    m_soon.setSingleShot(true);
+    connect(&m_soon, &QTimer::timeout, this, &LastColumn::fit);
+    connect(view, &QTreeView::expanded, &m_soon, QOverload<>::of(&QTimer::start));
     fit();
 }
 
@@ -32,9 +37,8 @@ bool LastColumn::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-int LastColumn::neededWidth() const
+int LastColumn::neededWidth(int last) const
 {
-    const int last = m_header->count() - 1;
     // The view keeps its own answer from others, the views' common base does not.
     const QAbstractItemView& view = *m_view;
     const int most = s_mostDigits * m_view->fontMetrics().horizontalAdvance(QLatin1Char('0'));
@@ -46,9 +50,10 @@ void LastColumn::fit()
     if (m_isFitting)
         return;
     const QScopedValueRollback<bool> fitting(m_isFitting, true);
-    const int last = m_header->count() - 1;
+    // The user may have moved another one there.
+    const int last = m_header->logicalIndex(m_header->count() - 1);
     const int others = m_header->length() - m_header->sectionSize(last);
-    const int needed = neededWidth();
+    const int needed = neededWidth(last);
     const bool fills = others + needed <= m_header->viewport()->width();
     m_header->setStretchLastSection(fills);
     if (!fills)

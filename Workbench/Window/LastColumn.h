@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QObject>
+#include <QtCore/QTimer>
 
 QT_BEGIN_NAMESPACE
 class QHeaderView;
@@ -27,10 +28,11 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    int neededWidth() const;
+    int neededWidth(int last) const;
 
     QTreeView* m_view;
     QHeaderView* m_header;
+    QTimer m_soon;
     bool m_isFitting = false;
 };
 

@@ -7,6 +7,7 @@
 #include "Workbench/Commands/HistoryCommands.h"
 #include "Workbench/Commands/ViewCommands.h"
 #include "Workbench/Commands/WindowCommands.h"
+#include "Workbench/Design/FileNames.h"
 #include "Workbench/DialogPanel/DialogPanel.h"
 #include "Workbench/Edit/QuantityPanel.h"
 #include "Workbench/Edit/ReferenceMenu.h"
@@ -74,8 +75,8 @@ bool isOf(const Problem& problem, const QStringList& paths)
 {
     return std::any_of(paths.begin(), paths.end(), [&problem](const QString& path) {
         const QFileInfo info(path);
-        return problem.file == QDir::cleanPath(info.absoluteFilePath()) ||
-               problem.file == info.canonicalFilePath();
+        return FileNames::areSame(problem.file, QDir::cleanPath(info.absoluteFilePath())) ||
+               FileNames::areSame(problem.file, info.canonicalFilePath());
     });
 }
 

@@ -54,6 +54,9 @@ private Q_SLOTS:
     void clickingWhatIsCurrentReplacesTheHiddenChoice();
     void goingToWhatIsCurrentReplacesTheHiddenChoice();
     void renamingWhatIsCurrentReplacesTheHiddenChoice();
+    void comingToWhatWasCurrentReplacesTheHiddenChoice();
+    void aChoiceThatComesBackOpensNothing();
+    void aChoiceEndsWithWhatWasOpen();
     void aNameBeingTypedIsLeftAlone();
     void theFirstRowInSightStays();
     void expandAndCollapseAll();
@@ -329,6 +332,40 @@ void DesignTreeTest::renamingWhatIsCurrentReplacesTheHiddenChoice()
     m_shown->view.model()->setData(name, QString(name.data().toString() + QLatin1String(" 2")));
     clearFilter();
     QVERIFY(m_shown->tree.currentId() == standIn);
+}
+
+void DesignTreeTest::comingToWhatWasCurrentReplacesTheHiddenChoice()
+{
+    const IDCombiner standIn = hideTheChoice();
+    QTest::keyClick(&m_shown->view, Qt::Key_Up);
+    QVERIFY(m_shown->tree.currentId() != standIn);
+    QTest::keyClick(&m_shown->view, Qt::Key_Down);
+    QVERIFY(m_shown->tree.currentId() == standIn);
+    clearFilter();
+    QVERIFY(m_shown->tree.currentId() == standIn);
+}
+
+void DesignTreeTest::aChoiceThatComesBackOpensNothing()
+{
+    QVERIFY(m_shown->tree.select(objectId(21)));
+    m_shown->view.collapse(at(20));
+    m_shown->tree.setFilterText(QStringLiteral("punch"));
+    m_shown->tree.refreshNow();
+    QVERIFY(m_shown->tree.currentId() != IDCombiner(objectId(21)));
+    clearFilter();
+    QVERIFY(m_shown->tree.currentId() == IDCombiner(objectId(21)));
+    QVERIFY(!m_shown->view.isExpanded(at(20)));
+}
+
+void DesignTreeTest::aChoiceEndsWithWhatWasOpen()
+{
+    QVERIFY(m_shown->tree.select(objectId(21)));
+    m_shown->session.close();
+    m_shown->tree.refreshNow();
+    QVERIFY(m_shown->tree.currentId() == IDCombiner());
+    m_shown->session.open({m_shown->designFile()});
+    m_shown->tree.refreshNow();
+    QVERIFY(m_shown->tree.currentId() != IDCombiner(objectId(21)));
 }
 
 void DesignTreeTest::aNameBeingTypedIsLeftAlone()

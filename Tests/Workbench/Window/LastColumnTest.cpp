@@ -38,6 +38,8 @@ private Q_SLOTS:
     void followsItsTexts();
     void longTextsAreCut();
     void followsTheView();
+    void followsRowsThatAreExpanded();
+    void isTheOneThatTheUserPutLast();
 };
 
 void LastColumnTest::init()
@@ -110,6 +112,26 @@ void LastColumnTest::followsTheView()
     m_view->resize(700, 300);
     QTRY_COMPARE(lastWidth(), m_view->viewport()->width() - m_view->columnWidth(0));
     QVERIFY(lastWidth() > textWidth());
+}
+
+void LastColumnTest::followsRowsThatAreExpanded()
+{
+    m_model.item(0, 0)->appendRow({new QStandardItem(QStringLiteral("child")),
+                                   new QStandardItem(QStringLiteral("File missing, Modified"))});
+    narrow(50);
+    const int before = lastWidth();
+    m_view->expand(m_model.index(0, 0));
+    QTRY_VERIFY(lastWidth() > before);
+    QCOMPARE(lastWidth(), textWidth());
+}
+
+void LastColumnTest::isTheOneThatTheUserPutLast()
+{
+    m_view->header()->moveSection(1, 0);
+    const int narrow = textWidth() / 2;
+    m_view->setColumnWidth(1, narrow);
+    QCOMPARE(lastWidth(), narrow);
+    QCOMPARE(m_view->columnWidth(0), m_view->viewport()->width() - narrow);
 }
 
 } // namespace Zorvane::Workbench
