@@ -53,11 +53,13 @@ void LastColumn::fit()
     // The user may have moved another one there.
     const int last = m_header->logicalIndex(m_header->count() - 1);
     const int others = m_header->length() - m_header->sectionSize(last);
+    const int room = m_header->viewport()->width() - others;
     const int needed = neededWidth(last);
-    const bool fills = others + needed <= m_header->viewport()->width();
-    m_header->setStretchLastSection(fills);
-    if (!fills)
-        m_header->resizeSection(last, needed);
+    m_header->setStretchLastSection(room >= needed);
+    // Not every platform's header stretches it by itself.
+    const int width = std::max(room, needed);
+    if (m_header->sectionSize(last) != width)
+        m_header->resizeSection(last, width);
 }
 
 } // namespace Zorvane::Workbench
