@@ -37,6 +37,8 @@ private:
     std::optional<Problem> relocate();
     /** The copy with what it refers to, read from the disk. */
     std::unique_ptr<DesignSession> relocated() const;
+    /** That the copy came whole: all three designs, and every file that they refer to. */
+    void expectAllDesignsWithTheirFiles() const;
     bool linkDoor(const char* target, const char* link);
 
     Testing::PlatformCopies m_copies;
@@ -164,6 +166,16 @@ void DesignRelocationTest::protectedDesignsComeAlong()
 }
 
 /** In the small design instead of the door; false where a program may make no links. */
+void DesignRelocationTest::expectAllDesignsWithTheirFiles() const
+{
+    const std::unique_ptr<DesignSession> moved = relocated();
+    QVERIFY(moved->problems().empty());
+    QCOMPARE(moved->designs().size(), std::size_t(3));
+    for (const Design& design : moved->designs())
+        for (const FileReference& file : design.files)
+            QCOMPARE(int(file.state), int(FileState::Exists));
+}
+
 bool DesignRelocationTest::linkDoor(const char* target, const char* link)
 {
     m_opened->session.take(objectId(1), {small().files.back().id});
@@ -184,12 +196,7 @@ void DesignRelocationTest::designsBehindLinksStandWhereTheLinksStand()
     QVERIFY(isThere("handle/grip.txt"));
     QVERIFY(!isThere("door"));
     QCOMPARE(Testing::readFile(source("door/door.dsg")), door);
-    const std::unique_ptr<DesignSession> moved = relocated();
-    QVERIFY(moved->problems().empty());
-    QCOMPARE(moved->designs().size(), std::size_t(3));
-    for (const Design& design : moved->designs())
-        for (const FileReference& file : design.files)
-            QCOMPARE(int(file.state), int(FileState::Exists));
+    expectAllDesignsWithTheirFiles();
 }
 
 void DesignRelocationTest::designsReferredToByLinksAsWellComeOnce()
@@ -288,12 +295,7 @@ void DesignRelocationTest::allFilesComeAlong()
         QCOMPARE(Testing::readFile(target(name)), Testing::readFile(source(name)));
         QVERIFY(!Testing::readFile(source(name)).isEmpty());
     }
-    const std::unique_ptr<DesignSession> moved = relocated();
-    QVERIFY(moved->problems().empty());
-    QCOMPARE(moved->designs().size(), std::size_t(3));
-    for (const Design& design : moved->designs())
-        for (const FileReference& file : design.files)
-            QCOMPARE(int(file.state), int(FileState::Exists));
+    expectAllDesignsWithTheirFiles();
 }
 
 void DesignRelocationTest::filesStayInTheSameFolder()
