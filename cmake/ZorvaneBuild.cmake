@@ -35,6 +35,9 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion
         $<$<BOOL:${ZORVANE_WARNINGS_ARE_ERRORS}>:-Werror>)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        # GCC takes sources that are compiled together for headers and warns of their own types.
+        target_compile_options(zorvane_settings INTERFACE
+            $<$<BOOL:${CMAKE_UNITY_BUILD}>:-Wno-subobject-linkage>)
         # Nobody replaces single functions of our libraries, so they may be inlined inside them.
         target_compile_options(zorvane_settings INTERFACE
             $<$<CONFIG:Release>:-fno-semantic-interposition>)
@@ -49,12 +52,30 @@ if(ZORVANE_SANITIZERS)
     add_link_options(-fsanitize=${ZORVANE_SANITIZERS})
 endif()
 
+# Nearly all of a compiler's time goes into Qt's and Boost's headers, so the presets compile the
+# sources of a folder as one (CMAKE_UNITY_BUILD). Names in unnamed namespaces are therefore unique
+# within a folder.
+
+# zorvane_add_sources(TARGET file...)
+# Adds files of this folder to a target of a folder above. They are compiled together with those
+# that have the same ZORVANE_COMPILED_TOGETHER, by default with those of the folder.
+function(zorvane_add_sources target)
+    set(group ${ZORVANE_COMPILED_TOGETHER})
+    if(NOT group)
+        get_filename_component(group ${CMAKE_CURRENT_SOURCE_DIR} NAME)
+    endif()
+    target_sources(${target} PRIVATE ${ARGN})
+    set_source_files_properties(${ARGN} TARGET_DIRECTORY ${target} PROPERTIES UNITY_GROUP ${group})
+    set_target_properties(${target} PROPERTIES UNITY_BUILD_MODE GROUP)
+endfunction()
+
 # zorvane_add_subsystem(NAME SOURCES ... [USES target...] [PRIVATELY target...])
 # One folder of the library: an object target that names what it may include.
 function(zorvane_add_subsystem name)
     cmake_parse_arguments(arg "" "" "SOURCES;USES;PRIVATELY" ${ARGN})
     set(target ZorvaneUiTools_${name})
     add_library(${target} OBJECT ${arg_SOURCES})
+    set_target_properties(${target} PROPERTIES UNITY_BUILD_BATCH_SIZE 0)
     target_include_directories(${target} PUBLIC
         $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
     target_compile_definitions(${target} PRIVATE ZORVANE_UITOOLS_BUILD)

@@ -17,7 +17,7 @@ struct ErrorText
 };
 
 // clang-format off
-constexpr std::array<ErrorText, 13> s_texts{{
+constexpr std::array<ErrorText, 13> errorTexts{{
     {ENOSPC,       QT_TRANSLATE_NOOP("FileCopyUtility", "There is not enough space on the disk.")},
     {EDQUOT,       QT_TRANSLATE_NOOP("FileCopyUtility", "Your share of the disk is used up.")},
     {EROFS,        QT_TRANSLATE_NOOP("FileCopyUtility", "The disk is write-protected.")},
@@ -42,10 +42,10 @@ constexpr std::array<int, 10> s_fatal{ENOENT, ENOSPC, EDQUOT, EROFS,  EIO,
 
 QString describeCopyError(int error)
 {
-    const auto found = std::find_if(s_texts.begin(), s_texts.end(),
+    const auto found = std::find_if(errorTexts.begin(), errorTexts.end(),
                                     [&](const ErrorText& text) { return text.error == error; });
-    return found != s_texts.end() ? Translator::translate("FileCopyUtility", found->text)
-                                  : qt_error_string(error);
+    return found != errorTexts.end() ? Translator::translate("FileCopyUtility", found->text)
+                                     : qt_error_string(error);
 }
 
 QString describeTargetError(int error)

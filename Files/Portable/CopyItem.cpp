@@ -9,7 +9,7 @@ namespace Zorvane {
 
 namespace {
 
-constexpr qint64 s_millisecondsPerSecond = 1000;
+constexpr qint64 secondInMilliseconds = 1000;
 constexpr qint64 s_nanosecondsPerMillisecond = 1000000;
 
 /** Follows a link under the name; where it leads nowhere, the link itself is what is there. */
@@ -50,7 +50,7 @@ int lookForCollision(CopyItem& item, const TargetFolder& folder, const QString& 
 
 CopyFileFacts factsOf(const QString& path, const struct stat& status)
 {
-    const qint64 milliseconds = status.st_mtim.tv_sec * s_millisecondsPerSecond +
+    const qint64 milliseconds = status.st_mtim.tv_sec * secondInMilliseconds +
                                 status.st_mtim.tv_nsec / s_nanosecondsPerMillisecond;
     // In local time each would ask the system for its time zone.
     return {path, status.st_size, QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC)};

@@ -17,16 +17,16 @@ constexpr size_t s_bufferSize = 256 * s_kibibyte;
 constexpr qint64 s_largeFile = 4096 * s_kibibyte;
 // So many slices the disk may have to do at a time; it sorts them better than we could.
 constexpr size_t s_mostOnTheirWay = 16;
-constexpr qint64 s_tooSlow = 40;
-constexpr qint64 s_veryFast = 10;
+constexpr qint64 tooSlowPiece = 40;
+constexpr qint64 veryFastPiece = 10;
 
 } // namespace
 
 size_t nextSliceSize(size_t size, qint64 milliseconds)
 {
-    if (milliseconds > s_tooSlow)
+    if (milliseconds > tooSlowPiece)
         return std::max(size / 2, s_smallestSlice);
-    if (milliseconds < s_veryFast)
+    if (milliseconds < veryFastPiece)
         return std::min(size * 2, s_largestSlice);
     return size;
 }

@@ -6,7 +6,7 @@ namespace Zorvane {
 
 namespace {
 
-std::shared_ptr<VanTrelConfiguration>& registered()
+std::shared_ptr<VanTrelConfiguration>& registeredProgramSettings()
 {
     static std::shared_ptr<VanTrelConfiguration> s_instance;
     return s_instance;
@@ -21,12 +21,12 @@ VanTrelConfiguration::~VanTrelConfiguration() = default;
 
 std::shared_ptr<VanTrelConfiguration> VanTrelConfiguration::getRegisteredInstance()
 {
-    return registered();
+    return registeredProgramSettings();
 }
 
 void VanTrelConfiguration::registerInstance(std::shared_ptr<VanTrelConfiguration> instance)
 {
-    registered() = std::move(instance);
+    registeredProgramSettings() = std::move(instance);
 }
 
 bool VanTrelConfiguration::getDisableExportWithoutStandard() const

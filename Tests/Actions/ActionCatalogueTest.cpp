@@ -51,5 +51,5 @@ void ActionCatalogueTest::marksSharedShortcuts()
     QVERIFY(page.contains(QStringLiteral("| `W` |")));
 }
 
-ZORVANE_TEST_MAIN(ActionCatalogueTest)
+ZORVANE_TEST(ActionCatalogueTest)
 #include "ActionCatalogueTest.moc"

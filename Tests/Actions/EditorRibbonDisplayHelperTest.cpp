@@ -213,5 +213,5 @@ void EditorRibbonDisplayHelperTest::helpersNest()
     QVERIFY(toggle(ZVMainActions::ShowSheet).isChecked());
 }
 
-ZORVANE_TEST_MAIN(EditorRibbonDisplayHelperTest)
+ZORVANE_TEST(EditorRibbonDisplayHelperTest)
 #include "EditorRibbonDisplayHelperTest.moc"

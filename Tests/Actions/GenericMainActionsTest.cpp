@@ -452,5 +452,5 @@ void GenericMainActionsTest::hasOneSlot()
     QCOMPARE(slot.access(), QMetaMethod::Protected);
 }
 
-ZORVANE_TEST_MAIN(GenericMainActionsTest)
+ZORVANE_TEST(GenericMainActionsTest)
 #include "GenericMainActionsTest.moc"

@@ -91,5 +91,5 @@ void ZVGlobalActionsTest::valuesAreAvailableByName()
     QCOMPARE(meta.methodCount(), meta.methodOffset());
 }
 
-ZORVANE_TEST_MAIN(ZVGlobalActionsTest)
+ZORVANE_TEST(ZVGlobalActionsTest)
 #include "ZVGlobalActionsTest.moc"

@@ -514,5 +514,5 @@ void ZVMainActionsTest::noActionCarriesItsId()
         QVERIFY2(!action->data().isValid(), qPrintable(action->objectName()));
 }
 
-ZORVANE_TEST_MAIN(ZVMainActionsTest)
+ZORVANE_TEST(ZVMainActionsTest)
 #include "ZVMainActionsTest.moc"

@@ -459,5 +459,5 @@ void FileConverterDialogTest::dialogDeletedByTheConversionIsSurvived()
     QVERIFY(!QApplication::overrideCursor());
 }
 
-ZORVANE_TEST_MAIN(FileConverterDialogTest)
+ZORVANE_TEST(FileConverterDialogTest)
 #include "FileConverterDialogTest.moc"

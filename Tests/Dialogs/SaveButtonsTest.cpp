@@ -138,5 +138,5 @@ void SaveButtonsTest::switchesAreTheApplicationsProperties()
     qApp->setProperty("AddSaveAsToSaveDialog", QVariant());
 }
 
-ZORVANE_TEST_MAIN(SaveButtonsTest)
+ZORVANE_TEST(SaveButtonsTest)
 #include "SaveButtonsTest.moc"

@@ -14,7 +14,7 @@ namespace {
 
 const QString s_name = QStringLiteral("door outer.dsg");
 
-SaveState stateOf(const SaveCase& given)
+SaveState designStateOf(const SaveCase& given)
 {
     SaveState state;
     state.isModified = given.isModified;
@@ -29,7 +29,7 @@ SaveState stateOf(const SaveCase& given)
 
 SaveMessage messageFor(const SaveCase& given, const QString& name = s_name)
 {
-    return saveMessageFor(stateOf(given), given.action, {given.isNew, name});
+    return saveMessageFor(designStateOf(given), given.action, {given.isNew, name});
 }
 
 QString plainText(const QString& html)
@@ -210,5 +210,5 @@ void SaveMessageTest::namesAreNoMarkUp()
     QVERIFY2(text.contains(QLatin1Char('"') + name + QLatin1Char('"')), qPrintable(text));
 }
 
-ZORVANE_TEST_MAIN(SaveMessageTest)
+ZORVANE_TEST(SaveMessageTest)
 #include "SaveMessageTest.moc"

@@ -34,7 +34,7 @@ void setSwitch(const char* name, bool value)
     qApp->setProperty(name, value ? QVariant(true) : QVariant());
 }
 
-void setSwitches(const SaveCase& given)
+void storeSwitches(const SaveCase& given)
 {
     setSwitch("SuppressCancelForSaveDialog", given.suppressesCancel);
     setSwitch("AddSaveAsToSaveDialog", given.addsSaveAs);
@@ -137,13 +137,13 @@ ZVSaveDialog::Result ZVSaveDialogTest::ask(const SaveCase& given, const Answer& 
     const auto asked = design(given);
     if (asked->isJobMarked() != given.isRunning)
         qWarning("The job of the design could not be marked.");
-    setSwitches(given);
+    storeSwitches(given);
     Testing::ExpectedModals modals;
     if (!given.isSilent)
         modals.expectMessageBox(s_warning, answer);
     const auto result = ZVSaveDialog::showDialog(nullptr, asked, given.action, given.isSilent,
                                                  given.isSaveDisabled);
-    setSwitches({});
+    storeSwitches({});
     return result;
 }
 
@@ -155,7 +155,7 @@ ZVSaveDialog::Result ZVSaveDialogTest::press(const SaveCase& given, const QStrin
 
 void ZVSaveDialogTest::cleanup()
 {
-    setSwitches({});
+    storeSwitches({});
     setSwitch("SuppressSaveDialog", false);
     TestCase::cleanup();
 }
@@ -502,5 +502,5 @@ void ZVSaveDialogTest::asksInTheUsersLanguage()
              ZVSaveDialog::ResultContinue);
 }
 
-ZORVANE_TEST_MAIN(ZVSaveDialogTest)
+ZORVANE_TEST(ZVSaveDialogTest)
 #include "ZVSaveDialogTest.moc"

@@ -23,9 +23,9 @@ namespace Zorvane::Testing {
 
 using CustomItem = FileDialogConfiguration::CustomItem;
 
-inline const QString s_caption = QStringLiteral("Open mesh");
-inline const QString s_filter = QStringLiteral("Meshes (*.stl *.obj);;Tables (*.csv)");
-inline const QString s_scope = QStringLiteral("Import");
+inline const QString meshCaption = QStringLiteral("Open mesh");
+inline const QString meshFilter = QStringLiteral("Meshes (*.stl *.obj);;Tables (*.csv)");
+inline const QString meshScope = QStringLiteral("Import");
 
 inline CustomItem checkBox(int id, const char* label, bool isChecked = false)
 {
@@ -160,16 +160,16 @@ inline QString ConfiguredDialogTestCase::path(const QString& name) const
 inline QString ConfiguredDialogTestCase::open(std::function<void(QFileDialog&)> answer)
 {
     ExpectedModals modals;
-    modals.expectDialog<QFileDialog>(s_caption, std::move(answer));
-    return FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope,
+    modals.expectDialog<QFileDialog>(meshCaption, std::move(answer));
+    return FileDialog::getOpenFileName(meshCaption, meshFilter, &m_provider, meshScope,
                                        m_configuration.get(), m_owner);
 }
 
 inline QStringList ConfiguredDialogTestCase::openSeveral(std::function<void(QFileDialog&)> answer)
 {
     ExpectedModals modals;
-    modals.expectDialog<QFileDialog>(s_caption, std::move(answer));
-    return FileDialog::getOpenFileNames(s_caption, s_filter, &m_provider, s_scope,
+    modals.expectDialog<QFileDialog>(meshCaption, std::move(answer));
+    return FileDialog::getOpenFileNames(meshCaption, meshFilter, &m_provider, meshScope,
                                         m_configuration.get(), m_owner);
 }
 

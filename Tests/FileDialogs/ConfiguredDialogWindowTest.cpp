@@ -220,8 +220,8 @@ void ConfiguredDialogWindowTest::aSecondDialogOpensFromInsideTheFirst()
     ExpectedModals modals;
     modals.expectDialog<QFileDialog>(QStringLiteral("first"), [&](QFileDialog& dialog) {
         QCOMPARE(FileDialog::getOpenDialogsCount(), 1);
-        QCOMPARE(FileDialog::getOpenFileName(QStringLiteral("Second"), s_filter, &m_provider,
-                                             s_scope, &second, &dialog),
+        QCOMPARE(FileDialog::getOpenFileName(QStringLiteral("Second"), meshFilter, &m_provider,
+                                             meshScope, &second, &dialog),
                  path(QStringLiteral("a.stl")));
         QCOMPARE(FileDialog::getOpenDialogsCount(), 1);
         QVERIFY(dialog.isEnabled());
@@ -232,11 +232,11 @@ void ConfiguredDialogWindowTest::aSecondDialogOpensFromInsideTheFirst()
         nameEdit(dialog)->setText(QStringLiteral("a.stl"));
         QTest::keyClick(nameEdit(dialog), Qt::Key_Return);
     });
-    QCOMPARE(FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope,
+    QCOMPARE(FileDialog::getOpenFileName(meshCaption, meshFilter, &m_provider, meshScope,
                                          m_configuration.get()),
              QString());
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
 }
 
-ZORVANE_TEST_MAIN(ConfiguredDialogWindowTest)
+ZORVANE_TEST(ConfiguredDialogWindowTest)
 #include "ConfiguredDialogWindowTest.moc"

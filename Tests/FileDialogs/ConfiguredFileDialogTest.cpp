@@ -148,7 +148,7 @@ void ConfiguredFileDialogTest::deletedFolderOpensTheOneAbove()
 void ConfiguredFileDialogTest::filtersAreOffered()
 {
     open([](QFileDialog& dialog) {
-        QCOMPARE(dialog.nameFilters(), s_filter.split(QStringLiteral(";;")));
+        QCOMPARE(dialog.nameFilters(), meshFilter.split(QStringLiteral(";;")));
         QTRY_VERIFY(shows(dialog, QStringLiteral("c.obj")));
         QTRY_VERIFY(!shows(dialog, QStringLiteral("d.csv")));
         dialog.reject();
@@ -161,7 +161,7 @@ void ConfiguredFileDialogTest::selectedFilterGoesInAndOut()
     const QString tables = QStringLiteral("Tables (*.csv)");
     QString selected = tables;
     ExpectedModals modals;
-    modals.expectDialog<QFileDialog>(s_caption, [&](QFileDialog& dialog) {
+    modals.expectDialog<QFileDialog>(meshCaption, [&](QFileDialog& dialog) {
         QCOMPARE(dialog.selectedNameFilter(), tables);
         auto* types = part<QComboBox>(dialog, "fileTypeCombo");
         QTest::keyClick(types, Qt::Key_Up);
@@ -169,7 +169,7 @@ void ConfiguredFileDialogTest::selectedFilterGoesInAndOut()
         nameEdit(dialog)->setText(QStringLiteral("a.stl"));
         QTest::keyClick(nameEdit(dialog), Qt::Key_Return);
     });
-    QCOMPARE(FileDialog::getOpenFileName(s_caption, QString(), s_filter, &m_provider, s_scope,
+    QCOMPARE(FileDialog::getOpenFileName(meshCaption, QString(), meshFilter, &m_provider, meshScope,
                                          &selected, QFileDialog::Options(), m_configuration.get(),
                                          nullptr),
              path(QStringLiteral("a.stl")));
@@ -179,11 +179,12 @@ void ConfiguredFileDialogTest::selectedFilterGoesInAndOut()
 void ConfiguredFileDialogTest::emptyFilterShowsFilesWithoutADot()
 {
     ExpectedModals modals;
-    modals.expectDialog<QFileDialog>(s_caption, [](QFileDialog& dialog) {
+    modals.expectDialog<QFileDialog>(meshCaption, [](QFileDialog& dialog) {
         QTRY_VERIFY(shows(dialog, QStringLiteral("plain")));
         dialog.reject();
     });
-    FileDialog::getOpenFileName(s_caption, QString(), &m_provider, s_scope, m_configuration.get());
+    FileDialog::getOpenFileName(meshCaption, QString(), &m_provider, meshScope,
+                                m_configuration.get());
 }
 
 void ConfiguredFileDialogTest::oddNamesComeBackAsTheyAre_data()
@@ -215,13 +216,13 @@ void ConfiguredFileDialogTest::oddNamesComeBackAsTheyAre()
         QSKIP("no file can have such a name on this platform");
     QVERIFY(writeFile(path(name)));
     ExpectedModals modals;
-    modals.expectDialog<QFileDialog>(s_caption, [&name](QFileDialog& dialog) {
+    modals.expectDialog<QFileDialog>(meshCaption, [&name](QFileDialog& dialog) {
         QTRY_VERIFY(shows(dialog, name));
         select(dialog, {name});
         QTest::mouseClick(openButton(dialog), Qt::LeftButton);
     });
-    const QString chosen = FileDialog::getOpenFileName(s_caption, QString(), &m_provider, s_scope,
-                                                       m_configuration.get());
+    const QString chosen = FileDialog::getOpenFileName(meshCaption, QString(), &m_provider,
+                                                       meshScope, m_configuration.get());
     QCOMPARE(chosen, path(name));
     QCOMPARE(m_handler->events.last(), QStringLiteral("selected ") + path(name));
 }
@@ -234,7 +235,7 @@ void ConfiguredFileDialogTest::captionIsShown()
         QCOMPARE(dialog.windowTitle(), caption);
         dialog.reject();
     });
-    FileDialog::getOpenFileName(caption, s_filter, &m_provider, s_scope, m_configuration.get());
+    FileDialog::getOpenFileName(caption, meshFilter, &m_provider, meshScope, m_configuration.get());
 }
 
 void ConfiguredFileDialogTest::typeIsToldWhileOpening()
@@ -304,8 +305,8 @@ void ConfiguredFileDialogTest::handlerThatThrowsEndsTheDialog()
             QTest::keyClick(part<QComboBox>(*dialog, "fileTypeCombo"), Qt::Key_Down);
     });
     pressesDown.start(0);
-    QVERIFY_EXCEPTION_THROWN(FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope,
-                                                         m_configuration.get(), &owner),
+    QVERIFY_EXCEPTION_THROWN(FileDialog::getOpenFileName(meshCaption, meshFilter, &m_provider,
+                                                         meshScope, m_configuration.get(), &owner),
                              std::runtime_error);
     QVERIFY(owner.isEnabled());
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
@@ -342,18 +343,18 @@ void ConfiguredFileDialogTest::dialogWithoutAPartHasNoControls()
     const PartRenamer renamer(part);
     QString type = QStringLiteral("Tables (*.csv)");
     ExpectedModals modals;
-    modals.expectDialog<QFileDialog>(s_caption, [this](QFileDialog& dialog) {
+    modals.expectDialog<QFileDialog>(meshCaption, [this](QFileDialog& dialog) {
         QVERIFY(!custom<QCheckBox>(dialog, "Repair"));
         dialog.selectFile(path(QStringLiteral("d.csv")));
         static_cast<QDialog&>(dialog).accept();
     });
     const QString chosen =
-        FileDialog::getOpenFileName(s_caption, m_dir->path(), s_filter, &m_provider, s_scope, &type,
-                                    {}, m_configuration.get(), m_owner);
+        FileDialog::getOpenFileName(meshCaption, m_dir->path(), meshFilter, &m_provider, meshScope,
+                                    &type, {}, m_configuration.get(), m_owner);
     QCOMPARE(chosen, path(QStringLiteral("d.csv")));
     QCOMPARE(type, QStringLiteral("Tables (*.csv)"));
     QCOMPARE(m_handler->events, QStringList());
 }
 
-ZORVANE_TEST_MAIN(ConfiguredFileDialogTest)
+ZORVANE_TEST(ConfiguredFileDialogTest)
 #include "ConfiguredFileDialogTest.moc"

@@ -221,5 +221,5 @@ void CustomControlsTest::mnemonicsReachControls()
     });
 }
 
-ZORVANE_TEST_MAIN(CustomControlsTest)
+ZORVANE_TEST(CustomControlsTest)
 #include "CustomControlsTest.moc"

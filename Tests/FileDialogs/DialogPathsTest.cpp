@@ -128,5 +128,5 @@ void DialogPathsTest::aNewFileLandsInTheFolderOrBesideTheFile()
     QCOMPARE(fileBeside(dir.path() + below, elsewhere), elsewhere);
 }
 
-ZORVANE_TEST_MAIN(DialogPathsTest)
+ZORVANE_TEST(DialogPathsTest)
 #include "DialogPathsTest.moc"

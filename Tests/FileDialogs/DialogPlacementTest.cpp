@@ -223,5 +223,5 @@ void DialogPlacementTest::storedRectangleElsewhereIsFitted()
     QVERIFY(QGuiApplication::primaryScreen()->virtualGeometry().contains(placed));
 }
 
-ZORVANE_TEST_MAIN(DialogPlacementTest)
+ZORVANE_TEST(DialogPlacementTest)
 #include "DialogPlacementTest.moc"

@@ -292,5 +292,5 @@ void FileDialogConfigurationTest::virtualOperationsKeepTheirOrder()
     QCOMPARE(int(virtualSlot(&FileDialogCallbackInterface::getDialogGeometry)), 4);
 }
 
-ZORVANE_TEST_MAIN(FileDialogConfigurationTest)
+ZORVANE_TEST(FileDialogConfigurationTest)
 #include "FileDialogConfigurationTest.moc"

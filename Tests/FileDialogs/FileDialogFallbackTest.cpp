@@ -410,5 +410,5 @@ void FileDialogFallbackTest::aFolderCancelledTellsTheProviderNothing()
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
 }
 
-ZORVANE_TEST_MAIN(FileDialogFallbackTest)
+ZORVANE_TEST(FileDialogFallbackTest)
 #include "FileDialogFallbackTest.moc"

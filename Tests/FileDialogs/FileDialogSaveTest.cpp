@@ -402,5 +402,5 @@ void FileDialogSaveTest::theLastFolderIsProposedWithTheName()
     QCOMPARE(m_provider.calls.size(), 3);
 }
 
-ZORVANE_TEST_MAIN(FileDialogSaveTest)
+ZORVANE_TEST(FileDialogSaveTest)
 #include "FileDialogSaveTest.moc"

@@ -491,5 +491,5 @@ void FileDialogTest::anExceptionLeavesTheCounterAtZero()
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
 }
 
-ZORVANE_TEST_MAIN(FileDialogTest)
+ZORVANE_TEST(FileDialogTest)
 #include "FileDialogTest.moc"

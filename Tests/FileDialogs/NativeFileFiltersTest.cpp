@@ -96,5 +96,5 @@ void NativeFileFiltersTest::onlyAWholeTypeIsPreselected()
     QCOMPARE(filters.preselectedPattern.isNull(), pattern.isNull());
 }
 
-ZORVANE_TEST_MAIN(NativeFileFiltersTest)
+ZORVANE_TEST(NativeFileFiltersTest)
 #include "NativeFileFiltersTest.moc"

@@ -387,5 +387,5 @@ void PreviewFileDialogConfigurationTest::operationsKeepTheirPlaces()
         QCOMPARE(slots[place], place + 2);
 }
 
-ZORVANE_TEST_MAIN(PreviewFileDialogConfigurationTest)
+ZORVANE_TEST(PreviewFileDialogConfigurationTest)
 #include "PreviewFileDialogConfigurationTest.moc"

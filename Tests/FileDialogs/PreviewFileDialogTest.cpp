@@ -394,5 +394,5 @@ void PreviewFileDialogTest::configurationOutlivesTheDialog()
     QCOMPARE(editor.use_count(), 1L);
 }
 
-ZORVANE_TEST_MAIN(PreviewFileDialogTest)
+ZORVANE_TEST(PreviewFileDialogTest)
 #include "PreviewFileDialogTest.moc"

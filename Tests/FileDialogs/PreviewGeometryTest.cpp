@@ -257,5 +257,5 @@ void PreviewGeometryTest::screensOfTheApplication()
     QCOMPARE(screens.front().available, QGuiApplication::screens().front()->availableGeometry());
 }
 
-ZORVANE_TEST_MAIN(PreviewGeometryTest)
+ZORVANE_TEST(PreviewGeometryTest)
 #include "PreviewGeometryTest.moc"

@@ -84,5 +84,5 @@ void ScreenScaleTest::screensOfTheApplication()
     QCOMPARE(screens.front().pixelRatio, QGuiApplication::primaryScreen()->devicePixelRatio());
 }
 
-ZORVANE_TEST_MAIN(ScreenScaleTest)
+ZORVANE_TEST(ScreenScaleTest)
 #include "ScreenScaleTest.moc"

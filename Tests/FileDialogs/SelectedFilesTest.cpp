@@ -80,5 +80,5 @@ void SelectedFilesTest::filesComeInTheOrderOfTheFileNameBox()
     QTEST(inOrderOfFileNameBox(paths, text), "ordered");
 }
 
-ZORVANE_TEST_MAIN(SelectedFilesTest)
+ZORVANE_TEST(SelectedFilesTest)
 #include "SelectedFilesTest.moc"

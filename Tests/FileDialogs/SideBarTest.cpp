@@ -138,13 +138,13 @@ void SideBarTest::plainDialogsAreWidened_data()
 {
     QTest::addColumn<Ask>("ask");
     QTest::newRow("open") << Ask([](PathProvider* provider) {
-        return FileDialog::getOpenFileName(s_caption, s_filter, provider, s_scope);
+        return FileDialog::getOpenFileName(meshCaption, meshFilter, provider, meshScope);
     });
     QTest::newRow("save") << Ask([](PathProvider* provider) {
-        return FileDialog::getSaveFileName(s_caption, s_filter, provider, s_scope, QString());
+        return FileDialog::getSaveFileName(meshCaption, meshFilter, provider, meshScope, QString());
     });
     QTest::newRow("folder") << Ask([](PathProvider* provider) {
-        return FileDialog::getExistingDirectoryName(s_caption, provider, s_scope);
+        return FileDialog::getExistingDirectoryName(meshCaption, provider, meshScope);
     });
 }
 
@@ -152,12 +152,12 @@ void SideBarTest::plainDialogsAreWidened()
 {
     QFETCH(Ask, ask);
     ExpectedModals modals;
-    modals.expectDialog<QFileDialog>(s_caption, [](QFileDialog& dialog) {
+    modals.expectDialog<QFileDialog>(meshCaption, [](QFileDialog& dialog) {
         QVERIFY(areNamesWhole(dialog) || isAThird(dialog));
         dialog.reject();
     });
     QCOMPARE(ask(&m_provider), QString());
 }
 
-ZORVANE_TEST_MAIN(SideBarTest)
+ZORVANE_TEST(SideBarTest)
 #include "SideBarTest.moc"

@@ -129,5 +129,5 @@ void CopyDecisionsTest::lateQuestionIgnoresForAll()
     QCOMPARE(order->action, Action::Skip);
 }
 
-ZORVANE_TEST_MAIN(CopyDecisionsTest)
+ZORVANE_TEST(CopyDecisionsTest)
 #include "CopyDecisionsTest.moc"

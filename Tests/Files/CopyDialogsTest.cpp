@@ -395,5 +395,5 @@ void CopyDialogsTest::timeLeftIsRounded()
     QCOMPARE(timeLeftForDisplay(seconds), text);
 }
 
-ZORVANE_TEST_MAIN(CopyDialogsTest)
+ZORVANE_TEST(CopyDialogsTest)
 #include "CopyDialogsTest.moc"

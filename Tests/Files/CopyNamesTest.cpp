@@ -165,5 +165,5 @@ void CopyNamesTest::foldedNamesIgnoreCaseOnly()
     QCOMPARE(foldedName("CON"), foldedName("con"));
 }
 
-ZORVANE_TEST_MAIN(CopyNamesTest)
+ZORVANE_TEST(CopyNamesTest)
 #include "CopyNamesTest.moc"

@@ -54,5 +54,5 @@ void CopyRateTest::standstillHasNoTimeLeft()
     QVERIFY(!rate.secondsLeft(1));
 }
 
-ZORVANE_TEST_MAIN(CopyRateTest)
+ZORVANE_TEST(CopyRateTest)
 #include "CopyRateTest.moc"

@@ -642,5 +642,5 @@ void DependingFileHelperTest::exportUsesTheViewAndTheNativeFolder()
     QCOMPARE(copier.targetFolder, folders.path("designs"));
 }
 
-ZORVANE_TEST_MAIN(DependingFileHelperTest)
+ZORVANE_TEST(DependingFileHelperTest)
 #include "DependingFileHelperTest.moc"

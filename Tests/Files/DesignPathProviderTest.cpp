@@ -221,5 +221,5 @@ void DesignPathProviderTest::copiesRememberByThemselves()
     QCOMPARE(copy.getPathFromScope(m_import), m_folders.path("a"));
 }
 
-ZORVANE_TEST_MAIN(DesignPathProviderTest)
+ZORVANE_TEST(DesignPathProviderTest)
 #include "DesignPathProviderTest.moc"

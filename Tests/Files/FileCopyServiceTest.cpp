@@ -438,5 +438,5 @@ void FileCopyServiceTest::realCopyThroughTheWholeService()
     QCOMPARE(copy.readAll(), QByteArray("content"));
 }
 
-ZORVANE_TEST_MAIN(FileCopyServiceTest)
+ZORVANE_TEST(FileCopyServiceTest)
 #include "FileCopyServiceTest.moc"

@@ -282,5 +282,5 @@ void FileNameRulesTest::temporaryNamesAreLegalEverywhere()
     }));
 }
 
-ZORVANE_TEST_MAIN(FileNameRulesTest)
+ZORVANE_TEST(FileNameRulesTest)
 #include "FileNameRulesTest.moc"

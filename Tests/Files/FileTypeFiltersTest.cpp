@@ -318,5 +318,5 @@ void FileTypeFiltersTest::documentationHasTheSameTable()
     QCOMPARE(match.captured(3), QString::fromStdString(getExtensionForFileType(type(number))));
 }
 
-ZORVANE_TEST_MAIN(FileTypeFiltersTest)
+ZORVANE_TEST(FileTypeFiltersTest)
 #include "FileTypeFiltersTest.moc"

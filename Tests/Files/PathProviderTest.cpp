@@ -377,5 +377,5 @@ void PathProviderTest::providersAreCopyable()
     QVERIFY(std::is_copy_assignable_v<LastPathProvider>);
 }
 
-ZORVANE_TEST_MAIN(PathProviderTest)
+ZORVANE_TEST(PathProviderTest)
 #include "PathProviderTest.moc"

@@ -60,5 +60,5 @@ void PathTextTest::otherBytesAreEscaped()
     QCOMPARE(QByteArray::fromStdString(pathToBytes(path)), bytes);
 }
 
-ZORVANE_TEST_MAIN(PathTextTest)
+ZORVANE_TEST(PathTextTest)
 #include "PathTextTest.moc"

@@ -85,6 +85,6 @@ void ReadmeExampleTest::showsWhatTheReadmeSays()
     QVERIFY(view.isExpanded(model.indexFromItem(top)));
 }
 
-ZORVANE_TEST_MAIN(ReadmeExampleTest)
+ZORVANE_TEST(ReadmeExampleTest)
 
 #include "ReadmeExampleTest.moc"

@@ -168,5 +168,5 @@ void ExpectedModalsTest::windowsThatAreNotModalAreLeftAlone()
     QVERIFY(modals.allMet());
 }
 
-ZORVANE_TEST_MAIN(ExpectedModalsTest)
+ZORVANE_TEST(ExpectedModalsTest)
 #include "ExpectedModalsTest.moc"

@@ -6,6 +6,9 @@ namespace Zorvane::Testing {
 
 /** What platforms differ in, for tests that have to tell which promise stands where. */
 
+/** Qt's platform plugin that tests use unless the environment names another one. */
+const char* usualPlatform();
+
 /** Makes a link that programs follow to what it names; false where a program may not. */
 bool makeLink(const QString& target, const QString& link);
 

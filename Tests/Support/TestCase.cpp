@@ -66,11 +66,16 @@ void TestCase::cleanup()
                      __FILE__, __LINE__);
 }
 
+bool isLongRun()
+{
+    return qEnvironmentVariableIsSet("ZORVANE_LONG_TESTS");
+}
+
 void prepareApplication()
 {
     static const QTemporaryDir settings;
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", usualPlatform());
     QStandardPaths::setTestModeEnabled(true);
     // A test can answer only dialogs that Qt draws; those of the system have tests of their own.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);

@@ -5,6 +5,11 @@
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 
+#include <optional>
+#include <string>
+
+Q_DECLARE_METATYPE(std::string)
+
 namespace Zorvane::Testing {
 
 /** In milliseconds. Only a failing test waits so long, however busy the machine is. */
@@ -28,7 +33,10 @@ protected Q_SLOTS:
     void cleanup();
 };
 
-/** Settings of tests live in a folder that goes away with the program. */
+/** Whether `./test --long` runs: tests of random cases then take minutes instead of seconds. */
+bool isLongRun();
+
+/** Settings of tests are kept in a folder that is removed when the program ends. */
 void prepareApplication();
 
 template <typename Test>
@@ -39,6 +47,24 @@ int runTest(int argc, char** argv)
     Test test;
     return QTest::qExec(&test, argc, argv);
 }
+
+/**
+ * Enters a test class into its program. `PROGRAM CLASS [option of Qt Test...]` runs one class, each
+ * in a process of its own, so that no class sees what another one left behind.
+ */
+struct TestClass
+{
+    TestClass(const char* name, int (*run)(int argc, char** argv));
+};
+
+/**
+ * Enters a second use of a test program, which some tests start as a child process. `run` returns
+ * nothing where the arguments are not meant for it.
+ */
+struct ChildProcess
+{
+    explicit ChildProcess(std::optional<int> (*run)(int argc, char** argv));
+};
 
 } // namespace Zorvane::Testing
 
@@ -52,8 +78,8 @@ int runTest(int argc, char** argv)
 #define QTRY_COMPARE(actual, expected) \
     QTRY_COMPARE_WITH_TIMEOUT(actual, expected, Zorvane::Testing::patience)
 
-#define ZORVANE_TEST_MAIN(Test)                             \
-    int main(int argc, char** argv)                         \
-    {                                                       \
-        return Zorvane::Testing::runTest<Test>(argc, argv); \
-    }
+#define ZORVANE_TEST(Test) ZORVANE_TEST_RUN_BY(Test, &Zorvane::Testing::runTest<Test>)
+
+/** For a test that needs another application object than the usual one. */
+#define ZORVANE_TEST_RUN_BY(Test, run) \
+    static const Zorvane::Testing::TestClass programEntryOf##Test(#Test, run);

@@ -47,7 +47,6 @@ std::string nameOver(const Items& items)
 } // namespace
 
 Q_DECLARE_METATYPE(Items)
-Q_DECLARE_METATYPE(std::string)
 
 class AddStaticParentToModuleProviderTest : public Testing::TestCase
 {
@@ -241,5 +240,5 @@ void AddStaticParentToModuleProviderTest::inputMayBeTakenAway()
     InputCallbackRules::inputMayBeTakenAway(AddStaticParentToModuleProvider(idOf(100), "Parts"));
 }
 
-ZORVANE_TEST_MAIN(AddStaticParentToModuleProviderTest)
+ZORVANE_TEST(AddStaticParentToModuleProviderTest)
 #include "AddStaticParentToModuleProviderTest.moc"

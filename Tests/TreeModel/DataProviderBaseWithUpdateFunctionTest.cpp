@@ -181,5 +181,5 @@ void DataProviderBaseWithUpdateFunctionTest::failedRefreshStaysPending()
     QCOMPARE(m_log, std::string("a2 "));
 }
 
-ZORVANE_TEST_MAIN(DataProviderBaseWithUpdateFunctionTest)
+ZORVANE_TEST(DataProviderBaseWithUpdateFunctionTest)
 #include "DataProviderBaseWithUpdateFunctionTest.moc"

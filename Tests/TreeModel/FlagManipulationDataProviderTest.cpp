@@ -100,5 +100,5 @@ void FlagManipulationDataProviderTest::callbackIsDropped()
     QCOMPARE(held.use_count(), 1L);
 }
 
-ZORVANE_TEST_MAIN(FlagManipulationDataProviderTest)
+ZORVANE_TEST(FlagManipulationDataProviderTest)
 #include "FlagManipulationDataProviderTest.moc"

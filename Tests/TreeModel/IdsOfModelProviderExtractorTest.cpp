@@ -197,5 +197,5 @@ void IdsOfModelProviderExtractorTest::inputMayBeTakenAway()
     InputCallbackRules::inputMayBeTakenAway(IdsOfModelProviderExtractor());
 }
 
-ZORVANE_TEST_MAIN(IdsOfModelProviderExtractorTest)
+ZORVANE_TEST(IdsOfModelProviderExtractorTest)
 #include "IdsOfModelProviderExtractorTest.moc"

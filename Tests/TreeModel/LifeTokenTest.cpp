@@ -74,5 +74,5 @@ void LifeTokenTest::callbackMayEndTheLife()
     QCOMPARE(calls, 1);
 }
 
-ZORVANE_TEST_MAIN(LifeTokenTest)
+ZORVANE_TEST(LifeTokenTest)
 #include "LifeTokenTest.moc"

@@ -232,5 +232,5 @@ void MergedModelProviderTest::leafCallsTheConsumerDirectly()
     QCOMPARE(calls, 3);
 }
 
-ZORVANE_TEST_MAIN(MergedModelProviderTest)
+ZORVANE_TEST(MergedModelProviderTest)
 #include "MergedModelProviderTest.moc"

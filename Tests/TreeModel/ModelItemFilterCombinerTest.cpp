@@ -10,7 +10,6 @@ using Combination = ModelItemFilterCombiner::Combination;
 using Filters = std::vector<std::shared_ptr<ModelItemFilterInterface>>;
 
 Q_DECLARE_METATYPE(Combination)
-Q_DECLARE_METATYPE(std::string)
 
 class ModelItemFilterCombinerTest : public Testing::TestCase
 {
@@ -289,5 +288,5 @@ void ModelItemFilterCombinerTest::combinersMayBeNested()
     QCOMPARE(calls, 1);
 }
 
-ZORVANE_TEST_MAIN(ModelItemFilterCombinerTest)
+ZORVANE_TEST(ModelItemFilterCombinerTest)
 #include "ModelItemFilterCombinerTest.moc"

@@ -78,5 +78,5 @@ void ModelItemFilterInterfaceTest::changeReachesTheSlot()
     QCOMPARE(calls, 1);
 }
 
-ZORVANE_TEST_MAIN(ModelItemFilterInterfaceTest)
+ZORVANE_TEST(ModelItemFilterInterfaceTest)
 #include "ModelItemFilterInterfaceTest.moc"

@@ -211,5 +211,5 @@ void ModelItemTest::replacedDeepChildrenDie()
     QVERIFY(below.expired());
 }
 
-ZORVANE_TEST_MAIN(ModelItemTest)
+ZORVANE_TEST(ModelItemTest)
 #include "ModelItemTest.moc"

@@ -584,5 +584,5 @@ void ModelItemToZVTreeModelSyncronizerTest::selectionExpansionAndCurrentRowSurvi
     QVERIFY(sortedView.selectionModel()->isSelected(sorted.mapFromSource(m)));
 }
 
-ZORVANE_TEST_MAIN(ModelItemToZVTreeModelSyncronizerTest)
+ZORVANE_TEST(ModelItemToZVTreeModelSyncronizerTest)
 #include "ModelItemToZVTreeModelSyncronizerTest.moc"

@@ -24,12 +24,12 @@ std::uint64_t countByRule(const Items& items)
     return count;
 }
 
-Items randomItems(int levels)
+Items randomTopLevelItems(int levels)
 {
     Items items;
     const int count = levels > 0 ? *rc::gen::inRange(0, 5) : 0;
     for (int i = 0; i < count; ++i)
-        items.push_back(makeItem(static_cast<std::uint64_t>(i), randomItems(levels - 1)));
+        items.push_back(makeItem(static_cast<std::uint64_t>(i), randomTopLevelItems(levels - 1)));
     return items;
 }
 
@@ -139,7 +139,7 @@ void ModelRootTest::countsAnItemOnceForEachOccurrence()
 void ModelRootTest::countsAnyTreeAsTheRuleSays()
 {
     QVERIFY(rc::check("total count of a random tree", [] {
-        const Items items = randomItems(6);
+        const Items items = randomTopLevelItems(6);
         RC_ASSERT(makeRoot(items)->totalItemCount() == countByRule(items));
     }));
 }
@@ -191,5 +191,5 @@ void ModelRootTest::countingDoesNotAllocate()
     QCOMPARE(count == 0, root->empty());
 }
 
-ZORVANE_TEST_MAIN(ModelRootTest)
+ZORVANE_TEST(ModelRootTest)
 #include "ModelRootTest.moc"

@@ -92,5 +92,5 @@ void RowListSortingTest::longListsAreSortedAsShortOnes()
     QVERIFY(rows == expected);
 }
 
-ZORVANE_TEST_MAIN(RowListSortingTest)
+ZORVANE_TEST(RowListSortingTest)
 #include "RowListSortingTest.moc"

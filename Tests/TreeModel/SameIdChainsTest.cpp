@@ -120,5 +120,5 @@ void SameIdChainsTest::takenSlotsArePassedOnce()
     QVERIFY2(chain.steps <= 2 * Count, qPrintable(QString::number(chain.steps)));
 }
 
-ZORVANE_TEST_MAIN(SameIdChainsTest)
+ZORVANE_TEST(SameIdChainsTest)
 #include "SameIdChainsTest.moc"

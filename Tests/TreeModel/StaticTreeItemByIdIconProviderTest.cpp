@@ -238,5 +238,5 @@ void StaticTreeItemByIdIconProviderTest::refreshWritesEveryRowOnce()
     QCOMPARE(rows.takeWriteCount(), std::size_t(0));
 }
 
-ZORVANE_TEST_MAIN(StaticTreeItemByIdIconProviderTest)
+ZORVANE_TEST(StaticTreeItemByIdIconProviderTest)
 #include "StaticTreeItemByIdIconProviderTest.moc"

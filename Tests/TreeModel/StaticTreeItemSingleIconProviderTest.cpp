@@ -74,5 +74,5 @@ void StaticTreeItemSingleIconProviderTest::callbackMayRefreshAtOnce()
     QCOMPARE(rows[0].data(0, Qt::DecorationRole).value<QIcon>().cacheKey(), icon.cacheKey());
 }
 
-ZORVANE_TEST_MAIN(StaticTreeItemSingleIconProviderTest)
+ZORVANE_TEST(StaticTreeItemSingleIconProviderTest)
 #include "StaticTreeItemSingleIconProviderTest.moc"

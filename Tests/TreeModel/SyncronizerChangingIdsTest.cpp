@@ -259,5 +259,5 @@ void SyncronizerChangingIdsTest::rowsThatKeepTheirIdsAreKept()
     QVERIFY(held);
 }
 
-ZORVANE_TEST_MAIN(SyncronizerChangingIdsTest)
+ZORVANE_TEST(SyncronizerChangingIdsTest)
 #include "SyncronizerChangingIdsTest.moc"

@@ -172,5 +172,5 @@ void SyncronizerEffortTest::anyOrderAsksEachRowAFewTimes()
     QVERIFY2(reads <= 8 * Count, qPrintable(QString::number(reads)));
 }
 
-ZORVANE_TEST_MAIN(SyncronizerEffortTest)
+ZORVANE_TEST(SyncronizerEffortTest)
 #include "SyncronizerEffortTest.moc"

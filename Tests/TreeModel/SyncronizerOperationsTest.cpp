@@ -169,7 +169,8 @@ void SyncronizerOperationsTest::initTestCase()
 {
     RandomTrees::registerConverter();
     if (!qEnvironmentVariableIsSet("RC_PARAMS"))
-        qputenv("RC_PARAMS", "max_success=" + QByteArray::number(ZORVANE_RANDOM_CASES));
+        qputenv("RC_PARAMS", qEnvironmentVariableIsSet("ZORVANE_LONG_TESTS") ? "max_success=20000"
+                                                                             : "max_success=500");
 }
 
 void SyncronizerOperationsTest::operationsComeInTheOrderOfThePlainRules()

@@ -54,5 +54,5 @@ void TreeItemStaticDataProviderTest::neverRefreshes()
     QCOMPARE(rows.takeWriteCount(), std::size_t(0));
 }
 
-ZORVANE_TEST_MAIN(TreeItemStaticDataProviderTest)
+ZORVANE_TEST(TreeItemStaticDataProviderTest)
 #include "TreeItemStaticDataProviderTest.moc"

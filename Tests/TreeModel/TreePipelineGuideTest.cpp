@@ -361,5 +361,5 @@ void TreePipelineGuideTest::guideShowsThisCode()
     QCOMPARE(shown, guide.count(QStringLiteral("```cpp\n")));
 }
 
-ZORVANE_TEST_MAIN(TreePipelineGuideTest)
+ZORVANE_TEST(TreePipelineGuideTest)
 #include "TreePipelineGuideTest.moc"

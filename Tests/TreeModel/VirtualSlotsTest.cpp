@@ -80,5 +80,5 @@ void VirtualSlotsTest::orderOfTextProviderInterface()
     QCOMPARE(virtualSlot(&Interface::registerTextChangedCallback), std::ptrdiff_t(3));
 }
 
-ZORVANE_TEST_MAIN(VirtualSlotsTest)
+ZORVANE_TEST(VirtualSlotsTest)
 #include "VirtualSlotsTest.moc"

@@ -99,5 +99,5 @@ void WidgetStateDataProviderTest::neverRefreshesByItself()
     QCOMPARE(rows.takeWriteCount(), std::size_t(0));
 }
 
-ZORVANE_TEST_MAIN(WidgetStateDataProviderTest)
+ZORVANE_TEST(WidgetStateDataProviderTest)
 #include "WidgetStateDataProviderTest.moc"

@@ -249,5 +249,5 @@ void ZVTreeItemDataProviderManagerTest::lastManagerToldOfAProviderHearsIt()
     QCOMPARE(m_log, std::string("second "));
 }
 
-ZORVANE_TEST_MAIN(ZVTreeItemDataProviderManagerTest)
+ZORVANE_TEST(ZVTreeItemDataProviderManagerTest)
 #include "ZVTreeItemDataProviderManagerTest.moc"

@@ -185,5 +185,5 @@ void ZVTreeItemTextProviderTest::copyIsNotToldByTheSource()
     QCOMPARE(rows[0].data(0, Qt::DisplayRole).toString(), QStringLiteral("a1"));
 }
 
-ZORVANE_TEST_MAIN(ZVTreeItemTextProviderTest)
+ZORVANE_TEST(ZVTreeItemTextProviderTest)
 #include "ZVTreeItemTextProviderTest.moc"

@@ -123,5 +123,5 @@ void IdentifierQMetaClassTest::variantsCompareOnceRegistered()
     QVERIFY(!less(two, one));
 }
 
-ZORVANE_TEST_MAIN(IdentifierQMetaClassTest)
+ZORVANE_TEST(IdentifierQMetaClassTest)
 #include "IdentifierQMetaClassTest.moc"

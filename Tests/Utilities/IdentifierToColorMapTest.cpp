@@ -446,5 +446,5 @@ void IdentifierToColorMapTest::hashesOfLikeIdentifiersDiffer()
     QVERIFY2(lowBits.size() > 65'536 * 55 / 100, qPrintable(QString::number(lowBits.size())));
 }
 
-ZORVANE_TEST_MAIN(IdentifierToColorMapTest)
+ZORVANE_TEST(IdentifierToColorMapTest)
 #include "IdentifierToColorMapTest.moc"

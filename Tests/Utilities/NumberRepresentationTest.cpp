@@ -146,5 +146,5 @@ void NumberRepresentationTest::hasNoStepForNotANumber()
     QVERIFY(std::isinf(NumberRepresentation::optimalSpinnerIncrement(-s_infinity)));
 }
 
-ZORVANE_TEST_MAIN(NumberRepresentationTest)
+ZORVANE_TEST(NumberRepresentationTest)
 #include "NumberRepresentationTest.moc"

@@ -531,5 +531,5 @@ void PostEventTaskTest::anythingMayHappenInARun()
     }));
 }
 
-ZORVANE_TEST_MAIN(PostEventTaskTest)
+ZORVANE_TEST(PostEventTaskTest)
 #include "PostEventTaskTest.moc"

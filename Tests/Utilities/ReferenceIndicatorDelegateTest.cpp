@@ -375,5 +375,5 @@ void ReferenceIndicatorDelegateTest::leavesTheModelsToolTipAlone()
     QCOMPARE(toolTipOf(model), QStringLiteral("Door, hood and five more"));
 }
 
-ZORVANE_TEST_MAIN(ReferenceIndicatorDelegateTest)
+ZORVANE_TEST(ReferenceIndicatorDelegateTest)
 #include "ReferenceIndicatorDelegateTest.moc"

@@ -110,5 +110,5 @@ void ReferencePicturesTest::comparingPicturesFindsDifferences()
                  .isTolerable());
 }
 
-ZORVANE_TEST_MAIN(ReferencePicturesTest)
+ZORVANE_TEST(ReferencePicturesTest)
 #include "ReferencePicturesTest.moc"

@@ -23,7 +23,7 @@ namespace Zorvane::Workbench {
 namespace {
 
 const QString s_scope = QStringLiteral("DialogPanel");
-const QString s_geometryKey = QStringLiteral("Workbench/DialogPanel");
+const QString panelGeometryKey = QStringLiteral("Workbench/DialogPanel");
 const QString s_innerGeometryKey = QStringLiteral("Workbench/DialogPanel/Inner");
 const QString s_previewKey = QStringLiteral("Workbench/DialogPanel/Preview");
 const QString s_showPreviewKey = QStringLiteral("Workbench/DialogPanel/ShowPreview");
@@ -176,27 +176,27 @@ void DialogRun::openSeveral()
 
 void DialogRun::openPlaces()
 {
-    FileDialogConfiguration configuration(s_geometryKey);
+    FileDialogConfiguration configuration(panelGeometryKey);
     openWith(configuration, false, {});
 }
 
 void DialogRun::openControls()
 {
-    FileDialogConfiguration configuration(s_geometryKey);
+    FileDialogConfiguration configuration(panelGeometryKey);
     ExampleControls::addAll(configuration);
     openWith(configuration, false, &ExampleControls::follow);
 }
 
 void DialogRun::openSeveralControls()
 {
-    FileDialogConfiguration configuration(s_geometryKey);
+    FileDialogConfiguration configuration(panelGeometryKey);
     ExampleControls::addAll(configuration);
     openWith(configuration, true, &ExampleControls::follow);
 }
 
 void DialogRun::openPlaced()
 {
-    FileDialogConfiguration configuration(s_geometryKey);
+    FileDialogConfiguration configuration(panelGeometryKey);
     ExampleControls::addAct(configuration, tr("To the &corner"));
     openWith(configuration, false,
              [&configuration](bool checked, int, const FileDialogCallbackInterface& callbacks) {
@@ -294,7 +294,7 @@ void DialogRun::proposedFolder()
 
 void DialogRun::nested()
 {
-    FileDialogConfiguration configuration(s_geometryKey);
+    FileDialogConfiguration configuration(panelGeometryKey);
     ExampleControls::addAct(configuration, tr("Open &another dialog"));
     openWith(configuration, false, [this](bool checked, int, const FileDialogCallbackInterface&) {
         if (checked)
@@ -318,7 +318,7 @@ void DialogRun::openInner()
 
 void DialogRun::throwing()
 {
-    FileDialogConfiguration configuration(s_geometryKey);
+    FileDialogConfiguration configuration(panelGeometryKey);
     ExampleControls::addAct(configuration, tr("&Fail"));
     openWith(configuration, false, [](bool, int, const FileDialogCallbackInterface&) {
         throw std::runtime_error("the handler has failed");

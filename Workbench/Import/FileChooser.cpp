@@ -20,7 +20,7 @@ namespace Zorvane::Workbench {
 
 namespace {
 
-const std::string s_geometryKey = "Workbench/FileDialog";
+const std::string chooserGeometryKey = "Workbench/FileDialog";
 const std::string s_showPreviewKey = "Workbench/FileDialog/ShowPreview";
 
 /** The dialog has asked about the name without the ending, which is another file. */
@@ -53,7 +53,7 @@ QStringList DialogFileChooser::files(QWidget* parent, const FileChoice& choice)
 {
     const std::string caption = choice.caption.toStdString();
     const auto configuration = std::make_shared<PreviewFileDialogConfiguration>(
-        s_geometryKey, s_showPreviewKey, caption, caption, choice.scope.toStdString(),
+        chooserGeometryKey, s_showPreviewKey, caption, caption, choice.scope.toStdString(),
         std::list<ZvFileType>(), false);
     PreviewFileDialog dialog(std::make_shared<FilePreviewEditor>(parent), configuration, parent);
     dialog.setFilter(choice.filters);

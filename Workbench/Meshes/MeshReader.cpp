@@ -21,24 +21,24 @@ namespace Zorvane::Workbench {
 
 namespace {
 
-struct Format
+struct MeshFormat
 {
     const char* ending;
     MeshContent (*check)(const QByteArray&);
 };
 
 // clang-format off
-constexpr std::array<Format, 3> formats{{
+constexpr std::array<MeshFormat, 3> formats{{
     {"stl", checkStl},
     {"obj", checkObj},
     {"ply", checkPly},
 }};
 // clang-format on
 
-const Format* formatOf(const QString& path)
+const MeshFormat* formatOf(const QString& path)
 {
     const QString ending = QFileInfo(path).suffix().toLower();
-    for (const Format& format : formats) {
+    for (const MeshFormat& format : formats) {
         if (ending == QLatin1String(format.ending))
             return &format;
     }
@@ -212,7 +212,7 @@ MeshReading MeshReader::read(const QString& path)
 
 MeshReading MeshReader::parse(const QByteArray& content, const QString& path)
 {
-    const Format* format = formatOf(path);
+    const MeshFormat* format = formatOf(path);
     if (format == nullptr)
         return refused(path, tr("is no mesh file: its name must end with stl, obj or ply"));
     if (content.isEmpty())
@@ -232,7 +232,7 @@ bool MeshReader::isMeshFile(const QString& path)
 QStringList MeshReader::nameFilters()
 {
     QStringList filters;
-    for (const Format& format : formats)
+    for (const MeshFormat& format : formats)
         filters.append(QStringLiteral("*.") + QLatin1String(format.ending));
     return filters;
 }

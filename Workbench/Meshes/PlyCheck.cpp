@@ -15,7 +15,7 @@ namespace Zorvane::Workbench {
 
 namespace {
 
-enum class Format
+enum class PlyFormat
 {
     None,
     Ascii,
@@ -91,7 +91,7 @@ struct Element
 
 struct Header
 {
-    Format format = Format::None;
+    PlyFormat format = PlyFormat::None;
     std::vector<Element> elements;
 };
 
@@ -99,7 +99,7 @@ struct Header
 class Values
 {
 public:
-    Values(const QByteArray& content, Format format, TextScanner scanner)
+    Values(const QByteArray& content, PlyFormat format, TextScanner scanner)
         : m_content(content)
         , m_format(format)
         , m_scanner(scanner)
@@ -109,7 +109,7 @@ public:
     /** None at the end of the file, or where a text has no number. */
     std::optional<double> next(Type type)
     {
-        if (m_format == Format::Ascii)
+        if (m_format == PlyFormat::Ascii)
             return numberIn(m_scanner.nextWord());
         const std::size_t size = sizeOf(type);
         if (size > static_cast<std::size_t>(m_content.size()) - m_position)
@@ -121,16 +121,16 @@ public:
 
     QString placeText() const
     {
-        return m_format == Format::Ascii ? m_scanner.lineText()
-                                         : MeshReader::tr("offset %1").arg(m_position);
+        return m_format == PlyFormat::Ascii ? m_scanner.lineText()
+                                            : MeshReader::tr("offset %1").arg(m_position);
     }
 
 private:
     template <typename Number>
     Number as(const char* bytes) const
     {
-        return m_format == Format::BigEndian ? qFromBigEndian<Number>(bytes)
-                                             : qFromLittleEndian<Number>(bytes);
+        return m_format == PlyFormat::BigEndian ? qFromBigEndian<Number>(bytes)
+                                                : qFromLittleEndian<Number>(bytes);
     }
 
     double binary(const char* bytes, Type type) const
@@ -159,7 +159,7 @@ private:
     }
 
     const QByteArray& m_content;
-    Format m_format;
+    PlyFormat m_format;
     TextScanner m_scanner;
     std::size_t m_position;
 };
@@ -210,12 +210,12 @@ private:
     {
         const std::string_view word = m_scanner.nextWordOfLine();
         if (word == "ascii")
-            header.format = Format::Ascii;
+            header.format = PlyFormat::Ascii;
         else if (word == "binary_little_endian")
-            header.format = Format::LittleEndian;
+            header.format = PlyFormat::LittleEndian;
         else if (word == "binary_big_endian")
-            header.format = Format::BigEndian;
-        return header.format != Format::None;
+            header.format = PlyFormat::BigEndian;
+        return header.format != PlyFormat::None;
     }
 
     bool element(Header& header)
@@ -244,7 +244,7 @@ private:
 
     static bool isComplete(const Header& header, QString& reason)
     {
-        if (header.format == Format::None)
+        if (header.format == PlyFormat::None)
             reason = MeshReader::tr("doesn't tell its format");
         if (!hasPoints(header))
             reason = MeshReader::tr("has no points with x, y and z");

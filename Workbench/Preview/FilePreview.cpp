@@ -19,7 +19,7 @@ namespace Zorvane::Workbench {
 
 namespace {
 
-constexpr int s_largestSide = 2048;
+constexpr int largestPictureSide = 2048;
 constexpr int s_smallestSide = 16;
 
 QString notedBy(const QStringList& facts)
@@ -51,7 +51,7 @@ QString linesText(int count, bool hasMore)
 QImage pictureOf(TriangleMesh mesh, const PreviewLook& look)
 {
     const QSize pixels = look.pixels.expandedTo({s_smallestSide, s_smallestSide})
-                             .boundedTo({s_largestSide, s_largestSide});
+                             .boundedTo({largestPictureSide, largestPictureSide});
     const DrawableMesh drawable =
         prepareForDrawing(std::make_shared<const TriangleMesh>(std::move(mesh)));
     OrbitCamera camera;

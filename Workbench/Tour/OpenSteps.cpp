@@ -18,7 +18,7 @@ namespace Zorvane::Workbench {
 
 namespace {
 
-constexpr QSize s_dialogSize(600, 600);
+constexpr QSize s_openDialogSize(600, 600);
 
 PreviewWindow* previewWindow()
 {
@@ -90,7 +90,7 @@ void OpenSteps::lookAtFiles(QFileDialog& dialog, const QString& folder)
     const auto look = [&](const QString& file, PreviewContent::Kind kind, const QString& name) {
         dialog.setDirectory(folder + QLatin1Char('/') + QFileInfo(file).path());
         dialog.selectNameFilter(dialog.nameFilters().last());
-        dialog.resize(s_dialogSize);
+        dialog.resize(s_openDialogSize);
         // Once the folder is read, the name in the box selects its file.
         const QString wanted = QFileInfo(file).fileName();
         const bool isShown = m_driver.waitFor([&] {
@@ -127,7 +127,7 @@ void OpenSteps::askForNames()
     const QString taken = workFolder(QStringLiteral("drawn-cup/part.dsg"));
     m_report.expect(makeFile(taken), QStringLiteral("the other design"));
     const auto show = [this](QDialog& dialog, const char* name) {
-        dialog.resize(dialog.size().boundedTo(s_dialogSize));
+        dialog.resize(dialog.size().boundedTo(s_openDialogSize));
         m_driver.settle();
         pictureInBoth(QString::fromLatin1(name), dialog);
     };

@@ -56,7 +56,7 @@ namespace Zorvane::Workbench {
 
 namespace {
 
-const QString s_geometryKey = QStringLiteral("Workbench/Geometry");
+const QString windowGeometryKey = QStringLiteral("Workbench/Geometry");
 const QString s_stateKey = QStringLiteral("Workbench/State");
 const QString s_sidesKey = QStringLiteral("Workbench/Sides");
 constexpr int s_noticeMilliseconds = 8000;
@@ -553,7 +553,7 @@ void MainWindow::keepLayout()
 {
     m_keepsLayout = true;
     const QSettings settings;
-    restoreGeometry(settings.value(s_geometryKey).toByteArray());
+    restoreGeometry(settings.value(windowGeometryKey).toByteArray());
     restoreState(settings.value(s_stateKey).toByteArray());
     m_layout->restoreState(settings.value(s_sidesKey).toByteArray());
 }
@@ -566,7 +566,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     }
     if (m_keepsLayout) {
         QSettings settings;
-        settings.setValue(s_geometryKey, saveGeometry());
+        settings.setValue(windowGeometryKey, saveGeometry());
         settings.setValue(s_stateKey, saveState());
         settings.setValue(s_sidesKey, m_layout->saveState());
     }

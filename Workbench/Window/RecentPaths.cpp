@@ -7,14 +7,14 @@ namespace Zorvane::Workbench {
 
 namespace {
 
-const QString s_key = QStringLiteral("Workbench/RecentPaths");
+const QString recentPathsKey = QStringLiteral("Workbench/RecentPaths");
 constexpr int s_most = 10;
 
 } // namespace
 
 QStringList RecentPaths::paths()
 {
-    return QSettings().value(s_key).toStringList();
+    return QSettings().value(recentPathsKey).toStringList();
 }
 
 void RecentPaths::add(const QString& path)
@@ -23,12 +23,12 @@ void RecentPaths::add(const QString& path)
     QStringList all = paths();
     all.removeAll(absolute);
     all.prepend(absolute);
-    QSettings().setValue(s_key, QStringList(all.mid(0, s_most)));
+    QSettings().setValue(recentPathsKey, QStringList(all.mid(0, s_most)));
 }
 
 void RecentPaths::clear()
 {
-    QSettings().remove(s_key);
+    QSettings().remove(recentPathsKey);
 }
 
 } // namespace Zorvane::Workbench

@@ -137,5 +137,5 @@ void TwoScreensTest::dialogOnNoScreenComesToThePreviews()
     }
 }
 
-ZORVANE_TEST_MAIN(TwoScreensTest)
+ZORVANE_TEST(TwoScreensTest)
 #include "TwoScreensTest.moc"

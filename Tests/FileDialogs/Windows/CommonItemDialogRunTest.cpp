@@ -2,7 +2,7 @@
 
 #include "FileDialogs/Windows/DpiAwarenessScope.h"
 #include "Tests/FileDialogs/Windows/CommonItemDialogTestCase.h"
-#include "Tests/Support/Windows/NativeTest.h"
+#include "Tests/Support/TestCase.h"
 
 #include <stdexcept>
 #include <thread>
@@ -284,5 +284,5 @@ void CommonItemDialogRunTest::placingStartsAgainUntilVisible()
     QCOMPARE(placed, last);
 }
 
-ZORVANE_NATIVE_TEST_MAIN(CommonItemDialogRunTest)
+ZORVANE_TEST(CommonItemDialogRunTest)
 #include "CommonItemDialogRunTest.moc"

@@ -6,7 +6,7 @@
 #include "Tests/FileDialogs/DialogFixtures.h"
 #include "Tests/FileDialogs/Windows/CommonItemDialogTestCase.h"
 #include "Tests/Support/ExpectedModals.h"
-#include "Tests/Support/Windows/NativeTest.h"
+#include "Tests/Support/TestCase.h"
 #include "Tests/Support/Windows/SpyItemArray.h"
 
 #include <stdexcept>
@@ -551,5 +551,5 @@ void CommonItemDialogTest::facadeFallsBackForSave()
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
 }
 
-ZORVANE_NATIVE_TEST_MAIN(CommonItemDialogTest)
+ZORVANE_TEST(CommonItemDialogTest)
 #include "CommonItemDialogTest.moc"

@@ -5,8 +5,8 @@
 #include "Files/Windows/ComApartment.h"
 #include "Files/Windows/ComPointer.h"
 #include "Tests/FileDialogs/Windows/NativeDialogFixture.h"
+#include "Tests/Support/TestCase.h"
 #include "Tests/Support/Windows/DialogPilot.h"
-#include "Tests/Support/Windows/NativeTest.h"
 
 #include <QtCore/QSettings>
 
@@ -617,5 +617,5 @@ void NativeDialogEventsTest::nestedDialogsRecordEachItsOwn()
     QCOMPARE(inner.stored.size(), 1U);
 }
 
-ZORVANE_NATIVE_TEST_MAIN(NativeDialogEventsTest)
+ZORVANE_TEST(NativeDialogEventsTest)
 #include "NativeDialogEventsTest.moc"

@@ -3,8 +3,8 @@
 #include "FileDialogs/Windows/CommonItemDialogDriver.h"
 #include "Tests/FileDialogs/DialogFixtures.h"
 #include "Tests/FileDialogs/Windows/NativeDialogFixture.h"
+#include "Tests/Support/TestCase.h"
 #include "Tests/Support/Windows/DialogPilot.h"
-#include "Tests/Support/Windows/NativeTest.h"
 
 #include <QtWidgets/QWidget>
 
@@ -388,5 +388,5 @@ void NativeDialogTest::theFacadeHandsOverOwnerPathAndPlaces()
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
 }
 
-ZORVANE_NATIVE_TEST_MAIN(NativeDialogTest)
+ZORVANE_TEST(NativeDialogTest)
 #include "NativeDialogTest.moc"

@@ -2,8 +2,8 @@
 #include "Tests/FileDialogs/DialogFixtures.h"
 #include "Tests/FileDialogs/PreviewFixtures.h"
 #include "Tests/FileDialogs/Windows/NativeDialogFixture.h"
+#include "Tests/Support/TestCase.h"
 #include "Tests/Support/Windows/DialogPilot.h"
-#include "Tests/Support/Windows/NativeTest.h"
 
 #include <QtCore/QSettings>
 
@@ -110,5 +110,5 @@ void NativePreviewTest::checkBoxShowsAndHidesThePreview()
     QVERIFY(QSettings().value(QStringLiteral("PreviewTest/ShowPreview")).toBool());
 }
 
-ZORVANE_NATIVE_TEST_MAIN(NativePreviewTest)
+ZORVANE_TEST(NativePreviewTest)
 #include "NativePreviewTest.moc"

@@ -3,9 +3,9 @@
 #include "FileDialogs/Windows/DialogGuard.h"
 #include "Files/Windows/ComApartment.h"
 #include "Tests/FileDialogs/Windows/NativeDialogFixture.h"
+#include "Tests/Support/TestCase.h"
 #include "Tests/Support/Windows/FakeItemDialog.h"
 #include "Tests/Support/Windows/FakeShellView.h"
-#include "Tests/Support/Windows/NativeTest.h"
 #include "Tests/Support/Windows/TaskMemorySpy.h"
 
 #include <optional>
@@ -193,5 +193,5 @@ void PresetFileTest::wantOfMemoryStaysOutOfTheSystemsCode()
     QCOMPARE(m_script.calls.names().last(), QStringLiteral("Close"));
 }
 
-ZORVANE_NATIVE_TEST_MAIN(PresetFileTest)
+ZORVANE_TEST(PresetFileTest)
 #include "PresetFileTest.moc"

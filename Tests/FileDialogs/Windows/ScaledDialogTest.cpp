@@ -1,6 +1,6 @@
 #include "Tests/FileDialogs/Windows/NativeDialogFixture.h"
+#include "Tests/Support/TestCase.h"
 #include "Tests/Support/Windows/DialogPilot.h"
-#include "Tests/Support/Windows/NativeTest.h"
 
 #include <QtCore/QSettings>
 #include <QtGui/QGuiApplication>
@@ -67,10 +67,11 @@ void ScaledDialogTest::geometryIsInQtsPixels()
     QCOMPARE(configuration.stored.back(), QRect(20, 20, 481, 341));
 }
 
-int main(int argc, char** argv)
+static int runScaled(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "windows");
     qputenv("QT_SCALE_FACTOR", "1.5");
     return Testing::runTest<ScaledDialogTest>(argc, argv);
 }
+
+ZORVANE_TEST_RUN_BY(ScaledDialogTest, &runScaled)
 #include "ScaledDialogTest.moc"

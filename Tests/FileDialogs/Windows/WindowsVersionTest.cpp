@@ -12,7 +12,7 @@ using namespace Zorvane;
 
 namespace {
 
-constexpr char s_tellDriver[] = "--tell-driver";
+constexpr char driverQuestion[] = "--tell-driver";
 
 enum Answer
 {
@@ -20,10 +20,14 @@ enum Answer
     Driver = 41
 };
 
-int tellDriver()
+std::optional<int> answerDriverQuestion(int argc, char** argv)
 {
+    if (argc != 2 || qstrcmp(argv[1], driverQuestion) != 0)
+        return std::nullopt;
     return createNativeFileDialogDriver() ? Driver : NoDriver;
 }
+
+const Testing::ChildProcess driverProcess(&answerDriverQuestion);
 
 /** As long as it lives, Wine shows this program another version of Windows when it starts. */
 class ShownVersion
@@ -77,17 +81,12 @@ void WindowsVersionTest::beforeVersionSixThereIsNoDriver()
     QFETCH(QString, version);
     const ShownVersion shown(version);
     QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(s_tellDriver)});
+    child.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(driverQuestion)});
     // The test's own time limit is the limit.
     QVERIFY(child.waitForFinished(-1));
     QCOMPARE(child.exitStatus(), QProcess::NormalExit);
     QTEST(child.exitCode(), "answer");
 }
 
-int main(int argc, char** argv)
-{
-    if (argc == 2 && qstrcmp(argv[1], s_tellDriver) == 0)
-        return tellDriver();
-    return Testing::runTest<WindowsVersionTest>(argc, argv);
-}
+ZORVANE_TEST(WindowsVersionTest)
 #include "WindowsVersionTest.moc"

@@ -99,5 +99,5 @@ void CopyCrashTest::finalNameIsWholeAtEveryMoment()
     }
 }
 
-ZORVANE_TEST_MAIN(CopyCrashTest)
+ZORVANE_TEST(CopyCrashTest)
 #include "CopyCrashTest.moc"

@@ -440,5 +440,5 @@ void CopyEngineTest::memoryStaysFlat()
     QVERIFY2(grownKibibytes < 8 * 1024, qPrintable(QString::number(grownKibibytes)));
 }
 
-ZORVANE_TEST_MAIN(CopyEngineTest)
+ZORVANE_TEST(CopyEngineTest)
 #include "CopyEngineTest.moc"

@@ -382,5 +382,5 @@ void CopyFaultTest::attributesThatCannotBeKeptAreNoFailure()
     QCOMPARE(outcomes[0].fate, CopyFate::Copied);
 }
 
-ZORVANE_TEST_MAIN(CopyFaultTest)
+ZORVANE_TEST(CopyFaultTest)
 #include "CopyFaultTest.moc"

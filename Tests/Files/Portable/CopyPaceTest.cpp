@@ -281,5 +281,5 @@ void CopyPaceTest::groupsAdaptToTheDisk()
     QCOMPARE(groupsOf(files, static_cast<std::size_t>(size), milliseconds), groups);
 }
 
-ZORVANE_TEST_MAIN(CopyPaceTest)
+ZORVANE_TEST(CopyPaceTest)
 #include "CopyPaceTest.moc"

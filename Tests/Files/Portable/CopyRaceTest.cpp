@@ -345,5 +345,5 @@ void CopyRaceTest::caseMattersWhereItDoes()
     QCOMPARE(outcomes[1].fate, CopyFate::Copied);
 }
 
-ZORVANE_TEST_MAIN(CopyRaceTest)
+ZORVANE_TEST(CopyRaceTest)
 #include "CopyRaceTest.moc"

@@ -97,5 +97,5 @@ void SystemCallsTest::unnamedFileReplacesNothing()
     QCOMPARE(link("part.stl"), EEXIST);
 }
 
-ZORVANE_TEST_MAIN(SystemCallsTest)
+ZORVANE_TEST(SystemCallsTest)
 #include "SystemCallsTest.moc"

@@ -211,5 +211,5 @@ void FileOpSinkTest::copiedRecordsHoldReferencesOfTheirOwn()
     QCOMPARE(Counted::living(), 0);
 }
 
-ZORVANE_TEST_MAIN(FileOpSinkTest)
+ZORVANE_TEST(FileOpSinkTest)
 #include "FileOpSinkTest.moc"

@@ -441,5 +441,5 @@ void ShellCopierTest::theUtilityCopiesByTheShell()
     QCOMPARE(filesInTarget(), QStringList{QStringLiteral("a.stl")});
 }
 
-ZORVANE_TEST_MAIN(ShellCopierTest)
+ZORVANE_TEST(ShellCopierTest)
 #include "ShellCopierTest.moc"

@@ -312,5 +312,5 @@ void ShellCopyTest::wantOfMemoryStaysOutOfTheSystemsCode()
     QCOMPARE(m_script.calls.calls().last(), s_calls.last());
 }
 
-ZORVANE_TEST_MAIN(ShellCopyTest)
+ZORVANE_TEST(ShellCopyTest)
 #include "ShellCopyTest.moc"

@@ -274,5 +274,5 @@ void SvgIconTest::everyDrawingOfTheSuiteCanBeSeen()
     }
 }
 
-ZORVANE_TEST_MAIN(SvgIconTest)
+ZORVANE_TEST(SvgIconTest)
 #include "SvgIconTest.moc"

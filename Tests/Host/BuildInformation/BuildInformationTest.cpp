@@ -21,5 +21,5 @@ void BuildInformationTest::theProductIsWhatTheApplicationSet()
     QCOMPARE(BuildInformation::getProductType(), 0);
 }
 
-ZORVANE_TEST_MAIN(BuildInformationTest)
+ZORVANE_TEST(BuildInformationTest)
 #include "BuildInformationTest.moc"

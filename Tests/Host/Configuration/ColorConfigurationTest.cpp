@@ -113,5 +113,5 @@ void ColorConfigurationTest::colorsMayBeWorkedOut()
     compare(ColorConfiguration::getRegisteredInstance()->getColor(1), 0.1F, 0.0F, 0.0F);
 }
 
-ZORVANE_TEST_MAIN(ColorConfigurationTest)
+ZORVANE_TEST(ColorConfigurationTest)
 #include "ColorConfigurationTest.moc"

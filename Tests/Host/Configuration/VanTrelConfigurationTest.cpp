@@ -68,5 +68,5 @@ void VanTrelConfigurationTest::aSettingMayBeWorkedOut()
     QVERIFY(VanTrelConfiguration::getRegisteredInstance()->getDisableExportWithoutStandard());
 }
 
-ZORVANE_TEST_MAIN(VanTrelConfigurationTest)
+ZORVANE_TEST(VanTrelConfigurationTest)
 #include "VanTrelConfigurationTest.moc"

@@ -146,5 +146,5 @@ void DesignStatusTest::statusOfAnotherDesignIsForgotten()
     QVERIFY(!status.isJobRunning());
 }
 
-ZORVANE_TEST_MAIN(DesignStatusTest)
+ZORVANE_TEST(DesignStatusTest)
 #include "DesignStatusTest.moc"

@@ -9,8 +9,6 @@
 
 using namespace Zorvane;
 
-Q_DECLARE_METATYPE(std::string)
-
 class FileNameTest : public Testing::TestCase
 {
     Q_OBJECT
@@ -178,5 +176,5 @@ void FileNameTest::emptyNameIsEquivalentOnlyToItself()
     QVERIFY(!FileUtilities::isEquivalent(FileName("."), FileName()));
 }
 
-ZORVANE_TEST_MAIN(FileNameTest)
+ZORVANE_TEST(FileNameTest)
 #include "FileNameTest.moc"

@@ -4,7 +4,6 @@
 using namespace Zorvane;
 
 Q_DECLARE_METATYPE(Zorvane::PathSyntax)
-Q_DECLARE_METATYPE(std::string)
 
 class PathSyntaxTest : public Testing::TestCase
 {
@@ -107,5 +106,5 @@ void PathSyntaxTest::longPathsKeepEveryLetter()
     QCOMPARE(leafOf(folder + "/" + leaf, PathSyntax::Windows), leaf);
 }
 
-ZORVANE_TEST_MAIN(PathSyntaxTest)
+ZORVANE_TEST(PathSyntaxTest)
 #include "PathSyntaxTest.moc"

@@ -195,5 +195,5 @@ void ZvFileTypeTest::stlIsTakenByItsContent()
     QCOMPARE(int(typeOf(dir.path())), int(ZvFileType::Unknown));
 }
 
-ZORVANE_TEST_MAIN(ZvFileTypeTest)
+ZORVANE_TEST(ZvFileTypeTest)
 #include "ZvFileTypeTest.moc"

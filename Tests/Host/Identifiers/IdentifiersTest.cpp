@@ -179,5 +179,5 @@ void IdentifiersTest::metaTypeIsMovableAndConstructed()
     QVERIFY(flags.testFlag(QMetaType::NeedsDestruction));
 }
 
-ZORVANE_TEST_MAIN(IdentifiersTest)
+ZORVANE_TEST(IdentifiersTest)
 #include "IdentifiersTest.moc"

@@ -172,5 +172,5 @@ void PathConfigurationTest::nothingIsCreated()
     QVERIFY(!QFileInfo::exists(missing));
 }
 
-ZORVANE_TEST_MAIN(PathConfigurationTest)
+ZORVANE_TEST(PathConfigurationTest)
 #include "PathConfigurationTest.moc"

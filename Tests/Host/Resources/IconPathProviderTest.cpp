@@ -55,5 +55,5 @@ void IconPathProviderTest::theApplicationRegistersItsOwn()
     QVERIFY(Resources::getIconPathProvider()->getOverviewIconPath() != QStringLiteral("mine.svg"));
 }
 
-ZORVANE_TEST_MAIN(IconPathProviderTest)
+ZORVANE_TEST(IconPathProviderTest)
 #include "IconPathProviderTest.moc"

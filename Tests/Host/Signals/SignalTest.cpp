@@ -311,5 +311,5 @@ void SignalTest::slotCountTellsLiveSubscriptions()
     QVERIFY(!signal.empty());
 }
 
-ZORVANE_TEST_MAIN(SignalTest)
+ZORVANE_TEST(SignalTest)
 #include "SignalTest.moc"

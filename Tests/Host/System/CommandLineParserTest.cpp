@@ -85,7 +85,7 @@ void CommandLineParserTest::programAddsOptions()
     QCOMPARE(parser.options().positionalArguments(), QStringList(QStringLiteral("a.dsg")));
 }
 
-int main(int argc, char** argv)
+static int runWithOption(int argc, char** argv)
 {
     Zorvane::Testing::prepareApplication();
     char option[] = "--alternativeFileDialog";
@@ -95,4 +95,6 @@ int main(int argc, char** argv)
     CommandLineParserTest test;
     return QTest::qExec(&test, argc, argv);
 }
+
+ZORVANE_TEST_RUN_BY(CommandLineParserTest, &runWithOption)
 #include "CommandLineParserTest.moc"

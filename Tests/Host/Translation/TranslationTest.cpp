@@ -125,5 +125,5 @@ void TranslationTest::argStringTakesStandardStringsInUtf8()
                                  "e: 12"));
 }
 
-ZORVANE_TEST_MAIN(TranslationTest)
+ZORVANE_TEST(TranslationTest)
 #include "TranslationTest.moc"

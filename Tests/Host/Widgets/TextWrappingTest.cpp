@@ -90,5 +90,5 @@ void TextWrappingTest::noWidthIsNoLimit()
     QCOMPARE(wrapTextToFitWidth(text, QApplication::font(), -1), text);
 }
 
-ZORVANE_TEST_MAIN(TextWrappingTest)
+ZORVANE_TEST(TextWrappingTest)
 #include "TextWrappingTest.moc"

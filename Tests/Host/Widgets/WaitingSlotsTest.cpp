@@ -151,5 +151,5 @@ void WaitingSlotsTest::anyOrderIsThatOfAPlainList()
     QVERIFY(held);
 }
 
-ZORVANE_TEST_MAIN(WaitingSlotsTest)
+ZORVANE_TEST(WaitingSlotsTest)
 #include "WaitingSlotsTest.moc"

@@ -294,5 +294,5 @@ void ZVConverterDialogTest::focusComesBackAfterConverting()
     QCOMPARE(window.focusWidget(), button(window, "&Convert"));
 }
 
-ZORVANE_TEST_MAIN(ZVConverterDialogTest)
+ZORVANE_TEST(ZVConverterDialogTest)
 #include "ZVConverterDialogTest.moc"

@@ -151,5 +151,5 @@ void ZVExclusiveActionGroupTest::anActionMayBeDeleted()
     QCOMPARE(m_group->actionOf(1), static_cast<QAction*>(nullptr));
 }
 
-ZORVANE_TEST_MAIN(ZVExclusiveActionGroupTest)
+ZORVANE_TEST(ZVExclusiveActionGroupTest)
 #include "ZVExclusiveActionGroupTest.moc"

@@ -213,5 +213,5 @@ void ZVFormatterTest::writingWhatWasReadGivesTheSameText()
     }));
 }
 
-ZORVANE_TEST_MAIN(ZVFormatterTest)
+ZORVANE_TEST(ZVFormatterTest)
 #include "ZVFormatterTest.moc"

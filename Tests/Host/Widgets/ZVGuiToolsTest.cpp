@@ -369,5 +369,5 @@ void ZVGuiToolsTest::theFlatStyleIsTheApplicationsChoice()
     QVERIFY(!ZVGuiTools::isFlatStyle());
 }
 
-ZORVANE_TEST_MAIN(ZVGuiToolsTest)
+ZORVANE_TEST(ZVGuiToolsTest)
 #include "ZVGuiToolsTest.moc"

@@ -86,5 +86,5 @@ void ZVItemDelegateTest::opacityIsKept()
     QCOMPARE(OpenDelegate::disabledColor(QColor(200, 40, 40, 77)).alpha(), 77);
 }
 
-ZORVANE_TEST_MAIN(ZVItemDelegateTest)
+ZORVANE_TEST(ZVItemDelegateTest)
 #include "ZVItemDelegateTest.moc"

@@ -291,5 +291,5 @@ void ZVMessageBoxTest::maximumWidthWrapsTheText()
     box.exec();
 }
 
-ZORVANE_TEST_MAIN(ZVMessageBoxTest)
+ZORVANE_TEST(ZVMessageBoxTest)
 #include "ZVMessageBoxTest.moc"

@@ -42,8 +42,6 @@ const char* const c_threeRows = "a b c";
 
 } // namespace
 
-Q_DECLARE_METATYPE(std::string)
-
 class ZVTreeViewItemTest : public Testing::TestCase
 {
     Q_OBJECT
@@ -660,5 +658,5 @@ void ZVTreeViewItemTest::veryWideTreeIsDeleted()
     QCOMPARE(CountedRow::alive, 0);
 }
 
-ZORVANE_TEST_MAIN(ZVTreeViewItemTest)
+ZORVANE_TEST(ZVTreeViewItemTest)
 #include "ZVTreeViewItemTest.moc"

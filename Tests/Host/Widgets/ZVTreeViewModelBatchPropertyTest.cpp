@@ -479,5 +479,5 @@ void ZVTreeViewModelBatchPropertyTest::slotsMayChangeRowsAtEverySignal()
     QVERIFY(held);
 }
 
-ZORVANE_TEST_MAIN(ZVTreeViewModelBatchPropertyTest)
+ZORVANE_TEST(ZVTreeViewModelBatchPropertyTest)
 #include "ZVTreeViewModelBatchPropertyTest.moc"

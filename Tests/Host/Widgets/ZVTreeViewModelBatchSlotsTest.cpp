@@ -464,5 +464,5 @@ void ZVTreeViewModelBatchSlotsTest::slotMayEmptyTheListThatARowGoesTo()
     QVERIFY(!m_kept->parent());
 }
 
-ZORVANE_TEST_MAIN(ZVTreeViewModelBatchSlotsTest)
+ZORVANE_TEST(ZVTreeViewModelBatchSlotsTest)
 #include "ZVTreeViewModelBatchSlotsTest.moc"

@@ -658,5 +658,5 @@ void ZVTreeViewModelBatchTest::nothingIsLostInADeepTree()
         QCOMPARE(index.row(), 1);
 }
 
-ZORVANE_TEST_MAIN(ZVTreeViewModelBatchTest)
+ZORVANE_TEST(ZVTreeViewModelBatchTest)
 #include "ZVTreeViewModelBatchTest.moc"

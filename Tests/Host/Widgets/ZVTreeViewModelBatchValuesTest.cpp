@@ -149,5 +149,5 @@ void ZVTreeViewModelBatchValuesTest::valuesOfNewRowsAreNotAnnounced()
     QCOMPARE(textsOf(m_tree->model), QStringLiteral("A(B)"));
 }
 
-ZORVANE_TEST_MAIN(ZVTreeViewModelBatchValuesTest)
+ZORVANE_TEST(ZVTreeViewModelBatchValuesTest)
 #include "ZVTreeViewModelBatchValuesTest.moc"

@@ -554,5 +554,5 @@ void ZVTreeViewModelTest::modelMayGoBeforeItsViews()
     view.grab();
 }
 
-ZORVANE_TEST_MAIN(ZVTreeViewModelTest)
+ZORVANE_TEST(ZVTreeViewModelTest)
 #include "ZVTreeViewModelTest.moc"

@@ -399,5 +399,5 @@ void ZVTreeViewPlaceKeeperTest::anyRefreshKeepsThePlace()
     QVERIFY(held);
 }
 
-ZORVANE_TEST_MAIN(ZVTreeViewPlaceKeeperTest)
+ZORVANE_TEST(ZVTreeViewPlaceKeeperTest)
 #include "ZVTreeViewPlaceKeeperTest.moc"

@@ -60,5 +60,5 @@ void ZVWidgetStatusTest::everyStateIsABitOfItsOwn()
     }
 }
 
-ZORVANE_TEST_MAIN(ZVWidgetStatusTest)
+ZORVANE_TEST(ZVWidgetStatusTest)
 #include "ZVWidgetStatusTest.moc"

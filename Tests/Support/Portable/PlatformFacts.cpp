@@ -4,6 +4,11 @@
 
 namespace Zorvane::Testing {
 
+const char* usualPlatform()
+{
+    return "offscreen";
+}
+
 bool makeLink(const QString& target, const QString& link)
 {
     return QFile::link(target, link);

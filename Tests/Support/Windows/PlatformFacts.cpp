@@ -20,6 +20,11 @@ const wchar_t* wide(const QString& path)
 
 } // namespace
 
+const char* usualPlatform()
+{
+    return "windows";
+}
+
 bool makeLink(const QString& target, const QString& link)
 {
     const QString to = QDir::toNativeSeparators(target);

@@ -86,5 +86,5 @@ void StandInTest::nothingIsDrawnOutsideOfAProperty()
     QVERIFY_EXCEPTION_THROWN(*rc::gen::arbitrary<int>(), std::logic_error);
 }
 
-ZORVANE_TEST_MAIN(StandInTest)
+ZORVANE_TEST(StandInTest)
 #include "StandInTest.moc"

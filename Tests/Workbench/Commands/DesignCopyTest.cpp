@@ -125,5 +125,5 @@ void DesignCopyTest::longNamesAreProposedShortened()
 
 using Zorvane::Workbench::DesignCopyTest;
 
-ZORVANE_TEST_MAIN(DesignCopyTest)
+ZORVANE_TEST(DesignCopyTest)
 #include "DesignCopyTest.moc"

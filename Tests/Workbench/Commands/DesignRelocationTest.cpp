@@ -559,5 +559,5 @@ void DesignRelocationTest::folderThatCannotBeMadeIsTold()
 
 using Zorvane::Workbench::DesignRelocationTest;
 
-ZORVANE_TEST_MAIN(DesignRelocationTest)
+ZORVANE_TEST(DesignRelocationTest)
 #include "DesignRelocationTest.moc"

@@ -418,5 +418,5 @@ void FileCommandsTest::whatCannotBeWrittenIsTold()
 
 using Zorvane::Workbench::FileCommandsTest;
 
-ZORVANE_TEST_MAIN(FileCommandsTest)
+ZORVANE_TEST(FileCommandsTest)
 #include "FileCommandsTest.moc"

@@ -265,10 +265,6 @@ void OpenByKeyboardTest::previewNeverTakesTheFocus()
 
 } // namespace Zorvane::Workbench
 
-int main(int argc, char** argv)
-{
-    if (const std::optional<int> result = Zorvane::Workbench::runPreviewWorker(argc, argv))
-        return *result;
-    return Zorvane::Testing::runTest<Zorvane::Workbench::OpenByKeyboardTest>(argc, argv);
-}
+using Zorvane::Workbench::OpenByKeyboardTest;
+ZORVANE_TEST(OpenByKeyboardTest)
 #include "OpenByKeyboardTest.moc"

@@ -327,5 +327,5 @@ void SaveByKeyboardTest::openFolderIsLeftByEscape()
 
 using Zorvane::Workbench::SaveByKeyboardTest;
 
-ZORVANE_TEST_MAIN(SaveByKeyboardTest)
+ZORVANE_TEST(SaveByKeyboardTest)
 #include "SaveByKeyboardTest.moc"

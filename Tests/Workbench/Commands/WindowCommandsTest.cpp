@@ -500,5 +500,5 @@ void WindowCommandsTest::theTableGoesWithTheLastWindow()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::WindowCommandsTest;
-ZORVANE_TEST_MAIN(WindowCommandsTest)
+ZORVANE_TEST(WindowCommandsTest)
 #include "WindowCommandsTest.moc"

@@ -142,5 +142,5 @@ void BackgroundWorkTest::exceptionsArriveWhereTheWorkIsWaitedFor()
         std::runtime_error);
 }
 
-ZORVANE_TEST_MAIN(BackgroundWorkTest)
+ZORVANE_TEST(BackgroundWorkTest)
 #include "BackgroundWorkTest.moc"

@@ -339,5 +339,5 @@ void MeshConversionTest::choosersAreSetUp()
     QCOMPARE(key, QStringLiteral("ConvertOutput"));
 }
 
-ZORVANE_TEST_MAIN(MeshConversionTest)
+ZORVANE_TEST(MeshConversionTest)
 #include "MeshConversionTest.moc"

@@ -14,6 +14,11 @@ QString uuidText(int number)
     return QStringLiteral("00000000-0000-4000-8000-%1").arg(number, 12, 10, QLatin1Char('0'));
 }
 
+GUIdentifier id(int number)
+{
+    return GUIdentifier(uuidText(number).toStdString());
+}
+
 QJsonObject entry(int id, const QString& name)
 {
     return {{QStringLiteral("id"), uuidText(id)}, {QStringLiteral("name"), name}};

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Host/Identifiers/GUIdentifier.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonObject>
@@ -9,6 +11,8 @@ namespace Zorvane::Testing {
 
 /** A UUID's text that is always the same for the same number. */
 QString uuidText(int number);
+/** The identifier with that text. */
+GUIdentifier id(int number);
 /** {"id": ..., "name": ...} */
 QJsonObject entry(int id, const QString& name);
 QJsonObject fileEntry(int id, const QString& name, const QString& kind, const QString& path);

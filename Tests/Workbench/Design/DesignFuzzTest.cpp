@@ -105,5 +105,5 @@ void DesignFuzzTest::damagedValuesAreReportedAndKept()
     }));
 }
 
-ZORVANE_TEST_MAIN(DesignFuzzTest)
+ZORVANE_TEST(DesignFuzzTest)
 #include "DesignFuzzTest.moc"

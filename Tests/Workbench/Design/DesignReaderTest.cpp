@@ -21,11 +21,6 @@ QString designsFolder()
     return QDir::rootPath() + QStringLiteral("designs");
 }
 
-GUIdentifier id(int number)
-{
-    return GUIdentifier(uuidText(number).toStdString());
-}
-
 /** Changes one object of a list of a design. */
 Change inList(const QString& list, int index, const Change& change)
 {
@@ -362,5 +357,5 @@ void DesignReaderTest::listsOnlySoManyProblems()
     QVERIFY(problems.back().reason.contains(QStringLiteral("900")));
 }
 
-ZORVANE_TEST_MAIN(DesignReaderTest)
+ZORVANE_TEST(DesignReaderTest)
 #include "DesignReaderTest.moc"

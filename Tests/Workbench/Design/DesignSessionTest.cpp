@@ -695,5 +695,5 @@ void DesignSessionTest::keepsModifiedDesignNoLongerReferredTo()
     QVERIFY(readFile(path("small.dsg")).contains("Ours"));
 }
 
-ZORVANE_TEST_MAIN(DesignSessionTest)
+ZORVANE_TEST(DesignSessionTest)
 #include "DesignSessionTest.moc"

@@ -115,5 +115,5 @@ void DesignSpellingsTest::designsAreReplacedByKnownFiles()
     expectOnly({other});
 }
 
-ZORVANE_TEST_MAIN(DesignSpellingsTest)
+ZORVANE_TEST(DesignSpellingsTest)
 #include "DesignSpellingsTest.moc"

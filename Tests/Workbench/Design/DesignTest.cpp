@@ -84,5 +84,5 @@ void DesignTest::endingTellsADesign()
     QTEST(FileNames::isDesign(path), "isDesign");
 }
 
-ZORVANE_TEST_MAIN(DesignTest)
+ZORVANE_TEST(DesignTest)
 #include "DesignTest.moc"

@@ -173,5 +173,5 @@ void DesignWriterTest::leavesTheOldFileWhenItCannotWrite()
     QVERIFY(QFileInfo(design.file).isDir());
 }
 
-ZORVANE_TEST_MAIN(DesignWriterTest)
+ZORVANE_TEST(DesignWriterTest)
 #include "DesignWriterTest.moc"

@@ -168,5 +168,5 @@ void FileAdditionsTest::keepsAddedFilesOnConflict()
     QVERIFY(readFile(file).contains("Theirs"));
 }
 
-ZORVANE_TEST_MAIN(FileAdditionsTest)
+ZORVANE_TEST(FileAdditionsTest)
 #include "FileAdditionsTest.moc"

@@ -149,5 +149,5 @@ void FileReferencesTest::refreshTellsWhetherAnythingChanged()
     QCOMPARE(design.files[0].state, FileState::Missing);
 }
 
-ZORVANE_TEST_MAIN(FileReferencesTest)
+ZORVANE_TEST(FileReferencesTest)
 #include "FileReferencesTest.moc"

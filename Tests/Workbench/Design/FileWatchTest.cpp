@@ -149,5 +149,5 @@ void FileWatchTest::tellsBurstTogether()
     QVERIFY(m_times < 200);
 }
 
-ZORVANE_TEST_MAIN(FileWatchTest)
+ZORVANE_TEST(FileWatchTest)
 #include "FileWatchTest.moc"

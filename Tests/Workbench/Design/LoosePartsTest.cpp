@@ -98,5 +98,5 @@ void LoosePartsTest::missingFilesKeepTheirPlaces()
     QVERIFY(!m_parts->refresh());
 }
 
-ZORVANE_TEST_MAIN(LoosePartsTest)
+ZORVANE_TEST(LoosePartsTest)
 #include "LoosePartsTest.moc"

@@ -129,5 +129,5 @@ void NewFileTest::aFolderMustBeThere()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::NewFileTest;
-ZORVANE_TEST_MAIN(NewFileTest)
+ZORVANE_TEST(NewFileTest)
 #include "NewFileTest.moc"

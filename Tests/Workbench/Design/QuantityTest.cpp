@@ -177,5 +177,5 @@ void QuantityTest::revertBringsTheFilesValueBack()
     QVERIFY(!m_session->isModified());
 }
 
-ZORVANE_TEST_MAIN(QuantityTest)
+ZORVANE_TEST(QuantityTest)
 #include "QuantityTest.moc"

@@ -97,5 +97,5 @@ void ReloadTest::tellsOnce()
     QCOMPARE(changed.count(), 1);
 }
 
-ZORVANE_TEST_MAIN(ReloadTest)
+ZORVANE_TEST(ReloadTest)
 #include "ReloadTest.moc"

@@ -131,5 +131,5 @@ void SessionDesignTest::designOfASessionThatIsGoneHasNoFile()
     QVERIFY(!left.hasSimulationInputChanged());
 }
 
-ZORVANE_TEST_MAIN(SessionDesignTest)
+ZORVANE_TEST(SessionDesignTest)
 #include "SessionDesignTest.moc"

@@ -9,11 +9,6 @@
 
 namespace Zorvane::Testing {
 
-inline GUIdentifier id(int number)
-{
-    return GUIdentifier(uuidText(number).toStdString());
-}
-
 /** For tests that share no session and no files: call `renew` before each. */
 class SessionFolder
 {

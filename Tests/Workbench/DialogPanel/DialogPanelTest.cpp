@@ -274,5 +274,5 @@ void DialogPanelTest::theMenuOpensOnePanel()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::DialogPanelTest;
-ZORVANE_TEST_MAIN(DialogPanelTest)
+ZORVANE_TEST(DialogPanelTest)
 #include "DialogPanelTest.moc"

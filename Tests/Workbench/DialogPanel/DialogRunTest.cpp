@@ -4,10 +4,9 @@
 #include "Host/System/CommandLineParser.h"
 #include "Tests/FileDialogs/DialogFixtures.h"
 #include "Tests/Support/ExpectedModals.h"
-#include "Tests/Support/TestCase.h"
+#include "Tests/Workbench/DialogPanel/DialogVariantRows.h"
 #include "Workbench/DialogPanel/ExampleControls.h"
 #include "Workbench/DialogPanel/ExampleFiles.h"
-#include "Workbench/Preview/PreviewWorker.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QSettings>
@@ -20,7 +19,6 @@
 #include <functional>
 #include <map>
 
-Q_DECLARE_METATYPE(Zorvane::Workbench::DialogVariant)
 Q_DECLARE_METATYPE(Zorvane::Workbench::DialogShower)
 
 namespace Zorvane::Workbench {
@@ -641,10 +639,6 @@ void DialogRunTest::exampleFilesGoWithTheirOwner()
 
 } // namespace Zorvane::Workbench
 
-int main(int argc, char** argv)
-{
-    if (const std::optional<int> result = Zorvane::Workbench::runPreviewWorker(argc, argv))
-        return *result;
-    return Zorvane::Testing::runTest<Zorvane::Workbench::DialogRunTest>(argc, argv);
-}
+using Zorvane::Workbench::DialogRunTest;
+ZORVANE_TEST(DialogRunTest)
 #include "DialogRunTest.moc"

@@ -74,5 +74,5 @@ void EventRecorderTest::theDialogIsPlacedAsItOpens()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::EventRecorderTest;
-ZORVANE_TEST_MAIN(EventRecorderTest)
+ZORVANE_TEST(EventRecorderTest)
 #include "EventRecorderTest.moc"

@@ -233,5 +233,5 @@ void EngineeringSpinBoxTest::zeroIsTheSpecialText()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::EngineeringSpinBoxTest;
-ZORVANE_TEST_MAIN(EngineeringSpinBoxTest)
+ZORVANE_TEST(EngineeringSpinBoxTest)
 #include "EngineeringSpinBoxTest.moc"

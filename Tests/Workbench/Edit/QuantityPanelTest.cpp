@@ -162,5 +162,5 @@ void QuantityPanelTest::namesItsBoxes()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::QuantityPanelTest;
-ZORVANE_TEST_MAIN(QuantityPanelTest)
+ZORVANE_TEST(QuantityPanelTest)
 #include "QuantityPanelTest.moc"

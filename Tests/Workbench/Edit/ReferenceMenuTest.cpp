@@ -110,5 +110,5 @@ void ReferenceMenuTest::objectsWithoutReferencesLeadNowhere()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::ReferenceMenuTest;
-ZORVANE_TEST_MAIN(ReferenceMenuTest)
+ZORVANE_TEST(ReferenceMenuTest)
 #include "ReferenceMenuTest.moc"

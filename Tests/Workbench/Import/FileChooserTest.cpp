@@ -187,5 +187,5 @@ void FileChooserTest::nothingIsAskedAgainOnceTheWindowIsGone()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::FileChooserTest;
-ZORVANE_TEST_MAIN(FileChooserTest)
+ZORVANE_TEST(FileChooserTest)
 #include "FileChooserTest.moc"

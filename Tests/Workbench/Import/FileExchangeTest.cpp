@@ -209,5 +209,5 @@ void FileExchangeTest::exportNeedsAFile()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::FileExchangeTest;
-ZORVANE_TEST_MAIN(FileExchangeTest)
+ZORVANE_TEST(FileExchangeTest)
 #include "FileExchangeTest.moc"

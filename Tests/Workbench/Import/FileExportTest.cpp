@@ -156,5 +156,5 @@ void FileExportTest::whatIsNoFolderIsRefused()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::FileExportTest;
-ZORVANE_TEST_MAIN(FileExportTest)
+ZORVANE_TEST(FileExportTest)
 #include "FileExportTest.moc"

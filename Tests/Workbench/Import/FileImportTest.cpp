@@ -332,5 +332,5 @@ void FileImportTest::theLibrarySeesTheDesign()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::FileImportTest;
-ZORVANE_TEST_MAIN(FileImportTest)
+ZORVANE_TEST(FileImportTest)
 #include "FileImportTest.moc"

@@ -114,5 +114,5 @@ void DrawableMeshTest::everyTriangleAroundOnePointIsDrawn()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::DrawableMeshTest;
-ZORVANE_TEST_MAIN(DrawableMeshTest)
+ZORVANE_TEST(DrawableMeshTest)
 #include "DrawableMeshTest.moc"

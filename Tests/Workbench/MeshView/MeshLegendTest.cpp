@@ -175,5 +175,5 @@ void MeshLegendTest::theMeshIsDrawnInItsColour()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::MeshLegendTest;
-ZORVANE_TEST_MAIN(MeshLegendTest)
+ZORVANE_TEST(MeshLegendTest)
 #include "MeshLegendTest.moc"

@@ -62,5 +62,5 @@ void MeshSidesTest::noSideIsAnEmptyMesh()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::MeshSidesTest;
-ZORVANE_TEST_MAIN(MeshSidesTest)
+ZORVANE_TEST(MeshSidesTest)
 #include "MeshSidesTest.moc"

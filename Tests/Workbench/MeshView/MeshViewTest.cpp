@@ -316,5 +316,5 @@ void MeshViewTest::theScaleIsWholeInAnyFont()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::MeshViewTest;
-ZORVANE_TEST_MAIN(MeshViewTest)
+ZORVANE_TEST(MeshViewTest)
 #include "MeshViewTest.moc"

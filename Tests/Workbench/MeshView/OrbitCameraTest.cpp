@@ -183,5 +183,5 @@ void OrbitCameraTest::scaleBarsTakeRoundLengths()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::OrbitCameraTest;
-ZORVANE_TEST_MAIN(OrbitCameraTest)
+ZORVANE_TEST(OrbitCameraTest)
 #include "OrbitCameraTest.moc"

@@ -270,5 +270,5 @@ void RasterizerTest::aPictureOfNoSizeIsHarmless()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::RasterizerTest;
-ZORVANE_TEST_MAIN(RasterizerTest)
+ZORVANE_TEST(RasterizerTest)
 #include "RasterizerTest.moc"

@@ -109,5 +109,5 @@ void MeshFactsTest::surfaceIsExactFarFromTheOrigin()
     QVERIFY(std::abs(meshFacts(huge).surface / 5e49 - 1) < 1e-6);
 }
 
-ZORVANE_TEST_MAIN(MeshFactsTest)
+ZORVANE_TEST(MeshFactsTest)
 #include "MeshFactsTest.moc"

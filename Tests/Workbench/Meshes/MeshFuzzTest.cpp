@@ -101,5 +101,5 @@ void MeshFuzzTest::damagedFileGivesMeshOrProblem()
         rc::check([&] { RC_ASSERT(isSound(MeshReader::parse(damaged(content), file), file)); }));
 }
 
-ZORVANE_TEST_MAIN(MeshFuzzTest)
+ZORVANE_TEST(MeshFuzzTest)
 #include "MeshFuzzTest.moc"

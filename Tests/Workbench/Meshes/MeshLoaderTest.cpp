@@ -319,5 +319,5 @@ void MeshLoaderTest::mayBeDestroyedWhileReading()
     QVERIFY(m_answers.isEmpty());
 }
 
-ZORVANE_TEST_MAIN(MeshLoaderTest)
+ZORVANE_TEST(MeshLoaderTest)
 #include "MeshLoaderTest.moc"

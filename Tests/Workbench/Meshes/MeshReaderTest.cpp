@@ -281,5 +281,5 @@ void MeshReaderTest::knowsMeshFilesByTheirNames()
         QStringList({QStringLiteral("*.stl"), QStringLiteral("*.obj"), QStringLiteral("*.ply")}));
 }
 
-ZORVANE_TEST_MAIN(MeshReaderTest)
+ZORVANE_TEST(MeshReaderTest)
 #include "MeshReaderTest.moc"

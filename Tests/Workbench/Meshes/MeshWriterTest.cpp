@@ -73,5 +73,5 @@ void MeshWriterTest::failureLeavesTheOldFile()
                 ->reason.startsWith(QStringLiteral("cannot be written: ")));
 }
 
-ZORVANE_TEST_MAIN(MeshWriterTest)
+ZORVANE_TEST(MeshWriterTest)
 #include "MeshWriterTest.moc"

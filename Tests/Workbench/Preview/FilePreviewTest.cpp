@@ -214,5 +214,5 @@ void FilePreviewTest::brokenMeshesSayWhere()
 
 using Zorvane::Workbench::FilePreviewTest;
 
-ZORVANE_TEST_MAIN(FilePreviewTest)
+ZORVANE_TEST(FilePreviewTest)
 #include "FilePreviewTest.moc"

@@ -108,5 +108,5 @@ void PreviewContentTest::cutOnesAreRefused()
 
 using Zorvane::Workbench::PreviewContentTest;
 
-ZORVANE_TEST_MAIN(PreviewContentTest)
+ZORVANE_TEST(PreviewContentTest)
 #include "PreviewContentTest.moc"

@@ -60,8 +60,10 @@ void writeWithoutEnd()
 }
 
 /** A process that doesn't do what it should: `way` is the second argument, the path the last. */
-int misbehave(int argc, char** argv)
+std::optional<int> misbehave(int argc, char** argv)
 {
+    if (argc < 3 || std::strcmp(argv[1], s_misbehave) != 0)
+        return std::nullopt;
     const QCoreApplication application(argc, argv);
     const QString way = QCoreApplication::arguments().at(2);
     const QString path = QCoreApplication::arguments().last();
@@ -84,6 +86,10 @@ int misbehave(int argc, char** argv)
         std::puts("No content at all.");
     return EXIT_SUCCESS;
 }
+
+// Tests of whole windows read files through this program, too.
+const Testing::ChildProcess previewWorker(&runPreviewWorker);
+const Testing::ChildProcess misbehavingWorker(&misbehave);
 
 /** Such a process in place of one that reads. */
 PreviewProgram misbehaving(const char* way)
@@ -476,14 +482,6 @@ void PreviewReaderTest::otherArgumentsAreNotForUs()
 
 } // namespace Zorvane::Workbench
 
-/** The program is the test, the reader of files and what misbehaves, as its arguments say. */
-int main(int argc, char** argv)
-{
-    using namespace Zorvane::Workbench;
-    if (const std::optional<int> result = runPreviewWorker(argc, argv))
-        return *result;
-    if (argc > 2 && std::strcmp(argv[1], s_misbehave) == 0)
-        return misbehave(argc, argv);
-    return Zorvane::Testing::runTest<PreviewReaderTest>(argc, argv);
-}
+using Zorvane::Workbench::PreviewReaderTest;
+ZORVANE_TEST(PreviewReaderTest)
 #include "PreviewReaderTest.moc"

@@ -243,10 +243,6 @@ void PreviewWindowTest::editorMovesItsWindow()
 
 } // namespace Zorvane::Workbench
 
-int main(int argc, char** argv)
-{
-    if (const std::optional<int> result = Zorvane::Workbench::runPreviewWorker(argc, argv))
-        return *result;
-    return Zorvane::Testing::runTest<Zorvane::Workbench::PreviewWindowTest>(argc, argv);
-}
+using Zorvane::Workbench::PreviewWindowTest;
+ZORVANE_TEST(PreviewWindowTest)
 #include "PreviewWindowTest.moc"

@@ -86,5 +86,5 @@ void TableHeadTest::longCellsAreCut()
 
 using Zorvane::Workbench::TableHeadTest;
 
-ZORVANE_TEST_MAIN(TableHeadTest)
+ZORVANE_TEST(TableHeadTest)
 #include "TableHeadTest.moc"

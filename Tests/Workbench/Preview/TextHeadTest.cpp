@@ -89,5 +89,5 @@ void TextHeadTest::takesTheFirstLines()
 
 using Zorvane::Workbench::TextHeadTest;
 
-ZORVANE_TEST_MAIN(TextHeadTest)
+ZORVANE_TEST(TextHeadTest)
 #include "TextHeadTest.moc"

@@ -193,5 +193,5 @@ void SamplesTest::toolsFitThePart()
     QVERIFY(panel.highest.z() - punch.highest.z() < 0.5F);
 }
 
-ZORVANE_TEST_MAIN(SamplesTest)
+ZORVANE_TEST(SamplesTest)
 #include "SamplesTest.moc"

@@ -322,5 +322,5 @@ void DesignSavingOneTest::closingOneStopsItsSimulationOnlyOnTheUsersWord()
     QVERIFY(session().designs().empty());
 }
 
-ZORVANE_TEST_MAIN(DesignSavingOneTest)
+ZORVANE_TEST(DesignSavingOneTest)
 #include "DesignSavingOneTest.moc"

@@ -554,5 +554,5 @@ void DesignSavingTest::suppressedQuestionsNeverTouchARunningDesign()
     QVERIFY(isEditOnDisk());
 }
 
-ZORVANE_TEST_MAIN(DesignSavingTest)
+ZORVANE_TEST(DesignSavingTest)
 #include "DesignSavingTest.moc"

@@ -74,5 +74,5 @@ void ScreenFitTest::newWindowsFit()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::ScreenFitTest;
-ZORVANE_TEST_MAIN(ScreenFitTest)
+ZORVANE_TEST(ScreenFitTest)
 #include "ScreenFitTest.moc"

@@ -85,5 +85,5 @@ void DrawSimulationTest::tableHasARowAStroke()
     QCOMPARE(table.count('\n'), 13);
 }
 
-ZORVANE_TEST_MAIN(DrawSimulationTest)
+ZORVANE_TEST(DrawSimulationTest)
 #include "DrawSimulationTest.moc"

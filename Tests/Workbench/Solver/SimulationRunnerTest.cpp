@@ -180,5 +180,5 @@ void SimulationRunnerTest::progressIsShownWithAStop()
     QVERIFY(!m_runner->isRunning());
 }
 
-ZORVANE_TEST_MAIN(SimulationRunnerTest)
+ZORVANE_TEST(SimulationRunnerTest)
 #include "SimulationRunnerTest.moc"

@@ -1,12 +1,9 @@
 #include "Workbench/Stress/StressTree.h"
 
-#include "Tests/Support/TestCase.h"
+#include "Tests/Workbench/Stress/StressRows.h"
 
 #include <algorithm>
 #include <iterator>
-
-Q_DECLARE_METATYPE(Zorvane::Workbench::StressShape)
-Q_DECLARE_METATYPE(Zorvane::Workbench::StressEdit)
 
 namespace Zorvane::Workbench {
 
@@ -14,9 +11,6 @@ namespace {
 
 using GenericTreeViewModelHandling::ModelItem;
 using GenericTreeViewModelHandling::ModelRoot;
-
-const std::vector<StressEdit> s_allEdits{StressEdit::Insert, StressEdit::Remove, StressEdit::Move,
-                                         StressEdit::Rename, StressEdit::Shuffle};
 
 using Items = std::vector<std::shared_ptr<ModelItem>>;
 
@@ -113,7 +107,7 @@ void StressTreeTest::theSameSeedGivesTheSameEdits()
     StressTree two(StressShape::Deep, 300, 5);
     StressTree other(StressShape::Deep, 300, 6);
     for (StressTree* tree : {&one, &two, &other})
-        tree->edit(s_allEdits, 50);
+        tree->edit(Testing::allStressEdits, 50);
     QCOMPARE(described(*one.root()), described(*two.root()));
     QVERIFY(described(*one.root()) != described(*other.root()));
 }
@@ -124,7 +118,7 @@ void StressTreeTest::whatWasHandedOutDoesNotChange()
         StressTree tree(shape, 500, 3);
         const auto before = tree.root();
         const QStringList lines = described(*before);
-        tree.edit(s_allEdits, 200);
+        tree.edit(Testing::allStressEdits, 200);
         QCOMPARE(described(*before), lines);
         QVERIFY(described(*tree.root()) != lines);
     }
@@ -214,5 +208,5 @@ void StressTreeTest::withoutKindsNothingIsEdited()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::StressTreeTest;
-ZORVANE_TEST_MAIN(StressTreeTest)
+ZORVANE_TEST(StressTreeTest)
 #include "StressTreeTest.moc"

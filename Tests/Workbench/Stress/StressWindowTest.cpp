@@ -1,6 +1,6 @@
 #include "Workbench/Stress/StressWindow.h"
 
-#include "Tests/Support/TestCase.h"
+#include "Tests/Workbench/Stress/StressRows.h"
 #include "Workbench/Stress/TimeChart.h"
 
 #include <QtGui/QAccessible>
@@ -16,9 +16,6 @@
 #include <iterator>
 #include <set>
 
-Q_DECLARE_METATYPE(Zorvane::Workbench::StressShape)
-Q_DECLARE_METATYPE(std::vector<Zorvane::Workbench::StressEdit>)
-
 namespace Zorvane::Workbench {
 
 namespace {
@@ -26,8 +23,6 @@ namespace {
 using GenericTreeViewModelHandling::ModelItemToZVTreeModelSyncronizer;
 using Edits = std::vector<StressEdit>;
 
-const Edits s_allEdits{StressEdit::Insert, StressEdit::Remove, StressEdit::Move, StressEdit::Rename,
-                       StressEdit::Shuffle};
 constexpr int s_steps = 200;
 
 using Id = std::uint64_t;
@@ -123,7 +118,7 @@ void StressWindowTest::placesAreKept_data()
     for (const StressShape shape : {StressShape::Flat, StressShape::Deep}) {
         const char* name = shape == StressShape::Flat ? "flat" : "deep";
         const Edits fewer{StressEdit::Insert, StressEdit::Remove};
-        QTest::addRow("%s, all edits", name) << shape << s_allEdits;
+        QTest::addRow("%s, all edits", name) << shape << Testing::allStressEdits;
         QTest::addRow("%s, rows come and go", name) << shape << fewer;
         QTest::addRow("%s, rows change places", name) << shape << Edits{StressEdit::Move};
     }
@@ -182,8 +177,8 @@ void StressWindowTest::aFlatTreeChangesByFewAnnouncements_data()
     QTest::newRow("rows go") << Edits{StressEdit::Remove} << 4;
     QTest::newRow("rows move") << Edits{StressEdit::Move} << 50;
     QTest::newRow("shuffled") << Edits{StressEdit::Shuffle} << 1;
-    QTest::newRow("everything") << s_allEdits << 50;
-    QTest::newRow("everything, little of it") << s_allEdits << 3;
+    QTest::newRow("everything") << Testing::allStressEdits << 50;
+    QTest::newRow("everything, little of it") << Testing::allStressEdits << 3;
 }
 
 void StressWindowTest::aFlatTreeChangesByFewAnnouncements()
@@ -219,7 +214,7 @@ void StressWindowTest::rowsShowTheTree()
     StressWindow window;
     for (const StressShape shape : {StressShape::Flat, StressShape::Deep}) {
         window.fill(shape, 1000);
-        window.setEdits(s_allEdits, 100);
+        window.setEdits(Testing::allStressEdits, 100);
         for (int step = 0; step < 20; ++step)
             window.step();
         // Rows that have moved are labelled anew when they are next found in place.
@@ -278,7 +273,7 @@ void StressWindowTest::theClockStepsUntilStopped()
 void StressWindowTest::choosingATreeFillsTheView()
 {
     StressWindow window;
-    window.setEdits(s_allEdits, 10);
+    window.setEdits(Testing::allStressEdits, 10);
     window.step();
     const QList<QComboBox*> choices = window.findChildren<QComboBox*>();
     QCOMPARE(choices.size(), 2);
@@ -343,5 +338,5 @@ void StressWindowTest::everyControlHasANameAndIsReachedByTab()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::StressWindowTest;
-ZORVANE_TEST_MAIN(StressWindowTest)
+ZORVANE_TEST(StressWindowTest)
 #include "StressWindowTest.moc"

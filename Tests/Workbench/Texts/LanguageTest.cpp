@@ -179,5 +179,5 @@ void LanguageTest::aKeyOfTheWindowLeadsToOnePlace()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::LanguageTest;
-ZORVANE_TEST_MAIN(LanguageTest)
+ZORVANE_TEST(LanguageTest)
 #include "LanguageTest.moc"

@@ -47,5 +47,5 @@ void SizeTextTest::figuresStayInOrderFromRightToLeft()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::SizeTextTest;
-ZORVANE_TEST_MAIN(SizeTextTest)
+ZORVANE_TEST(SizeTextTest)
 #include "SizeTextTest.moc"

@@ -68,5 +68,5 @@ void TourInputsTest::aFolderThatIsNotThereIsTold()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::TourInputsTest;
-ZORVANE_TEST_MAIN(TourInputsTest)
+ZORVANE_TEST(TourInputsTest)
 #include "TourInputsTest.moc"

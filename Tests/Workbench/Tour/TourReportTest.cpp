@@ -104,5 +104,5 @@ void TourReportTest::aFolderThatCannotBeMadeIsAFailure()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::TourReportTest;
-ZORVANE_TEST_MAIN(TourReportTest)
+ZORVANE_TEST(TourReportTest)
 #include "TourReportTest.moc"

@@ -201,5 +201,5 @@ void TourTest::refusesUnknownOptions()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::TourTest;
-ZORVANE_TEST_MAIN(TourTest)
+ZORVANE_TEST(TourTest)
 #include "TourTest.moc"

@@ -67,5 +67,5 @@ void ChosenRowsDataProviderTest::handsOnFlagsAndCallback()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::ChosenRowsDataProviderTest;
-ZORVANE_TEST_MAIN(ChosenRowsDataProviderTest)
+ZORVANE_TEST(ChosenRowsDataProviderTest)
 #include "ChosenRowsDataProviderTest.moc"

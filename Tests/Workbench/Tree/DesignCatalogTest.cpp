@@ -169,5 +169,5 @@ void DesignCatalogTest::findsObjectsByTheirFile()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::DesignCatalogTest;
-ZORVANE_TEST_MAIN(DesignCatalogTest)
+ZORVANE_TEST(DesignCatalogTest)
 #include "DesignCatalogTest.moc"

@@ -208,5 +208,5 @@ void DesignPipelineTest::nothingOpenIsAnEmptyModel()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::DesignPipelineTest;
-ZORVANE_TEST_MAIN(DesignPipelineTest)
+ZORVANE_TEST(DesignPipelineTest)
 #include "DesignPipelineTest.moc"

@@ -479,5 +479,5 @@ void DesignTreeTest::unreadableFilesAreMarkedUntilTheyAreMended()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::DesignTreeTest;
-ZORVANE_TEST_MAIN(DesignTreeTest)
+ZORVANE_TEST(DesignTreeTest)
 #include "DesignTreeTest.moc"

@@ -130,5 +130,5 @@ void FiltersTest::kindsAreAnnouncedWhenTheyDiffer()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::FiltersTest;
-ZORVANE_TEST_MAIN(FiltersTest)
+ZORVANE_TEST(FiltersTest)
 #include "FiltersTest.moc"

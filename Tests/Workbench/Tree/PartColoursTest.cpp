@@ -150,5 +150,5 @@ void PartColoursTest::theColourTableKnowsThem()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::PartColoursTest;
-ZORVANE_TEST_MAIN(PartColoursTest)
+ZORVANE_TEST(PartColoursTest)
 #include "PartColoursTest.moc"

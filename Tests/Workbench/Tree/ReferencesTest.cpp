@@ -199,5 +199,5 @@ void ReferencesTest::theColumnIsDrawnByTheDelegate()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::ReferencesTest;
-ZORVANE_TEST_MAIN(ReferencesTest)
+ZORVANE_TEST(ReferencesTest)
 #include "ReferencesTest.moc"

@@ -322,5 +322,5 @@ void EditHistoryOthersTest::whatBreaksTheRulesComesBackExactly()
 
 using Zorvane::Workbench::EditHistoryOthersTest;
 
-ZORVANE_TEST_MAIN(EditHistoryOthersTest)
+ZORVANE_TEST(EditHistoryOthersTest)
 #include "EditHistoryOthersTest.moc"

@@ -422,5 +422,5 @@ void EditHistoryTest::randomEditsAreTakenBackToTheByte()
     }
 }
 
-ZORVANE_TEST_MAIN(EditHistoryTest)
+ZORVANE_TEST(EditHistoryTest)
 #include "EditHistoryTest.moc"

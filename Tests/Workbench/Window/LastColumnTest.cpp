@@ -137,5 +137,5 @@ void LastColumnTest::isTheOneThatTheUserPutLast()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::LastColumnTest;
-ZORVANE_TEST_MAIN(LastColumnTest)
+ZORVANE_TEST(LastColumnTest)
 #include "LastColumnTest.moc"

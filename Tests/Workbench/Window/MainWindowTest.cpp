@@ -611,5 +611,5 @@ void MainWindowTest::activatingAProblemSelectsItsObject()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::MainWindowTest;
-ZORVANE_TEST_MAIN(MainWindowTest)
+ZORVANE_TEST(MainWindowTest)
 #include "MainWindowTest.moc"

@@ -99,5 +99,5 @@ void ScaledColumnsTest::theLastTakesWhatIsLeft()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::ScaledColumnsTest;
-ZORVANE_TEST_MAIN(ScaledColumnsTest)
+ZORVANE_TEST(ScaledColumnsTest)
 #include "ScaledColumnsTest.moc"

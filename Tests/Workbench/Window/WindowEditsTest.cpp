@@ -295,5 +295,6 @@ void WindowEditsTest::convertShowsOneWindow()
 
 } // namespace Zorvane::Workbench
 
-ZORVANE_TEST_MAIN(Zorvane::Workbench::WindowEditsTest)
+using Zorvane::Workbench::WindowEditsTest;
+ZORVANE_TEST(WindowEditsTest)
 #include "WindowEditsTest.moc"

@@ -7,7 +7,6 @@
 #include "Workbench/Commands/FileCommands.h"
 #include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/Import/FileExchange.h"
-#include "Workbench/Preview/PreviewWorker.h"
 #include "Workbench/Solver/SimulationRunner.h"
 #include "Workbench/Window/MainWindow.h"
 
@@ -314,11 +313,6 @@ void WindowGoesTest::windowGoesWhileItAsks()
 
 } // namespace Zorvane::Workbench
 
-int main(int argc, char** argv)
-{
-    // Dialogs look at files by starting this program again.
-    if (const std::optional<int> result = Zorvane::Workbench::runPreviewWorker(argc, argv))
-        return *result;
-    return Zorvane::Testing::runTest<Zorvane::Workbench::WindowGoesTest>(argc, argv);
-}
+using Zorvane::Workbench::WindowGoesTest;
+ZORVANE_TEST(WindowGoesTest)
 #include "WindowGoesTest.moc"

@@ -116,5 +116,5 @@ void WindowMenusTest::anAppearanceChosenIsKept()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::WindowMenusTest;
-ZORVANE_TEST_MAIN(WindowMenusTest)
+ZORVANE_TEST(WindowMenusTest)
 #include "WindowMenusTest.moc"

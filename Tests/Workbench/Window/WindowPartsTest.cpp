@@ -210,5 +210,5 @@ void WindowPartsTest::problemsAreListedAndActivated()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::WindowPartsTest;
-ZORVANE_TEST_MAIN(WindowPartsTest)
+ZORVANE_TEST(WindowPartsTest)
 #include "WindowPartsTest.moc"

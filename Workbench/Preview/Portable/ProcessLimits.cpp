@@ -12,19 +12,19 @@ namespace Zorvane::Workbench {
 namespace {
 
 /** Where the system doesn't tell: a generous guess. */
-constexpr rlim_t s_usualSize = rlim_t(512) * 1024 * 1024;
+constexpr rlim_t usualMemoryLimit = rlim_t(512) * 1024 * 1024;
 
 /** In bytes: all that the process has mapped, its libraries included. */
 rlim_t presentSize()
 {
     std::FILE* file = std::fopen("/proc/self/statm", "re");
     if (file == nullptr)
-        return s_usualSize;
+        return usualMemoryLimit;
     char line[64] = {};
     const bool isRead = std::fgets(line, sizeof line, file) != nullptr;
     std::fclose(file);
     const unsigned long long pages = isRead ? std::strtoull(line, nullptr, 10) : 0;
-    return pages == 0 ? s_usualSize : rlim_t(pages) * rlim_t(sysconf(_SC_PAGESIZE));
+    return pages == 0 ? usualMemoryLimit : rlim_t(pages) * rlim_t(sysconf(_SC_PAGESIZE));
 }
 
 bool limit(int resource, rlim_t value)

@@ -2,7 +2,7 @@
 
 #include "FileDialogs/FileDialog.h"
 #include "Tests/Support/Windows/DialogPilot.h"
-#include "Tests/Support/Windows/NativeTest.h"
+#include "Tests/Workbench/DialogPanel/DialogVariantRows.h"
 #include "Workbench/DialogPanel/ExampleFiles.h"
 
 #include <QtCore/QDir>
@@ -10,8 +10,6 @@
 #include <QtCore/QSettings>
 
 #include <optional>
-
-Q_DECLARE_METATYPE(Zorvane::Workbench::DialogVariant)
 
 namespace Zorvane::Workbench {
 
@@ -185,5 +183,5 @@ void NativePanelTest::whatAHandlerThrowsComesOut()
 } // namespace Zorvane::Workbench
 
 using Zorvane::Workbench::NativePanelTest;
-ZORVANE_NATIVE_TEST_MAIN(NativePanelTest)
+ZORVANE_TEST(NativePanelTest)
 #include "NativePanelTest.moc"

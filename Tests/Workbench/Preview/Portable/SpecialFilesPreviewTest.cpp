@@ -52,5 +52,5 @@ void SpecialFilesPreviewTest::areNotRead()
 
 using Zorvane::Workbench::SpecialFilesPreviewTest;
 
-ZORVANE_TEST_MAIN(SpecialFilesPreviewTest)
+ZORVANE_TEST(SpecialFilesPreviewTest)
 #include "SpecialFilesPreviewTest.moc"
