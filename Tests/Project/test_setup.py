@@ -8,8 +8,14 @@ import tempfile
 import unittest
 
 TOOLS = pathlib.Path(__file__).resolve().parents[2] / "Tools"
-PACKAGES = [line.strip() for line in (TOOLS / "packages.txt").read_text().splitlines()
-            if line.strip() and not line.startswith("#")]
+
+
+def packages_of(name):
+    lines = (TOOLS / name).read_text().splitlines()
+    return [line.strip() for line in lines if line.strip() and not line.startswith("#")]
+
+
+PACKAGES = packages_of("packages.txt")
 # What every system has.
 COMMON = ("bash", "dirname", "env", "grep", "mktemp", "rm", "sed", "tail")
 BUILD = ("g++", "cmake", "ninja", "python3")
@@ -62,16 +68,26 @@ class SetupTest(unittest.TestCase):
         self.assertTrue(update.startswith("noninteractive apt-get ") and update.endswith(" update"))
         self.assertTrue(install.endswith(" install --no-install-recommends cmake fontconfig"))
 
-    def test_installs_what_the_windows_build_needs_only_for_it(self):
+    def test_installs_what_a_list_names_only_for_it(self):
         self.debian(PACKAGES)
         self.user(0)
         self.assertEqual(self.run_setup().returncode, 0)
         self.assertEqual(self.recorded(), [])
-        result = self.run_setup("windows")
-        self.assertEqual(result.returncode, 0, result.stderr)
+        for names in (["test"], ["bench"], ["checks"], ["test", "windows"]):
+            result = self.run_setup(*names)
+            self.assertEqual(result.returncode, 0, result.stderr)
+            wanted = self.recorded()[-1].rpartition("--no-install-recommends ")[2].split()
+            lists = [packages_of(f"packages-{name}.txt") for name in names]
+            self.assertEqual(wanted, sum(lists, []))
+            self.assertEqual(sorted(set(wanted) & set(PACKAGES)), [])
+
+    def test_installs_once_what_two_lists_name(self):
+        self.debian(PACKAGES)
+        self.user(0)
+        self.assertEqual(self.run_setup("test", "bench").returncode, 0)
         wanted = self.recorded()[-1].rpartition("--no-install-recommends ")[2].split()
-        self.assertIn("wine64", wanted)
-        self.assertEqual(sorted(set(wanted) & set(PACKAGES)), [])
+        self.assertEqual(len(wanted), len(set(wanted)))
+        self.assertIn("valgrind", wanted)
 
     def test_uses_sudo_when_not_root(self):
         self.debian(PACKAGES[1:])
