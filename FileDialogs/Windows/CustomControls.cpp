@@ -9,7 +9,7 @@ namespace {
 
 using CustomItem = FileDialogConfiguration::CustomItem;
 
-constexpr DWORD s_firstGroupId = FileDialogConfiguration::s_firstGroupId;
+constexpr DWORD firstGroupId = FileDialogConfiguration::s_firstGroupId;
 
 HRESULT addCheckBox(IFileDialogCustomize* dialog, const CustomItem& item)
 {
@@ -66,7 +66,7 @@ HRESULT addCustomControls(IFileDialogCustomize* dialog,
 {
     HRESULT result = S_OK;
     for (int i = 0; i < configuration.numberOfcustomControls() && SUCCEEDED(result); ++i)
-        result = addItem(dialog, configuration.getCustomControl(i), s_firstGroupId + DWORD(i));
+        result = addItem(dialog, configuration.getCustomControl(i), firstGroupId + DWORD(i));
     return result;
 }
 
