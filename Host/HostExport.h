@@ -2,7 +2,9 @@
 
 #include <QtCore/QtGlobal>
 
-#ifdef ZORVANE_HOST_BUILD
+#if defined(ZORVANE_STATIC)
+#define ZORVANE_HOST_EXPORT
+#elif defined(ZORVANE_HOST_BUILD)
 #define ZORVANE_HOST_EXPORT Q_DECL_EXPORT
 #else
 #define ZORVANE_HOST_EXPORT Q_DECL_IMPORT

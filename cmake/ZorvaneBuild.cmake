@@ -1,6 +1,8 @@
 # What every target of this project shares: language level, warnings, sanitizers, folders.
 
-set(CMAKE_CXX_STANDARD 17)
+if(NOT CMAKE_CXX_STANDARD OR CMAKE_CXX_STANDARD LESS 17)
+    set(CMAKE_CXX_STANDARD 17)
+endif()
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
@@ -8,13 +10,16 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTORCC ON)
-set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ${PROJECT_IS_TOP_LEVEL})
+if(NOT DEFINED BUILD_SHARED_LIBS)
+    set(BUILD_SHARED_LIBS ON)
+endif()
 # Before 1.0 a new minor version may change interfaces, so programs must not load it unasked.
 set(ZORVANE_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 
-set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
-set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
-set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib)
 
 # Headers are included by folder, and such folder names are too plain for a common include folder.
 # The host's lie apart, since another host may take their place.
@@ -69,6 +74,39 @@ function(zorvane_add_sources target)
     set_target_properties(${target} PROPERTIES UNITY_BUILD_MODE GROUP)
 endfunction()
 
+# zorvane_library(TARGET RESOURCES name...)
+# What both libraries need where they are static. A linker leaves out of a static library what no
+# code names, such as resources, so a source file that names them is compiled into its users.
+function(zorvane_library target)
+    cmake_parse_arguments(arg "" "" "RESOURCES" ${ARGN})
+    if(BUILD_SHARED_LIBS)
+        return()
+    endif()
+    target_compile_definitions(${target} PUBLIC ZORVANE_STATIC)
+    set(calls)
+    foreach(resource IN LISTS arg_RESOURCES)
+        string(APPEND calls "    Q_INIT_RESOURCE(${resource});\n")
+    endforeach()
+    set(source ${target}Resources.cpp)
+    file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${source} CONTENT
+"#include <QtCore/QtGlobal>
+
+static bool initialize${target}Resources()
+{
+${calls}    return true;
+}
+
+[[maybe_unused]] static const bool are${target}ResourcesThere = initialize${target}Resources();
+")
+    target_sources(${target} INTERFACE
+        $<BUILD_INTERFACE:${CMAKE_CURRENT_BINARY_DIR}/${source}>
+        $<INSTALL_INTERFACE:\${_IMPORT_PREFIX}/${${target}_INSTALL_INCLUDEDIR}/${source}>)
+    if(ZORVANE_INSTALL)
+        install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${source}
+            DESTINATION ${${target}_INSTALL_INCLUDEDIR})
+    endif()
+endfunction()
+
 # zorvane_add_subsystem(NAME SOURCES ... [USES target...] [PRIVATELY target...])
 # One folder of the library: an object target that names what it may include.
 function(zorvane_add_subsystem name)
@@ -93,14 +131,14 @@ function(zorvane_internal_headers)
     set_property(GLOBAL APPEND PROPERTY ZORVANE_INTERNAL_HEADERS ${headers})
 endfunction()
 
-# The one shared library made of all subsystem folders.
+# The one library made of all subsystem folders.
 function(zorvane_link_subsystems library)
     get_property(subsystems GLOBAL PROPERTY ZORVANE_SUBSYSTEMS)
     set(objects)
     foreach(subsystem IN LISTS subsystems)
         list(APPEND objects $<TARGET_OBJECTS:${subsystem}>)
     endforeach()
-    add_library(${library} SHARED ${objects})
+    add_library(${library} ${objects})
     add_library(Zorvane::UiTools ALIAS ${library})
     set_target_properties(${library} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${ZORVANE_SOVERSION} EXPORT_NAME UiTools
@@ -108,6 +146,7 @@ function(zorvane_link_subsystems library)
     target_include_directories(${library} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
         $<INSTALL_INTERFACE:${${library}_INSTALL_INCLUDEDIR}>)
     target_link_libraries(${library} PUBLIC Zorvane::Host)
+    zorvane_library(${library} RESOURCES zorvane_catalogues)
     foreach(subsystem IN LISTS subsystems)
         get_target_property(private_libraries ${subsystem} LINK_LIBRARIES)
         list(FILTER private_libraries EXCLUDE REGEX "zorvane_settings|ZorvaneUiTools_")

@@ -19,7 +19,7 @@ install(TARGETS workbench ZorvaneUiTools RUNTIME DESTINATION bin COMPONENT ${com
 if(NOT ZORVANE_HOST_FROM_PACKAGE)
     install(TARGETS ZorvaneHost RUNTIME DESTINATION bin COMPONENT ${component})
 endif()
-install(DIRECTORY ${CMAKE_BINARY_DIR}/samples DESTINATION . COMPONENT ${component})
+install(DIRECTORY ${PROJECT_BINARY_DIR}/samples DESTINATION . COMPONENT ${component})
 install(FILES README.md CHANGELOG.md DESTINATION . COMPONENT ${component})
 
 # Folders that use it find it for themselves only.

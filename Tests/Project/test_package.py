@@ -15,13 +15,13 @@ SOURCES = pathlib.Path(__file__).resolve().parents[2]
 BUILD, WORK = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
 PREFIX = WORK / "prefix"
 
-# A compiler cache may answer with the file names of another build.
-ENVIRONMENT = {**os.environ, "CCACHE_DISABLE": "1", "QT_QPA_PLATFORM": "offscreen"}
+ENVIRONMENT = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
 
 
-def run(*command):
+def run(*command, **environment):
     result = subprocess.run(list(map(str, command)), text=True, stdout=subprocess.PIPE,
-                            stderr=subprocess.STDOUT, env=ENVIRONMENT, check=False)
+                            stderr=subprocess.STDOUT, env={**ENVIRONMENT, **environment},
+                            check=False)
     if result.returncode != 0:
         raise AssertionError(f"{command[:3]} ended with {result.returncode}:\n{result.stdout}")
     return result.stdout
@@ -53,6 +53,21 @@ class PackageTest(unittest.TestCase):
         build = configure(SOURCES / "Tests/Project/Consumer", "consumer")
         run("cmake", "--build", build)
         self.assertEqual(run(build / "consumer"), "Part 7 1\n")
+
+    def test_a_project_builds_it_as_a_part_of_its_own(self):
+        build = configure(SOURCES / "Tests/Project/Parent", "parent",
+                          f"-DZORVANE_SOURCES={SOURCES}")
+        run("cmake", "--build", build)
+        self.assertEqual(run(build / "parent"), "Part 1 1\n")
+        # Only the two libraries are built, in a folder of their own, and no install rule is added.
+        outputs = {path.name for path in build.rglob("*") if path.suffix == ".a"}
+        self.assertEqual(outputs, {"libZorvaneHost.a", "libZorvaneUiTools.a"})
+        folders = {path.name for path in build.iterdir() if path.is_dir()}
+        self.assertEqual(folders - {"CMakeFiles", "parent_autogen"}, {"zorvane"})
+        targets = run("ninja", "-C", build, "-t", "targets", "all")
+        self.assertNotRegex(targets, r"workbench|Test_|Benchmark_")
+        run("cmake", "--install", build, "--prefix", WORK / "parent-prefix")
+        self.assertFalse((WORK / "parent-prefix").exists())
 
     def test_a_program_loads_no_other_minor_version(self):
         version = re.search(r"project\(.* VERSION (\d+\.\d+)\.", read("CMakeLists.txt"))[1]
@@ -95,7 +110,8 @@ class PackageTest(unittest.TestCase):
         build = configure(SOURCES, "library", "-DZORVANE_HOST_FROM_PACKAGE=ON",
                           "-DZORVANE_BUILD_TESTS=OFF", "-DZORVANE_BUILD_WORKBENCH=OFF")
         item = "TreeModel/CMakeFiles/ZorvaneUiTools_TreeModel.dir/ModelItem.cpp.o"
-        run("cmake", "--build", build, "--target", item)
+        # A compiler cache may answer with the file names of another build.
+        run("cmake", "--build", build, "--target", item, CCACHE_DISABLE="1")
         headers = run("ninja", "-C", build, "-t", "deps", item).split()
         of_host = {header for header in headers if "/Host/" in header}
         self.assertIn(f"{PREFIX}/include/zorvane-host/Host/Identifiers/IDCombiner.h", of_host)
