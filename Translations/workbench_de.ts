@@ -1454,6 +1454,10 @@
         <source>There are unsaved changes. Save them before everything is read again?</source>
         <translation>Es gibt nicht gespeicherte Änderungen. Vor dem erneuten Lesen aller Entwürfe speichern?</translation>
     </message>
+    <message>
+        <source>The settings cannot be stored; those stored before are kept. The disk may be full.</source>
+        <translation>Die Einstellungen können nicht gespeichert werden; die zuletzt gespeicherten bleiben erhalten. Vielleicht ist der Datenträger voll.</translation>
+    </message>
 </context>
 <context>
     <name>Zorvane::Workbench::MeshConversion</name>
@@ -1953,6 +1957,10 @@
     <message>
         <source>the results cannot be written: %1</source>
         <translation>die Ergebnisse können nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>cannot be marked as being computed: the disk may be full</source>
+        <translation>kann nicht als in Berechnung markiert werden: vielleicht ist der Datenträger voll</translation>
     </message>
 </context>
 <context>

@@ -2,10 +2,10 @@
 
 #include "Workbench/Design/DesignReader.h"
 #include "Workbench/Design/JsonFields.h"
+#include "Workbench/Writing/WholeFile.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
-#include <QtCore/QSaveFile>
 
 #include <algorithm>
 #include <limits>
@@ -158,11 +158,10 @@ QByteArray DesignWriter::toJson(const Design& design)
 
 std::optional<Problem> DesignWriter::write(const Design& design)
 {
-    QSaveFile file(design.file);
-    const QByteArray content = toJson(design);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+    const QString obstacle = writeWholeFile(design.file, toJson(design));
+    if (obstacle.isEmpty())
         return std::nullopt;
-    return Problem{design.file, {}, tr("cannot be written: %1").arg(file.errorString())};
+    return Problem{design.file, {}, tr("cannot be written: %1").arg(obstacle)};
 }
 
 bool DesignWriter::isSame(const Part& left, const Part& right)

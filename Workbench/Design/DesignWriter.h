@@ -22,7 +22,7 @@ public:
     /** The text of the design's file, in UTF-8, ending with a line end. */
     static QByteArray toJson(const Design& design);
     /**
-     * Writes to `design.file` in one step: on failure, told by the problem, the file is as before.
+     * Writes to `design.file` in one step. Returns a problem on failure; the file is as before.
      */
     static std::optional<Problem> write(const Design& design);
 

@@ -2,9 +2,9 @@
 
 #include "Workbench/Meshes/GeneratedMeshes.h"
 #include "Workbench/Meshes/MeshWriter.h"
+#include "Workbench/Writing/WholeFile.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 
 namespace Zorvane::Workbench {
 
@@ -14,8 +14,7 @@ const QString s_separator = QStringLiteral(";;");
 
 bool writeText(const QString& path, const char* text)
 {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.write(text) > 0;
+    return writeWholeFile(path, text).isEmpty();
 }
 
 bool writeBlock(const QString& path, const QVector3D& size)

@@ -1,7 +1,8 @@
 #include "Workbench/Meshes/MeshWriter.h"
 
+#include "Workbench/Writing/WholeFile.h"
+
 #include <QtCore/QCoreApplication>
-#include <QtCore/QSaveFile>
 
 #include <assimp/Exporter.hpp>
 #include <assimp/postprocess.h>
@@ -64,12 +65,10 @@ QString Writer::write(const TriangleMesh& mesh, const QString& path, StlFormat f
         sceneOf(mesh).get(), format == StlFormat::Ascii ? "stl" : "stlb", aiProcess_GenNormals);
     if (blob == nullptr)
         return tr("cannot be written: %1").arg(QString::fromUtf8(exporter.GetErrorString()));
-    QSaveFile file(path);
-    const auto size = static_cast<qint64>(blob->size);
-    if (file.open(QIODevice::WriteOnly) &&
-        file.write(static_cast<const char*>(blob->data), size) == size && file.commit())
-        return {};
-    return tr("cannot be written: %1").arg(file.errorString());
+    const QString obstacle =
+        writeWholeFile(path, QByteArray::fromRawData(static_cast<const char*>(blob->data),
+                                                     static_cast<int>(blob->size)));
+    return obstacle.isEmpty() ? QString() : tr("cannot be written: %1").arg(obstacle);
 }
 
 } // namespace

@@ -16,7 +16,7 @@ enum class StlFormat
 };
 
 /**
- * Writes the mesh as an STL file in one step: on failure, told by the problem, the file is as
+ * Writes the mesh as an STL file in one step. Returns a problem on failure; the file is as
  * before. A mesh without triangles is refused. May be used in any thread.
  */
 std::optional<Problem> writeStl(const TriangleMesh& mesh, const QString& path, StlFormat format);

@@ -3,11 +3,11 @@
 #include "Host/DesignStatus/DesignStatus.h"
 #include "Workbench/Design/Design.h"
 #include "Workbench/Design/NewFile.h"
+#include "Workbench/Writing/WholeFile.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLockFile>
-#include <QtCore/QSaveFile>
 
 namespace Zorvane::Workbench {
 
@@ -22,13 +22,18 @@ DrawParameters parametersOf(const Design& design, int steps)
     return parameters;
 }
 
-/** Empty when written. */
-QString write(const QString& path, const QByteArray& content)
+/** Why the design cannot be marked as being computed. */
+QString obstacleToMark(QLockFile::LockError error)
 {
-    QSaveFile file(path);
-    const bool isWritten =
-        file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
-    return isWritten ? QString() : file.errorString();
+    switch (error) {
+    case QLockFile::LockFailedError:
+        return SimulationRunner::tr("is being computed by another program");
+    case QLockFile::PermissionError:
+        return SimulationRunner::tr(
+            "cannot be marked as being computed: its folder is not writable");
+    default:
+        return SimulationRunner::tr("cannot be marked as being computed: the disk may be full");
+    }
 }
 
 } // namespace
@@ -50,11 +55,7 @@ std::optional<Problem> SimulationRunner::start(const Design& design)
         std::make_unique<QLockFile>(DesignStatus::getJobFile(FileName(design.file)).toQString());
     mark->setStaleLockTime(0);
     if (!mark->tryLock(0))
-        return Problem{design.file,
-                       {},
-                       mark->error() == QLockFile::LockFailedError
-                           ? tr("is being computed by another program")
-                           : tr("cannot be marked as being computed: its folder is not writable")};
+        return Problem{design.file, {}, obstacleToMark(mark->error())};
     m_mark = std::move(mark);
     m_designFile = design.file;
     m_simulation = std::make_unique<DrawSimulation>(parametersOf(design, m_steps));
@@ -91,7 +92,7 @@ void SimulationRunner::finish()
     NewFile result(folder, design.completeBaseName() + QLatin1String("-simulation"),
                    QStringLiteral(".csv"));
     const QString obstacle =
-        result.path().isEmpty() ? result.obstacle() : write(result.path(), table);
+        result.path().isEmpty() ? result.obstacle() : writeWholeFile(result.path(), table);
     if (obstacle.isEmpty())
         result.keep();
     end();

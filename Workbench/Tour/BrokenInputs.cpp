@@ -2,6 +2,7 @@
 
 #include "Workbench/Meshes/GeneratedMeshes.h"
 #include "Workbench/Meshes/MeshWriter.h"
+#include "Workbench/Writing/WholeFile.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -18,8 +19,7 @@ constexpr qint64 s_twoGigabytes = 2LL * 1024 * 1024 * 1024;
 
 bool write(const QString& path, const QByteArray& content)
 {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    return writeWholeFile(path, content).isEmpty();
 }
 
 bool cutTo(const QString& path, qint64 size)

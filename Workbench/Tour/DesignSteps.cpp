@@ -5,12 +5,12 @@
 #include "Workbench/Window/MainWindow.h"
 #include "Workbench/Window/MessageBar.h"
 #include "Workbench/Window/ProblemsPanel.h"
+#include "Workbench/Writing/WholeFile.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtCore/QSaveFile>
 #include <QtWidgets/QTreeView>
 
 #include <functional>
@@ -28,9 +28,7 @@ bool rewriteDesign(const QString& path, const std::function<void(QJsonObject&)>&
     QJsonObject design = QJsonDocument::fromJson(file.readAll()).object();
     file.close();
     change(design);
-    QSaveFile target(path);
-    return target.open(QIODevice::WriteOnly) && target.write(QJsonDocument(design).toJson()) > 0 &&
-           target.commit();
+    return writeWholeFile(path, QJsonDocument(design).toJson()).isEmpty();
 }
 
 /** The operation gets another name, and a pad besides its tools. */

@@ -8,6 +8,7 @@
 #include "Workbench/Tour/TourCopier.h"
 #include "Workbench/Window/MainWindow.h"
 #include "Workbench/Window/MessageBar.h"
+#include "Workbench/Writing/WholeFile.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -47,8 +48,7 @@ void choose(MainWindow& window, const QStringList& files, const QString& folder 
 
 bool writeText(const QString& path, const QByteArray& text)
 {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+    return writeWholeFile(path, text).isEmpty();
 }
 
 bool makeLargeFile(const QString& path)

@@ -7,6 +7,7 @@
 #include "Workbench/Tour/DialogAnswers.h"
 #include "Workbench/Window/Appearance.h"
 #include "Workbench/Window/MainWindow.h"
+#include "Workbench/Writing/WholeFile.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -36,8 +37,7 @@ void typeName(QFileDialog& dialog, const QString& name)
 
 bool makeFile(const QString& path)
 {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write("closed") > 0;
+    return writeWholeFile(path, "closed").isEmpty();
 }
 
 bool isClosedFile(const QString& path)
@@ -63,10 +63,9 @@ void OpenSteps::openWithPreview()
     // Qt's dialog on every system: those of the system itself cannot be driven from here.
     const NativeFileDialogReplacement qtDialogs([] { return nullptr; });
     const QString folder = workFolder(QStringLiteral("drawn-cup"));
-    QFile damaged(QDir(folder).filePath(QStringLiteral("geometry/damaged.stl")));
-    m_report.expect(damaged.open(QIODevice::WriteOnly) && damaged.write("solid cup\nfacet") > 0,
+    const QString damaged = QDir(folder).filePath(QStringLiteral("geometry/damaged.stl"));
+    m_report.expect(writeWholeFile(damaged, "solid cup\nfacet").isEmpty(),
                     QStringLiteral("the damaged file is made"));
-    damaged.close();
     LastPathProvider::getInstance()->setPathToScope(
         QDir(folder).filePath(QStringLiteral("geometry/cup.stl")), FileCommands::scope());
     DialogAnswers answers;
@@ -77,7 +76,7 @@ void OpenSteps::openWithPreview()
     });
     m_window.fileCommands().openFiles();
     m_report.expect(answers.allGiven(), QStringLiteral("the dialog"));
-    m_report.expect(damaged.remove(), QStringLiteral("the damaged file is gone"));
+    m_report.expect(QFile::remove(damaged), QStringLiteral("the damaged file is gone"));
 }
 
 void OpenSteps::lookAtFiles(QFileDialog& dialog, const QString& folder)

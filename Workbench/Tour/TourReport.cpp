@@ -1,7 +1,9 @@
 #include "Workbench/Tour/TourReport.h"
 
+#include "Workbench/Writing/WholeFile.h"
+
+#include <QtCore/QBuffer>
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QSet>
 
 namespace Zorvane::Workbench {
@@ -20,6 +22,14 @@ bool isBlank(const QImage& picture)
             return false;
     }
     return true;
+}
+
+/** In memory first: QImage::save reports success whether or not the disk has taken all of it. */
+bool storePicture(const QImage& picture, const QString& path)
+{
+    QBuffer content;
+    return content.open(QIODevice::WriteOnly) && picture.save(&content, "PNG") &&
+           writeWholeFile(path, content.data()).isEmpty();
 }
 
 } // namespace
@@ -52,7 +62,8 @@ void TourReport::addPicture(const QString& name, const QImage& picture)
     const QString file =
         QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(name);
     expect(!isBlank(picture), QStringLiteral("a picture that is not blank"));
-    expect(picture.save(QDir(m_folder).filePath(file)), QStringLiteral("%1 is stored").arg(file));
+    expect(storePicture(picture, QDir(m_folder).filePath(file)),
+           QStringLiteral("%1 is stored").arg(file));
     addParagraph(QStringLiteral("![%1](%2)").arg(m_step, file));
 }
 
@@ -75,9 +86,9 @@ bool TourReport::write()
                      ? QStringLiteral("Everything was shown as it should be.")
                      : QStringLiteral("%1 expectations were not met.").arg(m_failures.size()));
     m_lines << QString();
-    QFile file(QDir(m_folder).filePath(QStringLiteral("tour.md")));
-    const QByteArray text = m_lines.join(QLatin1Char('\n')).toUtf8();
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+    return writeWholeFile(QDir(m_folder).filePath(QStringLiteral("tour.md")),
+                          m_lines.join(QLatin1Char('\n')).toUtf8())
+        .isEmpty();
 }
 
 } // namespace Zorvane::Workbench

@@ -1,6 +1,7 @@
 #include "Workbench/Window/Appearance.h"
 
-#include <QtCore/QSettings>
+#include "Workbench/Writing/SettingsFile.h"
+
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyle>
@@ -72,9 +73,9 @@ Appearance storedAppearance()
                                              : Appearance::System;
 }
 
-void storeAppearance(Appearance appearance)
+bool storeAppearance(Appearance appearance)
 {
-    QSettings().setValue(s_key, int(appearance));
+    return storeSetting(s_key, int(appearance));
 }
 
 } // namespace Zorvane::Workbench

@@ -20,6 +20,7 @@ enum class Appearance
 void applyAppearance(QApplication& application, Appearance appearance);
 /** Across runs, in the application's settings. */
 Appearance storedAppearance();
-void storeAppearance(Appearance appearance);
+/** False if it could not be stored. */
+bool storeAppearance(Appearance appearance);
 
 } // namespace Zorvane::Workbench

@@ -208,7 +208,12 @@ void MainWindow::connectActions()
                  (*m_commands)[ZVMainActions::Export]});
     new HistoryCommands(*m_commands, *m_history);
     connect(m_history, &EditHistory::refused, m_messageBar, &MessageBar::say);
-    connect(new WindowMenus(*m_commands), &WindowMenus::chosen, this, &MainWindow::open);
+    auto* const menus = new WindowMenus(*m_commands);
+    connect(menus, &WindowMenus::chosen, this, &MainWindow::open);
+    connect(menus, &WindowMenus::notStored, this, [this] {
+        m_messageBar->say(tr("The settings cannot be stored; those stored before are kept. The "
+                             "disk may be full."));
+    });
 }
 
 void MainWindow::connectFileActions()

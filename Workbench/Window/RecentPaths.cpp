@@ -1,7 +1,8 @@
 #include "Workbench/Window/RecentPaths.h"
 
+#include "Workbench/Writing/SettingsFile.h"
+
 #include <QtCore/QFileInfo>
-#include <QtCore/QSettings>
 
 namespace Zorvane::Workbench {
 
@@ -17,18 +18,18 @@ QStringList RecentPaths::paths()
     return QSettings().value(recentPathsKey).toStringList();
 }
 
-void RecentPaths::add(const QString& path)
+bool RecentPaths::add(const QString& path)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     QStringList all = paths();
     all.removeAll(absolute);
     all.prepend(absolute);
-    QSettings().setValue(recentPathsKey, QStringList(all.mid(0, s_most)));
+    return storeSetting(recentPathsKey, QStringList(all.mid(0, s_most)));
 }
 
-void RecentPaths::clear()
+bool RecentPaths::clear()
 {
-    QSettings().remove(recentPathsKey);
+    return storeSetting(recentPathsKey, QStringList());
 }
 
 } // namespace Zorvane::Workbench

@@ -4,13 +4,16 @@
 
 namespace Zorvane::Workbench {
 
-/** The paths opened last, newest first, kept in the application's settings; at most ten. */
+/**
+ * The paths opened last, newest first, kept in the application's settings; at most ten. Changes
+ * return false if they could not be stored.
+ */
 class RecentPaths
 {
 public:
     static QStringList paths();
-    static void add(const QString& path);
-    static void clear();
+    static bool add(const QString& path);
+    static bool clear();
 };
 
 } // namespace Zorvane::Workbench

@@ -72,9 +72,10 @@ void WindowMenus::addAppearances(QMenu& menu)
     const std::pair<Appearance, QString> appearances[] = {{Appearance::System, tr("&System")},
                                                           {Appearance::Light, tr("&Light")},
                                                           {Appearance::Dark, tr("&Dark")}};
-    addChoices(menu, appearances, storedAppearance(), [](Appearance appearance) {
-        storeAppearance(appearance);
+    addChoices(menu, appearances, storedAppearance(), [this](Appearance appearance) {
         applyAppearance(*qApp, appearance);
+        if (!storeAppearance(appearance))
+            Q_EMIT notStored();
     });
 }
 
@@ -86,7 +87,10 @@ void WindowMenus::showRecent(QMenu& menu)
     if (menu.isEmpty())
         menu.addAction(tr("Nothing opened yet"))->setEnabled(false);
     menu.addSeparator();
-    connect(menu.addAction(tr("Clear")), &QAction::triggered, &RecentPaths::clear);
+    connect(menu.addAction(tr("Clear")), &QAction::triggered, this, [this] {
+        if (!RecentPaths::clear())
+            Q_EMIT notStored();
+    });
 }
 
 } // namespace Zorvane::Workbench

@@ -25,6 +25,8 @@ public:
 Q_SIGNALS:
     /** What the user wants to have opened. */
     void chosen(const QStringList& paths);
+    /** A choice holds until the program ends, but could not be stored. */
+    void notStored();
 
 private:
     void addPath(QMenu& menu, const QString& text, const QString& path);

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+namespace Zorvane::Workbench {
+
+/**
+ * Writes the file in one step. Returns an empty text when the disk has taken all of it, else the
+ * system's reason, and the file is as it was before. May be used in any thread.
+ */
+[[nodiscard]] QString writeWholeFile(const QString& path, const QByteArray& content);
+
+} // namespace Zorvane::Workbench
