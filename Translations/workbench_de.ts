@@ -305,6 +305,10 @@
         <source>version %1 isn&apos;t supported, only versions %2 to %3 are</source>
         <translation>Version %1 wird nicht unterstützt, nur die Versionen %2 bis %3</translation>
     </message>
+    <message>
+        <source>is too large</source>
+        <translation>ist zu groß</translation>
+    </message>
 </context>
 <context>
     <name>Zorvane::Workbench::DesignRelocation</name>
@@ -1883,6 +1887,10 @@
         <source>F&amp;orce:</source>
         <translation>&amp;Kraft:</translation>
     </message>
+    <message>
+        <source>%1 stays as it was: %2</source>
+        <translation>%1 bleibt, wie sie war: %2</translation>
+    </message>
 </context>
 <context>
     <name>Zorvane::Workbench::ReadingProgress</name>
@@ -2133,6 +2141,33 @@
     <message>
         <source>dashed: average</source>
         <translation>gestrichelt: Mittel</translation>
+    </message>
+</context>
+<context>
+    <name>Zorvane::Workbench::TypedQuantity</name>
+    <message>
+        <source>The number is too small.</source>
+        <translation>Die Zahl ist zu klein.</translation>
+    </message>
+    <message>
+        <source>The number is too large.</source>
+        <translation>Die Zahl ist zu groß.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number.</source>
+        <translation>„%1“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is none of the units %2.</source>
+        <translation>„%1“ ist keine der Einheiten %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can mean %2 and %3.</source>
+        <translation>„%1“ kann %2 und %3 bedeuten.</translation>
+    </message>
+    <message>
+        <source>A value cannot be below 0.</source>
+        <translation>Ein Wert kann nicht unter 0 liegen.</translation>
     </message>
 </context>
 <context>

@@ -69,8 +69,8 @@ struct Tool
     QString kind;
     /** The file reference with the mesh; may be null. */
     GUIdentifier geometry;
-    /** With which it presses or holds, in newtons; 0 when not told. */
-    double force = 0;
+    /** With which it presses or holds, in newtons; `noValue` if the file has none. */
+    double force = noValue;
     QJsonObject source;
 };
 
@@ -80,8 +80,8 @@ struct Operation
     QString name;
     /** "draw", "trim", "flange" and the like; other words are kept. */
     QString kind;
-    /** Of the press, in newtons; 0 when not told. */
-    double force = 0;
+    /** Of the press, in newtons; `noValue` if the file has none. */
+    double force = noValue;
     std::vector<Tool> tools;
     UnreadEntries unreadTools;
     QJsonObject source;
@@ -91,8 +91,8 @@ struct Blank
 {
     GUIdentifier id;
     QString name;
-    /** In millimetres; 0 when not told. */
-    double thickness = 0;
+    /** In millimetres; `noValue` if the file has none. */
+    double thickness = noValue;
     /** Of a material of the design; may be null. */
     GUIdentifier material;
     /** The file reference with the mesh; may be null. */
@@ -109,10 +109,10 @@ struct Part
     GUIdentifier geometry;
     /** Of a material of the design; may be null. */
     GUIdentifier material;
-    /** Of its sheet, in millimetres; 0 when not told. */
-    double thickness = 0;
-    /** That forming it takes, in newtons; 0 when not told. */
-    double force = 0;
+    /** Of its sheet, in millimetres; `noValue` if the file has none. */
+    double thickness = noValue;
+    /** That forming it takes, in newtons; `noValue` if the file has none. */
+    double force = noValue;
     /** Absolute path of a mesh file opened by itself; empty for a part of a design. */
     QString file;
     /** Of a mesh file opened by itself. */

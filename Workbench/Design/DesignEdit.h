@@ -39,8 +39,8 @@ struct QuantityEdit
 {
     GUIdentifier object;
     Quantity quantity = Quantity::Thickness;
-    double before = 0;
-    double after = 0;
+    double before = noValue;
+    double after = noValue;
 };
 
 struct AdditionEdit

@@ -114,8 +114,8 @@ std::optional<Part> PieceReader::part(const JsonFields& fields)
     if (part) {
         part->geometry = link(fields, QStringLiteral("geometry"));
         part->material = link(fields, QStringLiteral("material"));
-        part->thickness = fields.size(QStringLiteral("thickness"));
-        part->force = fields.size(QStringLiteral("force"));
+        part->thickness = fields.quantity(QStringLiteral("thickness"));
+        part->force = fields.quantity(QStringLiteral("force"));
     }
     return part;
 }
@@ -126,7 +126,7 @@ std::optional<Tool> PieceReader::tool(const JsonFields& fields)
     if (tool) {
         tool->kind = fields.text(QStringLiteral("kind"));
         tool->geometry = link(fields, QStringLiteral("geometry"));
-        tool->force = fields.size(QStringLiteral("force"));
+        tool->force = fields.quantity(QStringLiteral("force"));
     }
     return tool;
 }
@@ -136,7 +136,7 @@ std::optional<Operation> PieceReader::operation(const JsonFields& fields)
     std::optional<Operation> operation = piece<Operation>(fields);
     if (operation) {
         operation->kind = fields.text(QStringLiteral("kind"));
-        operation->force = fields.size(QStringLiteral("force"));
+        operation->force = fields.quantity(QStringLiteral("force"));
         operation->tools =
             list(fields, QStringLiteral("tools"), operation->unreadTools, &PieceReader::tool);
     }
@@ -176,7 +176,7 @@ void PieceReader::blank(const JsonFields& owner, Design& design)
     design.blank = piece<Blank>(fields);
     if (!design.blank)
         return;
-    design.blank->thickness = fields.size(QStringLiteral("thickness"));
+    design.blank->thickness = fields.quantity(QStringLiteral("thickness"));
     design.blank->material = link(fields, QStringLiteral("material"));
     design.blank->geometry = link(fields, QStringLiteral("geometry"));
 }

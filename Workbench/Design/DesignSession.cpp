@@ -238,8 +238,7 @@ QString DesignSession::setQuantity(GUIdentifier objectId, Quantity quantity, dou
     const std::optional<double> before = this->quantity(objectId, quantity);
     if (!before)
         return tr("The object has no such value.");
-    // Numbers from there on are how the suite tells that nothing was measured.
-    if (!(value >= 0 && value < std::numeric_limits<float>::max()))
+    if (!isQuantity(value) && value != noValue)
         return tr("A value must be a number from 0 on.");
     if (*before != value)
         replay(QuantityEdit{objectId, quantity, *before, value});

@@ -95,12 +95,11 @@ public:
      */
     QString rename(GUIdentifier objectId, const QString& name);
 
-    /** What an object measures; 0 when it is not told, nothing when it never has such a value. */
+    /** `noValue` if the object has none now, nothing if it never has such a value. */
     std::optional<double> quantity(const GUIdentifier& objectId, Quantity quantity) const;
     /**
-     * Gives an object the value, 0 to have it not told. Returns why not, translated, when the value
-     * is no number from 0 up to the largest float, or the object has no such value; nothing has
-     * changed then. Empty when done. The same value again changes nothing, and the value as it was
+     * Gives an object the value, or takes it away with `noValue`. Returns why not, translated, when
+     * the value is no quantity, or the object never has such a value; nothing has changed then. Empty when done. The same value again changes nothing, and the value as it was
      * read or saved takes the object's modification back.
      */
     QString setQuantity(GUIdentifier objectId, Quantity quantity, double value);

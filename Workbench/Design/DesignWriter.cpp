@@ -7,7 +7,6 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 
-#include <algorithm>
 #include <limits>
 
 namespace Zorvane::Workbench {
@@ -21,10 +20,14 @@ void putText(QJsonObject& object, const QString& key, const QString& value)
         object.insert(key, value);
 }
 
-void putNumber(QJsonObject& object, const QString& key, double value)
+void putQuantity(QJsonObject& object, const QString& key, double value)
 {
-    if (std::max(0.0, object.value(key).toDouble()) != value)
+    if (quantityIn(object.value(key)) == value)
+        return;
+    if (isQuantity(value))
         object.insert(key, value);
+    else
+        object.remove(key);
 }
 
 void putId(QJsonObject& object, const QString& key, const GUIdentifier& id)
@@ -51,8 +54,8 @@ QJsonObject toObject(const Part& part)
     QJsonObject object = common(part);
     putId(object, QStringLiteral("geometry"), part.geometry);
     putId(object, QStringLiteral("material"), part.material);
-    putNumber(object, QStringLiteral("thickness"), part.thickness);
-    putNumber(object, QStringLiteral("force"), part.force);
+    putQuantity(object, QStringLiteral("thickness"), part.thickness);
+    putQuantity(object, QStringLiteral("force"), part.force);
     return object;
 }
 
@@ -61,7 +64,7 @@ QJsonObject toObject(const Tool& tool)
     QJsonObject object = common(tool);
     putText(object, QStringLiteral("kind"), tool.kind);
     putId(object, QStringLiteral("geometry"), tool.geometry);
-    putNumber(object, QStringLiteral("force"), tool.force);
+    putQuantity(object, QStringLiteral("force"), tool.force);
     return object;
 }
 
@@ -75,7 +78,7 @@ QJsonObject toObject(const Material& material)
 QJsonObject toObject(const Blank& blank)
 {
     QJsonObject object = common(blank);
-    putNumber(object, QStringLiteral("thickness"), blank.thickness);
+    putQuantity(object, QStringLiteral("thickness"), blank.thickness);
     putId(object, QStringLiteral("material"), blank.material);
     putId(object, QStringLiteral("geometry"), blank.geometry);
     return object;
@@ -126,7 +129,7 @@ QJsonObject toObject(const Operation& operation)
 {
     QJsonObject object = common(operation);
     putText(object, QStringLiteral("kind"), operation.kind);
-    putNumber(object, QStringLiteral("force"), operation.force);
+    putQuantity(object, QStringLiteral("force"), operation.force);
     putList(object, QStringLiteral("tools"), operation.tools, operation.unreadTools);
     return object;
 }

@@ -9,6 +9,11 @@ GUIdentifier identifierIn(const QJsonValue& value)
     return GUIdentifier(value.toString().toStdString());
 }
 
+double quantityIn(const QJsonValue& value)
+{
+    return isQuantity(value.toDouble(noValue)) ? value.toDouble() : noValue;
+}
+
 ProblemList::ProblemList(QString file)
     : m_file(std::move(file))
 {}
@@ -78,15 +83,15 @@ QString JsonFields::text(const QString& key) const
     return value.toString();
 }
 
-double JsonFields::size(const QString& key) const
+double JsonFields::quantity(const QString& key) const
 {
     const QJsonValue value = m_object.value(key);
-    if (value.isUndefined())
-        return 0;
-    if (value.isDouble() && value.toDouble() >= 0)
-        return value.toDouble();
-    report(key, tr("must be a number of at least 0"));
-    return 0;
+    const double quantity = quantityIn(value);
+    if (value.toDouble() >= noValue)
+        report(key, tr("is too large"));
+    else if (!value.isUndefined() && quantity >= noValue)
+        report(key, tr("must be a number of at least 0"));
+    return quantity;
 }
 
 GUIdentifier JsonFields::reference(const QString& key) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Host/Identifiers/GUIdentifier.h"
+#include "Workbench/Design/Quantity.h"
 #include "Workbench/Texts/Problem.h"
 
 #include <QtCore/QCoreApplication>
@@ -15,6 +16,8 @@ namespace Zorvane::Workbench {
 
 /** The identifier that a JSON value holds as text; null if it holds none. */
 GUIdentifier identifierIn(const QJsonValue& value);
+/** The quantity that a JSON value holds as number; `noValue` if it holds none. */
+double quantityIn(const QJsonValue& value);
 
 /** Collects what is wrong with one design file, up to a number that a person can read. */
 class ProblemList
@@ -70,8 +73,8 @@ public:
     std::optional<QString> requiredText(const QString& key) const;
     /** Empty if missing, and with a problem if no text. */
     QString text(const QString& key) const;
-    /** 0 if missing, and with a problem unless a number not below zero. */
-    double size(const QString& key) const;
+    /** `noValue` if missing, and with a problem unless a number that a quantity can be. */
+    double quantity(const QString& key) const;
     /** Null if missing, and with a problem if no UUID. */
     GUIdentifier reference(const QString& key) const;
     /** None, with a problem, unless "id" holds a UUID that is free. */

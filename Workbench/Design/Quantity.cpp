@@ -4,8 +4,6 @@
 
 #include <QtCore/QCoreApplication>
 
-#include <limits>
-
 namespace Zorvane::Workbench {
 
 QString quantityName(Quantity quantity)
@@ -22,11 +20,9 @@ QString quantityUnit(Quantity quantity)
 
 QString quantityText(Quantity quantity, double value)
 {
-    const bool isTold = value > 0 && value < std::numeric_limits<float>::max();
-    const QString number =
-        QString::fromStdString(NumberRepresentation::convertToEngineeringNotation(
-            isTold ? value : std::numeric_limits<double>::infinity()));
-    return isTold ? QStringLiteral("%1 %2").arg(number, quantityUnit(quantity)) : number;
+    const QString number = QString::fromStdString(
+        NumberRepresentation::convertToEngineeringNotation(isQuantity(value) ? value : noValue));
+    return isQuantity(value) ? QStringLiteral("%1 %2").arg(number, quantityUnit(quantity)) : number;
 }
 
 } // namespace Zorvane::Workbench

@@ -1,80 +1,146 @@
 #include "Workbench/Edit/EngineeringSpinBox.h"
 
 #include "Utilities/NumberRepresentation.h"
+#include "Workbench/Edit/TypedQuantity.h"
+
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOptionSpinBox>
+#include <QtWidgets/QToolTip>
 
 #include <algorithm>
-#include <cmath>
 
 namespace Zorvane::Workbench {
 
 namespace {
 
-/** Nearly the largest float, from where on a number tells that nothing was measured. */
-constexpr double s_most = 3e38;
+/** Nearly the largest that a quantity can be. */
+constexpr double mostStepped = 3e38;
+/** Beyond them a sum of decimal fractions is noise. */
+constexpr int certainDigits = 12;
+
+double withoutNoise(double value)
+{
+    return QString::number(value, 'g', certainDigits).toDouble();
+}
+
+double firstStepOf(Quantity quantity)
+{
+    return quantity == Quantity::Thickness ? 0.1 : 1000;
+}
+
+QPalette refusalPalette(QPalette palette)
+{
+    const bool dark = palette.color(QPalette::Base).lightness() < 128;
+    palette.setColor(QPalette::Base, dark ? QColor(0x4a, 0x20, 0x1c) : QColor(0xfd, 0xe8, 0xe5));
+    palette.setColor(QPalette::Text, dark ? QColor(0xff, 0xb4, 0xa6) : QColor(0xa0, 0x22, 0x16));
+    return palette;
+}
 
 } // namespace
 
-EngineeringSpinBox::EngineeringSpinBox(double firstStep, int places, QWidget* parent)
-    : QDoubleSpinBox(parent)
-    , m_firstStep(firstStep)
+EngineeringSpinBox::EngineeringSpinBox(Quantity quantity, QWidget* parent)
+    : QAbstractSpinBox(parent)
+    , m_quantity(quantity)
 {
-    setDecimals(places);
-    setRange(0, s_most);
-    // What is being typed is no value yet.
-    setKeyboardTracking(false);
-    setCorrectionMode(QAbstractSpinBox::CorrectToPreviousValue);
+    // Also where all else runs from right to left, the unit stands behind the number.
+    lineEdit()->setLayoutDirection(Qt::LeftToRight);
+    connect(this, &QAbstractSpinBox::editingFinished, this, &EngineeringSpinBox::enter);
+    connect(lineEdit(), &QLineEdit::textEdited, this, &EngineeringSpinBox::judgeAgain);
+    setValue(noValue);
+}
+
+void EngineeringSpinBox::setValue(double value)
+{
+    m_value = value;
+    m_shown = quantityText(m_quantity, value);
+    lineEdit()->setText(m_shown);
+    showObstacle({});
+    update();
+}
+
+void EngineeringSpinBox::enter()
+{
+    if (!isTyped())
+        return;
+    const TypedQuantity typed = TypedQuantity::read(text(), m_quantity, locale());
+    if (typed.obstacle.isEmpty()) {
+        change(typed.value);
+        return;
+    }
+    showObstacle(typed.obstacle);
+    // What is selected would hide the colours.
+    lineEdit()->end(false);
+    if (hasFocus())
+        QToolTip::showText(mapToGlobal(rect().bottomLeft()), typed.obstacle, this);
+}
+
+void EngineeringSpinBox::change(double value)
+{
+    const bool isNew = value < m_value || value > m_value;
+    setValue(value);
+    if (isNew)
+        Q_EMIT entered(value);
+}
+
+void EngineeringSpinBox::showObstacle(const QString& obstacle)
+{
+    if (obstacle == m_obstacle)
+        return;
+    const bool wasShown = !m_obstacle.isEmpty();
+    m_obstacle = obstacle;
+    setToolTip(obstacle);
+    setAccessibleDescription(obstacle);
+    if (obstacle.isEmpty())
+        setPalette({});
+    else if (!wasShown)
+        setPalette(refusalPalette(palette()));
+}
+
+/** Red is taken back as soon as the text is a quantity. */
+void EngineeringSpinBox::judgeAgain()
+{
+    if (!m_obstacle.isEmpty())
+        showObstacle(TypedQuantity::read(text(), m_quantity, locale()).obstacle);
 }
 
 void EngineeringSpinBox::stepBy(int steps)
 {
-    const double finest = std::pow(10.0, -decimals());
-    // A number that has just been typed is stepped on from; the base class would step from the
-    // value before it, or tell two changes.
-    const double shown = hasAcceptableInput() ? valueFromText(text()) : value();
-    const double suited = NumberRepresentation::optimalSpinnerIncrement(shown);
-    setSingleStep(shown > 0 ? std::max(suited, finest) : m_firstStep);
-    setValue(shown + steps * singleStep());
+    // From what has just been typed, if it is a quantity.
+    const TypedQuantity typed = TypedQuantity::read(text(), m_quantity, locale());
+    const double shown = isTyped() && typed.obstacle.isEmpty() ? typed.value : m_value;
+    const double from = isQuantity(shown) ? shown : 0;
+    const double step =
+        from > 0 ? NumberRepresentation::optimalSpinnerIncrement(from) : firstStepOf(m_quantity);
+    change(std::clamp(withoutNoise(from + steps * step), 0.0, mostStepped));
     selectAll();
 }
 
-QString EngineeringSpinBox::textFromValue(double value) const
+QAbstractSpinBox::StepEnabled EngineeringSpinBox::stepEnabled() const
 {
-    return QString::fromStdString(NumberRepresentation::convertToEngineeringNotation(value));
+    const bool isAboveZero = isTyped() || (isQuantity(m_value) && m_value > 0);
+    return isAboveZero ? StepUpEnabled | StepDownEnabled : StepEnabled(StepUpEnabled);
 }
 
-QString EngineeringSpinBox::numberIn(const QString& text) const
+void EngineeringSpinBox::keyPressEvent(QKeyEvent* event)
 {
-    QString number = text;
-    if (!prefix().isEmpty() && number.startsWith(prefix()))
-        number.remove(0, prefix().size());
-    if (!suffix().isEmpty() && number.endsWith(suffix()))
-        number.chop(suffix().size());
-    return number.trimmed();
+    if (event->key() != Qt::Key_Escape || !isTyped()) {
+        QAbstractSpinBox::keyPressEvent(event);
+        return;
+    }
+    setValue(m_value);
+    selectAll();
 }
 
-double EngineeringSpinBox::valueFromText(const QString& text) const
+QSize EngineeringSpinBox::sizeHint() const
 {
-    const QString number = numberIn(text);
-    if (number == textFromValue(value()) || text == specialValueText())
-        return text == specialValueText() ? minimum() : value();
-    bool isNumber = false;
-    const double typed = locale().toDouble(number, &isNumber);
-    return isNumber ? typed : value();
-}
-
-QValidator::State EngineeringSpinBox::validate(QString& text, int&) const
-{
-    const QString number = numberIn(text);
-    if (!specialValueText().isEmpty() && text == specialValueText())
-        return QValidator::Acceptable;
-    bool isNumber = false;
-    const double typed = locale().toDouble(number, &isNumber);
-    if (isNumber && std::isfinite(typed))
-        return typed >= minimum() && typed <= maximum() ? QValidator::Acceptable
-                                                        : QValidator::Invalid;
-    // The beginning of a number such as "1.", "25e" or "25e-": digits make it one.
-    locale().toDouble(number + QLatin1Char('1'), &isNumber);
-    return number.isEmpty() || isNumber ? QValidator::Intermediate : QValidator::Invalid;
+    ensurePolished();
+    QStyleOptionSpinBox option;
+    initStyleOption(&option);
+    const QString longest = quantityText(m_quantity, 123.456e-6);
+    const QSize content(fontMetrics().horizontalAdvance(longest), lineEdit()->sizeHint().height());
+    return style()->sizeFromContents(QStyle::CT_SpinBox, &option, content, this);
 }
 
 } // namespace Zorvane::Workbench

@@ -3,33 +3,12 @@
 #include "Workbench/Design/DesignSession.h"
 #include "Workbench/Edit/EngineeringSpinBox.h"
 
-#include <QtCore/QSignalBlocker>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
-
-#include <cmath>
 
 namespace Zorvane::Workbench {
 
 namespace {
-
-/** Where stepping up begins, and to how many places values are kept. */
-struct Fineness
-{
-    double firstStep;
-    int places;
-};
-
-Fineness finenessOf(Quantity quantity)
-{
-    return quantity == Quantity::Thickness ? Fineness{0.1, 6} : Fineness{1000, 3};
-}
-
-/** As far as the places of the box go. */
-bool isShown(const EngineeringSpinBox& box, double value)
-{
-    return std::abs(box.value() - value) < 0.6 * std::pow(10.0, -box.decimals());
-}
 
 QString labelText(Quantity quantity)
 {
@@ -59,31 +38,35 @@ QuantityPanel::QuantityPanel(const DesignSession& session, QWidget* parent)
 
 QuantityPanel::Row QuantityPanel::createRow(Quantity quantity)
 {
-    const Fineness fineness = finenessOf(quantity);
-    const Row row{new QLabel(labelText(quantity), this),
-                  new EngineeringSpinBox(fineness.firstStep, fineness.places, this)};
+    const Row row{new QLabel(labelText(quantity), this), new EngineeringSpinBox(quantity, this)};
     row.label->setBuddy(row.spinBox);
     row.spinBox->setAccessibleName(quantityName(quantity));
-    row.spinBox->setSuffix(QLatin1Char(' ') + quantityUnit(quantity));
-    row.spinBox->setSpecialValueText(quantityText(quantity, 0));
-    connect(row.spinBox, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+    connect(row.spinBox, &EngineeringSpinBox::entered, this,
             [this, quantity](double value) { Q_EMIT edited(m_object, quantity, value); });
     return row;
 }
 
 void QuantityPanel::show(const GUIdentifier& object)
 {
-    if (object != m_object) {
-        // What is typed but not entered belongs to the object before.
-        for (const auto& [quantity, row] : m_rows)
-            if (row.spinBox->hasFocus())
-                row.spinBox->interpretText();
-    }
+    if (object != m_object)
+        leaveObject();
     m_object = object;
     bool isAny = false;
     for (const Quantity quantity : s_quantities)
         isAny |= showRow(quantity);
     setVisible(isAny);
+}
+
+/** What is typed but not entered belongs to it. */
+void QuantityPanel::leaveObject()
+{
+    for (const auto& [quantity, row] : m_rows) {
+        row.spinBox->enter();
+        const QString obstacle = row.spinBox->obstacle();
+        row.spinBox->setValue(row.spinBox->value());
+        if (!obstacle.isEmpty())
+            Q_EMIT refused(tr("%1 stays as it was: %2").arg(quantityName(quantity), obstacle));
+    }
 }
 
 bool QuantityPanel::showRow(Quantity quantity)
@@ -93,10 +76,8 @@ bool QuantityPanel::showRow(Quantity quantity)
     row.label->setVisible(value.has_value());
     row.spinBox->setVisible(value.has_value());
     // A number that is being typed stays while the rest of the design changes.
-    if (value && !isShown(*row.spinBox, *value)) {
-        const QSignalBlocker silence(row.spinBox);
+    if (value && *value != row.spinBox->value())
         row.spinBox->setValue(*value);
-    }
     return value.has_value();
 }
 

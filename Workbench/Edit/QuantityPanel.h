@@ -33,9 +33,11 @@ public:
     EngineeringSpinBox& spinBox(Quantity quantity) const { return *m_rows.at(quantity).spinBox; }
 
 Q_SIGNALS:
-    /** The user has given the object another value; 0 for none. */
+    /** The user has given the object another value; `noValue` for none. */
     void edited(const Zorvane::GUIdentifier& object, Zorvane::Workbench::Quantity quantity,
                 double value);
+    /** A text that is no value was left where it was typed, and is gone now. */
+    void refused(const QString& reason);
 
 private:
     struct Row
@@ -45,6 +47,7 @@ private:
     };
 
     Row createRow(Quantity quantity);
+    void leaveObject();
     bool showRow(Quantity quantity);
 
     const DesignSession& m_session;

@@ -17,7 +17,8 @@ DrawParameters parametersOf(const Design& design, int steps)
 {
     DrawParameters parameters;
     parameters.steps = steps;
-    if (design.blank && design.blank->thickness > 0)
+    // Without one, or with 0, the sheet has the usual thickness.
+    if (design.blank && design.blank->thickness > 0 && isQuantity(design.blank->thickness))
         parameters.thickness = design.blank->thickness;
     return parameters;
 }

@@ -192,7 +192,7 @@ void DesignCatalog::addQuantities(CatalogEntry& entry, const GUIdentifier& id,
 {
     for (const Quantity quantity : s_quantities) {
         const double* value = design.findQuantity(id, quantity);
-        if (value != nullptr && *value > 0)
+        if (value && isQuantity(*value))
             entry.particulars.emplace_back(quantityName(quantity), quantityText(quantity, *value));
     }
 }

@@ -259,6 +259,7 @@ void MainWindow::connectParts()
     connect(m_meshView, &MeshView::objectChosen, this, &MainWindow::goTo);
     connect(m_references, &ReferenceMenu::chosen, this, &MainWindow::goTo);
     connect(m_quantities, &QuantityPanel::edited, this, &MainWindow::setQuantity);
+    connect(m_quantities, &QuantityPanel::refused, m_messageBar, &MessageBar::say);
     connect(m_treeView, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
         if (index.column() == TreeColumn::UsedBy)
             goToReference();

@@ -303,6 +303,12 @@ void DesignReaderTest::keepsPieceWithBrokenField_data()
         design.insert(QStringLiteral("blank"), blank);
     }) << QStringLiteral("blank.thickness")
                                       << QStringLiteral("must be a number");
+    QTest::newRow("thickness too large") << Change([](QJsonObject& design) {
+        QJsonObject blank = design.value(QStringLiteral("blank")).toObject();
+        blank.insert(QStringLiteral("thickness"), 1e300);
+        design.insert(QStringLiteral("blank"), blank);
+    }) << QStringLiteral("blank.thickness")
+                                         << QStringLiteral("is too large");
     QTest::newRow("kind a number")
         << inList(QStringLiteral("operations"), 0, set(QStringLiteral("kind"), 3))
         << QStringLiteral("operations[0].kind") << QStringLiteral("must be a text");

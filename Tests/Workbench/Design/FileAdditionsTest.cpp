@@ -147,7 +147,7 @@ void FileAdditionsTest::whatIsAddedAndTakenOutLeavesNoChange()
     QVERIFY(m_session->putBack(takenFile));
     QVERIFY(m_session->putBack(taken));
     QVERIFY(m_session->areQuantitiesModified(id(1)));
-    QCOMPARE(m_session->setQuantity(part, Quantity::Thickness, 0), QString());
+    QCOMPARE(m_session->setQuantity(part, Quantity::Thickness, noValue), QString());
     QVERIFY(!m_session->areQuantitiesModified(id(1)));
     QCOMPARE(m_session->rename(part, QStringLiteral("rib")), QString());
     m_session->take(id(1), {part, file});

@@ -29,6 +29,7 @@ private Q_SLOTS:
     void objectsHaveTheirValues();
     void valuesAreReadFromTheFile();
     void aNewValueIsAModificationUntilItIsSaved();
+    void zero_isWrittenAndNoValueIsNot();
     void theValueOfTheFileTakesTheModificationBack();
     void valuesAreTakenBackOneByOne();
     void theSameValueIsNoChange();
@@ -56,7 +57,8 @@ void QuantityTest::textsAreEngineeringNotation_data()
     QTest::newRow("thickness") << Quantity::Thickness << 1.25 << QStringLiteral("1.25 mm");
     QTest::newRow("thin") << Quantity::Thickness << 0.8 << QStringLiteral("800e-3 mm");
     QTest::newRow("force") << Quantity::Force << 182000.0 << QStringLiteral("182e3 N");
-    QTest::newRow("not told") << Quantity::Force << 0.0 << QStringLiteral("No value");
+    QTest::newRow("zero") << Quantity::Force << 0.0 << QStringLiteral("0 N");
+    QTest::newRow("none") << Quantity::Force << noValue << QStringLiteral("No value");
     QTest::newRow("beyond") << Quantity::Force << 1e39 << QStringLiteral("No value");
 }
 
@@ -92,7 +94,7 @@ void QuantityTest::objectsHaveTheirValues()
 void QuantityTest::valuesAreReadFromTheFile()
 {
     QCOMPARE(*m_session->quantity(id(2), Quantity::Thickness), 1.25);
-    QCOMPARE(*m_session->quantity(id(10), Quantity::Thickness), 0.0);
+    QCOMPARE(*m_session->quantity(id(10), Quantity::Thickness), noValue);
     for (const int object : {10, 20, 21})
         QCOMPARE(m_session->setQuantity(id(object), Quantity::Force, 1000.0 * object), QString());
     QCOMPARE(m_session->setQuantity(id(10), Quantity::Thickness, 0.75), QString());
@@ -119,6 +121,24 @@ void QuantityTest::aNewValueIsAModificationUntilItIsSaved()
     QCOMPARE(written[QLatin1String("blank")][QLatin1String("thickness")].toDouble(), 0.8);
 }
 
+void QuantityTest::zero_isWrittenAndNoValueIsNot()
+{
+    const auto written = [this] {
+        const QJsonObject design = QJsonDocument::fromJson(readFile(m_file)).object();
+        return design[QLatin1String("blank")][QLatin1String("thickness")];
+    };
+    QCOMPARE(m_session->setQuantity(id(2), Quantity::Thickness, 0), QString());
+    QVERIFY(m_session->save().empty());
+    QCOMPARE(written(), QJsonValue(0));
+    DesignSession again;
+    again.open({m_file});
+    QCOMPARE(*again.quantity(id(2), Quantity::Thickness), 0.0);
+    again.close();
+    QCOMPARE(m_session->setQuantity(id(2), Quantity::Thickness, noValue), QString());
+    QVERIFY(m_session->save().empty());
+    QVERIFY(written().isUndefined());
+}
+
 void QuantityTest::theValueOfTheFileTakesTheModificationBack()
 {
     QCOMPARE(m_session->setQuantity(id(2), Quantity::Thickness, 0.8), QString());
@@ -131,9 +151,9 @@ void QuantityTest::valuesAreTakenBackOneByOne()
 {
     QCOMPARE(m_session->setQuantity(id(10), Quantity::Thickness, 0.8), QString());
     QCOMPARE(m_session->setQuantity(id(10), Quantity::Force, 5e4), QString());
-    QCOMPARE(m_session->setQuantity(id(10), Quantity::Thickness, 0), QString());
+    QCOMPARE(m_session->setQuantity(id(10), Quantity::Thickness, noValue), QString());
     QVERIFY(m_session->isModified(id(10)));
-    QCOMPARE(m_session->setQuantity(id(10), Quantity::Force, 0), QString());
+    QCOMPARE(m_session->setQuantity(id(10), Quantity::Force, noValue), QString());
     QVERIFY(!m_session->isModified(id(10)));
 }
 
@@ -150,7 +170,7 @@ void QuantityTest::refusesValue_data()
     QTest::newRow("negative") << -0.1;
     QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN();
     QTest::newRow("infinite") << std::numeric_limits<double>::infinity();
-    QTest::newRow("the mark for no value") << double(std::numeric_limits<float>::max());
+    QTest::newRow("beyond the mark for no value") << 2 * noValue;
 }
 
 void QuantityTest::refusesValue()

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void asksForAnEdit();
     void showingAnotherObjectEditsNothing();
     void whatIsTypedGoesToTheObjectItWasTypedFor();
+    void unreadableText_isReportedWhenAnotherObjectIsShown();
     void whatIsTypedStaysWhileTheDesignIsRefreshed_data();
     void whatIsTypedStaysWhileTheDesignIsRefreshed();
     void aRefusedValueIsPutBack();
@@ -84,7 +85,8 @@ void QuantityPanelTest::showsTheValueOfTheSession()
     m_panel->show(objectId(2));
     QCOMPARE(m_panel->spinBox(Quantity::Thickness).value(), 0.8);
     m_panel->show(objectId(10));
-    QCOMPARE(m_panel->spinBox(Quantity::Thickness).text(), quantityText(Quantity::Thickness, 0));
+    QCOMPARE(m_panel->spinBox(Quantity::Thickness).text(),
+             quantityText(Quantity::Thickness, noValue));
     QCOMPARE(m_edits, 0);
 }
 
@@ -118,14 +120,29 @@ void QuantityPanelTest::whatIsTypedGoesToTheObjectItWasTypedFor()
     QTest::keyClicks(&box, QStringLiteral("2"));
     m_panel->show(objectId(10));
     QCOMPARE(*m_opened->session.quantity(objectId(2), Quantity::Thickness), 2.0);
-    QCOMPARE(*m_opened->session.quantity(objectId(10), Quantity::Thickness), 0.0);
+    QCOMPARE(*m_opened->session.quantity(objectId(10), Quantity::Thickness), noValue);
+}
+
+void QuantityPanelTest::unreadableText_isReportedWhenAnotherObjectIsShown()
+{
+    m_panel->show(objectId(2));
+    QSignalSpy refused(m_panel.get(), &QuantityPanel::refused);
+    EngineeringSpinBox& box = m_panel->spinBox(Quantity::Thickness);
+    box.selectAll();
+    QTest::keyClicks(&box, QStringLiteral("1,500"));
+    m_panel->show(objectId(10));
+    QCOMPARE(refused.count(), 1);
+    QVERIFY(refused[0][0].toString().contains(QStringLiteral("1,500")));
+    QCOMPARE(*m_opened->session.quantity(objectId(2), Quantity::Thickness), 1.25);
+    QCOMPARE(box.text(), quantityText(Quantity::Thickness, noValue));
+    QVERIFY(box.obstacle().isEmpty());
 }
 
 void QuantityPanelTest::whatIsTypedStaysWhileTheDesignIsRefreshed_data()
 {
     QTest::addColumn<double>("before");
     QTest::newRow("as shown") << 1.25;
-    QTest::newRow("of more places than are kept") << 1.23456789012;
+    QTest::newRow("of more places than are shown") << 1.23456789012;
     QTest::newRow("huge") << 1.5e30;
 }
 
