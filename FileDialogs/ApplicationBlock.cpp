@@ -32,6 +32,8 @@ ApplicationBlock::ApplicationBlock(QWidget* owner, QWidget* mainWindow)
     : ApplicationBlock()
 {
     const QPointer<QWidget> toTell(mainWindow);
+    if (owner)
+        m_focus = owner->window()->focusWidget();
     for (const QPointer<QWidget>& widget : enabledWidgets(owner, mainWindow)) {
         if (!widget)
             continue;
@@ -48,6 +50,9 @@ ApplicationBlock::~ApplicationBlock()
         if (widget)
             widget->setEnabled(true);
     }
+    // A widget that is disabled loses it, and another one is next in the order of tabs.
+    if (m_focus)
+        m_focus->setFocus();
 }
 
 } // namespace Zorvane

@@ -13,6 +13,7 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMenuBar>
+#include <QtWidgets/QTreeView>
 
 #include <functional>
 #include <memory>
@@ -67,6 +68,7 @@ private Q_SLOTS:
     void escapeOpensNothing();
     void everyControlIsReachedByTab();
     void previewNeverTakesTheFocus();
+    void importing_leavesTheFocusInTheTree();
 
 private:
     void openDialog();
@@ -261,6 +263,28 @@ void OpenByKeyboardTest::previewNeverTakesTheFocus()
         QTRY_VERIFY(!previewWindow()->frameGeometry().intersects(dialog.frameGeometry()));
         press(dialog, Qt::Key_Escape);
     });
+}
+
+void OpenByKeyboardTest::importing_leavesTheFocusInTheTree()
+{
+    const Testing::OpenedDesign design;
+    Testing::writeFile(design.path(QStringLiteral("draw.csv")), "stroke\n");
+    m_window->open({design.designFile()});
+    m_window->treeView().setFocus();
+    const std::size_t files = m_window->session().designs().front().files.size();
+    ExpectedModals modals;
+    modals.expectDialog<QFileDialog>(QStringLiteral("Import Files"), [](QFileDialog& dialog) {
+        activate(dialog);
+        type(dialog, QStringLiteral("draw.csv"));
+        press(dialog, Qt::Key_Return);
+    });
+    press(*m_window, Qt::Key_I, Qt::ControlModifier);
+    QVERIFY2(modals.allMet(), qPrintable(modals.failures().join(QLatin1Char('\n'))));
+    QCOMPARE(m_window->session().designs().front().files.size(), files + 1);
+    activate(*m_window);
+    QCOMPARE(QApplication::focusWidget(), &m_window->treeView());
+    press(*m_window, Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(m_window->session().designs().front().files.size(), files);
 }
 
 } // namespace Zorvane::Workbench
