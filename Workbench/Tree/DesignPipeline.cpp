@@ -43,6 +43,41 @@ GUIdentifier sectionId(const GUIdentifier& designId, DesignSection section)
         designId.toQUuid(), QStringLiteral("workbench section %1").arg(int(section))));
 }
 
+/** A row above a list, with the number of the list's own items in its text. */
+class SectionParent : public ModelProviderInterface
+{
+public:
+    SectionParent(const GUIdentifier& id, QString text,
+                  std::shared_ptr<ModelProviderInterface> input)
+        : m_id(id)
+        , m_text(std::move(text))
+        , m_input(std::move(input))
+    {}
+
+    std::shared_ptr<ModelRoot> provideModel() override
+    {
+        auto result = std::make_shared<ModelRoot>();
+        const std::shared_ptr<ModelRoot> input = m_input->provideModel();
+        const auto& items = input->getTopLevelItems();
+        if (items.empty())
+            return result;
+        const QString text = QStringLiteral("%1 (%2)").arg(m_text).arg(items.size());
+        auto parent = std::make_shared<ModelItem>(m_id, text.toStdString());
+        parent->setChildren(items);
+        result->addTopLevelItems({parent});
+        return result;
+    }
+    void registerUpdateCallback(std::function<void()> callback) override
+    {
+        m_input->registerUpdateCallback(std::move(callback));
+    }
+
+private:
+    GUIdentifier m_id;
+    QString m_text;
+    std::shared_ptr<ModelProviderInterface> m_input;
+};
+
 std::size_t uniqueCount(std::vector<IDCombiner> ids)
 {
     std::sort(ids.begin(), ids.end());
@@ -157,11 +192,7 @@ DesignPipeline::sectionProvider(const GUIdentifier& designId, DesignSection sect
     m_extractors.emplace_back(section, extractor);
     const GUIdentifier id = sectionId(designId, section);
     m_groupNames[id] = QString();
-    auto parent =
-        std::make_shared<AddStaticParentToModuleProvider>(id, sectionText(section).toStdString());
-    parent->appendNumberOfChildrenToName();
-    parent->setInputModelProvider(extractor);
-    return parent;
+    return std::make_shared<SectionParent>(id, sectionText(section), extractor);
 }
 
 } // namespace Zorvane::Workbench

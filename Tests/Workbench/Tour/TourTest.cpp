@@ -169,7 +169,7 @@ void TourTest::tellsWhatEachPictureShows()
     QCOMPARE(lackedBy(told, m_pictures), QString());
     QCOMPARE(lackedBy(m_pictures, told), QString());
     for (const char* shown :
-         {"Operations (3)", "the operation's new name", "File missing", "Mesh files (500)",
+         {"Operations (1)", "the operation's new name", "File missing", "Mesh files (500)",
           "Mesh files (501)", "truncated.stl: ", "shopping-list.stl: ", "sparse.stl: ", "cut.dsg: ",
           "1 design · 3 of 14 objects shown", "no place lost in 120 refreshes",
           "Mesh view, Legend of colours, Details", "read aloud: 4 references",

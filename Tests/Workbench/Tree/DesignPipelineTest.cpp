@@ -89,7 +89,7 @@ void DesignPipelineTest::showsListsBelowTheirCounts()
                                      "  Parts (2)\n"
                                      "    Blank\n"
                                      "    Cup\n"
-                                     "  Operations (2)\n"
+                                     "  Operations (1)\n"
                                      "    Draw\n"
                                      "      Die\n"
                                      "      Punch\n"
