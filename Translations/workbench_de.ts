@@ -554,10 +554,6 @@
         <translation>Von</translation>
     </message>
     <message>
-        <source>%1 mm</source>
-        <translation>%1 mm</translation>
-    </message>
-    <message>
         <source>To</source>
         <translation>Bis</translation>
     </message>
@@ -1689,6 +1685,10 @@
         <source>line %1</source>
         <translation>Zeile %1</translation>
     </message>
+    <message>
+        <source>is damaged, or written in an unusual way</source>
+        <translation>ist beschädigt oder auf ungewöhnliche Weise geschrieben</translation>
+    </message>
 </context>
 <context>
     <name>Zorvane::Workbench::MeshView</name>
@@ -1733,6 +1733,10 @@
     <message>
         <source>cannot be written: %1</source>
         <translation>lässt sich nicht schreiben: %1</translation>
+    </message>
+    <message>
+        <source>the mesh cannot be turned into STL</source>
+        <translation>das Netz kann nicht in STL umgewandelt werden</translation>
     </message>
 </context>
 <context>

@@ -24,6 +24,17 @@ void removeAll(QWidget& widget)
     }
 }
 
+/** The shortcut in a tool tip reads as it does in the menus: "Strg+S" in German. */
+void showShortcutInUsersLanguage(QAction& action)
+{
+    const QString portable = action.shortcut().toString(QKeySequence::PortableText);
+    QString toolTip = action.toolTip();
+    if (portable.isEmpty() || !toolTip.endsWith(QLatin1Char(' ') + portable))
+        return;
+    toolTip.chop(portable.size());
+    action.setToolTip(toolTip + action.shortcut().toString(QKeySequence::NativeText));
+}
+
 } // namespace
 
 WindowCommands::WindowCommands(QMainWindow& window)
@@ -123,6 +134,7 @@ void WindowCommands::fill()
             continue;
         }
         QAction* const action = actionOf(command);
+        showShortcutInUsersLanguage(*action);
         menu.addAction(action);
         if (bar)
             bar->addAction(action);

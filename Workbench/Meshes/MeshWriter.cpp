@@ -64,7 +64,7 @@ QString Writer::write(const TriangleMesh& mesh, const QString& path, StlFormat f
     const aiExportDataBlob* blob = exporter.ExportToBlob(
         sceneOf(mesh).get(), format == StlFormat::Ascii ? "stl" : "stlb", aiProcess_GenNormals);
     if (blob == nullptr)
-        return tr("cannot be written: %1").arg(QString::fromUtf8(exporter.GetErrorString()));
+        return tr("the mesh cannot be turned into STL");
     const QString obstacle =
         writeWholeFile(path, QByteArray::fromRawData(static_cast<const char*>(blob->data),
                                                      static_cast<int>(blob->size)));

@@ -22,28 +22,35 @@ QString numberText(double value, const QLocale& locale)
     return text;
 }
 
-/** Kept in its order where texts run from right to left. */
-QString inItsOrder(const QString& figures)
+QString withUnit(const QString& figures)
+{
+    return leftToRight(
+        QCoreApplication::translate("Zorvane::Workbench::MeshView", "%1 mm").arg(figures));
+}
+
+} // namespace
+
+QString leftToRight(const QString& figures)
 {
     const QChar begin(0x2066);
     const QChar end(0x2069);
     return QGuiApplication::isRightToLeft() ? begin + figures + end : figures;
 }
 
-QString withUnit(const QString& figures)
+QString pointText(const QVector3D& millimetres, const QLocale& locale)
 {
-    return inItsOrder(
-        QCoreApplication::translate("Zorvane::Workbench::MeshView", "%1 mm").arg(figures));
+    const auto number = [&locale](float value) { return locale.toString(double(value), 'f', 2); };
+    return withUnit(
+        QStringLiteral("%1; %2; %3")
+            .arg(number(millimetres.x()), number(millimetres.y()), number(millimetres.z())));
 }
-
-} // namespace
 
 QString sizeFigures(const QVector3D& millimetres, const QLocale& locale)
 {
-    return inItsOrder(QStringLiteral("%1 × %2 × %3")
-                          .arg(numberText(double(millimetres.x()), locale),
-                               numberText(double(millimetres.y()), locale),
-                               numberText(double(millimetres.z()), locale)));
+    return leftToRight(QStringLiteral("%1 × %2 × %3")
+                           .arg(numberText(double(millimetres.x()), locale),
+                                numberText(double(millimetres.y()), locale),
+                                numberText(double(millimetres.z()), locale)));
 }
 
 QString sizeText(const QVector3D& millimetres, const QLocale& locale)

@@ -2,6 +2,7 @@
 
 #include "Workbench/Design/DesignSession.h"
 #include "Workbench/Meshes/MeshReader.h"
+#include "Workbench/Texts/SizeText.h"
 
 #include <QtCore/QLocale>
 
@@ -193,7 +194,8 @@ void DesignCatalog::addQuantities(CatalogEntry& entry, const GUIdentifier& id,
     for (const Quantity quantity : s_quantities) {
         const double* value = design.findQuantity(id, quantity);
         if (value && isQuantity(*value))
-            entry.particulars.emplace_back(quantityName(quantity), quantityText(quantity, *value));
+            entry.particulars.emplace_back(quantityName(quantity),
+                                           leftToRight(quantityText(quantity, *value)));
     }
 }
 

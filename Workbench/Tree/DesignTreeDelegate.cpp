@@ -3,7 +3,10 @@
 #include "Host/Widgets/ZVWidgetStatus.h"
 #include "Workbench/Tree/RowDecoration.h"
 
+#include <QtGui/QHelpEvent>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QToolTip>
 
 namespace Zorvane::Workbench {
 
@@ -34,6 +37,16 @@ QWidget* DesignTreeDelegate::createEditor(QWidget* parent, const QStyleOptionVie
     QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
     editor->setAccessibleName(tr("New name of %1").arg(index.data().toString()));
     return editor;
+}
+
+bool DesignTreeDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                                   const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    const bool isCut = sizeHint(option, index).width() > option.rect.width();
+    if (event->type() != QEvent::ToolTip || !isCut || index.data(Qt::ToolTipRole).isValid())
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QToolTip::showText(event->globalPos(), index.data().toString(), view->viewport(), option.rect);
+    return true;
 }
 
 QSize DesignTreeDelegate::sizeHint(const QStyleOptionViewItem& option,

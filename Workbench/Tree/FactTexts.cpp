@@ -1,5 +1,7 @@
 #include "Workbench/Tree/FactTexts.h"
 
+#include "Workbench/Texts/SizeText.h"
+
 #include <QtCore/QCoreApplication>
 
 namespace Zorvane::Workbench {
@@ -12,8 +14,8 @@ QString surfaceFigures(double squareMillimetres, const QLocale& locale)
 
 QString surfaceText(double squareMillimetres, const QLocale& locale)
 {
-    return QCoreApplication::translate("Zorvane::Workbench::FactTexts", "%1 mm²")
-        .arg(surfaceFigures(squareMillimetres, locale));
+    return leftToRight(QCoreApplication::translate("Zorvane::Workbench::FactTexts", "%1 mm²")
+                           .arg(surfaceFigures(squareMillimetres, locale)));
 }
 
 QString yesNoText(bool yes)

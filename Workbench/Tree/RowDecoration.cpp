@@ -70,13 +70,19 @@ QString stateTextOf(const DesignCatalog& catalog, const CatalogEntry& entry)
     return catalog.stateText(entry);
 }
 
+/** More than the column shows: why a mesh cannot be read. */
+QString wholeStateText(const DesignCatalog& catalog, const CatalogEntry& entry)
+{
+    const QString problem = catalog.meshProblem(entry);
+    return problem.isEmpty() ? catalog.stateText(entry) : problem;
+}
+
 QString toolTip(const DesignCatalog& catalog, const CatalogEntry& entry)
 {
     QStringList lines{entry.name};
     if (!entry.path.isEmpty())
         lines << QDir::toNativeSeparators(entry.path);
-    const QString problem = catalog.meshProblem(entry);
-    lines << (problem.isEmpty() ? catalog.stateText(entry) : problem);
+    lines << wholeStateText(catalog, entry);
     lines.removeAll(QString());
     return lines.join(QLatin1Char('\n'));
 }
@@ -167,6 +173,7 @@ void RowDecoration::addTexts()
             [](const DesignCatalog&, const CatalogEntry& entry) { return entry.kindText; });
     m_factTexts.push_back(addText(TreeColumn::State, Qt::DisplayRole, &stateTextOf));
     m_factTexts.push_back(addText(TreeColumn::Name, Qt::ToolTipRole, &toolTip));
+    m_factTexts.push_back(addText(TreeColumn::State, Qt::ToolTipRole, &wholeStateText));
 }
 
 void RowDecoration::addFactTexts()

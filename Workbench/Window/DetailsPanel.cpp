@@ -15,13 +15,6 @@ namespace Zorvane::Workbench {
 
 namespace {
 
-QString pointText(const QVector3D& point)
-{
-    const auto number = [](float value) { return QLocale().toString(double(value), 'f', 2); };
-    return QStringLiteral("%1; %2; %3")
-        .arg(number(point.x()), number(point.y()), number(point.z()));
-}
-
 QString namesOf(const DesignCatalog& catalog, const std::vector<IDCombiner>& ids)
 {
     QStringList names;
@@ -69,8 +62,8 @@ DetailsPanel::Rows DetailsPanel::rowsFor(const DesignCatalog& catalog,
     if (const std::optional<MeshFacts> facts = catalog.facts(entry)) {
         rows.emplace_back(tr("Triangles"), QLocale().toString(qulonglong(facts->triangles)));
         rows.emplace_back(tr("Size"), sizeText(facts->box.size(), QLocale()));
-        rows.emplace_back(tr("From"), tr("%1 mm").arg(pointText(facts->box.lowest)));
-        rows.emplace_back(tr("To"), tr("%1 mm").arg(pointText(facts->box.highest)));
+        rows.emplace_back(tr("From"), pointText(facts->box.lowest, QLocale()));
+        rows.emplace_back(tr("To"), pointText(facts->box.highest, QLocale()));
         rows.emplace_back(tr("Surface"), surfaceText(facts->surface, QLocale()));
         rows.emplace_back(tr("Watertight"), yesNoText(facts->watertight));
     }

@@ -65,6 +65,7 @@ void ProblemsPanel::show(const Problems& problems)
             m_list, {QFileInfo(problem.file).fileName(), problem.where, problem.reason});
         item->setIcon(0, icon);
         item->setToolTip(0, QDir::toNativeSeparators(problem.file));
+        item->setToolTip(1, problem.where);
         item->setToolTip(2, problem.reason);
     }
     m_title->setText(tr("Problems (%1)").arg(problems.size()));

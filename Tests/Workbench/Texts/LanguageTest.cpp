@@ -6,13 +6,16 @@
 #include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/Design/Quantity.h"
 #include "Workbench/Tree/RowDecoration.h"
+#include "Workbench/Undo/EditHistory.h"
 #include "Workbench/Window/MainWindow.h"
 
+#include <QtGui/QContextMenuEvent>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QTreeView>
 
 namespace Zorvane::Workbench {
 
@@ -22,7 +25,7 @@ const QLocale s_german(QLocale::German, QLocale::Germany);
 const QLocale s_english(QLocale::English, QLocale::UnitedKingdom);
 const QLocale s_icelandic(QLocale::Icelandic, QLocale::Iceland);
 
-QString noValue()
+QString noValueText()
 {
     return Translator::translate("NumberRepresentation", "No value");
 }
@@ -73,6 +76,14 @@ QMap<QString, QString> commandsByKey(const MainWindow& window)
     return byKey;
 }
 
+/** That of the current row, which stays open. */
+void openRowMenu(MainWindow& window)
+{
+    QWidget* const rows = window.treeView().viewport();
+    QContextMenuEvent request(QContextMenuEvent::Keyboard, {}, {});
+    QCoreApplication::sendEvent(rows, &request);
+}
+
 /** Empty if every letter is there once, and no key that is taken already. */
 QString lettersTwice(const QStringList& texts, QMap<QString, QString> byKey = {})
 {
@@ -99,6 +110,7 @@ private Q_SLOTS:
     void countsInEnglish();
     void aLanguageWithoutTextsIsEnglishThroughout();
     void theTextsGoWithTheLanguage();
+    void shortcutsInToolTips_readAsInMenus();
     void aKeyOfTheWindowLeadsToOnePlace_data();
     void aKeyOfTheWindowLeadsToOnePlace();
 };
@@ -108,7 +120,7 @@ void LanguageTest::speaksGermanThroughout()
     const Language language(s_german);
     QCOMPARE(treeColumnTitles().at(TreeColumn::UsedBy), QStringLiteral("Nutzer"));
     QCOMPARE(quantityName(Quantity::Thickness), QStringLiteral("Dicke"));
-    QCOMPARE(noValue(), QStringLiteral("Kein Wert"));
+    QCOMPARE(noValueText(), QStringLiteral("Kein Wert"));
 }
 
 void LanguageTest::tablesOfTextsAreTranslated()
@@ -135,7 +147,7 @@ void LanguageTest::countsInEnglish()
     const Language language(s_english);
     QCOMPARE(moreProblems(1), QStringLiteral("has 1 more problem"));
     QCOMPARE(moreProblems(3), QStringLiteral("has 3 more problems"));
-    QCOMPARE(noValue(), QStringLiteral("No value"));
+    QCOMPARE(noValueText(), QStringLiteral("No value"));
 }
 
 void LanguageTest::aLanguageWithoutTextsIsEnglishThroughout()
@@ -143,7 +155,7 @@ void LanguageTest::aLanguageWithoutTextsIsEnglishThroughout()
     const Language language(s_icelandic);
     QCOMPARE(moreProblems(1), QStringLiteral("has 1 more problem"));
     QCOMPARE(treeColumnTitles().at(TreeColumn::Name), QStringLiteral("Name"));
-    QCOMPARE(noValue(), QStringLiteral("No value"));
+    QCOMPARE(noValueText(), QStringLiteral("No value"));
 }
 
 void LanguageTest::theTextsGoWithTheLanguage()
@@ -153,6 +165,29 @@ void LanguageTest::theTextsGoWithTheLanguage()
         QCOMPARE(quantityName(Quantity::Force), QStringLiteral("Kraft"));
     }
     QCOMPARE(quantityName(Quantity::Force), QStringLiteral("Force"));
+}
+
+void LanguageTest::shortcutsInToolTips_readAsInMenus()
+{
+    const Language language(s_german);
+    const MainWindow window;
+    const QAction* save = nullptr;
+    for (const QAction* action : window.actions())
+        if (action->shortcut() == QKeySequence(QStringLiteral("Ctrl+S")))
+            save = action;
+    QVERIFY(save);
+    const QString native = save->shortcut().toString(QKeySequence::NativeText);
+    QVERIFY2(save->toolTip().endsWith(QStringLiteral("    ") + native),
+             qPrintable(save->toolTip()));
+    // Without Qt's own texts in German there is nothing to tell them apart by.
+    if (native != QStringLiteral("Ctrl+S"))
+        QVERIFY(!save->toolTip().contains(QStringLiteral("Ctrl")));
+    for (const QAction* action : window.actions())
+        QVERIFY2(!action->toolTip().contains(QStringLiteral("Ctrl+")) ||
+                     action->shortcut()
+                         .toString(QKeySequence::NativeText)
+                         .contains(QStringLiteral("Ctrl")),
+                 qPrintable(action->toolTip()));
 }
 
 void LanguageTest::aKeyOfTheWindowLeadsToOnePlace_data()
@@ -166,7 +201,16 @@ void LanguageTest::aKeyOfTheWindowLeadsToOnePlace()
 {
     QFETCH(QLocale, locale);
     const Language language(locale);
+    const Testing::OpenedDesign design;
     MainWindow window;
+    window.show();
+    window.open({design.designFile()});
+    window.tree().refreshNow();
+    // Undo and Redo name what they act on.
+    window.session().rename(Testing::objectId(10), QStringLiteral("One"));
+    window.session().rename(Testing::objectId(10), QStringLiteral("Two"));
+    window.history().undo();
+    openRowMenu(window);
     QVERIFY(textsWithKeys(window).size() >= 8);
     for (const WindowMode mode : {WindowMode::Tube, WindowMode::Tandrel, WindowMode::Forming}) {
         window.commands().setMode(mode);

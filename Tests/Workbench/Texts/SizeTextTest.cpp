@@ -40,8 +40,10 @@ void SizeTextTest::figuresStayInOrderFromRightToLeft()
 {
     QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     const QString text = lengthText(50, QLocale::c());
+    const QString point = pointText({-1.5f, 2, 0.25f}, QLocale::c());
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     QCOMPARE(text, QChar(0x2066) + QStringLiteral("50 mm") + QChar(0x2069));
+    QCOMPARE(point, QChar(0x2066) + QStringLiteral("-1.50; 2.00; 0.25 mm") + QChar(0x2069));
 }
 
 } // namespace Zorvane::Workbench
