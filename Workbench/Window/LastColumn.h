@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QtCore/QObject>
-#include <QtCore/QTimer>
 
 QT_BEGIN_NAMESPACE
 class QHeaderView;
@@ -11,8 +10,8 @@ QT_END_NAMESPACE
 namespace Zorvane::Workbench {
 
 /**
- * Lets the last column of a view take what the others leave, but never less than its texts in
- * sight, up to some width: by itself Qt leaves it next to nothing in a narrow window.
+ * Lets the last column of a view take what the others leave, but never less than its title: by
+ * itself Qt leaves it next to nothing in a narrow window. Longer texts are elided by the view.
  */
 class LastColumn : public QObject
 {
@@ -22,17 +21,12 @@ public:
     /** Belongs to the view, which has its model already. */
     explicit LastColumn(QTreeView* view);
 
-    /** To be called when texts may have become longer; all else is noticed. */
-    void fit();
-
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    int neededWidth(int last) const;
+    void fit();
 
-    QTreeView* m_view;
     QHeaderView* m_header;
-    QTimer m_soon;
     bool m_isFitting = false;
 };
 

@@ -246,7 +246,6 @@ void MainWindow::connectParts()
     connect(m_filterBar, &FilterBar::kindToggled, m_tree, &DesignTree::setKindShown);
     connect(m_tree, &DesignTree::currentChanged, this, &MainWindow::showCurrent);
     connect(m_tree, &DesignTree::refreshed, this, &MainWindow::showSession);
-    connect(m_tree, &DesignTree::refreshed, m_layout, &WindowLayout::fitColumns);
     connect(m_tree, &DesignTree::renameRefused, this,
             [this](const QString&, const QString& reason) {
                 m_messageBar->say(reason);

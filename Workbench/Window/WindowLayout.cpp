@@ -82,7 +82,7 @@ QWidget* WindowLayout::createTreeSide()
         header->resizeSection(
             column, std::max(int(widths[column] * digitWidth()), header->sectionSizeHint(column)));
     new ScaledColumns(m_parts.tree);
-    m_lastColumn = new LastColumn(m_parts.tree);
+    new LastColumn(m_parts.tree);
     auto* side = new QWidget(m_sides);
     QVBoxLayout* const layout = layOutTightly(side);
     layout->addWidget(m_parts.filter);
@@ -104,11 +104,6 @@ void WindowLayout::divide(const QSize& size)
 {
     m_sides->setSizes({size.width() * 69 / 100, size.width() * 31 / 100});
     m_meshAndDetails->setSizes({size.height() * 60 / 100, size.height() * 30 / 100});
-}
-
-void WindowLayout::fitColumns()
-{
-    m_lastColumn->fit();
 }
 
 void WindowLayout::fitProblems()

@@ -10,7 +10,6 @@ QT_END_NAMESPACE
 
 namespace Zorvane::Workbench {
 
-class LastColumn;
 class ProblemsPanel;
 
 /**
@@ -40,8 +39,6 @@ public:
     QSize usualSize() const;
     /** Gives tree, mesh and details their usual shares of a window this large. */
     void divide(const QSize& size);
-    /** Once the tree's texts may have become longer. */
-    void fitColumns();
     /** Shows the problems, if there are any, as high as they are until the user moves that. */
     void fitProblems();
 
@@ -55,7 +52,6 @@ private:
 
     Parts m_parts;
     QWidget* m_central;
-    LastColumn* m_lastColumn = nullptr;
     QSplitter* m_sides;
     QSplitter* m_meshAndDetails;
     QSplitter* m_allAndProblems;

@@ -4,8 +4,10 @@
 #include "Tests/Workbench/Tree/ShownTree.h"
 #include "Workbench/Tree/DesignTreeDelegate.h"
 
+#include <QtGui/QHelpEvent>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QToolTip>
 
 namespace Zorvane::Workbench {
 
@@ -37,6 +39,8 @@ private Q_SLOTS:
     void cleanup();
 
     void columnsTellWhatIsKnown();
+    void textCutShort_isAToolTip();
+    void state_isWholeInItsToolTip();
     void factsArriveAsMeshesAreRead();
     void refreshesAreGathered();
     void aThousandChangesInOneEventAreOneSynchronization();
@@ -133,6 +137,36 @@ void DesignTreeTest::columnsTellWhatIsKnown()
              QStringLiteral("Die\n") +
                  QDir::toNativeSeparators(QStringLiteral("geometry/die.stl")));
     QVERIFY(at(21).parent().parent().data(Qt::FontRole).value<QFont>().bold());
+}
+
+void DesignTreeTest::textCutShort_isAToolTip()
+{
+    QTreeView& view = m_shown->view;
+    const auto toolTipOf = [&view](const QModelIndex& index) {
+        QStyleOptionViewItem option;
+        option.initFrom(&view);
+        option.font = view.font();
+        option.rect = view.visualRect(index);
+        QHelpEvent event(QEvent::ToolTip, option.rect.center(),
+                         view.viewport()->mapToGlobal(option.rect.center()));
+        QToolTip::hideText();
+        view.itemDelegate(index)->helpEvent(&event, &view, option, index);
+        return QToolTip::text();
+    };
+    const QModelIndex kind = at(20).siblingAtColumn(TreeColumn::Kind);
+    view.setColumnWidth(TreeColumn::Kind, 300);
+    QCOMPARE(toolTipOf(kind), QString());
+    view.setColumnWidth(TreeColumn::Kind, 30);
+    QCOMPARE(toolTipOf(kind), QStringLiteral("Draw operation"));
+    QToolTip::hideText();
+}
+
+void DesignTreeTest::state_isWholeInItsToolTip()
+{
+    m_shown->session.rename(objectId(21), QStringLiteral("Other"));
+    m_shown->tree.refreshNow();
+    const QModelIndex state = at(21).siblingAtColumn(TreeColumn::State);
+    QCOMPARE(state.data(Qt::ToolTipRole).toString(), QStringLiteral("Modified"));
 }
 
 void DesignTreeTest::factsArriveAsMeshesAreRead()
