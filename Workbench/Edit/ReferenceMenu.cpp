@@ -2,6 +2,7 @@
 
 #include "Host/ApplicationWidgets/SvgIcon.h"
 #include "Workbench/MeshView/PartIcon.h"
+#include "Workbench/Texts/MenuText.h"
 #include "Workbench/Tree/DesignCatalog.h"
 
 #include <QtWidgets/QMenu>
@@ -14,12 +15,6 @@ QIcon iconOf(const CatalogEntry& entry)
 {
     const QIcon picture = createSvgIcon(iconPath(entry.kind));
     return entry.colour.isValid() ? colourIcon(entry.colour) : picture;
-}
-
-/** An '&' in a name is no mark of a key. */
-QString menuText(QString name)
-{
-    return name.replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
 } // namespace

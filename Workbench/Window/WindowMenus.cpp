@@ -1,6 +1,7 @@
 #include "Workbench/Window/WindowMenus.h"
 
 #include "Workbench/Commands/WindowCommands.h"
+#include "Workbench/Texts/MenuText.h"
 #include "Workbench/Window/Appearance.h"
 #include "Workbench/Window/RecentPaths.h"
 #include "Workbench/Window/SampleDesigns.h"
@@ -47,8 +48,9 @@ WindowMenus::WindowMenus(WindowCommands& commands)
 
 void WindowMenus::addPath(QMenu& menu, const QString& text, const QString& path)
 {
-    connect(menu.addAction(text), &QAction::triggered, this,
-            [this, path] { Q_EMIT chosen({path}); });
+    QAction* const action = menu.addAction(menuText(text));
+    action->setToolTip(QDir::toNativeSeparators(path));
+    connect(action, &QAction::triggered, this, [this, path] { Q_EMIT chosen({path}); });
 }
 
 void WindowMenus::addSamples(QMenu& menu)
@@ -82,6 +84,7 @@ void WindowMenus::addAppearances(QMenu& menu)
 void WindowMenus::showRecent(QMenu& menu)
 {
     menu.clear();
+    menu.setToolTipsVisible(true);
     for (const QString& path : RecentPaths::paths())
         addPath(menu, QDir::toNativeSeparators(path), path);
     if (menu.isEmpty())

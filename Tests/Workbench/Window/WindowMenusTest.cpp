@@ -8,6 +8,7 @@
 #include "Workbench/Window/RecentPaths.h"
 #include "Workbench/Window/SampleDesigns.h"
 
+#include <QtCore/QDir>
 #include <QtWidgets/QMenu>
 
 namespace Zorvane::Workbench {
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void cleanup();
     void withoutRecentPathsTheMenuSaysSo();
     void recentPathsAreOpened();
+    void longRecentPath_isElidedWithAllOfItAsToolTip();
     void recentPathsAreCleared();
     void samplesAreOpened();
     void theAppearanceInForceIsChecked();
@@ -68,10 +70,23 @@ void WindowMenusTest::recentPathsAreOpened()
 {
     RecentPaths::add(m_files->designFile());
     QAction* const path = recent().actions().first();
-    QCOMPARE(path->text(), QDir::toNativeSeparators(m_files->designFile()));
+    QCOMPARE(path->toolTip(), QDir::toNativeSeparators(m_files->designFile()));
     path->trigger();
     QCOMPARE(m_window->session().designs().size(), std::size_t(1));
     QTRY_VERIFY(!m_window->loader().isBusy());
+}
+
+void WindowMenusTest::longRecentPath_isElidedWithAllOfItAsToolTip()
+{
+    const QString path = QDir::tempPath() + QStringLiteral("/R&D") +
+                         QString(200, QLatin1Char('x')) + QStringLiteral("/cup.dsg");
+    RecentPaths::add(path);
+    const QAction* const action = recent().actions().first();
+    QVERIFY(action->text().size() < 80);
+    QVERIFY(action->text().endsWith(QStringLiteral("cup.dsg")));
+    QVERIFY(QKeySequence::mnemonic(action->text()).isEmpty());
+    QCOMPARE(action->toolTip(), QDir::toNativeSeparators(path));
+    QVERIFY(recent().toolTipsVisible());
 }
 
 void WindowMenusTest::recentPathsAreCleared()
