@@ -134,15 +134,13 @@ MeshReading refused(const QString& path, const QString& reason, const QString& w
 
 MeshReading parseChecked(const QString& path, const QByteArray& content, const char* ending)
 {
-    if (content.isEmpty())
-        return refused(path, MeshReader::tr("has no triangles"));
     Assimp::Importer importer;
     const aiScene* scene =
         importer.ReadFileFromMemory(content.constData(), static_cast<std::size_t>(content.size()),
                                     aiProcess_Triangulate, ending);
-    // Why not, the library says in words of its own.
+    // The library's own words for it are none for users.
     if (scene == nullptr)
-        return refused(path, MeshReader::tr("is damaged, or written in an unusual way"));
+        return refused(path, MeshReader::tr("has no triangles that can be read"));
     if (!hasOnlyNumbers(*scene))
         return refused(path, MeshReader::tr("has coordinates that are infinite or no numbers"));
     TriangleMesh mesh = meshOf(*scene);

@@ -174,7 +174,8 @@ void MeshReaderTest::refuses_data()
     row("binary STL with something behind","a.stl", binary + '\0',          "is longer than it says");
     row("binary STL of forged count",      "a.stl", withCount(0xffffffff),  "is cut off: 4,294,967,295 triangles take 214,748,364,834 bytes");
     row("binary STL cut in its header",    "a.stl", binary.left(60),        "is too short");
-    row("binary STL without triangles",    "a.stl", binaryStl({}),          "");
+    row("binary STL without triangles",    "a.stl", binaryStl({}),          "has no triangles that can be read");
+    row("OBJ of a comment",                "a.obj", "# nothing\n",          "has no triangles that can be read");
     row("text named .stl",                 "a.stl", "Dear colleague,\n",    "is a text but no STL");
     row("HTML named .stl",                 "a.stl", "<html>\n<body>solid",  "is a text but no STL");
     row("text that begins with solid",     "a.stl", "solid ground\nis nice\n", "line 2: has \"is\" where \"facet\" should stand");
