@@ -1686,8 +1686,8 @@
         <translation>Zeile %1</translation>
     </message>
     <message>
-        <source>is damaged, or written in an unusual way</source>
-        <translation>ist beschädigt oder auf ungewöhnliche Weise geschrieben</translation>
+        <source>has no triangles that can be read</source>
+        <translation>hat keine Dreiecke, die gelesen werden können</translation>
     </message>
 </context>
 <context>
@@ -2030,7 +2030,7 @@
     </message>
     <message>
         <source>&amp;Refreshes a second:</source>
-        <translation>Auf&amp;frischungen je Sekunde:</translation>
+        <translation>Auffrischungen &amp;je Sekunde:</translation>
     </message>
     <message>
         <source>&amp;Start</source>
@@ -2038,7 +2038,7 @@
     </message>
     <message>
         <source>&amp;One Refresh</source>
-        <translation>&amp;Eine Auffrischung</translation>
+        <translation>Eine Auff&amp;rischung</translation>
     </message>
     <message>
         <source>Refreshes</source>

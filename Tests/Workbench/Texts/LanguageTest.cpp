@@ -5,16 +5,19 @@
 #include "Tests/Workbench/Tree/TreeFixture.h"
 #include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/Design/Quantity.h"
+#include "Workbench/DialogPanel/DialogPanel.h"
+#include "Workbench/Help/HelpWindow.h"
+#include "Workbench/Stress/StressWindow.h"
 #include "Workbench/Tree/RowDecoration.h"
 #include "Workbench/Undo/EditHistory.h"
 #include "Workbench/Window/MainWindow.h"
 
 #include <QtGui/QContextMenuEvent>
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTreeView>
 
 namespace Zorvane::Workbench {
@@ -44,17 +47,24 @@ QStringList menuTitles(const MainWindow& window)
     return titles;
 }
 
-/** What Alt and a letter lead to in the window itself, by their texts. */
-QStringList textsWithKeys(const MainWindow& window)
+/** What Alt and a letter lead to among labels and buttons, by their texts. */
+QStringList textsWithKeys(const QWidget& window)
 {
     QStringList texts;
-    for (const QAction* action : window.menuBar()->actions())
-        texts << action->text();
     for (const auto* label : window.findChildren<QLabel*>())
         if (label->buddy())
             texts << label->text();
-    for (const auto* button : window.findChildren<QPushButton*>())
+    for (const auto* button : window.findChildren<QAbstractButton*>())
         texts << button->text();
+    return texts;
+}
+
+/** The same of the main window, whose tool buttons have the texts of menus. */
+QStringList textsWithKeys(const MainWindow& window)
+{
+    QStringList texts = textsWithKeys(*window.centralWidget());
+    for (const QAction* action : window.menuBar()->actions())
+        texts << action->text();
     return texts;
 }
 
@@ -113,6 +123,8 @@ private Q_SLOTS:
     void shortcutsInToolTips_readAsInMenus();
     void aKeyOfTheWindowLeadsToOnePlace_data();
     void aKeyOfTheWindowLeadsToOnePlace();
+    void keysOfOtherWindows_leadToOnePlace_data() { aKeyOfTheWindowLeadsToOnePlace_data(); }
+    void keysOfOtherWindows_leadToOnePlace();
 };
 
 void LanguageTest::speaksGermanThroughout()
@@ -211,6 +223,7 @@ void LanguageTest::aKeyOfTheWindowLeadsToOnePlace()
     window.session().rename(Testing::objectId(10), QStringLiteral("Two"));
     window.history().undo();
     openRowMenu(window);
+    QVERIFY(window.treeView().findChild<QMenu*>());
     QVERIFY(textsWithKeys(window).size() >= 8);
     for (const WindowMode mode : {WindowMode::Tube, WindowMode::Tandrel, WindowMode::Forming}) {
         window.commands().setMode(mode);
@@ -218,6 +231,17 @@ void LanguageTest::aKeyOfTheWindowLeadsToOnePlace()
         for (const auto* menu : window.findChildren<QMenu*>())
             QCOMPARE(lettersTwice(textsOf(*menu)), QString());
     }
+}
+
+void LanguageTest::keysOfOtherWindows_leadToOnePlace()
+{
+    QFETCH(QLocale, locale);
+    const Language language(locale);
+    const StressWindow stress;
+    const DialogPanel dialogs;
+    const HelpWindow help;
+    for (const QWidget* window : std::initializer_list<const QWidget*>{&stress, &dialogs, &help})
+        QCOMPARE(lettersTwice(textsWithKeys(*window)), QString());
 }
 
 } // namespace Zorvane::Workbench
