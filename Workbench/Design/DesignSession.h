@@ -99,8 +99,9 @@ public:
     std::optional<double> quantity(const GUIdentifier& objectId, Quantity quantity) const;
     /**
      * Gives an object the value, or takes it away with `noValue`. Returns why not, translated, when
-     * the value is no quantity, or the object never has such a value; nothing has changed then. Empty when done. The same value again changes nothing, and the value as it was
-     * read or saved takes the object's modification back.
+     * the value is no quantity, or the object never has such a value; nothing has changed then.
+     * Empty when done. The same value again changes nothing, and the value as it was read or saved
+     * takes the object's modification back.
      */
     QString setQuantity(GUIdentifier objectId, Quantity quantity, double value);
 

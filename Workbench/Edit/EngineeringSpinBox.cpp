@@ -46,6 +46,7 @@ EngineeringSpinBox::EngineeringSpinBox(Quantity quantity, QWidget* parent)
 {
     // Also where all else runs from right to left, the unit stands behind the number.
     lineEdit()->setLayoutDirection(Qt::LeftToRight);
+    setAlignment(isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
     connect(this, &QAbstractSpinBox::editingFinished, this, &EngineeringSpinBox::enter);
     connect(lineEdit(), &QLineEdit::textEdited, this, &EngineeringSpinBox::judgeAgain);
     setValue(noValue);

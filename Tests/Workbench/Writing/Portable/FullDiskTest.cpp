@@ -4,12 +4,14 @@
 #include "Tests/Workbench/Design/DesignFiles.h"
 #include "Tests/Workbench/Meshes/MeshFiles.h"
 #include "Tests/Workbench/Tree/TreeFixture.h"
+#include "Workbench/Commands/WindowCommands.h"
 #include "Workbench/Convert/MeshConversion.h"
 #include "Workbench/Meshes/GeneratedMeshes.h"
 #include "Workbench/Meshes/MeshWriter.h"
 #include "Workbench/Saving/DesignSaving.h"
 #include "Workbench/Solver/SimulationRunner.h"
 #include "Workbench/Tour/TourReport.h"
+#include "Workbench/Window/Appearance.h"
 #include "Workbench/Window/MainWindow.h"
 #include "Workbench/Window/MessageBar.h"
 #include "Workbench/Writing/SettingsFile.h"
@@ -17,6 +19,9 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QPoint>
+#include <QtCore/QScopeGuard>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QMenu>
 
 #include <memory>
 
@@ -63,6 +68,7 @@ private Q_SLOTS:
     void convertedFile_leavesNothing();
     void tour_isReported();
     void settings_keepOldOnes();
+    void choiceNotStored_isReported();
 
 private:
     QString openDesign(DesignSession& session) const;
@@ -220,6 +226,24 @@ void FullDiskTest::settings_keepOldOnes()
     m_disk->makeRoom();
     QCOMPARE(settings.status(), QSettings::AccessError);
     QCOMPARE(readFile(file), before);
+}
+
+void FullDiskTest::choiceNotStored_isReported()
+{
+    const QSettings::Format before = QSettings::defaultFormat();
+    QSettings::setDefaultFormat(settingsFileFormat());
+    QSettings::setPath(settingsFileFormat(), QSettings::UserScope, m_disk->path());
+    const auto restore = qScopeGuard([before] { QSettings::setDefaultFormat(before); });
+    MainWindow window;
+    const QList<QAction*> appearances =
+        window.commands().subMenu(CommandSubMenu::Appearance).actions();
+    appearances.last()->trigger();
+    QVERIFY(window.messageBar().text().isEmpty());
+    QVERIFY(m_disk->fill());
+    appearances.first()->trigger();
+    m_disk->makeRoom();
+    QVERIFY(!window.messageBar().text().isEmpty());
+    QCOMPARE(storedAppearance(), Appearance::System);
 }
 
 } // namespace Zorvane::Workbench
