@@ -66,8 +66,7 @@ QString Writer::write(const TriangleMesh& mesh, const QString& path, StlFormat f
     if (blob == nullptr)
         return tr("the mesh cannot be turned into STL");
     const QString obstacle =
-        writeWholeFile(path, QByteArray::fromRawData(static_cast<const char*>(blob->data),
-                                                     static_cast<int>(blob->size)));
+        writeWholeFile(path, static_cast<const char*>(blob->data), static_cast<qint64>(blob->size));
     return obstacle.isEmpty() ? QString() : tr("cannot be written: %1").arg(obstacle);
 }
 
