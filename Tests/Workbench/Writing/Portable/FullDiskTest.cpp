@@ -59,8 +59,8 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void anyContent_keepsOldFile_data();
-    void anyContent_keepsOldFile();
+    void fullDisk_keepsOldFile_data();
+    void fullDisk_keepsOldFile();
     void design_isKeptAndStaysModified();
     void newDesignMark_refusesSimulation();
     void results_areReportedAndLeaveNothing();
@@ -102,14 +102,14 @@ QString FullDiskTest::openDesign(DesignSession& session) const
     return file;
 }
 
-void FullDiskTest::anyContent_keepsOldFile_data()
+void FullDiskTest::fullDisk_keepsOldFile_data()
 {
     QTest::addColumn<int>("size");
     QTest::newRow("within a buffer") << 100;
     QTest::newRow("more than a buffer") << 100'000;
 }
 
-void FullDiskTest::anyContent_keepsOldFile()
+void FullDiskTest::fullDisk_keepsOldFile()
 {
     QFETCH(int, size);
     const QString file = writeFile(m_disk->filePath(QStringLiteral("file")), "old");
