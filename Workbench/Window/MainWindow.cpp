@@ -103,6 +103,13 @@ DesignTree* makeTree(DesignSession& session, MeshLoader& loader, QObject* parent
     return new DesignTree(session, loader, parent);
 }
 
+/** A source that is answered with a move deletes its file. */
+void acceptAsCopy(QDropEvent& event)
+{
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
 } // namespace
 
 MainWindow::MainWindow(QWidget* parent)
@@ -581,13 +588,13 @@ void MainWindow::closeEvent(QCloseEvent* event)
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
     if (!localPaths(*event->mimeData()).isEmpty())
-        event->acceptProposedAction();
+        acceptAsCopy(*event);
 }
 
 void MainWindow::dropEvent(QDropEvent* event)
 {
+    acceptAsCopy(*event);
     open(localPaths(*event->mimeData()));
-    event->acceptProposedAction();
 }
 
 } // namespace Zorvane::Workbench

@@ -109,6 +109,7 @@ private Q_SLOTS:
     void aMeasuredValueIsEdited();
     void closeAllForgetsEverything();
     void droppedFilesAreOpened();
+    void movedFiles_areTakenAsCopies();
     void columnsFollowTheFontSize();
     void findFocusesTheFilter();
     void activatingAProblemSelectsItsObject();
@@ -574,6 +575,22 @@ void MainWindowTest::droppedFilesAreOpened()
     QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QCoreApplication::sendEvent(m_window.get(), &drop);
     QCOMPARE(m_window->session().designs().size(), std::size_t(1));
+}
+
+void MainWindowTest::movedFiles_areTakenAsCopies()
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(m_files->designFile())});
+    const Qt::DropActions offered = Qt::MoveAction | Qt::CopyAction;
+    QDragEnterEvent enter({10, 10}, offered, &data, Qt::LeftButton, Qt::ShiftModifier);
+    enter.setDropAction(Qt::MoveAction);
+    QCoreApplication::sendEvent(m_window.get(), &enter);
+    QCOMPARE(enter.dropAction(), Qt::CopyAction);
+    QDropEvent drop({10, 10}, offered, &data, Qt::LeftButton, Qt::ShiftModifier);
+    drop.setDropAction(Qt::MoveAction);
+    QCoreApplication::sendEvent(m_window.get(), &drop);
+    QVERIFY(drop.isAccepted());
+    QCOMPARE(drop.dropAction(), Qt::CopyAction);
 }
 
 void MainWindowTest::columnsFollowTheFontSize()
