@@ -88,6 +88,7 @@ class LayersTest(ToolTest):
 
     FORBIDDEN = (
         ("Host/A.cpp", '#include "Files/PathProvider.h"'),
+        ("Workbench/A.cpp", "#include <QtCore/QSaveFile>"),
         ("Host/A.h", '#include "UiToolsExport.h"'),
         ("Files/A.cpp", '#include "FileDialogs/FileDialog.h"'),
         ("FileDialogs/A.cpp", '#include "Dialogs/ZVSaveDialog.h"'),

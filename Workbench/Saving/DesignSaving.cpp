@@ -13,7 +13,6 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
-#include <QtCore/QSaveFile>
 
 #include <memory>
 
@@ -29,13 +28,12 @@ bool needsQuestion(const SaveState& state, ZVSaveDialog::Action action)
            (isStarting && state.isModified);
 }
 
-/** Tries what saving begins with, which leaves the design's file as it is. */
+/** Asks without creating a file: where files cannot be removed, a trial would stay. */
 bool canBeSaved(const Design& design)
 {
-    QSaveFile file(design.file);
-    const bool isWritable = file.open(QIODevice::WriteOnly);
-    file.cancelWriting();
-    return isWritable;
+    const QFileInfo file(design.file);
+    return QFileInfo(file.path()).isWritable() &&
+           (!file.exists() || (file.isFile() && file.isWritable()));
 }
 
 } // namespace
