@@ -26,6 +26,11 @@ QString headline(CollisionKind kind)
     case CollisionKind::ExistingFile:
         return Translator::translate("CopyCollisionDialog",
                                      "The target folder already has a file named \"%1\".");
+    case CollisionKind::ProtectedFile:
+        return Translator::translate(
+            "CopyCollisionDialog",
+            "The target folder already has a write-protected file named \"%1\". What replaces it "
+            "will be write-protected, too.");
     case CollisionKind::SameFile:
         return Translator::translate(
             "CopyCollisionDialog",
@@ -49,10 +54,21 @@ QString targetTitle(CollisionKind kind)
     case CollisionKind::NotAFile:
         return Translator::translate("CopyCollisionDialog", "In the target folder");
     case CollisionKind::ExistingFile:
+    case CollisionKind::ProtectedFile:
     case CollisionKind::SameFile:
         break;
     }
     return Translator::translate("CopyCollisionDialog", "File in the target folder");
+}
+
+QString forAllText(const CopyCollision& collision)
+{
+    if (collision.isLate)
+        return Translator::translate("CopyCollisionDialog", "&Do this for all that follow");
+    if (collision.remaining == 1)
+        return Translator::translate("CopyCollisionDialog", "&Do this for the remaining one, too");
+    return Translator::translate("CopyCollisionDialog", "&Do this for all %n remaining", nullptr,
+                                 collision.remaining);
 }
 
 QLabel* makeLabel(const QString& text, QWidget* parent)
@@ -145,10 +161,7 @@ CopyCollisionDialog::CopyCollisionDialog(const CopyCollision& collision, QWidget
     keepBoth->setToolTip(pathForDisplay(collision.keepBothName));
     layout->addWidget(keepBoth);
     if (collision.remaining > 0) {
-        m_forAll = new QCheckBox(Translator::translate("CopyCollisionDialog",
-                                                       "&Do this for all %n remaining", nullptr,
-                                                       collision.remaining),
-                                 this);
+        m_forAll = new QCheckBox(forAllText(collision), this);
         layout->addWidget(m_forAll);
     }
     layout->addWidget(makeButtons(collision));
@@ -172,8 +185,8 @@ QPushButton* CopyCollisionDialog::button(CopyDecision decision) const
 QWidget* CopyCollisionDialog::makeFiles(const CopyCollision& collision)
 {
     // Two files are compared; a file with itself or with a folder is not.
-    const bool comparable = collision.kind == CollisionKind::ExistingFile ||
-                            collision.kind == CollisionKind::WithinBatch;
+    const bool comparable =
+        collision.kind != CollisionKind::SameFile && collision.kind != CollisionKind::NotAFile;
     const CopyFileFacts& source = collision.source;
     const CopyFileFacts& target = collision.target;
     auto* files = new QWidget(this);

@@ -2,98 +2,112 @@
 
 #include "Files/PathText.h"
 
-#include <string_view>
+#include <algorithm>
 #include <utility>
 
 namespace Zorvane {
 
 namespace {
 
-std::size_t slotOf(CollisionKind kind)
+constexpr std::size_t slotOf(CollisionKind kind)
 {
     return static_cast<std::size_t>(kind);
+}
+
+/** As long as no earlier candidate replaces what has the name. */
+CollisionKind expectedKindOf(const CopyCandidate& candidate)
+{
+    return candidate.existing ? candidate.existingKind : CollisionKind::WithinBatch;
 }
 
 } // namespace
 
 CopyDecisions::CopyDecisions(CopyQuestions& questions, NameIsTaken onDisk,
-                             std::size_t mostNameBytes)
+                             std::function<bool()> goOn, std::size_t mostNameBytes)
     : m_questions(questions)
     , m_onDisk(std::move(onDisk))
+    , m_goOn(std::move(goOn))
     , m_mostNameBytes(mostNameBytes)
 {}
 
 std::optional<std::vector<CopyOrder>>
-CopyDecisions::decideAll(const std::vector<CopyCandidate>& candidates)
+CopyDecisions::decideAll(const std::vector<const CopyCandidate*>& candidates)
 {
-    countCollisions(candidates);
+    if (!count(candidates))
+        return std::nullopt;
     std::vector<CopyOrder> orders;
     orders.reserve(candidates.size());
-    for (std::size_t i = 0; i < candidates.size(); ++i) {
-        CopyOrder order{CopyOrder::Action::CopyNew, candidates[i].leaf, false};
-        if (const auto kind = kindOf(candidates[i])) {
-            const CopyAnswer answer = answerTo(collisionOf(candidates, i, *kind));
-            if (answer.decision == CopyDecision::Cancel)
-                return std::nullopt;
-            order = orderFor(candidates[i], *kind, answer.decision);
-        }
-        if (order.action == CopyOrder::Action::CopyNew ||
-            order.action == CopyOrder::Action::Replace)
-            claim(order.leaf, i);
-        orders.push_back(std::move(order));
+    for (const CopyCandidate* candidate : candidates) {
+        std::optional<CopyOrder> order;
+        if (m_goOn())
+            order = decide(*candidate);
+        if (!order)
+            return std::nullopt;
+        orders.push_back(std::move(*order));
     }
     return orders;
 }
 
-std::optional<CopyOrder> CopyDecisions::decideLate(const CopyCandidate& candidate)
+std::optional<CopyOrder> CopyDecisions::decide(const CopyCandidate& candidate)
+{
+    Wanted& wanted = m_names[candidate.leaf];
+    const auto kind = kindOf(wanted, candidate);
+    --wanted.toCome[slotOf(kind.value_or(CollisionKind::WithinBatch))];
+    if (!kind) {
+        claim(wanted, candidate);
+        return CopyOrder{CopyOrder::Action::CopyNew, candidate.leaf, false};
+    }
+    int& remaining = m_remaining[slotOf(*kind)];
+    remaining = std::max(remaining - 1, 0);
+    CopyCollision collision;
+    collision.kind = *kind;
+    collision.source = candidate.source;
+    collision.target = wanted.claimedBy ? wanted.claimedBy->source : *candidate.existing;
+    collision.remaining = remaining;
+    const CopyDecision decision = answerTo(collision, candidate.leaf, m_forAll);
+    if (decision == CopyDecision::Cancel)
+        return std::nullopt;
+    if (decision == CopyDecision::Replace)
+        claim(wanted, candidate);
+    return orderFor(candidate, *kind, decision);
+}
+
+std::optional<CopyOrder> CopyDecisions::decideLate(const CopyCandidate& candidate, int filesToCome)
 {
     CopyCollision collision;
     collision.kind = candidate.existingKind;
     collision.source = candidate.source;
     collision.target = candidate.existing.value_or(CopyFileFacts{});
-    collision.keepBothName = pathFromBytes(anotherName(candidate.leaf));
-    const CopyDecision decision = m_questions.ask(collision).decision;
+    collision.remaining = filesToCome;
+    collision.isLate = true;
+    const CopyDecision decision = answerTo(collision, candidate.leaf, m_forAllLate);
     if (decision == CopyDecision::Cancel)
         return std::nullopt;
-    const bool allowed = collision.allows(decision);
-    return orderFor(candidate, collision.kind, allowed ? decision : CopyDecision::Skip);
+    return orderFor(candidate, collision.kind, decision);
 }
 
 std::string CopyDecisions::anotherName(const std::string& leaf)
 {
-    return keepBothName(leaf, m_mostNameBytes, [this](const std::string& name) {
-        return m_wanted.count(foldedName(name)) != 0 || m_onDisk(name);
-    });
+    const auto isTaken = [this](const std::string& name) {
+        m_goOn();
+        return m_taken.count(foldedName(name)) != 0 || m_onDisk(name);
+    };
+    return keepBothName(leaf, m_mostNameBytes, isTaken, m_names[leaf].number);
 }
 
-CopyCollision CopyDecisions::collisionOf(const std::vector<CopyCandidate>& candidates,
-                                         std::size_t index, CollisionKind kind)
+CopyDecision CopyDecisions::answerTo(CopyCollision& collision, const std::string& leaf,
+                                     AnswersForAll& known)
 {
-    const CopyCandidate& candidate = candidates[index];
-    CopyCollision collision;
-    collision.kind = kind;
-    collision.source = candidate.source;
-    if (kind == CollisionKind::WithinBatch)
-        collision.target = candidates[m_claimedBy.at(candidate.leaf)].source;
-    else
-        collision.target = candidate.existing.value_or(CopyFileFacts{});
-    collision.remaining = m_remaining[slotOf(kind)] > 0 ? --m_remaining[slotOf(kind)] : 0;
-    if (!m_forAll[slotOf(kind)])
-        collision.keepBothName = pathFromBytes(anotherName(candidate.leaf));
-    return collision;
-}
-
-CopyAnswer CopyDecisions::answerTo(const CopyCollision& collision)
-{
-    std::optional<CopyDecision>& known = m_forAll[slotOf(collision.kind)];
-    if (known)
-        return {*known, true};
+    std::optional<CopyDecision>& forAll = known[slotOf(collision.kind)];
+    if (forAll)
+        return *forAll;
+    collision.keepBothName = pathFromBytes(anotherName(leaf));
     CopyAnswer answer = m_questions.ask(collision);
     if (!collision.allows(answer.decision))
         answer.decision = CopyDecision::Skip;
     if (answer.forAll)
-        known = answer.decision;
-    return answer;
+        forAll = answer.decision;
+    return answer.decision;
 }
 
 CopyOrder CopyDecisions::orderFor(const CopyCandidate& candidate, CollisionKind kind,
@@ -104,7 +118,7 @@ CopyOrder CopyDecisions::orderFor(const CopyCandidate& candidate, CollisionKind 
         return {CopyOrder::Action::Replace, candidate.leaf, false};
     case CopyDecision::KeepBoth: {
         CopyOrder order{CopyOrder::Action::CopyNew, anotherName(candidate.leaf), true};
-        m_wanted.insert(foldedName(order.leaf));
+        m_taken.insert(foldedName(order.leaf));
         return order;
     }
     case CopyDecision::Skip:
@@ -115,34 +129,43 @@ CopyOrder CopyDecisions::orderFor(const CopyCandidate& candidate, CollisionKind 
     return {same ? CopyOrder::Action::SameFile : CopyOrder::Action::Skip, candidate.leaf, false};
 }
 
-std::optional<CollisionKind> CopyDecisions::kindOf(const CopyCandidate& candidate) const
+std::optional<CollisionKind> CopyDecisions::kindOf(const Wanted& wanted,
+                                                   const CopyCandidate& candidate)
 {
-    if (m_claimedBy.count(candidate.leaf) != 0)
+    if (wanted.claimedBy)
         return CollisionKind::WithinBatch;
     if (candidate.existing)
         return candidate.existingKind;
     return std::nullopt;
 }
 
-void CopyDecisions::countCollisions(const std::vector<CopyCandidate>& candidates)
+bool CopyDecisions::count(const std::vector<const CopyCandidate*>& candidates)
 {
-    std::unordered_set<std::string_view> seen;
-    seen.reserve(candidates.size());
-    m_wanted.reserve(candidates.size());
-    m_claimedBy.reserve(candidates.size());
-    for (const CopyCandidate& candidate : candidates) {
-        const bool first = seen.insert(candidate.leaf).second;
-        m_wanted.insert(foldedName(candidate.leaf));
-        if (!first)
-            ++m_remaining[slotOf(CollisionKind::WithinBatch)];
-        else if (candidate.existing)
-            ++m_remaining[slotOf(candidate.existingKind)];
+    m_taken.reserve(candidates.size());
+    m_names.reserve(candidates.size());
+    for (const CopyCandidate* candidate : candidates) {
+        if (!m_goOn())
+            return false;
+        m_taken.insert(foldedName(candidate->leaf));
+        const std::size_t slot = slotOf(expectedKindOf(*candidate));
+        const bool isFirst = m_names[candidate->leaf].toCome[slot]++ == 0;
+        if (candidate->existing || !isFirst)
+            ++m_remaining[slot];
     }
+    return true;
 }
 
-void CopyDecisions::claim(const std::string& leaf, std::size_t index)
+/** Whoever wants the name from now on collides with this candidate, not with an existing file. */
+void CopyDecisions::claim(Wanted& wanted, const CopyCandidate& candidate)
 {
-    m_claimedBy.emplace(leaf, index);
+    wanted.claimedBy = &candidate;
+    constexpr std::size_t within = slotOf(CollisionKind::WithinBatch);
+    for (std::size_t slot = 0; slot < collisionKindCount; ++slot) {
+        const int moved = slot == within ? 0 : std::exchange(wanted.toCome[slot], 0);
+        m_remaining[slot] -= moved;
+        m_remaining[within] += moved;
+        wanted.toCome[within] += moved;
+    }
 }
 
 } // namespace Zorvane

@@ -5,6 +5,7 @@
 #include "UiToolsExport.h"
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -45,39 +46,56 @@ struct CopyOrder
 class ZORVANE_UITOOLS_EXPORT CopyDecisions
 {
 public:
-    /** `onDisk` tells whether the target folder has a name. Both are used as long as this lives. */
-    CopyDecisions(CopyQuestions& questions, NameIsTaken onDisk, std::size_t mostNameBytes);
+    /**
+     * `onDisk` answers whether the target folder has a name; `goOn` is called for each candidate
+     * and cancels by false. All three are used as long as this lives.
+     */
+    CopyDecisions(CopyQuestions& questions, NameIsTaken onDisk, std::function<bool()> goOn,
+                  std::size_t mostNameBytes);
 
     /** One order a candidate; nothing if the user cancelled. */
-    std::optional<std::vector<CopyOrder>> decideAll(const std::vector<CopyCandidate>& candidates);
+    std::optional<std::vector<CopyOrder>>
+    decideAll(const std::vector<const CopyCandidate*>& candidates);
 
     /**
-     * The order for a candidate whose name turned out to be taken when the copy was complete. What
-     * was answered for all before does not count: this file was not there to be decided upon.
+     * The order for a candidate whose name turned out to be taken when the copy was complete, with
+     * so many files still to come. What was answered for all while planning does not count, since
+     * this file was not there to be decided upon; what was answered for all to such a late
+     * question does.
      */
-    std::optional<CopyOrder> decideLate(const CopyCandidate& candidate);
+    std::optional<CopyOrder> decideLate(const CopyCandidate& candidate, int filesToCome);
 
     /** A further made-up name, for the case that the last one was taken meanwhile. */
     std::string anotherName(const std::string& leaf);
 
 private:
-    static constexpr std::size_t s_kindCount = 4;
+    using AnswersForAll = std::array<std::optional<CopyDecision>, collisionKindCount>;
 
-    CopyCollision collisionOf(const std::vector<CopyCandidate>& candidates, std::size_t index,
-                              CollisionKind kind);
-    CopyAnswer answerTo(const CopyCollision& collision);
+    /** What is known of a name that candidates should get. */
+    struct Wanted
+    {
+        std::array<int, collisionKindCount> toCome{}; // candidates not decided yet
+        const CopyCandidate* claimedBy = nullptr;     // the one that gets it
+        unsigned number = 2;                          // of "Keep Both"; smaller ones are taken
+    };
+
+    bool count(const std::vector<const CopyCandidate*>& candidates);
+    std::optional<CopyOrder> decide(const CopyCandidate& candidate);
+    static std::optional<CollisionKind> kindOf(const Wanted& wanted,
+                                               const CopyCandidate& candidate);
+    void claim(Wanted& wanted, const CopyCandidate& candidate);
+    CopyDecision answerTo(CopyCollision& collision, const std::string& leaf, AnswersForAll& known);
     CopyOrder orderFor(const CopyCandidate& candidate, CollisionKind kind, CopyDecision decision);
-    std::optional<CollisionKind> kindOf(const CopyCandidate& candidate) const;
-    void countCollisions(const std::vector<CopyCandidate>& candidates);
-    void claim(const std::string& leaf, std::size_t index);
 
     CopyQuestions& m_questions;
     NameIsTaken m_onDisk;
+    std::function<bool()> m_goOn;
     std::size_t m_mostNameBytes;
-    std::array<std::optional<CopyDecision>, s_kindCount> m_forAll;
-    std::array<int, s_kindCount> m_remaining{};
-    std::unordered_map<std::string, std::size_t> m_claimedBy; // leaf to candidate
-    std::unordered_set<std::string> m_wanted; // folded: no made-up name may take them
+    AnswersForAll m_forAll;
+    AnswersForAll m_forAllLate;
+    std::array<int, collisionKindCount> m_remaining{};
+    std::unordered_map<std::string, Wanted> m_names; // by leaf
+    std::unordered_set<std::string> m_taken;         // folded: no made-up name may be one of them
 };
 
 } // namespace Zorvane

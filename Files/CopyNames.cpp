@@ -57,23 +57,15 @@ std::string numbered(const std::string& leaf, const std::string& number, std::si
 
 } // namespace
 
-std::string keepBothName(const std::string& leaf, std::size_t mostBytes, const NameIsTaken& isTaken)
+std::string keepBothName(const std::string& leaf, std::size_t mostBytes, const NameIsTaken& isTaken,
+                         unsigned& number)
 {
     const std::size_t limit = std::max(mostBytes, s_leastLimit);
-    for (unsigned number = 2;; ++number) {
+    for (;; ++number) {
         std::string name = numbered(leaf, " (" + std::to_string(number) + ")", limit);
         if (!isTaken(name))
             return name;
     }
-}
-
-std::string temporaryCopyName(quint32 random)
-{
-    constexpr char digits[] = "0123456789abcdefghijklmnopqrstuv";
-    std::string name = ".";
-    for (int i = 0; i < 7; ++i, random >>= 5U)
-        name += digits[random & 31U];
-    return name + ".zvc";
 }
 
 std::string foldedName(const std::string& leaf)

@@ -8,6 +8,12 @@ namespace Zorvane {
 
 struct CopyProgressState
 {
+    enum class Stage
+    {
+        Checking, /**< Files are looked at; nothing is copied yet, and there are no bytes. */
+        Copying
+    };
+    Stage stage = Stage::Copying;
     QString fileName; /**< Leaf name of the file at work, or the last one. */
     qint64 bytesDone = 0;
     qint64 bytesTotal = 0;

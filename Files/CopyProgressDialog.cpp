@@ -25,7 +25,7 @@ QLabel* makeLabel(QWidget* parent)
     return label;
 }
 
-/** Bytes tell how long it takes; many empty files have none. */
+/** Bytes say how long it takes; many empty files have none. */
 int barValue(const CopyProgressState& state)
 {
     const double done = state.bytesTotal > 0 ? static_cast<double>(state.bytesDone)
@@ -37,6 +37,11 @@ int barValue(const CopyProgressState& state)
 
 QString amountText(const CopyProgressState& state)
 {
+    if (state.stage == CopyProgressState::Stage::Checking)
+        return ArgString(Translator::translate("CopyProgressDialog", "File %1 of %2"))
+            .arg(qMin(state.filesDone + 1, state.filesTotal))
+            .arg(state.filesTotal)
+            .toQString();
     return ArgString(Translator::translate("CopyProgressDialog", "File %1 of %2, %3 of %4"))
         .arg(qMin(state.filesDone + 1, state.filesTotal))
         .arg(state.filesTotal)
@@ -47,6 +52,8 @@ QString amountText(const CopyProgressState& state)
 
 QString speedText(const CopyProgressState& state, const CopyRate& rate)
 {
+    if (state.stage == CopyProgressState::Stage::Checking)
+        return Translator::translate("CopyProgressDialog", "Looking at the files");
     const auto speed = rate.bytesPerSecond();
     const auto left = rate.secondsLeft(state.bytesTotal - state.bytesDone);
     if (!speed || !left)

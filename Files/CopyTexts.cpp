@@ -4,6 +4,7 @@
 #include "Host/Translation/Translator.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QHash>
 #include <QtCore/QLocale>
 
 namespace Zorvane {
@@ -37,6 +38,33 @@ QString folderForDisplay(const QString& path)
 {
     const int slash = path.lastIndexOf(u'/');
     return QDir::toNativeSeparators(pathForDisplay(path.left(slash == 0 ? 1 : slash)));
+}
+
+QStringList distinctNamesForDisplay(const QStringList& paths)
+{
+    QStringList names;
+    for (const QString& path : paths)
+        names.append(path.section(u'/', -1));
+    for (bool longer = true; longer;) {
+        longer = false;
+        QHash<QString, QString> pathOfName; // null where several paths have it
+        for (int i = 0; i < paths.size(); ++i) {
+            const auto known = pathOfName.find(names[i]);
+            if (known == pathOfName.end())
+                pathOfName.insert(names[i], paths[i]);
+            else if (*known != paths[i])
+                *known = QString();
+        }
+        for (int i = 0; i < paths.size(); ++i) {
+            if (!pathOfName.value(names[i]).isNull() || names[i] == paths[i])
+                continue;
+            names[i] = paths[i].section(u'/', -2 - names[i].count(u'/'));
+            longer = true;
+        }
+    }
+    for (QString& name : names)
+        name = QDir::toNativeSeparators(pathForDisplay(name));
+    return names;
 }
 
 QString sizeForDisplay(qint64 bytes)

@@ -3,6 +3,7 @@
 #include "Files/CopyCollisionDialog.h"
 #include "Files/CopyTexts.h"
 #include "Files/DialogCopyProgress.h"
+#include "Host/Translation/ArgString.h"
 #include "Host/Translation/Translator.h"
 #include "Host/Widgets/ZVMessageBox.h"
 
@@ -13,25 +14,33 @@ namespace Zorvane {
 namespace {
 
 constexpr int s_mostLines = 5;
+// Laying out the text of many thousands of lines would block the window for seconds.
+constexpr int s_mostDetails = 500;
 
-QString lineFor(const CopyFailure& failure)
+QString title()
 {
-    return leafForDisplay(failure.path) + QStringLiteral(": ") + failure.reason;
+    return Translator::translate("FileCopyUtility", "Copy Files");
 }
 
-QString linesFor(const QList<CopyFailure>& failures, int most)
+QStringList linesFor(const QList<CopyRemark>& remarks)
 {
-    QStringList lines;
-    for (const CopyFailure& failure : failures.mid(0, most))
-        lines.append(lineFor(failure));
-    return lines.join(u'\n');
+    QStringList paths;
+    for (const CopyRemark& remark : remarks.mid(0, s_mostDetails))
+        paths.append(remark.path);
+    QStringList lines = distinctNamesForDisplay(paths);
+    for (int i = 0; i < lines.size(); ++i)
+        lines[i] += QStringLiteral(": ") + remarks[i].reason;
+    return lines;
 }
 
-QString headlineFor(int count)
+QString headlineFor(int failures)
 {
-    return count == 1 ? Translator::translate("FileCopyUtility", "One file could not be copied.")
-                      : Translator::translate("FileCopyUtility", "%n files could not be copied.",
-                                              nullptr, count);
+    if (failures == 0)
+        return Translator::translate("FileCopyUtility",
+                                     "The files were copied, but there is something to know.");
+    return failures == 1 ? Translator::translate("FileCopyUtility", "One file could not be copied.")
+                         : Translator::translate("FileCopyUtility", "%n files could not be copied.",
+                                                 nullptr, failures);
 }
 
 } // namespace
@@ -54,16 +63,44 @@ CopyAnswer DialogCopyQuestions::ask(const CopyCollision& collision)
     return answer;
 }
 
-void DialogCopyQuestions::tellFailures(const QList<CopyFailure>& failures)
+bool DialogCopyQuestions::copyInSpiteOfSpace(qint64 bytesNeeded, qint64 bytesFree)
 {
+    const QString text =
+        ArgString(Translator::translate("FileCopyUtility",
+                                        "The files need %1, but the target folder's disk has only "
+                                        "%2 free. Copy as many as fit?"))
+            .arg(sizeForDisplay(bytesNeeded))
+            .arg(sizeForDisplay(bytesFree))
+            .toQString();
+    int answer = QMessageBox::No;
     m_progress.pauseFor([&](QWidget* parent) {
         const QPointer<ZVMessageBox> box = new ZVMessageBox(
-            QMessageBox::Warning, Translator::translate("FileCopyUtility", "Copy Files"),
-            headlineFor(failures.size()), QMessageBox::Ok, parent);
+            QMessageBox::Question, title(), text, QMessageBox::Yes | QMessageBox::No, parent);
         box->setTextFormat(Qt::PlainText);
-        box->setInformativeText(linesFor(failures, s_mostLines));
-        if (failures.size() > s_mostLines)
-            box->setDetailedText(linesFor(failures, failures.size()));
+        box->setButtonText(QMessageBox::Yes, Translator::translate("FileCopyUtility", "Copy"));
+        box->setButtonText(QMessageBox::No, Translator::translate("FileCopyUtility", "Don't Copy"));
+        box->setDefaultButton(QMessageBox::No);
+        answer = box->exec();
+        delete box;
+    });
+    return answer == QMessageBox::Yes;
+}
+
+void DialogCopyQuestions::report(const QList<CopyRemark>& failures,
+                                 const QList<CopyRemark>& remarks)
+{
+    const QList<CopyRemark> all = failures + remarks;
+    QStringList lines = linesFor(all);
+    if (all.size() > lines.size())
+        lines.append(Translator::translate("FileCopyUtility", "And %n more.", nullptr,
+                                           all.size() - lines.size()));
+    m_progress.pauseFor([&](QWidget* parent) {
+        const QPointer<ZVMessageBox> box = new ZVMessageBox(
+            QMessageBox::Warning, title(), headlineFor(failures.size()), QMessageBox::Ok, parent);
+        box->setTextFormat(Qt::PlainText);
+        box->setInformativeText(lines.mid(0, s_mostLines).join(u'\n'));
+        if (lines.size() > s_mostLines)
+            box->setDetailedText(lines.join(u'\n'));
         box->exec();
         delete box;
     });

@@ -15,7 +15,8 @@ public:
     explicit DialogCopyQuestions(DialogCopyProgress& progress);
 
     CopyAnswer ask(const CopyCollision& collision) override;
-    void tellFailures(const QList<CopyFailure>& failures) override;
+    bool copyInSpiteOfSpace(qint64 bytesNeeded, qint64 bytesFree) override;
+    void report(const QList<CopyRemark>& failures, const QList<CopyRemark>& remarks) override;
 
 private:
     DialogCopyProgress& m_progress;

@@ -1,5 +1,7 @@
 #include "Files/FileCopyService.h"
 
+#include "Files/CopyCheck.h"
+#include "Files/DialogCopyProgress.h"
 #include "Files/PathText.h"
 #include "Host/Translation/Translator.h"
 #include "Host/Widgets/ZVMessageBox.h"
@@ -28,10 +30,13 @@ bool userWantsCopy(QWidget* parent, const QString& title, const QString& text)
     return answer == QMessageBox::Yes;
 }
 
-bool hasAlreadyInTarget(int code)
+/** Where a file lies in the target folder already, or the check was cancelled. */
+bool mayNotBeAsked(QWidget* parent, const QStringList& sourceFiles, const QString& targetFolder)
 {
     constexpr int bits = FileCopyUtility::AlreadyInTarget | FileCopyUtility::NoTargetFolder;
-    return (code & bits) == bits;
+    DialogCopyProgress progress(parent);
+    const std::optional<int> code = checkCopy(sourceFiles, targetFolder, progress);
+    return !code || (*code & bits) == bits;
 }
 
 } // namespace
@@ -41,10 +46,8 @@ FileCopyService::copyFilesToDirectory(QWidget* parent, const QString& title, con
                                       const QStringList& sourceFiles, const QString& targetFolder,
                                       int& result)
 {
-    if (hasAlreadyInTarget(FileCopyUtility::check(sourceFiles, targetFolder)))
-        return {};
     const QPointer<QWidget> owner(parent);
-    if (!userWantsCopy(parent, title, text))
+    if (mayNotBeAsked(owner, sourceFiles, targetFolder) || !userWantsCopy(owner, title, text))
         return {};
     return FileCopyUtility(owner, sourceFiles, targetFolder).copyFiles(result);
 }

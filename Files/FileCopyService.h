@@ -20,7 +20,8 @@ public:
 
     /**
      * Returns one record a source. Empty, with `result` as it was, where one of the files lies in
-     * the target folder already (nothing is asked then) and where the user declines; otherwise
+     * the target folder already (nothing is asked then), where the user declines, and where the
+     * user cancels looking at the files, which shows its progress when it takes long; otherwise
      * `result` is the code of `FileCopyUtility::check`, and the list is empty unless that is 0.
      */
     static QList<FileCopyUtility::FileCopyInfo>

@@ -1,8 +1,9 @@
 #include "Files/FileCopyUtility.h"
 
 #include "Files/ApplicationMainWindow.h"
+#include "Files/CopyCheck.h"
+#include "Files/DialogCopyProgress.h"
 #include "Files/FileCopier.h"
-#include "Files/PathProbe.h"
 
 #include <QtWidgets/QWidget>
 
@@ -21,28 +22,30 @@ FileCopyUtility& FileCopyUtility::operator=(const FileCopyUtility& other) = defa
 
 const QList<FileCopyUtility::FileCopyInfo>& FileCopyUtility::copyFiles(int& result)
 {
-    QWidget* owner = m_parent ? m_parent.data() : applicationMainWindow();
+    const QPointer<QWidget> owner = m_parent ? m_parent.data() : applicationMainWindow();
     m_result.clear();
-    result = check(m_sourceFiles, m_targetFolder);
-    if (result == 0 && !m_sourceFiles.isEmpty() && !m_targetFolder.isEmpty())
+    const std::optional<int> code = [&] {
+        DialogCopyProgress progress(owner);
+        return checkCopy(m_sourceFiles, m_targetFolder, progress);
+    }();
+    result = code.value_or(0);
+    if (code == 0 && !m_sourceFiles.isEmpty() && !m_targetFolder.isEmpty())
         m_result = createFileCopier()->copy(owner, m_sourceFiles, m_targetFolder);
+    if (!code) {
+        for (const QString& source : qAsConst(m_sourceFiles))
+            m_result.append({source, {}, NotCopied, Outcome::Cancelled});
+    }
     return m_result;
 }
 
 int FileCopyUtility::check(const QStringList& sourceFiles, const QString& targetFolder)
 {
-    PathProbe probe;
-    const PathFacts target = probe.look(targetFolder);
-    if (!target.isFolder)
-        return NoTargetFolder;
-    for (const QString& source : sourceFiles) {
-        const PathFacts facts = probe.look(source);
-        if (!facts.exists || facts.isFolder)
-            return SourceMissing;
-        if (facts.canonicalFolder == target.canonicalPath)
-            return AlreadyInTarget | NoTargetFolder;
-    }
-    return 0;
+    class NoProgress : public CopyProgress
+    {
+        bool goOn(const CopyProgressState&) override { return true; }
+    };
+    NoProgress progress;
+    return *checkCopy(sourceFiles, targetFolder, progress);
 }
 
 } // namespace Zorvane

@@ -38,11 +38,25 @@ public:
         SourceMissing = 4
     };
 
+    /** What became of one source, in more words than its status. */
+    enum class Outcome
+    {
+        NotReached, /**< A failure stopped the copy before this file's turn. */
+        Copied,     /**< Under its own name or another one. */
+        Skipped,    /**< The user's answer. */
+        SameFile,   /**< The name leads to the source already; nothing was done. */
+        Failed,
+        Cancelled /**< The user cancelled before this file had its name. */
+    };
+
     struct FileCopyInfo
     {
-        QString source; /**< Full path as given. */
+        QString source; /**< Full path: as given, unless a relative one was given. */
         QString target; /**< Full path of the copy; empty where there is none. */
         int status = NotCopied;
+        Outcome outcome = Outcome::NotReached;
+        /** For the user: why it failed, or what a copy could not keep. */
+        QString reason = {};
     };
 
     FileCopyUtility(QWidget* parent, const QStringList& sourceFiles, const QString& targetFolder);
@@ -53,7 +67,8 @@ public:
 
     /**
      * Checks the request, copies, and returns one record a source in their order. `result` receives
-     * the check code; with any but 0 nothing is copied and the list is empty.
+     * the check code; with any but 0 nothing is copied and the list is empty. Both checking and
+     * copying show their progress when they take long, and can be cancelled.
      *
      * The list stays valid until the next call and as long as the utility.
      */
@@ -61,7 +76,8 @@ public:
 
     /**
      * The check code of a request: 2 where the target is no folder; otherwise the first source that
-     * is missing or a folder adds 4, or the first that lies in the target folder already adds 3.
+     * is missing or a folder adds 4, or the first that lies in the target folder already adds 3. A
+     * path with a null character in it names nothing. Looks at all sources without a break.
      */
     static int check(const QStringList& sourceFiles, const QString& targetFolder);
 

@@ -81,6 +81,18 @@
         <source>&amp;Cancel</source>
         <translation>&amp;Abbrechen</translation>
     </message>
+    <message>
+        <source>The target folder already has a write-protected file named &quot;%1&quot;. What replaces it will be write-protected, too.</source>
+        <translation>Der Zielordner enthält schon eine schreibgeschützte Datei namens &quot;%1&quot;. Was sie ersetzt, wird ebenfalls schreibgeschützt sein.</translation>
+    </message>
+    <message>
+        <source>&amp;Do this for all that follow</source>
+        <translation>&amp;Für alle folgenden übernehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Do this for the remaining one, too</source>
+        <translation>&amp;Auch für die eine weitere übernehmen</translation>
+    </message>
 </context>
 <context>
     <name>CopyProgressDialog</name>
@@ -115,6 +127,14 @@
     <message>
         <source>Cancelling</source>
         <translation>Wird abgebrochen</translation>
+    </message>
+    <message>
+        <source>File %1 of %2</source>
+        <translation>Datei %1 von %2</translation>
+    </message>
+    <message>
+        <source>Looking at the files</source>
+        <translation>Dateien werden angesehen</translation>
     </message>
 </context>
 <context>
@@ -230,6 +250,37 @@
     <message>
         <source>This is not a file that can be copied.</source>
         <translation>Das ist keine Datei, die kopiert werden kann.</translation>
+    </message>
+    <message>
+        <source>The files were copied, but there is something to know.</source>
+        <translation>Die Dateien wurden kopiert, aber mit Einschränkungen.</translation>
+    </message>
+    <message>
+        <source>The files need %1, but the target folder&apos;s disk has only %2 free. Copy as many as fit?</source>
+        <translation>Die Dateien brauchen %1, aber auf dem Datenträger des Zielordners sind nur %2 frei. So viele kopieren, wie Platz haben?</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Und %n weitere.</numerusform>
+            <numerusform>Und %n weitere.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This temporary file could not be removed.</source>
+        <translation>Diese temporäre Datei konnte nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>The disk did not keep the file&apos;s date and permissions.</source>
+        <translation>Der Datenträger hat Datum und Berechtigungen der Datei nicht behalten.</translation>
+    </message>
+    <message>
+        <source>The disk did not keep the file&apos;s date.</source>
+        <translation>Der Datenträger hat das Datum der Datei nicht behalten.</translation>
+    </message>
+    <message>
+        <source>The disk did not keep the file&apos;s permissions.</source>
+        <translation>Der Datenträger hat die Berechtigungen der Datei nicht behalten.</translation>
     </message>
 </context>
 <context>

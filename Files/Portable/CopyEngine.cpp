@@ -1,36 +1,47 @@
 #include "Files/Portable/CopyEngine.h"
 
+#include "Files/PathText.h"
 #include "Files/Portable/CopyErrors.h"
 #include "Files/Portable/CopyRun.h"
 #include "Files/Portable/LocalPath.h"
 #include "Host/Translation/Translator.h"
 
-#include <QtCore/QDir>
-
 namespace Zorvane {
 
 namespace {
 
-void failAll(QList<CopyOutcome>& outcomes, const QString& reason)
+using Record = FileCopyUtility::FileCopyInfo;
+using Outcome = FileCopyUtility::Outcome;
+
+void failAll(QList<Record>& records, const QString& reason)
 {
-    for (CopyOutcome& outcome : outcomes) {
-        outcome.fate = CopyFate::Failed;
-        outcome.reason = reason;
+    for (Record& record : records) {
+        record.outcome = Outcome::Failed;
+        record.reason = reason;
     }
 }
 
-QList<CopyFailure> failuresIn(const QList<CopyOutcome>& outcomes, bool stopped)
+void sendReport(CopyQuestions& questions, const QList<Record>& records, QList<CopyRemark> remarks)
 {
-    QList<CopyFailure> failures;
-    for (const CopyOutcome& outcome : outcomes) {
-        if (outcome.fate == CopyFate::Failed)
-            failures.append({outcome.source, outcome.reason});
-        else if (outcome.fate == CopyFate::NotReached && stopped)
-            failures.append(
-                {outcome.source, Translator::translate("FileCopyUtility",
-                                                       "Not copied because of the error before.")});
+    QList<CopyRemark> failures;
+    for (const Record& record : records) {
+        if (record.reason.isEmpty())
+            continue;
+        (record.outcome == Outcome::Copied ? remarks : failures)
+            .append({record.source, record.reason});
     }
-    return failures;
+    if (!failures.isEmpty() || !remarks.isEmpty())
+        questions.report(failures, remarks);
+}
+
+QList<CopyRemark> leftoversIn(const TargetFolder& folder)
+{
+    QList<CopyRemark> remarks;
+    for (const std::string& name : folder.leftovers())
+        remarks.append({pathInFolder(pathFromBytes(folder.path()), name),
+                        Translator::translate("FileCopyUtility",
+                                              "This temporary file could not be removed.")});
+    return remarks;
 }
 
 } // namespace
@@ -41,30 +52,27 @@ CopyEngine::CopyEngine(CopyQuestions& questions, CopyProgress& progress, const S
     , m_calls(calls)
 {}
 
-QList<CopyOutcome> CopyEngine::run(const QStringList& sources, const QString& targetFolder)
+QList<Record> CopyEngine::run(const QStringList& sources, const QString& targetFolder)
 {
-    QList<CopyOutcome> outcomes;
+    QList<Record> records;
     for (const QString& source : sources)
-        outcomes.append({source, QString(), CopyFate::NotReached, QString()});
+        records.append({source, {}, FileCopyUtility::NotCopied});
 
-    QList<CopyFailure> failures;
+    QList<CopyRemark> remarks;
     TargetFolder folder(m_calls);
-    int error = folder.open(localPathBytes(targetFolder));
+    const std::string path = localPathBytes(targetFolder);
+    int error = path.find('\0') == std::string::npos ? folder.open(path) : ENOENT;
     if (error == 0 && folder.means() == TargetFolder::Means::None)
         error = ENOTSUP;
     if (error != 0) {
-        failAll(outcomes, describeCopyError(error));
-        failures = failuresIn(outcomes, false);
+        failAll(records, describeCopyError(error));
     } else {
-        CopyRun run(m_calls, m_questions, m_progress, folder, QDir(targetFolder).absolutePath());
-        run.run(outcomes);
-        failures = failuresIn(outcomes, run.stoppedByFailure());
-        if (!run.generalFailure().isEmpty())
-            failures.append({targetFolder, run.generalFailure()});
+        CopyRun run(m_calls, m_questions, m_progress, folder);
+        run.run(records);
+        remarks = run.remarks();
     }
-    if (!failures.isEmpty())
-        m_questions.tellFailures(failures);
-    return outcomes;
+    sendReport(m_questions, records, remarks + leftoversIn(folder));
+    return records;
 }
 
 } // namespace Zorvane

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Files/CopyOutcome.h"
 #include "Files/CopyProgress.h"
 #include "Files/CopyQuestions.h"
+#include "Files/FileCopyUtility.h"
 #include "Files/Portable/SystemCalls.h"
 #include "UiToolsExport.h"
 
@@ -10,11 +10,12 @@ namespace Zorvane {
 
 /**
  * Copies files into a folder without ever losing one: plans everything, then asks, then copies.
- * Knows no widgets; works in small slices, with a word from the progress after each.
+ * Knows no widgets; works in small slices, and asks the progress after each whether to go on.
  *
  * - Nothing that exists changes without a decision about just that file as it then was.
  * - The final name holds nothing, the whole old file or the whole new one at every moment.
- * - Sources are only read. Cancelling, and any failure, leaves no temporary files.
+ * - Sources are only read. Cancelling and failures leave no temporary files; one that the system
+ *   refuses to remove is reported.
  * - Modification time and permissions are kept; links as sources are followed.
  *
  * Not supported: owners, extended attributes and access lists; target file systems that have
@@ -27,8 +28,12 @@ public:
     CopyEngine(CopyQuestions& questions, CopyProgress& progress,
                const SystemCalls& calls = SystemCalls::real());
 
-    /** One outcome a source, in their order. What went wrong has been told to the questions. */
-    QList<CopyOutcome> run(const QStringList& sources, const QString& targetFolder);
+    /**
+     * One record a source, in their order. What went wrong has been reported to the questions.
+     * Relative paths are resolved at once, against the folder that is current then.
+     */
+    QList<FileCopyUtility::FileCopyInfo> run(const QStringList& sources,
+                                             const QString& targetFolder);
 
 private:
     CopyQuestions& m_questions;

@@ -55,6 +55,11 @@ QString describeTargetError(int error)
                : describeCopyError(error);
 }
 
+bool isRefusedAttribute(int error)
+{
+    return error == EPERM || error == ENOTSUP || error == ENOSYS || error == EINVAL;
+}
+
 bool isMissingFeature(int error)
 {
     return error == ENOSYS || error == EINVAL || error == ENOTSUP || error == ESPIPE;

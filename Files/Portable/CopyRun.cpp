@@ -2,10 +2,10 @@
 
 #include "Files/PathText.h"
 #include "Files/Portable/CopyErrors.h"
-#include "Files/Portable/FileIdentity.h"
 #include "Files/Portable/LocalPath.h"
 #include "Host/Translation/Translator.h"
 
+#include <algorithm>
 #include <fcntl.h>
 #include <utility>
 
@@ -13,17 +13,9 @@ namespace Zorvane {
 
 namespace {
 
-constexpr mode_t s_permissions = S_IRWXU | S_IRWXG | S_IRWXO;
+using Outcome = FileCopyUtility::Outcome;
 
-QString changedMeanwhile()
-{
-    return Translator::translate("FileCopyUtility", "The file changed while it was being copied.");
-}
-
-QString notAFile()
-{
-    return Translator::translate("FileCopyUtility", "This is not a file that can be copied.");
-}
+constexpr qint64 s_blockSize = 512;
 
 std::string leafOf(const std::string& path)
 {
@@ -31,68 +23,95 @@ std::string leafOf(const std::string& path)
     return slash == std::string::npos ? path : path.substr(slash + 1);
 }
 
-/** File systems without permissions or such times refuse to set them; the copy is good without. */
-bool isRefusedAttribute(int error)
+qint64 allocatedBytes(const struct stat& status)
 {
-    return error == EPERM || error == ENOTSUP || error == ENOSYS || error == EINVAL;
+    return std::min<qint64>(status.st_size, status.st_blocks * s_blockSize);
+}
+
+/** What a copy could not keep; empty for nothing. */
+QString lossOf(const CopyItem& item)
+{
+    if (item.lostTime && item.lostPermissions)
+        return Translator::translate("FileCopyUtility",
+                                     "The disk did not keep the file's date and permissions.");
+    if (item.lostTime)
+        return Translator::translate("FileCopyUtility", "The disk did not keep the file's date.");
+    return item.lostPermissions
+               ? Translator::translate("FileCopyUtility",
+                                       "The disk did not keep the file's permissions.")
+               : QString();
 }
 
 } // namespace
 
 CopyRun::CopyRun(const SystemCalls& calls, CopyQuestions& questions, CopyProgress& progress,
-                 TargetFolder& folder, const QString& folderPath)
-    : m_progress(progress)
+                 TargetFolder& folder)
+    : m_questions(questions)
+    , m_progress(progress)
     , m_decisions(
-          questions,
-          [this](const std::string& name) {
-              m_progress.goOn(m_state); // with many collisions to decide at one stroke
-              return m_context.folder.has(name);
-          },
-          folder.mostNameBytes())
-    , m_context{calls, folder, folderPath, m_decisions, [this] { return m_progress.goOn(m_state); }}
-    , m_group(m_context)
-    , m_transfer(calls, [this](qint64 bytes) {
-        return report(nullptr, m_state.bytesDone - m_bytesOfFinishedItems + bytes);
-    })
+          questions, [&folder](const std::string& name) { return folder.has(name); },
+          [this] { return m_context.goOn(); }, folder.mostNameBytes())
+    , m_context{calls, folder, m_decisions, [this] { return m_progress.goOn(m_state); }}
+    , m_stager(
+          m_context, [this](qint64 bytes) { return report(nullptr, m_bytesOfItem + bytes); },
+          [this] {
+              const bool hadSome = !m_group.empty();
+              commitGroup();
+              return hadSome;
+          })
+    , m_flush(m_context)
+    , m_publisher(m_context)
 {}
 
-void CopyRun::run(QList<CopyOutcome>& outcomes)
+void CopyRun::run(QList<FileCopyUtility::FileCopyInfo>& records)
 {
-    if (!plan(outcomes) || !ask() || m_toCopy.empty())
-        return;
-    copyAll();
-    if (!m_group.hasPublished())
-        return; // no name to make durable
-    if (const int error = m_context.folder.flush())
-        m_generalFailure = describeCopyError(error);
+    m_state.stage = CopyProgressState::Stage::Checking;
+    m_context.folder.removeAbandonedFiles(m_context.goOn);
+    if (plan(records) && ask() && hasSpace()) {
+        m_state.stage = CopyProgressState::Stage::Copying;
+        copyAll();
+    } else {
+        m_context.stop = CopyStop::Cancelled;
+    }
+    finish(records);
 }
 
-bool CopyRun::plan(QList<CopyOutcome>& outcomes)
+bool CopyRun::plan(QList<FileCopyUtility::FileCopyInfo>& records)
 {
-    m_state.filesTotal = outcomes.size();
-    for (CopyOutcome& outcome : outcomes) {
-        m_items.emplace_back(localPathBytes(outcome.source), outcome);
-        if (!planItem(m_items.back()))
+    const QString folderPath = pathFromBytes(m_context.folder.path());
+    m_state.filesTotal = records.size();
+    for (FileCopyUtility::FileCopyInfo& record : records) {
+        m_items.emplace_back(localPathBytes(record.source), record);
+        if (!planItem(m_items.back(), folderPath))
             m_items.pop_back();
         else if (!report(&m_items.back(), 0))
             return false;
+        ++m_state.filesDone;
     }
     return true;
 }
 
-bool CopyRun::planItem(CopyItem& item)
+bool CopyRun::planItem(CopyItem& item, const QString& folderPath)
 {
+    if (item.path.empty() || item.path.find('\0') != std::string::npos) {
+        m_context.fail(item, notAFileText());
+        return false;
+    }
+    if (item.path.front() != '/') {
+        item.path = fullPathBytes(item.path);
+        item.record->source = pathFromBytes(item.path);
+    }
     const SystemCalls& calls = m_context.calls;
     int error =
         errorOf([&] { return calls.statusAt(AT_FDCWD, item.path.c_str(), item.source, 0); });
     if (error == 0 && !S_ISREG(item.source.st_mode)) {
-        m_context.fail(item, notAFile());
+        m_context.fail(item, notAFileText());
         return false;
     }
     item.candidate.leaf = leafOf(item.path);
-    item.candidate.source = factsOf(item.outcome->source, item.source);
+    item.candidate.source = factsOf(item.record->source, item.source);
     if (error == 0)
-        error = lookForCollision(item, m_context.folder, m_context.folderPath);
+        error = lookForCollision(item, m_context.folder, folderPath);
     if (error != 0)
         m_context.fail(item, describeCopyError(error));
     return error == 0;
@@ -100,10 +119,10 @@ bool CopyRun::planItem(CopyItem& item)
 
 bool CopyRun::ask()
 {
-    std::vector<CopyCandidate> candidates;
+    std::vector<const CopyCandidate*> candidates;
     candidates.reserve(m_items.size());
     for (const CopyItem& item : m_items)
-        candidates.push_back(item.candidate);
+        candidates.push_back(&item.candidate);
     auto orders = m_decisions.decideAll(candidates);
     if (!orders)
         return false;
@@ -111,16 +130,32 @@ bool CopyRun::ask()
         CopyItem& item = m_items[i];
         item.order = std::move((*orders)[i]);
         if (item.order.action == CopyOrder::Action::Skip) {
-            item.outcome->fate = CopyFate::Skipped;
+            item.record->outcome = Outcome::Skipped;
         } else if (item.order.action == CopyOrder::Action::SameFile) {
-            item.outcome->fate = CopyFate::SameFile;
+            item.record->outcome = Outcome::SameFile;
         } else {
             m_toCopy.push_back(&item);
             m_state.bytesTotal += item.source.st_size;
         }
     }
+    m_state.filesDone = 0;
     m_state.filesTotal = static_cast<int>(m_toCopy.size());
     return true;
+}
+
+bool CopyRun::hasSpace()
+{
+    const qint64 available = m_context.calls.freeBytes(m_context.folder.descriptor());
+    qint64 taken = 0;
+    qint64 most = 0;
+    for (const CopyItem* item : m_toCopy) {
+        taken += allocatedBytes(item->source);
+        most = std::max(most, taken);
+        // What is replaced frees its space, but only once its copy is complete.
+        if (item->order.action == CopyOrder::Action::Replace)
+            taken -= allocatedBytes(*item->replaced);
+    }
+    return available < 0 || most <= available || m_questions.copyInSpiteOfSpace(most, available);
 }
 
 void CopyRun::copyAll()
@@ -128,131 +163,74 @@ void CopyRun::copyAll()
     for (CopyItem* item : m_toCopy) {
         if (!report(item, 0))
             m_context.stop = CopyStop::Cancelled;
-        if (m_context.stop == CopyStop::No)
-            copyOne(*item);
+        if (m_context.stop == CopyStop::No && m_stager.stage(*item)) {
+            m_group.push_back(item);
+            m_bytesOfGroup += m_stager.bytesWritten();
+        }
         if (m_context.stop != CopyStop::No)
             break;
-        if (m_group.isFull())
-            m_group.commit();
-        m_bytesOfFinishedItems += item->source.st_size;
         ++m_state.filesDone;
+        if (m_flush.isDue(m_group.size(), m_bytesOfGroup))
+            commitGroup();
+        m_bytesOfFinishedItems += item->source.st_size;
     }
     // What is complete is also published when a later file met a full disk, but not on cancel.
-    m_group.commit();
+    commitGroup();
     if (m_context.stop == CopyStop::No)
         report(nullptr, 0);
 }
 
-void CopyRun::copyOne(CopyItem& item)
+void CopyRun::commitGroup()
 {
-    Descriptor source;
-    struct stat opened
-    {};
-    if (!openBoth(item, source, opened) || !copyContent(item, source, opened) ||
-        !keepAttributes(item, opened))
-        return;
-    m_group.add(item);
+    const std::vector<CopyItem*> group = std::exchange(m_group, {});
+    m_bytesOfGroup = 0;
+    if (m_context.stop != CopyStop::Cancelled)
+        m_flush.flush(group);
+    int filesToCome = m_state.filesTotal - m_state.filesDone + static_cast<int>(group.size());
+    for (CopyItem* item : group) {
+        --filesToCome;
+        if (!m_context.goOn())
+            m_context.stop = CopyStop::Cancelled;
+        if (item->staged && m_context.stop != CopyStop::Cancelled)
+            m_publisher.publish(*item, filesToCome);
+        m_context.discard(*item);
+    }
 }
 
-bool CopyRun::openBoth(CopyItem& item, Descriptor& source, struct stat& opened)
+void CopyRun::finish(QList<FileCopyUtility::FileCopyInfo>& records)
 {
-    int error = openSource(item, source);
-    if ((error == EMFILE || error == ENFILE) && !m_group.isEmpty()) {
-        m_group.commit();
-        error = openSource(item, source);
+    TargetFolder& folder = m_context.folder;
+    const int error = m_publisher.hasPublished() ? folder.flush() : 0;
+    const QString folderPath = pathFromBytes(folder.path());
+    // Letting go of many items takes a while, too.
+    for (; !m_items.empty(); m_items.pop_front()) {
+        const CopyItem& item = m_items.front();
+        if (item.record->outcome == Outcome::Copied) {
+            item.record->target = pathInFolder(folderPath, item.order.leaf);
+            item.record->reason = lossOf(item);
+        }
+        m_context.goOn();
     }
-    if (error == 0)
-        error = errorOf([&] { return m_context.calls.status(source.get(), opened); });
-    if (error != 0) {
-        m_context.fail(item, describeCopyError(error));
-        return false;
-    }
-    if (!S_ISREG(opened.st_mode) || !isUnchanged(item.source, opened)) {
-        m_context.fail(item, S_ISREG(opened.st_mode) ? changedMeanwhile() : notAFile());
-        return false;
-    }
-    item.staged.emplace(m_context.folder);
-    error = item.staged->create(opened.st_mode & s_permissions);
-    if ((error == EMFILE || error == ENFILE) && !m_group.isEmpty()) {
-        m_group.commit();
-        error = item.staged->create(opened.st_mode & s_permissions);
+    for (FileCopyUtility::FileCopyInfo& record : records) {
+        if (record.outcome == Outcome::NotReached && m_context.stop == CopyStop::Cancelled)
+            record.outcome = Outcome::Cancelled;
+        else if (record.outcome == Outcome::NotReached)
+            record.reason =
+                Translator::translate("FileCopyUtility", "Not copied because of the error before.");
     }
     if (error != 0)
-        m_context.failOnTarget(item, error);
-    return error == 0;
-}
-
-int CopyRun::openSource(CopyItem& item, Descriptor& source)
-{
-    // A pipe that took the file's place must not make us wait for its writer.
-    constexpr int flags = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-    const int file = uninterrupted(
-        [&] { return m_context.calls.openAt(AT_FDCWD, item.path.c_str(), flags, 0); });
-    if (file < 0)
-        return errno;
-    source = Descriptor(m_context.calls, file);
-    return 0;
-}
-
-bool CopyRun::copyContent(CopyItem& item, const Descriptor& source, const struct stat& opened)
-{
-    const TransferResult result =
-        m_transfer.run(source.get(), item.staged->descriptor(), opened.st_size);
-    switch (result.end) {
-    case TransferResult::End::Complete:
-        break;
-    case TransferResult::End::Cancelled:
-        m_context.stop = CopyStop::Cancelled;
-        m_context.discard(item);
-        return false;
-    case TransferResult::End::SourceTooShort:
-        m_context.fail(item, changedMeanwhile());
-        return false;
-    case TransferResult::End::SourceError:
-        m_context.fail(item, describeCopyError(result.error));
-        return false;
-    case TransferResult::End::TargetError:
-        m_context.failOnTarget(item, result.error);
-        return false;
-    }
-    struct stat now
-    {};
-    const int error = errorOf([&] { return m_context.calls.status(source.get(), now); });
-    if (error == 0 && isUnchanged(opened, now))
-        return true;
-    m_context.fail(item, error != 0 ? describeCopyError(error) : changedMeanwhile());
-    return false;
-}
-
-/** Each change of a file's attributes is a write of its own to the file system: none in vain. */
-int CopyRun::keepPermissions(int file, mode_t permissions)
-{
-    struct stat made
-    {};
-    const int error = errorOf([&] { return m_context.calls.status(file, made); });
-    if (error != 0 || (made.st_mode & s_permissions) == permissions)
-        return error;
-    return errorOf([&] { return m_context.calls.setMode(file, permissions); });
-}
-
-bool CopyRun::keepAttributes(CopyItem& item, const struct stat& opened)
-{
-    const int file = item.staged->descriptor();
-    const timespec times[2] = {opened.st_atim, opened.st_mtim};
-    int error = keepPermissions(file, opened.st_mode & s_permissions);
-    if (error == 0 || isRefusedAttribute(error))
-        error = errorOf([&] { return m_context.calls.setTimes(file, times); });
-    if (error == 0 || isRefusedAttribute(error))
-        return true;
-    m_context.failOnTarget(item, error);
-    return false;
+        m_remarks.append({folderPath, describeCopyError(error)});
 }
 
 bool CopyRun::report(const CopyItem* item, qint64 bytesOfItem)
 {
-    if (item)
+    if (item) {
         m_state.fileName = pathFromBytes(item->candidate.leaf);
-    m_state.bytesDone = m_bytesOfFinishedItems + bytesOfItem;
+        m_sizeOfItem = item->source.st_size;
+    }
+    m_bytesOfItem = bytesOfItem;
+    // Files may hold more than their size says; the total knows of that only.
+    m_state.bytesDone = m_bytesOfFinishedItems + std::min(bytesOfItem, m_sizeOfItem);
     return m_progress.goOn(m_state);
 }
 

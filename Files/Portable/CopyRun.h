@@ -1,10 +1,14 @@
 #pragma once
 
 #include "Files/CopyProgress.h"
-#include "Files/Portable/CopyGroup.h"
-#include "Files/Portable/FileTransfer.h"
+#include "Files/Portable/CopyPublisher.h"
+#include "Files/Portable/CopyStager.h"
+#include "Files/Portable/GroupFlush.h"
+
+#include <QtCore/QList>
 
 #include <deque>
+#include <vector>
 
 namespace Zorvane {
 
@@ -13,41 +17,43 @@ class CopyRun
 {
 public:
     CopyRun(const SystemCalls& calls, CopyQuestions& questions, CopyProgress& progress,
-            TargetFolder& folder, const QString& folderPath);
+            TargetFolder& folder);
 
     CopyRun(const CopyRun&) = delete;
     CopyRun& operator=(const CopyRun&) = delete;
 
-    /** Copies what `outcomes` names as sources, and fills in the rest. */
-    void run(QList<CopyOutcome>& outcomes);
+    /** Copies what `records` name as sources, and fills in the rest. */
+    void run(QList<FileCopyUtility::FileCopyInfo>& records);
 
-    /** What went wrong and concerns no single file; empty for nothing. */
-    const QString& generalFailure() const { return m_generalFailure; }
-    bool stoppedByFailure() const { return m_context.stop == CopyStop::Fatal; }
+    /** What to report of the target folder as such. */
+    const QList<CopyRemark>& remarks() const { return m_remarks; }
 
 private:
-    bool plan(QList<CopyOutcome>& outcomes);
-    bool planItem(CopyItem& item);
+    bool plan(QList<FileCopyUtility::FileCopyInfo>& records);
+    bool planItem(CopyItem& item, const QString& folderPath);
     bool ask();
+    bool hasSpace();
     void copyAll();
-    void copyOne(CopyItem& item);
-    int openSource(CopyItem& item, Descriptor& source);
-    bool openBoth(CopyItem& item, Descriptor& source, struct stat& opened);
-    bool copyContent(CopyItem& item, const Descriptor& source, const struct stat& opened);
-    int keepPermissions(int file, mode_t permissions);
-    bool keepAttributes(CopyItem& item, const struct stat& opened);
+    void commitGroup();
+    void finish(QList<FileCopyUtility::FileCopyInfo>& records);
     bool report(const CopyItem* item, qint64 bytesOfItem);
 
+    CopyQuestions& m_questions;
     CopyProgress& m_progress;
     CopyDecisions m_decisions;
     CopyContext m_context;
-    CopyGroup m_group;
-    FileTransfer m_transfer;
+    CopyStager m_stager;
+    GroupFlush m_flush;
+    CopyPublisher m_publisher;
     std::deque<CopyItem> m_items;
     std::vector<CopyItem*> m_toCopy;
+    std::vector<CopyItem*> m_group; // complete, and waiting to be flushed and published
+    qint64 m_bytesOfGroup = 0;
     CopyProgressState m_state;
     qint64 m_bytesOfFinishedItems = 0;
-    QString m_generalFailure;
+    qint64 m_bytesOfItem = 0; // of the one at work
+    qint64 m_sizeOfItem = 0;
+    QList<CopyRemark> m_remarks;
 };
 
 } // namespace Zorvane

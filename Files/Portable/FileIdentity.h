@@ -9,13 +9,20 @@ inline bool isSameFile(const struct stat& left, const struct stat& right)
     return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
 }
 
-/** The same file, as far as can be told without reading it also with the same content. */
+inline bool isSameTime(const timespec& left, const timespec& right)
+{
+    return left.tv_sec == right.tv_sec && left.tv_nsec == right.tv_nsec;
+}
+
+/**
+ * The same file, as far as can be known without reading it also with the same content. Programs
+ * can set the modification time back, but not the time of the last change.
+ */
 inline bool isUnchanged(const struct stat& before, const struct stat& now)
 {
     return isSameFile(before, now) && before.st_size == now.st_size &&
            (before.st_mode & S_IFMT) == (now.st_mode & S_IFMT) &&
-           before.st_mtim.tv_sec == now.st_mtim.tv_sec &&
-           before.st_mtim.tv_nsec == now.st_mtim.tv_nsec;
+           isSameTime(before.st_mtim, now.st_mtim) && isSameTime(before.st_ctim, now.st_ctim);
 }
 
 } // namespace Zorvane

@@ -4,6 +4,8 @@
 #include "Files/Portable/Descriptor.h"
 
 #include <algorithm>
+#include <limits>
+#include <unistd.h>
 
 namespace Zorvane {
 
@@ -19,6 +21,14 @@ constexpr qint64 s_largeFile = 4096 * s_kibibyte;
 constexpr size_t s_mostOnTheirWay = 16;
 constexpr qint64 tooSlowPiece = 40;
 constexpr qint64 veryFastPiece = 10;
+// What `st_blocks` counts.
+constexpr qint64 s_block = 512;
+constexpr qint64 s_endOfFile = std::numeric_limits<qint64>::max();
+
+bool hasHoles(const struct stat& source)
+{
+    return source.st_blocks * s_block < source.st_size;
+}
 
 } // namespace
 
@@ -38,30 +48,75 @@ FileTransfer::FileTransfer(const SystemCalls& calls, std::function<bool(qint64)>
     , m_sliceSize(s_firstSlice)
 {}
 
-TransferResult FileTransfer::run(int from, int to, qint64 size)
+TransferResult FileTransfer::run(int from, int to, const struct stat& source)
 {
-    const bool large = size >= s_largeFile;
-    m_copiesRanges = large;
+    m_size = source.st_size;
+    m_done = 0;
+    m_written = 0;
+    m_copiesRanges = m_size >= s_largeFile;
     m_onTheirWay.clear();
+    const TransferResult result =
+        hasHoles(source) ? copyRanges(from, to) : copyUntil(from, to, s_endOfFile);
+    return result.end == TransferResult::End::Complete ? waitForRest(to) : result;
+}
+
+TransferResult FileTransfer::copyRanges(int from, int to)
+{
+    for (;;) {
+        const off_t data = m_calls.seek(from, m_done, SEEK_DATA);
+        if (data < 0 && errno == ENXIO)
+            break;
+        if (data < 0)
+            return copyUntil(from, to, s_endOfFile); // the file system doesn't know its holes
+        const off_t hole = m_calls.seek(from, data, SEEK_HOLE);
+        TransferResult result = skipHole(from, to, data);
+        if (result.end == TransferResult::End::Complete)
+            result = copyUntil(from, to, hole < 0 ? s_endOfFile : hole);
+        if (result.end != TransferResult::End::Complete || m_done < hole || hole < 0)
+            return result; // with success that is where reading ends
+    }
+    if (m_done >= m_size)
+        return {};
+    const int error = errorOf([&] { return m_calls.setSize(to, m_size); });
+    if (error != 0)
+        return {TransferResult::End::TargetError, error};
+    return skipHole(from, to, m_size);
+}
+
+TransferResult FileTransfer::skipHole(int from, int to, qint64 end)
+{
+    if (m_calls.seek(from, end, SEEK_SET) < 0)
+        return {TransferResult::End::SourceError, errno};
+    if (m_calls.seek(to, end, SEEK_SET) < 0)
+        return {TransferResult::End::TargetError, errno};
+    const qint64 size = end - m_done;
+    m_done = end;
+    if (m_advance(size))
+        return {};
+    return {TransferResult::End::Cancelled, 0};
+}
+
+TransferResult FileTransfer::copyUntil(int from, int to, qint64 end)
+{
     TransferResult result;
-    for (qint64 done = 0; done < size;) {
+    while (m_done < end) {
+        const bool large = std::max(m_size, m_done) >= s_largeFile;
         const qint64 start = large ? m_calls.milliseconds() : 0;
-        const qint64 wanted = std::min<qint64>(size - done, static_cast<qint64>(m_sliceSize));
+        const qint64 wanted = std::min<qint64>(end - m_done, static_cast<qint64>(m_sliceSize));
         const ssize_t copied = copySlice(from, to, static_cast<size_t>(wanted), result);
-        if (copied < 0)
+        if (copied <= 0)
             return result;
-        if (copied == 0)
-            return {TransferResult::End::SourceTooShort, 0};
         if (large) {
-            if (const int error = pushToDisk(to, done, copied))
+            if (const int error = pushToDisk(to, m_done, copied))
                 return {TransferResult::End::TargetError, error};
             m_sliceSize = nextSliceSize(m_sliceSize, m_calls.milliseconds() - start);
         }
-        done += copied;
+        m_done += copied;
+        m_written += copied;
         if (!m_advance(copied))
             return {TransferResult::End::Cancelled, 0};
     }
-    return waitForRest(to);
+    return result;
 }
 
 ssize_t FileTransfer::copySlice(int from, int to, size_t size, TransferResult& result)
@@ -116,7 +171,7 @@ int FileTransfer::waitForOldest(int to)
     return isMissingFeature(error) ? 0 : error;
 }
 
-/** Piece by piece, so that one can still cancel; the flush after it has little left to do. */
+/** Piece by piece, so that the user can still cancel; the flush then has little left to do. */
 TransferResult FileTransfer::waitForRest(int to)
 {
     while (!m_onTheirWay.empty()) {

@@ -12,4 +12,7 @@ namespace Zorvane {
  */
 std::string localPathBytes(const QString& path);
 
+/** The full path, without detours such as "a/../b" unless that would lead to another file. */
+std::string fullPathBytes(const std::string& path);
+
 } // namespace Zorvane

@@ -26,7 +26,7 @@ PathFacts PathProbe::look(const QString& path)
     struct stat status
     {};
     const std::string bytes = localPathBytes(path);
-    if (lstat(bytes.c_str(), &status) != 0)
+    if (bytes.find('\0') != std::string::npos || lstat(bytes.c_str(), &status) != 0)
         return facts;
     if (S_ISREG(status.st_mode)) {
         // Thousands of files of one folder: the folder's name is worth resolving once.

@@ -15,7 +15,7 @@ public:
     {
         DialogCopyProgress progress(owner);
         DialogCopyQuestions questions(progress);
-        return toCopyInfos(CopyEngine(questions, progress).run(sources, targetFolder));
+        return CopyEngine(questions, progress).run(sources, targetFolder);
     }
 };
 

@@ -1,7 +1,5 @@
 #include "Files/Portable/StagedFile.h"
 
-#include "Files/Portable/FileIdentity.h"
-
 #include <utility>
 
 namespace Zorvane {
@@ -12,7 +10,7 @@ constexpr off_t s_piece = off_t(32) << 20;
 
 } // namespace
 
-StagedFile::StagedFile(const TargetFolder& folder)
+StagedFile::StagedFile(TargetFolder& folder)
     : m_folder(folder)
 {}
 
@@ -38,7 +36,7 @@ int StagedFile::publishNew(const std::string& leaf)
     m_mayHaveName = true;
     const int error = giveName(leaf);
     // Over a network an answer may get lost, and the repeated call then meets its own success.
-    if ((error == EEXIST || error == ENOENT) && hasName(leaf)) {
+    if ((error == EEXIST || error == ENOENT) && m_folder.isNameOf(m_file.get(), leaf)) {
         removeTemporaryName();
         return 0;
     }
@@ -73,23 +71,35 @@ int StagedFile::giveName(const std::string& leaf)
 int StagedFile::publishReplacing(const std::string& leaf)
 {
     m_mayHaveName = true;
+    if (m_folder.isAppendOnly())
+        return EPERM; // a temporary name would stay
+    if (m_temporaryName.empty()) {
+        if (const int error = giveTemporaryName())
+            return error;
+    }
     const SystemCalls& calls = m_folder.calls();
     const int folder = m_folder.descriptor();
-    if (m_temporaryName.empty()) {
-        const std::string name = m_folder.freshName();
-        const int error =
-            errorOf([&] { return calls.linkUnnamed(m_file.get(), folder, name.c_str()); });
-        // Its own name after an error is a lost answer; EEXIST otherwise would look like `leaf`'s.
-        if (error != 0 && !hasName(name))
-            return error == EEXIST ? EAGAIN : error;
-        m_temporaryName = name;
-    }
     const int error =
         errorOf([&] { return calls.rename(folder, m_temporaryName.c_str(), leaf.c_str()); });
-    if (error != 0 && !(error == ENOENT && hasName(leaf)))
+    if (error != 0 && !(error == ENOENT && m_folder.isNameOf(m_file.get(), leaf)))
         return error;
     m_temporaryName.clear();
     return 0;
+}
+
+int StagedFile::giveTemporaryName()
+{
+    const std::string name = m_folder.freshName();
+    m_folder.lockFile(m_file.get());
+    const int error = errorOf([&] {
+        return m_folder.calls().linkUnnamed(m_file.get(), m_folder.descriptor(), name.c_str());
+    });
+    // The file's own name after an error is a lost answer.
+    if (error == 0 || m_folder.isNameOf(m_file.get(), name)) {
+        m_temporaryName = name;
+        return 0;
+    }
+    return error == EEXIST ? EAGAIN : error; // it is not the final name that exists
 }
 
 void StagedFile::giveUpContent(const std::function<void()>& advance)
@@ -104,16 +114,6 @@ void StagedFile::giveUpContent(const std::function<void()>& advance)
             return; // closing does it at one stroke
         advance();
     }
-}
-
-bool StagedFile::hasName(const std::string& leaf) const
-{
-    struct stat mine
-    {};
-    struct stat named
-    {};
-    return m_folder.calls().status(m_file.get(), mine) == 0 && m_folder.entry(leaf, named) == 0 &&
-           isSameFile(mine, named);
 }
 
 void StagedFile::removeTemporaryName()

@@ -9,12 +9,12 @@ namespace Zorvane {
 
 /**
  * A file in the making. It has no name or a temporary one until it is published; unpublished, it
- * goes away with this object. Functions return an error number, 0 for success.
+ * is removed with this object. Functions return an error number, 0 for success.
  */
 class StagedFile
 {
 public:
-    explicit StagedFile(const TargetFolder& folder);
+    explicit StagedFile(TargetFolder& folder);
     ~StagedFile();
     StagedFile(StagedFile&& other) noexcept;
     StagedFile& operator=(StagedFile&&) = delete;
@@ -24,21 +24,22 @@ public:
 
     /** Gives the file its name; EEXIST where something has it. Nothing is ever replaced. */
     int publishNew(const std::string& leaf);
-    /** Gives the file its name in place of what has it, at one stroke. */
+    /** Gives the file its name in place of what has it, at one stroke. EPERM in a folder that
+     * doesn't allow it. */
     int publishReplacing(const std::string& leaf);
 
     /**
-     * Gives up what has been written, in pieces, with a word after each: the system takes a while
-     * for large files. Does nothing once the file may have its name.
+     * Gives up what has been written, in pieces, and calls `advance` after each: the system needs
+     * a while for large files. Does nothing once the file may have its name.
      */
     void giveUpContent(const std::function<void()>& advance);
 
 private:
     int giveName(const std::string& leaf);
-    bool hasName(const std::string& leaf) const;
+    int giveTemporaryName();
     void removeTemporaryName();
 
-    const TargetFolder& m_folder;
+    TargetFolder& m_folder;
     Descriptor m_file;
     std::string m_temporaryName;
     bool m_mayHaveName = false;

@@ -7,9 +7,13 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
+#include <dirent.h>
 #include <fcntl.h>
+#include <limits.h>
 #include <string>
+#include <sys/file.h>
 #include <sys/statfs.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 namespace Zorvane {
@@ -89,6 +93,45 @@ int linkUnnamed(int file, int folder, const char* to)
     return ::linkat(AT_FDCWD, from.c_str(), folder, to, AT_SYMLINK_FOLLOW);
 }
 
+bool isAppendOnly(int folder)
+{
+    struct statx facts
+    {};
+    return ::statx(folder, "", AT_EMPTY_PATH, 0, &facts) == 0 &&
+           (facts.stx_attributes & STATX_ATTR_APPEND) != 0;
+}
+
+int visitNames(int folder, const std::function<bool(const char*)>& visit)
+{
+    // Reading moves a position, which an opening of its own keeps to itself.
+    const int file = ::openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    DIR* const stream = file < 0 ? nullptr : ::fdopendir(file);
+    if (!stream)
+        return -1;
+    const dirent* entry = ::readdir(stream);
+    while (entry && visit(entry->d_name))
+        entry = ::readdir(stream);
+    return ::closedir(stream);
+}
+
+std::string pathOf(int folder)
+{
+    std::array<char, PATH_MAX> path{};
+    const std::string link = "/proc/self/fd/" + std::to_string(folder);
+    const ssize_t length = ::readlink(link.c_str(), path.data(), path.size());
+    return std::string(path.data(), length > 0 ? static_cast<size_t>(length) : 0);
+}
+
+qint64 freeBytes(int folder)
+{
+    struct statvfs facts
+    {};
+    // File systems without a size of their own say that they have no blocks at all.
+    if (::fstatvfs(folder, &facts) != 0 || facts.f_blocks == 0)
+        return -1;
+    return static_cast<qint64>(facts.f_bavail) * static_cast<qint64>(facts.f_frsize);
+}
+
 constexpr int s_unnamedFileFlags = O_TMPFILE | O_RDWR;
 
 qint64 milliseconds()
@@ -107,6 +150,7 @@ SystemCalls makeReal()
     calls.read = ::read;
     calls.write = ::write;
     calls.copyRange = copyRange;
+    calls.seek = ::lseek;
     calls.status = [](int file, struct stat& status) { return ::fstat(file, &status); };
     calls.statusAt = [](int folder, const char* path, struct stat& status, int flags) {
         return ::fstatat(folder, path, &status, flags);
@@ -129,6 +173,12 @@ SystemCalls makeReal()
     };
     calls.linkUnnamed = linkUnnamed;
     calls.unlink = [](int folder, const char* name) { return ::unlinkat(folder, name, 0); };
+    calls.lock = [](int file) { return ::flock(file, LOCK_EX | LOCK_NB); };
+    calls.isAppendOnly = isAppendOnly;
+    calls.visitNames = visitNames;
+    calls.pathOf = pathOf;
+    calls.freeBytes = freeBytes;
+    calls.mostOpenFiles = [] { return ::sysconf(_SC_OPEN_MAX); };
     calls.mostNameBytes = [](int folder) { return ::fpathconf(folder, _PC_NAME_MAX); };
     calls.milliseconds = milliseconds;
     calls.random = [] { return QRandomGenerator::system()->generate(); };

@@ -5,6 +5,7 @@
 #include <QtCore/QtGlobal>
 
 #include <functional>
+#include <string>
 #include <sys/stat.h>
 #include <sys/types.h>
 
@@ -12,7 +13,7 @@ namespace Zorvane {
 
 /**
  * Every call to the system that copying makes, so that tests can let each of them fail, be
- * interrupted, fall short or be preceded by somebody else's doing. An entry answers and sets
+ * interrupted, fall short or be preceded by another program's. An entry answers and sets
  * `errno` as the function named beside it. Not supported: systems other than Linux; Windows copies
  * by its shell.
  */
@@ -28,6 +29,9 @@ struct ZORVANE_UITOOLS_EXPORT SystemCalls
     std::function<ssize_t(int file, const void* buffer, size_t size)> write;
     /** `copy_file_range`, from the present position of one file to that of the other. */
     std::function<ssize_t(int from, int to, size_t size)> copyRange;
+
+    /** `lseek` */
+    std::function<off_t(int file, off_t offset, int whence)> seek;
 
     /** `fstat` */
     std::function<int(int file, struct stat& status)> status;
@@ -64,6 +68,18 @@ struct ZORVANE_UITOOLS_EXPORT SystemCalls
     /** `unlinkat` of a file. */
     std::function<int(int folder, const char* name)> unlink;
 
+    /** `flock` that takes the file for this opening alone, or fails at once. */
+    std::function<int(int file)> lock;
+    /** Whether names in the folder can only be added. By `statx`. */
+    std::function<bool(int folder)> isAppendOnly;
+    /** Reads the folder; what `visit` answers stops it by false. */
+    std::function<int(int folder, const std::function<bool(const char* name)>& visit)> visitNames;
+    /** The full path that the system knows an open folder by now; empty if it cannot say. */
+    std::function<std::string(int folder)> pathOf;
+    /** Bytes that this program may write to the folder's file system; -1 where not known. */
+    std::function<qint64(int folder)> freeBytes;
+    /** How many files this program may have open. */
+    std::function<long()> mostOpenFiles;
     /** `fpathconf` with `_PC_NAME_MAX` */
     std::function<long(int folder)> mostNameBytes;
     /** Of a clock that only goes forward. */

@@ -68,9 +68,11 @@ QString canonical(const QString& path)
 
 PathFacts PathProbe::look(const QString& path)
 {
-    const QFileInfo info(path);
     PathFacts facts;
-    facts.exists = !path.isEmpty() && info.exists();
+    if (path.isEmpty() || path.contains(QChar::Null))
+        return facts;
+    const QFileInfo info(path);
+    facts.exists = info.exists();
     if (!facts.exists)
         return facts;
     facts.isFolder = info.isDir();

@@ -6,6 +6,7 @@
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/TestCase.h"
 
+#include <QtCore/QDir>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressBar>
@@ -40,7 +41,8 @@ struct Progress
 {
     qint64 time = 0;
     DialogCopyProgress progress{nullptr, [this] { return time; }};
-    CopyProgressState state{QStringLiteral("door.stl"), 0, 1 << 30, 0, 4};
+    CopyProgressState state{
+        CopyProgressState::Stage::Copying, QStringLiteral("door.stl"), 0, 1 << 30, 0, 4};
 
     bool passMilliseconds(qint64 milliseconds, qint64 bytes = 0)
     {
@@ -66,14 +68,23 @@ private Q_SLOTS:
     void collisionKeysDecide_data();
     void collisionKeysDecide();
     void collisionAnswersForAllWhereMoreMayFollow();
+    void forAllText_fitsWhatFollows_data();
+    void forAllText_fitsWhatFollows();
+    void protectedFile_isNamedSo();
     void collisionIsAccessible();
     void questionsAskByDialog();
     void questionClosedWithItsOwnerCancels();
     void failuresAreTold_data();
     void failuresAreTold();
+    void failuresOfOneName_areToldApart();
+    void remarksAlone_areNoFailures();
+    void thousandsOfFailures_areCutOff();
+    void spaceIsAskedAbout_data();
+    void spaceIsAskedAbout();
     void progressIsShownAfterHalfASecond();
     void questionsDoNotCountAsTime();
     void progressShowsAmountSpeedAndTime();
+    void checking_showsFilesOnly();
     void progressCancels_data();
     void progressCancels();
     void windowLivesOnWhileACancelledCopyIsTidiedUp();
@@ -123,6 +134,7 @@ void CopyDialogsTest::collisionOffersReplaceForFilesOnly_data()
     QTest::addColumn<int>("kind");
     QTest::addColumn<bool>("replace");
     QTest::newRow("file") << int(CollisionKind::ExistingFile) << true;
+    QTest::newRow("write-protected file") << int(CollisionKind::ProtectedFile) << true;
     QTest::newRow("same file") << int(CollisionKind::SameFile) << false;
     QTest::newRow("within the batch") << int(CollisionKind::WithinBatch) << false;
     QTest::newRow("folder") << int(CollisionKind::NotAFile) << false;
@@ -180,6 +192,33 @@ void CopyDialogsTest::collisionAnswersForAllWhereMoreMayFollow()
     dialog.button(CopyDecision::Skip)->click();
     QVERIFY(dialog.answer().forAll);
     QCOMPARE(CopyCollisionDialog(collision(CollisionKind::ExistingFile, 0)).forAllBox(), nullptr);
+}
+
+void CopyDialogsTest::forAllText_fitsWhatFollows_data()
+{
+    QTest::addColumn<int>("remaining");
+    QTest::addColumn<bool>("isLate");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("one") << 1 << false << QStringLiteral("&Do this for the remaining one, too");
+    QTest::newRow("many") << 7 << false << QStringLiteral("&Do this for all 7 remaining");
+    QTest::newRow("late") << 7 << true << QStringLiteral("&Do this for all that follow");
+}
+
+void CopyDialogsTest::forAllText_fitsWhatFollows()
+{
+    QFETCH(int, remaining);
+    QFETCH(bool, isLate);
+    QFETCH(QString, text);
+    CopyCollision asked = collision(CollisionKind::ExistingFile, remaining);
+    asked.isLate = isLate;
+    QCOMPARE(CopyCollisionDialog(asked).forAllBox()->text(), text);
+}
+
+void CopyDialogsTest::protectedFile_isNamedSo()
+{
+    const CopyCollisionDialog dialog(collision(CollisionKind::ProtectedFile));
+    QVERIFY(showsText(dialog, QStringLiteral("write-protected file named \"<b>door.stl\"")));
+    QVERIFY(showsText(dialog, QStringLiteral("(newer)")));
 }
 
 void CopyDialogsTest::collisionIsAccessible()
@@ -240,7 +279,7 @@ void CopyDialogsTest::failuresAreTold()
 {
     QFETCH(int, count);
     QFETCH(QString, text);
-    QList<CopyFailure> failures;
+    QList<CopyRemark> failures;
     for (int i = 0; i < count; ++i)
         failures.append({QStringLiteral("/parts/f%1").arg(i), QStringLiteral("Reason.")});
     DialogCopyProgress progress(nullptr);
@@ -251,7 +290,79 @@ void CopyDialogsTest::failuresAreTold()
         QCOMPARE(box.detailedText().count(QStringLiteral("Reason.")), count > 5 ? count : 0);
         box.button(QMessageBox::Ok)->click();
     });
-    DialogCopyQuestions(progress).tellFailures(failures);
+    DialogCopyQuestions(progress).report(failures, {});
+}
+
+void CopyDialogsTest::failuresOfOneName_areToldApart()
+{
+    DialogCopyProgress progress(nullptr);
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("4 files could not be copied."), [&](QMessageBox& box) {
+        const QStringList lines = box.informativeText().split(u'\n');
+        const QChar slash = QDir::separator();
+        QCOMPARE(lines[0], QStringLiteral("new%1left%1door.stl: A.").arg(slash));
+        QCOMPARE(lines[1], QStringLiteral("right%1door.stl: B.").arg(slash));
+        QCOMPARE(lines[2], QStringLiteral("old%1left%1door.stl: C.").arg(slash));
+        QCOMPARE(lines[3], QStringLiteral("roof.stl: D."));
+        box.button(QMessageBox::Ok)->click();
+    });
+    DialogCopyQuestions(progress).report(
+        {{QStringLiteral("/new/left/door.stl"), QStringLiteral("A.")},
+         {QStringLiteral("/new/right/door.stl"), QStringLiteral("B.")},
+         {QStringLiteral("/old/left/door.stl"), QStringLiteral("C.")},
+         {QStringLiteral("/new/left/roof.stl"), QStringLiteral("D.")}},
+        {});
+}
+
+void CopyDialogsTest::remarksAlone_areNoFailures()
+{
+    DialogCopyProgress progress(nullptr);
+    ExpectedModals modals;
+    modals.expectMessageBox(
+        QStringLiteral("The files were copied, but there is something to know."),
+        [&](QMessageBox& box) {
+            QCOMPARE(box.informativeText(), QStringLiteral("door.stl: No date."));
+            box.button(QMessageBox::Ok)->click();
+        });
+    DialogCopyQuestions(progress).report(
+        {}, {{QStringLiteral("/parts/door.stl"), QStringLiteral("No date.")}});
+}
+
+void CopyDialogsTest::thousandsOfFailures_areCutOff()
+{
+    QList<CopyRemark> failures;
+    for (int i = 0; i < 50000; ++i)
+        failures.append({QStringLiteral("/parts/f%1").arg(i), QStringLiteral("Reason.")});
+    DialogCopyProgress progress(nullptr);
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("50000 files could not be copied."),
+                            [&](QMessageBox& box) {
+                                QVERIFY(box.detailedText().endsWith(QStringLiteral(" more.")));
+                                QVERIFY(box.detailedText().size() < 50000);
+                                box.button(QMessageBox::Ok)->click();
+                            });
+    DialogCopyQuestions(progress).report(failures, {});
+}
+
+void CopyDialogsTest::spaceIsAskedAbout_data()
+{
+    QTest::addColumn<bool>("copy");
+    QTest::newRow("copy") << true;
+    QTest::newRow("don't copy") << false;
+}
+
+void CopyDialogsTest::spaceIsAskedAbout()
+{
+    QFETCH(bool, copy);
+    DialogCopyProgress progress(nullptr);
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("only"), [&](QMessageBox& box) {
+        QVERIFY(box.text().contains(sizeForDisplay(3 << 20)));
+        QVERIFY(box.text().contains(sizeForDisplay(1 << 20)));
+        QCOMPARE(box.defaultButton(), box.button(QMessageBox::No));
+        box.button(copy ? QMessageBox::Yes : QMessageBox::No)->click();
+    });
+    QCOMPARE(DialogCopyQuestions(progress).copyInSpiteOfSpace(3 << 20, 1 << 20), copy);
 }
 
 void CopyDialogsTest::progressIsShownAfterHalfASecond()
@@ -287,6 +398,20 @@ void CopyDialogsTest::progressShowsAmountSpeedAndTime()
     QVERIFY(showsText(dialog, sizeForDisplay(10 << 20) + QStringLiteral(" per second")));
     QVERIFY(showsText(dialog, QStringLiteral("About 2 minutes left")));
     QCOMPARE(dialog.findChild<QProgressBar*>()->value(), 19);
+}
+
+void CopyDialogsTest::checking_showsFilesOnly()
+{
+    Progress test;
+    test.state.stage = CopyProgressState::Stage::Checking;
+    test.state.bytesTotal = 0;
+    test.state.filesDone = 1;
+    QVERIFY(test.passMilliseconds(0));
+    QVERIFY(test.passMilliseconds(600));
+    QVERIFY(showsText(*test.progress.dialog(), QStringLiteral("Looking at the files")));
+    QVERIFY(showsText(*test.progress.dialog(), QStringLiteral("File 2 of 4")));
+    QVERIFY(!showsText(*test.progress.dialog(), sizeForDisplay(0)));
+    QCOMPARE(test.progress.dialog()->findChild<QProgressBar*>()->value(), 250);
 }
 
 void CopyDialogsTest::progressCancels_data()

@@ -38,6 +38,12 @@ rc::Gen<std::string> fileNames()
                         });
 }
 
+std::string firstFreeName(const std::string& leaf, std::size_t limit, const NameIsTaken& isTaken)
+{
+    unsigned number = 2;
+    return keepBothName(leaf, limit, isTaken, number);
+}
+
 } // namespace
 
 class CopyNamesTest : public Testing::TestCase
@@ -48,10 +54,10 @@ private Q_SLOTS:
     void keepBothNumbersTheStem_data();
     void keepBothNumbersTheStem();
     void keepBothTakesTheFirstFreeNumber();
+    void keepBothAgain_goesOnFromTheLastNumber();
     void keepBothFitsIntoTheLimit_data();
     void keepBothFitsIntoTheLimit();
     void keepBothNamesAreUniqueAndLegal();
-    void temporaryNamesAreShortAndHidden();
     void foldedNamesIgnoreCaseOnly();
 };
 
@@ -76,14 +82,29 @@ void CopyNamesTest::keepBothNumbersTheStem()
 {
     QFETCH(QByteArray, leaf);
     QFETCH(QByteArray, expected);
-    QCOMPARE(bytes(keepBothName(leaf.toStdString(), s_limit, isFree)), expected);
+    QCOMPARE(bytes(firstFreeName(leaf.toStdString(), s_limit, isFree)), expected);
 }
 
 void CopyNamesTest::keepBothTakesTheFirstFreeNumber()
 {
     const std::set<std::string> taken{"a (2).x", "a (3).x", "a (5).x"};
     const auto isTaken = [&](const std::string& name) { return taken.count(name) != 0; };
-    QCOMPARE(bytes(keepBothName("a.x", s_limit, isTaken)), QByteArray("a (4).x"));
+    QCOMPARE(bytes(firstFreeName("a.x", s_limit, isTaken)), QByteArray("a (4).x"));
+}
+
+void CopyNamesTest::keepBothAgain_goesOnFromTheLastNumber()
+{
+    std::set<std::string> taken;
+    int looks = 0;
+    unsigned number = 2;
+    for (int i = 0; i < 1000; ++i) {
+        const std::string name = keepBothName(
+            "a.x", s_limit,
+            [&](const std::string& text) { return ++looks, taken.count(text) != 0; }, number);
+        QVERIFY(taken.insert(name).second);
+    }
+    QCOMPARE(taken.count("a (1001).x"), std::size_t(1));
+    QVERIFY(looks <= 2000);
 }
 
 void CopyNamesTest::keepBothFitsIntoTheLimit_data()
@@ -112,7 +133,7 @@ void CopyNamesTest::keepBothFitsIntoTheLimit()
     QFETCH(int, limit);
     QFETCH(QByteArray, expected);
     const auto size = static_cast<std::size_t>(limit);
-    QCOMPARE(bytes(keepBothName(leaf.toStdString(), size, isFree)), expected);
+    QCOMPARE(bytes(firstFreeName(leaf.toStdString(), size, isFree)), expected);
 }
 
 void CopyNamesTest::keepBothNamesAreUniqueAndLegal()
@@ -122,7 +143,7 @@ void CopyNamesTest::keepBothNamesAreUniqueAndLegal()
         const auto limit = *rc::gen::inRange<std::size_t>(32, s_limit + 1);
         std::set<std::string> taken{leaf};
         for (int i = 0; i < 12; ++i) {
-            const std::string name = keepBothName(
+            const std::string name = firstFreeName(
                 leaf, limit, [&](const std::string& text) { return taken.count(text) != 0; });
             RC_ASSERT(!name.empty());
             RC_ASSERT(name.size() <= limit);
@@ -134,21 +155,9 @@ void CopyNamesTest::keepBothNamesAreUniqueAndLegal()
         const auto leaf = *rc::gen::suchThat(fileNames(), [](const std::string& name) {
             return pathForDisplay(pathFromBytes(name)) == pathFromBytes(name);
         });
-        const QString name = pathFromBytes(keepBothName(leaf, 40, isFree));
+        const QString name = pathFromBytes(firstFreeName(leaf, 40, isFree));
         RC_ASSERT(pathForDisplay(name) == name);
     }));
-}
-
-void CopyNamesTest::temporaryNamesAreShortAndHidden()
-{
-    QVERIFY(rc::check("of 12 letters, digits and dots", [] {
-        const std::string name = temporaryCopyName(*rc::gen::arbitrary<quint32>());
-        RC_ASSERT(name.size() == 12U);
-        RC_ASSERT(name.front() == '.');
-        RC_ASSERT(name.find_first_not_of(".0123456789abcdefghijklmnopqrstuvz") ==
-                  std::string::npos);
-    }));
-    QVERIFY(temporaryCopyName(1) != temporaryCopyName(2));
 }
 
 void CopyNamesTest::foldedNamesIgnoreCaseOnly()

@@ -1,7 +1,9 @@
 #include "Files/FileCopyService.h"
 
+#include "Files/CopyCheck.h"
 #include "Files/PathText.h"
 #include "Tests/Files/ScriptedCopier.h"
+#include "Tests/Files/ScriptedCopy.h"
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/PlatformCopies.h"
 #include "Tests/Support/PlatformFacts.h"
@@ -55,6 +57,8 @@ private Q_SLOTS:
     void fileNameFormConverts();
     void fileNamesKeepTheirBytes();
     void realCopyThroughTheWholeService();
+    void relativePaths_areReportedInFull();
+    void manyFiles_areCheckedWithAProgress();
 
 private:
     QString addFile(const QString& relativePath);
@@ -118,6 +122,10 @@ void FileCopyServiceTest::checkTellsWhyFilesCannotBeCopied_data()
     row("link to a file in the target", "target", {QStringLiteral("source/to-x")}, 3);
     const int otherCase = Testing::doesCaseOfNamesCount() ? 2 : 3;
     row("target in other letter case", "TARGET", {inTarget}, otherCase);
+    const QString null = QChar(QChar::Null) + QStringLiteral("b");
+    row("null character in a source", "target", {QString(good + null)}, 4);
+    QTest::newRow("null character in the target")
+        << QString(QStringLiteral("target") + null) << QStringList{good} << 2;
     row("sub-folder of the target is elsewhere", "target", {QStringLiteral("target/sub/y")}, 0);
 }
 
@@ -436,6 +444,41 @@ void FileCopyServiceTest::realCopyThroughTheWholeService()
     QFile copy(target() + QStringLiteral("/a"));
     QVERIFY(copy.open(QIODevice::ReadOnly));
     QCOMPARE(copy.readAll(), QByteArray("content"));
+}
+
+void FileCopyServiceTest::relativePaths_areReportedInFull()
+{
+    m_copier.reset();
+    const QString source = addFile(QStringLiteral("source/a"));
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(m_root->filePath(QStringLiteral("source")));
+    int code = -1;
+    FileCopyUtility utility(nullptr, {QStringLiteral("a")}, QStringLiteral("../target"));
+    const QList<Info> records = utility.copyFiles(code);
+    QDir::setCurrent(before);
+    QCOMPARE(code, 0);
+    QCOMPARE(records.size(), 1);
+    QCOMPARE(QDir::fromNativeSeparators(records[0].source), source);
+    QCOMPARE(QDir::fromNativeSeparators(records[0].target), target() + QStringLiteral("/a"));
+    QCOMPARE(records[0].outcome, FileCopyUtility::Outcome::Copied);
+}
+
+void FileCopyServiceTest::manyFiles_areCheckedWithAProgress()
+{
+    QStringList sources;
+    for (int i = 0; i < 100; ++i)
+        sources.append(addFile(QStringLiteral("source/%1").arg(i)));
+    Testing::ScriptedProgress progress;
+    QCOMPARE(checkCopy(sources, target(), progress), std::optional<int>(0));
+    QCOMPARE(int(progress.states.size()), 100);
+    QCOMPARE(progress.states[40].stage, CopyProgressState::Stage::Checking);
+    QCOMPARE(progress.states[40].filesDone, 40);
+    QCOMPARE(progress.states[40].filesTotal, 100);
+    QCOMPARE(progress.states[40].fileName, QStringLiteral("40"));
+    progress.states.clear();
+    progress.cancelAt = 10;
+    QVERIFY(!checkCopy(sources, target(), progress));
+    QCOMPARE(int(progress.states.size()), 11);
 }
 
 ZORVANE_TEST(FileCopyServiceTest)

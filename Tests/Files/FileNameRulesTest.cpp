@@ -136,7 +136,6 @@ private Q_SLOTS:
     void longNamesAreFitted();
     void fittedNamesStayLegal();
     void namesOfCopiesStayLegal();
-    void temporaryNamesAreLegalEverywhere();
 };
 
 void FileNameRulesTest::namesAreJudged_data()
@@ -267,18 +266,10 @@ void FileNameRulesTest::namesOfCopiesStayLegal()
         const std::string leaf = *namesOfWindows();
         const auto most = *rc::gen::inRange<std::size_t>(32, 256);
         int asked = 0;
-        const std::string name =
-            keepBothName(leaf, most, [&asked](const std::string&) { return ++asked < 12; });
+        unsigned number = 2;
+        const std::string name = keepBothName(
+            leaf, most, [&asked](const std::string&) { return ++asked < 12; }, number);
         RC_ASSERT(faultOfFileName(pathFromBytes(name), PathSyntax::Windows) == Fault::None);
-    }));
-}
-
-void FileNameRulesTest::temporaryNamesAreLegalEverywhere()
-{
-    QVERIFY(rc::check("of any number", [] {
-        const QString name = pathFromBytes(temporaryCopyName(*rc::gen::arbitrary<quint32>()));
-        RC_ASSERT(faultOfFileName(name, PathSyntax::Windows) == Fault::None);
-        RC_ASSERT(faultOfFileName(name, PathSyntax::Posix) == Fault::None);
     }));
 }
 

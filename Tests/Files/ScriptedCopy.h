@@ -7,11 +7,12 @@
 
 #include <deque>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace Zorvane::Testing {
 
-/** Answers from a list, `fallback` after its end, and keeps what was asked and told. */
+/** Answers from a list, `fallback` after its end, and keeps what was asked and reported. */
 class ScriptedQuestions : public CopyQuestions
 {
 public:
@@ -19,7 +20,10 @@ public:
     CopyAnswer fallback{CopyDecision::Skip, false};
     std::function<void(const CopyCollision&)> onAsk;
     std::vector<CopyCollision> asked;
-    QList<CopyFailure> told;
+    bool copiesInSpiteOfSpace = false;
+    std::vector<std::pair<qint64, qint64>> spaceAsked; /**< Bytes needed and free. */
+    QList<CopyRemark> failures;
+    QList<CopyRemark> remarks;
 
     CopyAnswer ask(const CopyCollision& collision) override
     {
@@ -32,7 +36,16 @@ public:
         answers.pop_front();
         return answer;
     }
-    void tellFailures(const QList<CopyFailure>& failures) override { told += failures; }
+    bool copyInSpiteOfSpace(qint64 bytesNeeded, qint64 bytesFree) override
+    {
+        spaceAsked.emplace_back(bytesNeeded, bytesFree);
+        return copiesInSpiteOfSpace;
+    }
+    void report(const QList<CopyRemark>& failed, const QList<CopyRemark>& toKnow) override
+    {
+        failures += failed;
+        remarks += toKnow;
+    }
 };
 
 /** Keeps the states; cancels from the given one on, counted from 0. */

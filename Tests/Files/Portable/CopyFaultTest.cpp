@@ -1,4 +1,5 @@
 #include "Files/PathText.h"
+#include "Files/Portable/TemporaryNames.h"
 #include "Tests/Files/Portable/CopyFixture.h"
 #include "Tests/Files/Portable/CopyMeans.h"
 #include "Tests/Files/Portable/FaultySystem.h"
@@ -35,10 +36,7 @@ struct Batch
                                      {CopyDecision::Skip, false}};
     }
 
-    QList<CopyOutcome> copy(const FaultySystem& system)
-    {
-        return fixture.copy(sources, system.calls);
-    }
+    Records copy(const FaultySystem& system) { return fixture.copy(sources, system.calls); }
 
     CopyFixture fixture;
     FolderContent before;
@@ -49,7 +47,7 @@ struct Batch
 FolderContent withoutTemporaries(FolderContent content)
 {
     for (auto entry = content.begin(); entry != content.end();)
-        entry = Testing::isTemporaryName(entry->first) ? content.erase(entry) : std::next(entry);
+        entry = isTemporaryCopyName(entry->first) ? content.erase(entry) : std::next(entry);
     return content;
 }
 
@@ -78,7 +76,7 @@ private Q_SLOTS:
     void folderWithoutAnySafeMeansIsRefused();
     void lostAnswerIsRecognised_data() { addMeansRows(); }
     void lostAnswerIsRecognised();
-    void attributesThatCannotBeKeptAreNoFailure();
+    void attributesThatCannotBeKept_areReported();
 };
 
 void CopyFaultTest::everyMeansGivesTheSameResult()
@@ -100,8 +98,8 @@ void CopyFaultTest::everyMeansGivesTheSameResult()
     expected["large"] = std::string(s_largeSize, 'l');
     expected["last"] = "last";
     QVERIFY(batch.fixture.targetContent() == expected);
-    QVERIFY(batch.fixture.questions.told.isEmpty());
-    QCOMPARE(outcomes[3].fate, CopyFate::Skipped);
+    QVERIFY(batch.fixture.questions.failures.isEmpty());
+    QCOMPARE(outcomes[3].outcome, Outcome::Skipped);
 }
 
 void CopyFaultTest::aFaultAtAnyCallLosesNothing_data()
@@ -197,20 +195,20 @@ void CopyFaultTest::errorStopsOrSkips()
     const QStringList sources{fixture.addSource("a", name == "flush" ? large : "1"),
                               fixture.addSource("b", "2")};
     const auto outcomes = fixture.copy(sources, system.calls);
-    QCOMPARE(outcomes[0].fate, CopyFate::Failed);
+    QCOMPARE(outcomes[0].outcome, Outcome::Failed);
     QVERIFY(!outcomes[0].reason.isEmpty());
     const bool grouped = name.find("ink") != std::string::npos || name == "renameNoReplace";
     if (stops && !grouped) {
-        QCOMPARE(outcomes[1].fate, CopyFate::NotReached);
-        QCOMPARE(fixture.questions.told.size(), 2);
+        QCOMPARE(outcomes[1].outcome, Outcome::NotReached);
+        QCOMPARE(fixture.questions.failures.size(), 2);
         QVERIFY(fixture.targetContent().empty());
     } else {
         // What was complete already when the other failed to get its name still gets its own.
-        QCOMPARE(outcomes[1].fate, CopyFate::Copied);
-        QCOMPARE(fixture.questions.told.size(), 1);
+        QCOMPARE(outcomes[1].outcome, Outcome::Copied);
+        QCOMPARE(fixture.questions.failures.size(), 1);
         QVERIFY(fixture.targetContent() == FolderContent({{"b", "2"}}));
     }
-    QCOMPARE(fixture.questions.told[0].path, sources[0]);
+    QCOMPARE(fixture.questions.failures[0].path, sources[0]);
 }
 
 void CopyFaultTest::copiedFilesStayReported()
@@ -223,10 +221,10 @@ void CopyFaultTest::copiedFilesStayReported()
     const auto outcomes = fixture.copy({fixture.addSource("a", "1"), fixture.addSource("b", "2"),
                                         fixture.addSource("c", "3"), fixture.addSource("d", "4")},
                                        system.calls);
-    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
-    QCOMPARE(outcomes[1].fate, CopyFate::Copied);
-    QCOMPARE(outcomes[2].fate, CopyFate::Failed);
-    QCOMPARE(outcomes[3].fate, CopyFate::NotReached);
+    QCOMPARE(outcomes[0].outcome, Outcome::Copied);
+    QCOMPARE(outcomes[1].outcome, Outcome::Copied);
+    QCOMPARE(outcomes[2].outcome, Outcome::Failed);
+    QCOMPARE(outcomes[3].outcome, Outcome::NotReached);
     QVERIFY(fixture.targetContent() == FolderContent({{"a", "1"}, {"b", "2"}}));
 }
 
@@ -252,9 +250,9 @@ void CopyFaultTest::failedGroupFlushFailsItsFilesOnly()
     for (int i = 0; i < 20; ++i)
         sources.append(fixture.addSource("f" + std::to_string(i), std::to_string(i)));
     const auto outcomes = fixture.copy(sources, system.calls);
-    QCOMPARE(outcomes[0].fate, CopyFate::Failed);
+    QCOMPARE(outcomes[0].outcome, Outcome::Failed);
     for (int i = 1; i < outcomes.size(); ++i)
-        QCOMPARE(outcomes[i].fate, CopyFate::Copied);
+        QCOMPARE(outcomes[i].outcome, Outcome::Copied);
     QVERIFY(fixture.targetContent() == reportedContent({}, outcomes, fixture.sourceContent()));
 }
 
@@ -264,9 +262,9 @@ void CopyFaultTest::folderFlushFailureIsTold()
     FaultySystem system;
     system.failOnce("flush", EIO, 1);
     const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
-    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
-    QCOMPARE(fixture.questions.told.size(), 1);
-    QCOMPARE(fixture.questions.told[0].path, fixture.targetFolder());
+    QCOMPARE(outcomes[0].outcome, Outcome::Copied);
+    QCOMPARE(fixture.questions.remarks.size(), 1);
+    QCOMPARE(fixture.questions.remarks[0].path, fixture.targetFolder());
     QVERIFY(fixture.targetContent() == FolderContent({{"a", "1"}}));
 }
 
@@ -283,7 +281,7 @@ void CopyFaultTest::interruptionsAreHarmless()
         return interrupt ? EINTR : 0;
     };
     const auto outcomes = batch.copy(system);
-    QVERIFY(batch.fixture.questions.told.isEmpty());
+    QVERIFY(batch.fixture.questions.failures.isEmpty());
     for (const int copied : {0, 1, 2, 4, 5})
         QVERIFY(!outcomes[copied].target.isEmpty());
     QVERIFY(batch.fixture.targetContent() ==
@@ -303,8 +301,8 @@ void CopyFaultTest::shortReadsAndWritesAreHarmless()
         return real.write(file, buffer, std::min<size_t>(size, 70001));
     };
     const auto outcomes = batch.copy(system);
-    QVERIFY(batch.fixture.questions.told.isEmpty());
-    QCOMPARE(outcomes[4].fate, CopyFate::Copied);
+    QVERIFY(batch.fixture.questions.failures.isEmpty());
+    QCOMPARE(outcomes[4].outcome, Outcome::Copied);
     QVERIFY(batch.fixture.targetContent() ==
             reportedContent(batch.before, outcomes, batch.sourcesBefore));
 }
@@ -320,7 +318,7 @@ void CopyFaultTest::rangeCopyThatStopsShortIsHarmless()
     };
     const auto outcomes = batch.copy(system);
     QCOMPARE(calls, 4);
-    QCOMPARE(outcomes[4].fate, CopyFate::Copied);
+    QCOMPARE(outcomes[4].outcome, Outcome::Copied);
     QVERIFY(batch.fixture.targetContent() ==
             reportedContent(batch.before, outcomes, batch.sourcesBefore));
 }
@@ -333,11 +331,11 @@ void CopyFaultTest::folderWithoutAnySafeMeansIsRefused()
     system.removeNoReplaceRename();
     system.removeHardLinks();
     const auto outcomes = batch.copy(system);
-    QVERIFY(std::all_of(outcomes.begin(), outcomes.end(), [](const CopyOutcome& outcome) {
-        return outcome.fate == CopyFate::Failed && !outcome.reason.isEmpty();
+    QVERIFY(std::all_of(outcomes.begin(), outcomes.end(), [](const Record& outcome) {
+        return outcome.outcome == Outcome::Failed && !outcome.reason.isEmpty();
     }));
     QVERIFY(batch.fixture.questions.asked.empty());
-    QCOMPARE(batch.fixture.questions.told.size(), batch.sources.size());
+    QCOMPARE(batch.fixture.questions.failures.size(), batch.sources.size());
     QVERIFY(batch.fixture.targetContent() == batch.before);
 }
 
@@ -366,12 +364,12 @@ void CopyFaultTest::lostAnswerIsRecognised()
     if (means == Link)
         loseAnswer(system.calls.link);
     const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
-    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
+    QCOMPARE(outcomes[0].outcome, Outcome::Copied);
     QVERIFY(fixture.questions.asked.empty());
     QVERIFY(fixture.targetContent() == FolderContent({{"a", "1"}}));
 }
 
-void CopyFaultTest::attributesThatCannotBeKeptAreNoFailure()
+void CopyFaultTest::attributesThatCannotBeKept_areReported()
 {
     CopyFixture fixture;
     FaultySystem system;
@@ -379,7 +377,12 @@ void CopyFaultTest::attributesThatCannotBeKeptAreNoFailure()
         return call.name == "setMode" || call.name == "setTimes" ? EPERM : 0;
     };
     const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
-    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
+    QCOMPARE(outcomes[0].outcome, Outcome::Copied);
+    QVERIFY(fixture.questions.failures.isEmpty());
+    QCOMPARE(fixture.questions.remarks.size(), 1);
+    QCOMPARE(fixture.questions.remarks[0].path, outcomes[0].source);
+    QCOMPARE(fixture.questions.remarks[0].reason, outcomes[0].reason);
+    QVERIFY(outcomes[0].reason.contains(QStringLiteral("date")));
 }
 
 ZORVANE_TEST(CopyFaultTest)

@@ -66,7 +66,7 @@ FolderContent CopyFixture::targetContent() const
     return contentOf(pathToBytes(targetFolder()));
 }
 
-QList<CopyOutcome> CopyFixture::copy(const QStringList& sources, const SystemCalls& calls)
+Records CopyFixture::copy(const QStringList& sources, const SystemCalls& calls)
 {
     return CopyEngine(questions, progress, calls).run(sources, targetFolder());
 }
@@ -74,6 +74,14 @@ QList<CopyOutcome> CopyFixture::copy(const QStringList& sources, const SystemCal
 void writeFile(const std::string& path, const std::string& content)
 {
     std::ofstream(path, std::ios::binary) << content;
+}
+
+std::string contentOfFile(const std::string& path)
+{
+    // By blocks: letter by letter takes most of a test's time.
+    std::ostringstream text;
+    text << std::ifstream(path, std::ios::binary).rdbuf();
+    return text.str();
 }
 
 FolderContent contentOf(const std::string& folder)
@@ -91,26 +99,17 @@ FolderContent contentOf(const std::string& folder)
             content[name] = S_ISDIR(status.st_mode) ? "<folder>" : "<special>";
             continue;
         }
-        // By blocks: letter by letter takes most of a test's time.
-        std::ostringstream text;
-        text << std::ifstream(path, std::ios::binary).rdbuf();
-        content[name] = text.str();
+        content[name] = contentOfFile(path);
     }
     closedir(stream);
     return content;
 }
 
-bool isTemporaryName(const std::string& name)
-{
-    constexpr std::size_t length = 12;
-    return name.size() == length && name.front() == '.' && name.substr(length - 4) == ".zvc";
-}
-
-FolderContent reportedContent(const FolderContent& before, const QList<CopyOutcome>& outcomes,
+FolderContent reportedContent(const FolderContent& before, const Records& outcomes,
                               const FolderContent& sources)
 {
     FolderContent content = before;
-    for (const CopyOutcome& outcome : outcomes) {
+    for (const Record& outcome : outcomes) {
         if (!outcome.target.isEmpty())
             content[leafOf(pathToBytes(outcome.target))] =
                 sources.at(leafOf(pathToBytes(outcome.source)));

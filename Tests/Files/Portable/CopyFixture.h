@@ -10,6 +10,10 @@
 
 namespace Zorvane::Testing {
 
+using Outcome = FileCopyUtility::Outcome;
+using Record = FileCopyUtility::FileCopyInfo;
+using Records = QList<Record>;
+
 /** Content by name, names in bytes. */
 using FolderContent = std::map<std::string, std::string>;
 
@@ -37,8 +41,7 @@ public:
     FolderContent sourceContent() const;
     FolderContent targetContent() const;
 
-    QList<CopyOutcome> copy(const QStringList& sources,
-                            const SystemCalls& calls = SystemCalls::real());
+    Records copy(const QStringList& sources, const SystemCalls& calls = SystemCalls::real());
 
     ScriptedQuestions questions;
     ScriptedProgress progress;
@@ -48,14 +51,14 @@ private:
 };
 
 void writeFile(const std::string& path, const std::string& content);
+std::string contentOfFile(const std::string& path);
 FolderContent contentOf(const std::string& folder);
-bool isTemporaryName(const std::string& name);
 
 /**
  * What the target folder must hold, given what it held and what the copy reports: the content of
  * each copied source under the reported name, everything else as before, and nothing more.
  */
-FolderContent reportedContent(const FolderContent& before, const QList<CopyOutcome>& outcomes,
+FolderContent reportedContent(const FolderContent& before, const Records& outcomes,
                               const FolderContent& sources);
 
 } // namespace Zorvane::Testing

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cctype>
+#include <fcntl.h>
+#include <fstream>
 #include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -24,6 +26,23 @@ FolderContent decidedUpon(const std::string& existing, int decision)
     return content;
 }
 
+/** Writes other content of the same size, and sets the time of modification back. */
+void changeUnseen(const std::string& path, const std::string& content)
+{
+    struct stat before
+    {};
+    struct stat now
+    {};
+    QCOMPARE(stat(path.c_str(), &before), 0);
+    QCOMPARE(content.size(), std::size_t(before.st_size));
+    do { // some kernels' clocks for files tick slowly
+        std::fstream(path, std::ios::in | std::ios::out | std::ios::binary) << content;
+        const timespec times[2] = {before.st_atim, before.st_mtim};
+        QCOMPARE(utimensat(AT_FDCWD, path.c_str(), times, 0), 0);
+        QCOMPARE(stat(path.c_str(), &now), 0);
+    } while (now.st_ctim.tv_nsec == before.st_ctim.tv_nsec);
+}
+
 } // namespace
 
 /** Others work in the same folders meanwhile. */
@@ -40,6 +59,9 @@ private Q_SLOTS:
     void madeUpNameIsTakenMeanwhile();
     void targetToReplaceChangesMeanwhile_data();
     void targetToReplaceChangesMeanwhile();
+    void targetChangedUnseen_isAskedAboutAgain();
+    void linkThatBecameAFoldersLink_isNotReplaced();
+    void lateCollisions_areAskedAboutOnceForAll();
     void targetToReplaceVanishes_data() { addMeansRows(); }
     void targetToReplaceVanishes();
     void aLinkSwappedInAtTheTargetIsNotFollowed_data() { addMeansRows(); }
@@ -56,8 +78,8 @@ void CopyRaceTest::sourceChangesWhileCopied_data()
     QTest::addColumn<QString>("call");
     QTest::addColumn<int>("sameIndex");
     QTest::addColumn<QString>("change");
-    for (const char* change : {"vanishes", "grows", "shrinks", "becomes a folder", "becomes a pipe",
-                               "is replaced by another"}) {
+    for (const char* change : {"vanishes", "grows", "shrinks", "changes and looks as before",
+                               "becomes a folder", "becomes a pipe", "is replaced by another"}) {
         const QString text = QString::fromLatin1(change);
         // The first two openings are the target folder's.
         QTest::addRow("%s before it is opened", change) << QStringLiteral("open") << 2 << text;
@@ -82,6 +104,8 @@ void CopyRaceTest::sourceChangesWhileCopied()
             Testing::writeFile(path, content + "more");
         else if (change == QLatin1String("shrinks"))
             QCOMPARE(truncate(path.c_str(), 10), 0);
+        else if (change == QLatin1String("changes and looks as before"))
+            changeUnseen(path, std::string(600000, 'c'));
         else
             QCOMPARE(unlink(path.c_str()), 0);
         if (change == QLatin1String("becomes a folder"))
@@ -98,14 +122,15 @@ void CopyRaceTest::sourceChangesWhileCopied()
     };
     const auto outcomes = fixture.copy({source, fixture.addSource("b", "2")}, system.calls);
     FolderContent expected{{"b", "2"}};
-    if (outcomes[0].fate == CopyFate::Copied)
+    if (outcomes[0].outcome == Outcome::Copied)
         expected["a"] = content; // the file was open: it is the old one, and whole
     else
-        QCOMPARE(outcomes[0].fate, CopyFate::Failed);
-    const bool inPlace = change == QLatin1String("grows") || change == QLatin1String("shrinks");
+        QCOMPARE(outcomes[0].outcome, Outcome::Failed);
+    const bool inPlace = change == QLatin1String("grows") || change == QLatin1String("shrinks") ||
+                         change == QLatin1String("changes and looks as before");
     if (inPlace || call == QLatin1String("open"))
-        QCOMPARE(outcomes[0].fate, CopyFate::Failed);
-    QCOMPARE(outcomes[1].fate, CopyFate::Copied);
+        QCOMPARE(outcomes[0].outcome, Outcome::Failed);
+    QCOMPARE(outcomes[1].outcome, Outcome::Copied);
     QVERIFY(fixture.targetContent() == expected);
 }
 
@@ -134,7 +159,8 @@ void CopyRaceTest::targetAppearsBeforePublishing()
         fixture.copy({fixture.addSource("a", "1"), fixture.addSource("b", "2")}, system.calls);
     QCOMPARE(int(fixture.questions.asked.size()), 1);
     QCOMPARE(fixture.questions.asked[0].target.size, qint64(8));
-    QCOMPARE(fixture.questions.asked[0].remaining, 0);
+    QVERIFY(fixture.questions.asked[0].isLate);
+    QCOMPARE(fixture.questions.asked[0].remaining, 1);
     FolderContent expected = decidedUpon("appeared", decision);
     if (decision != int(CopyDecision::Cancel))
         expected["b"] = "2";
@@ -184,6 +210,53 @@ void CopyRaceTest::targetToReplaceChangesMeanwhile()
             Testing::reportedContent({{"a", "edited since"}}, outcomes, fixture.sourceContent()));
 }
 
+void CopyRaceTest::targetChangedUnseen_isAskedAboutAgain()
+{
+    CopyFixture fixture;
+    fixture.addTarget("a", "old");
+    FaultySystem system;
+    system.beforeFirst("flush", [&] { changeUnseen(fixture.target("a"), "new"); });
+    fixture.questions.answers = {{CopyDecision::Replace, true}, {CopyDecision::Skip, false}};
+    fixture.copy({fixture.addSource("a", "1")}, system.calls);
+    QCOMPARE(int(fixture.questions.asked.size()), 2);
+    QVERIFY(fixture.targetContent() == FolderContent({{"a", "new"}}));
+}
+
+void CopyRaceTest::linkThatBecameAFoldersLink_isNotReplaced()
+{
+    CopyFixture fixture;
+    QCOMPARE(symlink("elsewhere", fixture.target("a").c_str()), 0);
+    FaultySystem system;
+    system.beforeFirst("flush", [&] { mkdir(fixture.target("elsewhere").c_str(), 0755); });
+    fixture.questions.answers = {{CopyDecision::Replace, false}, {CopyDecision::Skip, false}};
+    fixture.copy({fixture.addSource("a", "1")}, system.calls);
+    QCOMPARE(int(fixture.questions.asked.size()), 2);
+    QCOMPARE(fixture.questions.asked[1].kind, CollisionKind::NotAFile);
+    QVERIFY(fixture.targetContent() ==
+            FolderContent({{"a", "<folder>"}, {"elsewhere", "<folder>"}}));
+}
+
+/** Another program copies the same files into the same folder. */
+void CopyRaceTest::lateCollisions_areAskedAboutOnceForAll()
+{
+    CopyFixture fixture;
+    QStringList sources;
+    for (int i = 0; i < 100; ++i)
+        sources.append(fixture.addSource("f" + std::to_string(i), "ours"));
+    FaultySystem system;
+    system.calls.isFileSystemFlushReliable = [](int) { return true; };
+    system.beforeFirst("flushFileSystem", [&] {
+        for (int i = 0; i < 100; ++i)
+            fixture.addTarget("f" + std::to_string(i), "theirs");
+    });
+    fixture.questions.answers = {{CopyDecision::Skip, false}, {CopyDecision::KeepBoth, true}};
+    const auto outcomes = fixture.copy(sources, system.calls);
+    QCOMPARE(int(fixture.questions.asked.size()), 2);
+    QCOMPARE(fixture.questions.asked[0].remaining, 99);
+    QCOMPARE(outcomes[0].outcome, Outcome::Skipped);
+    QCOMPARE(int(fixture.targetContent().size()), 199);
+}
+
 void CopyRaceTest::targetToReplaceVanishes()
 {
     QFETCH(int, means);
@@ -194,7 +267,7 @@ void CopyRaceTest::targetToReplaceVanishes()
     system.beforeFirst("flush", [&] { unlink(fixture.target("a").c_str()); });
     fixture.questions.answers = {{CopyDecision::Replace, false}};
     const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
-    QCOMPARE(outcomes[0].fate, CopyFate::Copied);
+    QCOMPARE(outcomes[0].outcome, Outcome::Copied);
     QVERIFY(fixture.targetContent() == FolderContent({{"a", "1"}}));
 }
 
@@ -213,7 +286,7 @@ void CopyRaceTest::aLinkSwappedInAtTheTargetIsNotFollowed()
     fixture.questions.answers = {{CopyDecision::Replace, false}, {CopyDecision::Skip, false}};
     const auto outcomes = fixture.copy({fixture.addSource("a", "1")}, system.calls);
     QCOMPARE(int(fixture.questions.asked.size()), 2);
-    QCOMPARE(outcomes[0].fate, CopyFate::Skipped);
+    QCOMPARE(outcomes[0].outcome, Outcome::Skipped);
     QVERIFY(fixture.targetContent() ==
             FolderContent({{"a", "precious"}, {"precious", "precious"}}));
 }
@@ -231,7 +304,7 @@ void CopyRaceTest::aLinkSwappedInAtTheSourceIsNotFollowed()
     fixture.addTarget("a", "old");
     fixture.questions.answers = {{CopyDecision::KeepBoth, false}};
     const auto outcomes = fixture.copy({source}, system.calls);
-    QCOMPARE(outcomes[0].fate, CopyFate::Failed);
+    QCOMPARE(outcomes[0].outcome, Outcome::Failed);
     QVERIFY(fixture.targetContent() == FolderContent({{"a", "old"}}));
 }
 
@@ -327,10 +400,8 @@ void CopyRaceTest::namesThatDifferInCaseOnlyCollide()
     if (decision == int(CopyDecision::Replace) && !withinBatch)
         expected["Part.STL"] = "new";
     QVERIFY2(fixture.targetContent() == expected, describe(fixture.targetContent()));
-    const CopyFate last = outcomes.last().fate;
-    QCOMPARE(last, decision == int(CopyDecision::KeepBoth) ? CopyFate::CopiedUnderOtherName
-                   : expected["Part.STL"] == "new"         ? CopyFate::Copied
-                                                           : CopyFate::Skipped);
+    const bool isCopied = decision == int(CopyDecision::KeepBoth) || expected["Part.STL"] == "new";
+    QCOMPARE(outcomes.last().outcome, isCopied ? Outcome::Copied : Outcome::Skipped);
 }
 
 void CopyRaceTest::caseMattersWhereItDoes()
@@ -342,7 +413,7 @@ void CopyRaceTest::caseMattersWhereItDoes()
     QVERIFY(fixture.questions.asked.empty());
     QVERIFY(fixture.targetContent() ==
             FolderContent({{"PART.stl", "old"}, {"Part.stl", "1"}, {"part.stl", "2"}}));
-    QCOMPARE(outcomes[1].fate, CopyFate::Copied);
+    QCOMPARE(outcomes[1].outcome, Outcome::Copied);
 }
 
 ZORVANE_TEST(CopyRaceTest)

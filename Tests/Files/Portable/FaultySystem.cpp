@@ -18,6 +18,8 @@ FaultySystem::FaultySystem()
     wrap(calls.read, "read");
     wrap(calls.write, "write");
     wrap(calls.copyRange, "copyRange");
+    wrap(calls.seek, "seek");
+    wrap(calls.lock, "lock");
     wrap(calls.status, "status");
     wrap(calls.statusAt, "statusAt");
     wrap(calls.setMode, "setMode");

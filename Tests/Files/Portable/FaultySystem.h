@@ -48,6 +48,11 @@ public:
     {
         calls.isFileSystemFlushReliable = [](int) { return false; };
     }
+    /** Holes of sparse files are read as zeros. */
+    void removeHoles()
+    {
+        calls.seek = [](int, off_t, int) { return errno = EINVAL, off_t(-1); };
+    }
     void removeRangeCopy() { failFeature(calls.copyRange); }
     void removeWriteback()
     {

@@ -54,7 +54,7 @@ public:
         DialogCopyProgress progress(owner, slowClock());
         DialogCopyQuestions questions(progress);
         WatchedProgress watched(progress, m_look);
-        return toCopyInfos(CopyEngine(questions, watched).run(sources, targetFolder));
+        return CopyEngine(questions, watched).run(sources, targetFolder);
     }
 
 private:
