@@ -1,10 +1,19 @@
 #include "Files/DependingFileHelper.h"
 
+#include "Files/CopyCheck.h"
+#include "Files/DialogCopyProgress.h"
 #include "Files/FileCopyService.h"
 #include "Files/PathText.h"
 #include "Host/FileHandling/FileUtilities.h"
 
 namespace Zorvane {
+
+namespace {
+
+// The service leaves the code as it is if no copy was tried.
+constexpr int notRun = -1;
+
+} // namespace
 
 DependingFileHelper::DependingFileHelper() = default;
 DependingFileHelper::DependingFileHelper(const DependingFileHelper& other) = default;
@@ -26,23 +35,34 @@ bool DependingFileHelper::needsCopy(const FileName& file, const FileName& design
 bool DependingFileHelper::handleExternalFilesForImport(const std::list<FileName>& files,
                                                        std::list<FileName>& filesToUse)
 {
+    ImportRefusal refusal = ImportRefusal::None;
+    return handleExternalFilesForImport(files, filesToUse, refusal);
+}
+
+bool DependingFileHelper::handleExternalFilesForImport(const std::list<FileName>& files,
+                                                       std::list<FileName>& filesToUse,
+                                                       ImportRefusal& refusal)
+{
     std::list<FileName> toCopy;
-    std::list<FileName> toKeep;
+    std::list<FileName> toUse;
     const FileName designFolder = getDesignFilePath();
     const bool hasDesign = FileUtilities::exists(getDesignFileName());
     for (const FileName& file : files)
-        (hasDesign && needsCopy(file, designFolder) ? toCopy : toKeep).push_back(file);
+        (hasDesign && needsCopy(file, designFolder) ? toCopy : toUse).push_back(file);
+    refusal = ImportRefusal::None;
     if (!toCopy.empty()) {
-        QString title;
-        QString text;
-        buildExternalFilesUIMessage(designFolder, toCopy, title, text);
-        std::list<FileName> copied;
-        FileCopyService::copyFilesToDirectory(getView(), title, text, toCopy, designFolder, copied);
-        if (copied.empty())
+        int code = notRun;
+        const std::size_t kept = toUse.size();
+        for (const FileCopyUtility::FileCopyInfo& record : copy(toCopy, code)) {
+            if (record.status != FileCopyUtility::NotCopied)
+                toUse.emplace_back(pathToBytes(record.target));
+        }
+        if (toUse.size() == kept) {
+            refusal = refusalOf(toCopy, code);
             return false;
-        toKeep.splice(toKeep.end(), copied);
+        }
     }
-    filesToUse = std::move(toKeep);
+    filesToUse = std::move(toUse);
     return true;
 }
 
@@ -60,19 +80,47 @@ bool DependingFileHelper::handleExternalFilesForExport(const std::list<FileName>
     }
     if (toCopy.empty())
         return true;
-    QString title;
-    QString text;
-    buildExternalFilesUIMessage(designFolder, toCopy, title, text);
-    int code = 0;
-    const auto records = FileCopyService::copyFilesToDirectory(
-        getView(), title, text, FileCopyService::toStringList(toCopy),
-        pathFromBytes(designFolder.toNativeString()), code);
-    for (const FileCopyUtility::FileCopyInfo& record : records) {
+    int code = notRun;
+    for (const FileCopyUtility::FileCopyInfo& record : copy(toCopy, code)) {
         if (record.status != FileCopyUtility::NotCopied)
             exported.push_back(
                 {FileName(pathToBytes(record.source)), FileName(pathToBytes(record.target))});
     }
     return true;
+}
+
+QList<FileCopyUtility::FileCopyInfo> DependingFileHelper::copy(const std::list<FileName>& files,
+                                                               int& code) const
+{
+    const FileName designFolder = getDesignFilePath();
+    QString title;
+    QString text;
+    buildExternalFilesUIMessage(designFolder, files, title, text);
+    return FileCopyService::copyFilesToDirectory(
+        getView(), title, text, FileCopyService::toStringList(files),
+        pathFromBytes(designFolder.toNativeString()), code);
+}
+
+DependingFileHelper::ImportRefusal DependingFileHelper::refusalOf(const std::list<FileName>& files,
+                                                                  int code) const
+{
+    switch (code) {
+    case FileCopyUtility::SourceMissing:
+        return ImportRefusal::SourceMissing;
+    case 0:
+        return ImportRefusal::NothingCopied;
+    case notRun:
+        break;
+    default:
+        return code & FileCopyUtility::AlreadyInTarget ? ImportRefusal::LiesThere
+                                                       : ImportRefusal::NoDesignFolder;
+    }
+    // The service doesn't ask where a file lies in the folder, and says no more than for "No".
+    DialogCopyProgress progress(getView());
+    const auto checked = checkCopy(FileCopyService::toStringList(files),
+                                   pathFromBytes(getDesignFilePath().toNativeString()), progress);
+    const bool liesThere = checked && (*checked & FileCopyUtility::AlreadyInTarget) != 0;
+    return liesThere ? ImportRefusal::LiesThere : ImportRefusal::Declined;
 }
 
 } // namespace Zorvane

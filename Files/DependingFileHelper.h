@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Files/FileCopyUtility.h"
 #include "Host/FileHandling/FileName.h"
 #include "UiToolsExport.h"
 
@@ -14,7 +15,7 @@ namespace Zorvane {
 /**
  * Keeps a design's folder self-contained: finds which of the files that the user imports or
  * exports are references of the design that lie elsewhere, asks whether to copy them next to the
- * design's file, and tells under which names they are now. Subclasses say what a reference is.
+ * design's file, and returns under which names they are now. Subclasses say what a reference is.
  * GUI thread only; the question and the copying are modal.
  * Not supported: moving files, or changing references that the design holds already.
  */
@@ -26,6 +27,17 @@ public:
     {
         FileName source;
         FileName target;
+    };
+
+    /** Why an import is to be given up; nothing has been shown of most of these. */
+    enum class ImportRefusal
+    {
+        None,
+        Declined,       /**< The user doesn't want copies, or cancelled. */
+        SourceMissing,  /**< One of the files is gone, or a folder by now. */
+        NoDesignFolder, /**< The design's folder is gone. */
+        LiesThere,      /**< One of the files is a link to a file in the design's folder. */
+        NothingCopied   /**< Every file was skipped, cancelled or failed. */
     };
 
     DependingFileHelper();
@@ -51,6 +63,9 @@ public:
      */
     bool handleExternalFilesForImport(const std::list<FileName>& files,
                                       std::list<FileName>& filesToUse);
+    /** The same; `refusal` becomes the reason of false, `None` with true. */
+    bool handleExternalFilesForImport(const std::list<FileName>& files,
+                                      std::list<FileName>& filesToUse, ImportRefusal& refusal);
 
     /**
      * `exported` becomes the files that were copied; the user may decline them all. False only
@@ -61,6 +76,8 @@ public:
 
 private:
     bool needsCopy(const FileName& file, const FileName& designFolder) const;
+    QList<FileCopyUtility::FileCopyInfo> copy(const std::list<FileName>& files, int& code) const;
+    ImportRefusal refusalOf(const std::list<FileName>& files, int code) const;
 };
 
 } // namespace Zorvane

@@ -137,6 +137,8 @@ private Q_SLOTS:
     void importAsksAboutANameThatIsTaken_data();
     void importAsksAboutANameThatIsTaken();
     void importOfFilesThatAllFailIsGivenUp();
+    void refusedImport_saysWhy_data();
+    void refusedImport_saysWhy();
     void importUsesRenamedCopies();
     void importTakesPartOfTheCopies();
     void importFromASubFolderIsOffered();
@@ -406,6 +408,56 @@ void DependingFileHelperTest::importOfFilesThatAllFailIsGivenUp()
     QVERIFY(!helper.handleExternalFilesForImport(names({file}), used));
     QVERIFY(used.empty());
     QCOMPARE(copier.sources, QStringList{file});
+}
+
+void DependingFileHelperTest::refusedImport_saysWhy_data()
+{
+    using Refusal = DependingFileHelper::ImportRefusal;
+    QTest::addColumn<QString>("situation");
+    QTest::addColumn<int>("refusal");
+    const auto row = [](const char* situation, Refusal refusal) {
+        QTest::newRow(situation) << QString::fromLatin1(situation) << int(refusal);
+    };
+    row("declined", Refusal::Declined);
+    row("file removed meanwhile", Refusal::SourceMissing);
+    row("folder removed meanwhile", Refusal::NoDesignFolder);
+    row("link into the folder", Refusal::LiesThere);
+    row("copy failed", Refusal::NothingCopied);
+    row("copied", Refusal::None);
+}
+
+void DependingFileHelperTest::refusedImport_saysWhy()
+{
+    QFETCH(QString, situation);
+    QFETCH(int, refusal);
+    const Testing::FolderSetup folders;
+    const QString design = folders.makeFile("designs/door.zvd");
+    FileTypeDependingFilesHelper helper = helperFor(design);
+    QString file = folders.makeFile("parts/a.stl");
+    if (situation == QLatin1String("link into the folder")) {
+        folders.makeFile("designs/b.stl");
+        file = folders.path("parts/b.stl");
+        if (!Testing::makeLink(folders.path("designs/b.stl"), file))
+            QSKIP("programs may not make links on this platform");
+    }
+    Testing::ScriptedCopier copier;
+    const bool isCopied = situation == QLatin1String("copied");
+    copier.records = {{file, isCopied ? file : QString(),
+                       isCopied ? FileCopyUtility::Copied : FileCopyUtility::NotCopied}};
+    Testing::ExpectedModals modals;
+    if (situation != QLatin1String("link into the folder"))
+        modals.expectMessageBox(QStringLiteral("Copy File"), [&](QMessageBox& box) {
+            if (situation == QLatin1String("file removed meanwhile"))
+                QVERIFY(QFile::remove(file));
+            if (situation == QLatin1String("folder removed meanwhile"))
+                QVERIFY(QDir(folders.path("designs")).removeRecursively());
+            const bool declines = situation == QLatin1String("declined");
+            box.button(declines ? QMessageBox::No : QMessageBox::Yes)->click();
+        });
+    std::list<FileName> used;
+    auto why = DependingFileHelper::ImportRefusal::None;
+    QCOMPARE(helper.handleExternalFilesForImport(names({file}), used, why), isCopied);
+    QCOMPARE(int(why), refusal);
 }
 
 void DependingFileHelperTest::importUsesRenamedCopies()
