@@ -8,6 +8,8 @@
 #include <new>
 #include <vector>
 
+#include <sherrors.h>
+
 namespace Zorvane {
 
 namespace {
@@ -37,7 +39,21 @@ QString shownName(IShellItem* item, const QString& path)
     return name.isEmpty() ? QFileInfo(path).fileName() : name;
 }
 
-/** A copy whose place can't be told is none that anybody could use. */
+FileCopyUtility::Outcome outcomeOf(HRESULT result)
+{
+    switch (result) {
+    case COPYENGINE_S_USER_IGNORED:
+        return FileCopyUtility::Outcome::Skipped;
+    case COPYENGINE_E_USER_CANCELLED:
+        return FileCopyUtility::Outcome::Cancelled;
+    case COPYENGINE_E_SAME_FILE:
+        return FileCopyUtility::Outcome::SameFile;
+    default:
+        return FileCopyUtility::Outcome::Failed;
+    }
+}
+
+/** A copy without a path to report is none that a host could use. */
 Info infoOf(IShellItem* source, const FileOpCopySink::Record& record)
 {
     Info info;
@@ -45,8 +61,13 @@ Info infoOf(IShellItem* source, const FileOpCopySink::Record& record)
     info.source = nameOfItem(source, SIGDN_DESKTOPABSOLUTEPARSING);
     info.target = nameOfItem(created, SIGDN_DESKTOPABSOLUTEPARSING);
     info.status = FileCopyUtility::NotCopied;
-    if (record.result != S_OK || info.source.isEmpty() || info.target.isEmpty())
+    if (record.result != S_OK || info.source.isEmpty() || info.target.isEmpty()) {
+        info.outcome = outcomeOf(record.result);
+        if (info.outcome == FileCopyUtility::Outcome::Failed && FAILED(record.result))
+            info.reason = qt_error_string(static_cast<int>(record.result));
         return info;
+    }
+    info.outcome = FileCopyUtility::Outcome::Copied;
     const bool isRenamed = shownName(source, info.source) != shownName(created, info.target);
     info.status = isRenamed ? FileCopyUtility::CopiedUnderOtherName : FileCopyUtility::Copied;
     return info;

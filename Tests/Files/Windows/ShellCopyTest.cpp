@@ -13,6 +13,8 @@
 #include <new>
 #include <optional>
 
+#include <sherrors.h>
+
 using namespace Zorvane;
 using Info = FileCopyUtility::FileCopyInfo;
 using Testing::CallScript;
@@ -106,6 +108,8 @@ private Q_SLOTS:
     void aFailureAtAnyCallEndsTheCopyInOrder_data();
     void aFailureAtAnyCallEndsTheCopyInOrder();
     void noCopyWithoutAPath();
+    void result_decidesTheOutcome_data();
+    void result_decidesTheOutcome();
     void filesOfTheSameNameAreToldApart();
     void theSameFileTwiceIsToldOfTwice();
     void onlyTheNamesDecideAboutRenamed_data();
@@ -242,6 +246,36 @@ void ShellCopyTest::noCopyWithoutAPath()
     copy({source});
     QVERIFY(m_records[0].source.isEmpty());
     QCOMPARE(m_records[0].status, int(FileCopyUtility::NotCopied));
+}
+
+void ShellCopyTest::result_decidesTheOutcome_data()
+{
+    using Outcome = FileCopyUtility::Outcome;
+    QTest::addColumn<qint64>("result");
+    QTest::addColumn<int>("outcome");
+    const auto row = [](const char* name, HRESULT result, Outcome outcome) {
+        QTest::newRow(name) << qint64(result) << int(outcome);
+    };
+    row("copied", S_OK, Outcome::Copied);
+    row("skipped", COPYENGINE_S_USER_IGNORED, Outcome::Skipped);
+    row("cancelled", COPYENGINE_E_USER_CANCELLED, Outcome::Cancelled);
+    row("same file", COPYENGINE_E_SAME_FILE, Outcome::SameFile);
+    row("failed", HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED), Outcome::Failed);
+}
+
+void ShellCopyTest::result_decidesTheOutcome()
+{
+    QFETCH(qint64, result);
+    QFETCH(int, outcome);
+    Testing::CopyBehavior behavior;
+    behavior.result = static_cast<HRESULT>(result);
+    behavior.makesCopy = result == S_OK;
+    m_script.behaviors[QStringLiteral("a.stl")] = behavior;
+    QCOMPARE(copy({addFile(QStringLiteral("source/a.stl"))}), S_OK);
+    QCOMPARE(m_records.size(), 1);
+    QCOMPARE(int(m_records[0].outcome), outcome);
+    const bool isFailed = m_records[0].outcome == FileCopyUtility::Outcome::Failed;
+    QCOMPARE(m_records[0].reason.isEmpty(), !isFailed);
 }
 
 void ShellCopyTest::filesOfTheSameNameAreToldApart()
