@@ -1,14 +1,14 @@
+#include "Files/Portable/TemporaryNames.h"
 #include "Tests/Files/Portable/CopyFixture.h"
 #include "Tests/Files/Portable/FaultySystem.h"
 #include "Tests/Support/TestCase.h"
 
+#include <algorithm>
 #include <sys/wait.h>
 #include <unistd.h>
 
 using namespace Zorvane;
-using Testing::CopyFixture;
-using Testing::FaultySystem;
-using Testing::FolderContent;
+using namespace Zorvane::Testing;
 
 namespace {
 
@@ -31,6 +31,12 @@ int copyInChild(CopyFixture& fixture, const QStringList& sources, FaultySystem& 
     int status = 0;
     waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+std::ptrdiff_t countTemporaries(const FolderContent& content)
+{
+    return std::count_if(content.begin(), content.end(),
+                         [](const auto& entry) { return isTemporaryCopyName(entry.first); });
 }
 
 } // namespace
@@ -85,11 +91,15 @@ void CopyCrashTest::finalNameIsWholeAtEveryMoment()
         QVERIFY2(target["replaced"] == old || target["replaced"] == "new replaced", where);
         QVERIFY2(target["kept"] == old, where);
         QVERIFY2(target.count("kept (2)") == 0 || target["kept (2)"] == "new kept", where);
-        int temporaries = 0;
-        for (const auto& [name, content] : target)
-            temporaries += Testing::isTemporaryName(name) ? 1 : 0;
-        // A file without a name goes with its process; only the moment of replacing needs a name.
+        const auto temporaries = countTemporaries(target);
+        // A file without a name ends with its process; only the moment of replacing needs a name.
         QVERIFY2(temporaries <= (unnamed ? 1 : 3), where);
+        const std::size_t whole = target.size() - static_cast<std::size_t>(temporaries);
+        FaultySystem next;
+        next.dontWaitForDisks();
+        fixture.copy({fixture.addSource("next", "next")}, next.calls);
+        const FolderContent later = fixture.targetContent();
+        QVERIFY2(countTemporaries(later) == 0 && later.size() == whole + 1, where);
         if (end == s_finished) {
             QVERIFY(dieAt > 10);
             QCOMPARE(int(target.size()), 4);
