@@ -24,13 +24,13 @@ private:
         explicit Copier(ScriptedCopier& script)
             : m_script(script)
         {}
-        QList<FileCopyUtility::FileCopyInfo> copy(QWidget* owner, const QStringList& sources,
-                                                  const QString& targetFolder) override
+        QList<FileCopyUtility::FileCopyInfo> copy(QWidget* window, const QStringList& files,
+                                                  const QString& folder) override
         {
             ++m_script.calls;
-            m_script.owner = owner;
-            m_script.sources = sources;
-            m_script.targetFolder = targetFolder;
+            m_script.owner = window;
+            m_script.sources = files;
+            m_script.targetFolder = folder;
             return m_script.records;
         }
 

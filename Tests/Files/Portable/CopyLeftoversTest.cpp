@@ -152,7 +152,7 @@ void CopyLeftoversTest::abandonedFiles_areRemoved()
     CopyFixture fixture;
     FaultySystem system;
     restrictTo(system, means);
-    for (const quint64 number : {1, 2, 3})
+    for (const unsigned number : {1U, 2U, 3U})
         fixture.addTarget(temporaryCopyName(number), "half a file");
     ::chmod(fixture.target(temporaryCopyName(2)).c_str(), 0444);
     fixture.copy({fixture.addSource("a", "1")}, system.calls);
