@@ -2,12 +2,15 @@
 
 #include "Host/Widgets/ZVMessageBox.h"
 
+#include <QtCore/QChildEvent>
 #include <QtCore/QStringBuilder>
 #include <QtCore/QVariant>
 #include <QtGui/QIcon>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDesktopWidget>
+
+#include <iterator>
 
 namespace Zorvane {
 
@@ -25,10 +28,8 @@ QString withShortcut(const QString& toolTip, const QKeySequence& shortcut)
 
 GenericMainActions::GenericMainActions(QObject* parent)
     : QObject(parent)
-    , m_undefinedAction(new QAction(tr("???"), this))
 {
-    QObject::connect(m_undefinedAction, &QAction::triggered, this,
-                     &GenericMainActions::notDefinedAction);
+    createUndefinedAction();
 }
 
 GenericMainActions::~GenericMainActions() = default;
@@ -76,6 +77,8 @@ QAction* GenericMainActions::createAction(const QString& text, const QIcon& icon
         created->setToolTip(hasShortcut ? withShortcut(toolTip, shortcut) : toolTip);
     if (!objectName.isEmpty())
         created->setObjectName(objectName);
+    if (parent != this)
+        QObject::connect(created, &QObject::destroyed, this, &GenericMainActions::forget);
     return created;
 }
 
@@ -101,9 +104,32 @@ void GenericMainActions::registerApplicationActions(const QList<int>& ids, QWidg
     }
 }
 
+void GenericMainActions::childEvent(QChildEvent* event)
+{
+    // Children are followed here, since subclasses enter actions that they created themselves.
+    if (event->added())
+        QObject::connect(event->child(), &QObject::destroyed, this, &GenericMainActions::forget,
+                         Qt::UniqueConnection);
+}
+
+void GenericMainActions::forget(const QObject* destroyed)
+{
+    for (auto entry = m_actions.begin(); entry != m_actions.end();)
+        entry = entry.value() == destroyed ? m_actions.erase(entry) : std::next(entry);
+    if (m_undefinedAction == destroyed)
+        createUndefinedAction();
+}
+
+void GenericMainActions::createUndefinedAction()
+{
+    m_undefinedAction = new QAction(tr("???"), this);
+    QObject::connect(m_undefinedAction, &QAction::triggered, this,
+                     &GenericMainActions::notDefinedAction);
+}
+
 void GenericMainActions::install(QAction* action, QWidget* widget) const
 {
-    // Null after somebody connected an id that was never registered.
+    // Null after an id that was never registered was connected.
     if (action && action->shortcutContext() == Qt::WindowShortcut)
         widget->addAction(action);
 }

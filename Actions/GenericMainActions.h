@@ -9,6 +9,7 @@
 
 QT_BEGIN_NAMESPACE
 class QAction;
+class QChildEvent;
 class QIcon;
 class QWidget;
 QT_END_NAMESPACE
@@ -23,7 +24,9 @@ namespace Zorvane {
  * An id without an action yields one shared action that warns "Undefined action called" when it is
  * triggered, so that a forgotten command shows instead of doing nothing.
  *
- * Not supported: taking an action out again, use outside of the GUI thread.
+ * An action that is deleted leaves the table; its id then yields the undefined action.
+ *
+ * Not supported: taking an action out of the table in another way, use outside of the GUI thread.
  */
 class ZORVANE_UITOOLS_EXPORT GenericMainActions : public QObject
 {
@@ -68,17 +71,25 @@ protected:
     /** Writes the id of each action registered so far into its data. */
     void mapReverse();
 
-    /** By id. An entry is null only after `connect` or `disconnect` of an unregistered id. */
+    void childEvent(QChildEvent* event) override;
+
+    /**
+     * By id. An entry is null only after `connect` or `disconnect` of an unregistered id. An action
+     * that neither `createAction` made nor has the table as its parent must outlive the table.
+     */
     QMap<int, QAction*> m_actions;
 
 protected Q_SLOTS:
-    /** The undefined action was triggered: tells the user. */
+    /** Called when the undefined action is triggered. Shows the warning. */
     virtual void notDefinedAction();
 
 private:
+    void createUndefinedAction();
+    /** Takes an action that is being destroyed out of the table. */
+    void forget(const QObject* destroyed);
     void install(QAction* action, QWidget* widget) const;
 
-    QAction* m_undefinedAction;
+    QAction* m_undefinedAction = nullptr;
 };
 
 } // namespace Zorvane

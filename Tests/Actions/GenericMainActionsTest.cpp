@@ -8,6 +8,7 @@
 #include <QtWidgets/QPushButton>
 
 #include <iterator>
+#include <memory>
 
 using namespace Zorvane;
 
@@ -36,6 +37,8 @@ public:
     {
         return m_actions[id] = createAction(text, {}, toolTip, shortcut, this, {});
     }
+    void enter(int id, QAction* action) { m_actions[id] = action; }
+    QList<int> ids() const { return m_actions.keys(); }
 };
 
 /** Counts instead of telling the user. */
@@ -103,6 +106,9 @@ private Q_SLOTS:
     void passesOverNullEntriesWhenInstallingAll();
 
     void actionsDieWithTheTable();
+    void deletedAction_leavesTheTable_data();
+    void deletedAction_leavesTheTable();
+    void deletedUndefinedAction_isReplaced();
     void hasOneSlot();
 };
 
@@ -441,6 +447,54 @@ void GenericMainActionsTest::actionsDieWithTheTable()
     }
     QVERIFY(!fold && !undefined);
     QVERIFY(window.actions().isEmpty());
+}
+
+void GenericMainActionsTest::deletedAction_leavesTheTable_data()
+{
+    QTest::addColumn<int>("owner");
+    QTest::newRow("owned by the table") << 0;
+    QTest::newRow("created for another owner") << 1;
+    QTest::newRow("given to another owner later") << 2;
+    QTest::newRow("created by the subclass itself") << 3;
+}
+
+void GenericMainActionsTest::deletedAction_leavesTheTable()
+{
+    QFETCH(int, owner);
+    CountingTable table;
+    auto window = std::make_unique<QWidget>();
+    QAction* const kept = table.add(Trim);
+    QAction* const deleted =
+        owner == 3 ? new QAction(&table)
+                   : table.createAction(QStringLiteral("Fold"), {}, {}, {},
+                                        owner == 1 ? window.get() : static_cast<QObject*>(&table),
+                                        {});
+    table.enter(Fold, deleted);
+    if (owner == 2)
+        deleted->setParent(window.get());
+    if (owner == 1 || owner == 2)
+        window.reset();
+    else
+        delete deleted;
+
+    QVERIFY(!table.ids().contains(Fold));
+    QCOMPARE(table.action(Fold), table.action(Unknown));
+    table.action(Fold)->trigger();
+    QCOMPARE(table.m_calls, 1);
+    QWidget installed;
+    table.registerApplicationActions(&installed);
+    QCOMPARE(installed.actions(), {kept});
+    table.mapReverse();
+    QCOMPARE(kept->data().toInt(), int(Trim));
+}
+
+void GenericMainActionsTest::deletedUndefinedAction_isReplaced()
+{
+    CountingTable table;
+    delete table.action(Unknown);
+    QCOMPARE(table.action(Unknown)->text(), QStringLiteral("???"));
+    table.action(Unknown)->trigger();
+    QCOMPARE(table.m_calls, 1);
 }
 
 void GenericMainActionsTest::hasOneSlot()
