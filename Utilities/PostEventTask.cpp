@@ -2,6 +2,8 @@
 
 #include "Utilities/PostEventTaskManager.h"
 
+#include <QtCore/QtGlobal>
+
 namespace Zorvane {
 
 PostEventTask::PostEventTask(Priority priority, bool postNow)
@@ -18,15 +20,17 @@ PostEventTask::~PostEventTask()
 
 bool PostEventTask::post()
 {
-    if (m_isPosted)
+    if (!PostEventTaskManager::isInGuiThread()) {
+        qWarning("PostEventTask::post: refused outside of the GUI thread");
         return false;
+    }
     PostEventTaskManager* const manager = PostEventTaskManager::instance();
     return manager && manager->add(this);
 }
 
 bool PostEventTask::unpost()
 {
-    // Posted tasks have a manager: it takes the mark off all that it holds when it goes.
+    // A posted task has a manager: the manager's end takes the mark off all tasks.
     return m_isPosted && PostEventTaskManager::instance()->remove(this);
 }
 

@@ -11,12 +11,15 @@ namespace Zorvane {
  * All tasks posted to one queue run from one event, in no particular order. While they run, tasks
  * may post, unpost and destroy themselves and each other: a task that is unposted or destroyed
  * before its turn is not run, and one that is posted once its turn has come runs with the next
- * event. A task still posted when the process ends is not run.
+ * event. An exception thrown by `run` leaves through the event loop; the tasks that had no turn
+ * then run from another event. A task still posted when the process ends is not run.
+ *
+ * Posted tasks outlive the application object. With the next application object, a queue runs
+ * once any of its tasks is posted again.
  *
  * The owner of a task deletes it at any time; the queue owns nothing.
  *
- * Not supported: use outside of the GUI thread, exceptions thrown by `run`, and running what was
- * posted before the application object went away when another one follows it; post again then.
+ * Not supported: use outside of the GUI thread, where `post` is refused with a warning.
  */
 class ZORVANE_UITOOLS_EXPORT PostEventTask
 {
@@ -37,7 +40,10 @@ public:
     /** The work. The task is not posted any more when this is called, and may delete itself. */
     virtual void run() = 0;
 
-    /** Asks for one run; false when one is due already, or the process is about to end. */
+    /**
+     * Asks for one run. Returns false when one is due already, when the process is about to end,
+     * and outside of the GUI thread.
+     */
     bool post();
     /** Takes the request back; false when there was none. */
     bool unpost();

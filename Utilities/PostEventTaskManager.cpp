@@ -1,8 +1,10 @@
 #include "Utilities/PostEventTaskManager.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QScopeGuard>
+#include <QtCore/QThread>
 
-#include <utility>
+#include <thread>
 
 namespace Zorvane {
 
@@ -10,6 +12,9 @@ namespace {
 
 // Outlives every static object: nothing has to be destroyed.
 bool s_isManagerGone = false;
+
+/** Where tasks belong before there is an application object: the thread that loads the library. */
+const std::thread::id s_loadingThread = std::this_thread::get_id();
 
 QEvent::Type notifyType()
 {
@@ -23,9 +28,9 @@ QEvent::Type notifyType()
 class PostEventTaskManager::NotifyEvent : public QEvent
 {
 public:
-    NotifyEvent(std::array<Queue, QueueCount>& queues, std::size_t queueIndex)
+    explicit NotifyEvent(Queue& queue)
         : QEvent(notifyType())
-        , m_queue(queues[queueIndex])
+        , m_queue(queue)
     {
         m_queue.isPending = true;
     }
@@ -73,20 +78,29 @@ PostEventTaskManager::Queue& PostEventTaskManager::queueOf(const PostEventTask* 
     return m_queues[std::size_t(task->m_priority)];
 }
 
+bool PostEventTaskManager::isInGuiThread()
+{
+    const QCoreApplication* const application = QCoreApplication::instance();
+    return application ? application->thread() == QThread::currentThread()
+                       : std::this_thread::get_id() == s_loadingThread;
+}
+
 bool PostEventTaskManager::add(PostEventTask* task)
 {
     Queue& queue = queueOf(task);
-    const bool isNew = queue.tasks.insert(task).second;
+    // A posted task in a queue without an event lost it with an earlier application object.
+    if (task->m_isPosted && (queue.isPending || queue.tasks.count(task) == 0))
+        return false;
+    queue.tasks.insert(task);
     task->m_isPosted = true;
-    if (isNew && !queue.isPending)
-        notify(std::size_t(task->m_priority));
-    return isNew;
+    if (!queue.isPending)
+        notify(queue);
+    return true;
 }
 
-void PostEventTaskManager::notify(std::size_t queueIndex)
+void PostEventTaskManager::notify(Queue& queue)
 {
-    QCoreApplication::postEvent(this, new NotifyEvent(m_queues, queueIndex),
-                                Qt::NormalEventPriority);
+    QCoreApplication::postEvent(this, new NotifyEvent(queue), Qt::NormalEventPriority);
 }
 
 bool PostEventTaskManager::remove(PostEventTask* task)
@@ -118,6 +132,13 @@ void PostEventTaskManager::run(Queue& queue)
     Pass pass{Tasks(FirstBuckets), queue.innermostPass};
     pass.tasks.swap(queue.tasks);
     queue.innermostPass = &pass;
+    // After an exception, the tasks that had no turn wait for the next event.
+    const auto end = qScopeGuard([&] {
+        queue.innermostPass = pass.outer;
+        queue.tasks.merge(pass.tasks);
+        if (!queue.tasks.empty() && !queue.isPending)
+            notify(queue);
+    });
     // Taken out one by one: a task may remove others that have not had their turn.
     while (!pass.tasks.empty()) {
         const auto first = pass.tasks.begin();
@@ -126,7 +147,6 @@ void PostEventTaskManager::run(Queue& queue)
         task->m_isPosted = false;
         task->run();
     }
-    queue.innermostPass = pass.outer;
 }
 
 } // namespace Zorvane

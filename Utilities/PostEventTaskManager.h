@@ -21,7 +21,9 @@ public:
     /** Null once the process is ending and the manager is gone, when static tasks may live on. */
     static PostEventTaskManager* instance();
 
-    /** Marks the task as posted; false when its queue holds it already. */
+    static bool isInGuiThread();
+
+    /** Marks the task as posted; false when a run of it is due already. */
     bool add(PostEventTask* task);
     /** Takes the mark off, whether the task waits for an event or for its turn in a running one. */
     bool remove(PostEventTask* task);
@@ -55,8 +57,8 @@ private:
     ~PostEventTaskManager() override;
 
     Queue& queueOf(const PostEventTask* task);
-    void notify(std::size_t queueIndex);
-    static void run(Queue& queue);
+    void notify(Queue& queue);
+    void run(Queue& queue);
 
     std::array<Queue, QueueCount> m_queues;
 };

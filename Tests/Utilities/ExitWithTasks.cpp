@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <thread>
 #include <utility>
 
 using namespace Zorvane;
@@ -111,6 +112,44 @@ int endAfterAnotherApplication(int argc, char** argv)
     return status;
 }
 
+/** A task that lost its event with the application object is posted again by itself. */
+int postAgainAfterAnotherApplication(int argc, char** argv)
+{
+    int runs = 0;
+    Task task([&runs] {
+        ++runs;
+        QCoreApplication::quit();
+    });
+    {
+        const QCoreApplication application(argc, argv);
+        task.post();
+    }
+    const QCoreApplication application(argc, argv);
+    if (!task.post())
+        return 1;
+    QCoreApplication::exec();
+    s_isEnding = true;
+    s_lastWord.task().post();
+    return runs == 1 ? 0 : 1;
+}
+
+/** The very first post comes from another thread: it is refused, and the queues are unharmed. */
+int postFirstFromAnotherThread(int argc, char** argv)
+{
+    Task task([] { QCoreApplication::quit(); });
+    bool isRefused = true;
+    const auto post = [&task, &isRefused] { isRefused = !task.post() && isRefused; };
+    std::thread(post).join();
+    const QCoreApplication application(argc, argv);
+    std::thread(post).join();
+    if (!isRefused || !task.post())
+        return 1;
+    QCoreApplication::exec();
+    s_isEnding = true;
+    s_lastWord.task().post();
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -124,6 +163,11 @@ int main(int argc, char** argv)
         return endInRun(argc, argv);
     if (way == QLatin1String("application-gone"))
         return endAfterAnotherApplication(argc, argv);
-    std::fprintf(stderr, "Name the way to end: return, exit, exit-in-run, application-gone\n");
+    if (way == QLatin1String("post-again"))
+        return postAgainAfterAnotherApplication(argc, argv);
+    if (way == QLatin1String("other-thread"))
+        return postFirstFromAnotherThread(argc, argv);
+    std::fprintf(stderr, "Name the way: return, exit, exit-in-run, application-gone, post-again, "
+                         "other-thread\n");
     return 2;
 }

@@ -4,11 +4,13 @@
 #include "Tests/Support/VirtualSlot.h"
 
 #include <QtCore/QEventLoop>
+#include <QtCore/QThread>
 
 #include <algorithm>
 #include <functional>
 #include <memory>
 #include <rapidcheck.h>
+#include <stdexcept>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -115,6 +117,11 @@ private Q_SLOTS:
     void aNestedEventLoopRunsWhatWasPostedSince();
     void aNestedEventLoopMayDestroyTasksOfTheOuterPass();
     void droppedEventsDoNotBlockTheQueue();
+    void lostEvent_postingAgainRunsTheTask();
+    void exceptionInRun_othersRunWithTheNextEvent();
+    void exceptionInNestedRun_othersRunWithTheNextEvent();
+    void exceptionInRun_tasksMayBeDestroyedAfterIt();
+    void otherThread_postIsRefused();
     void storedAsOtherModulesExpect();
     void anythingMayHappenInARun();
 };
@@ -472,6 +479,93 @@ void PostEventTaskTest::droppedEventsDoNotBlockTheQueue()
     deliverAll();
     QCOMPARE(left.runs(), 1);
     QCOMPARE(task.runs(), 2);
+}
+
+void PostEventTaskTest::lostEvent_postingAgainRunsTheTask()
+{
+    const Deliveries deliveries;
+    Task task;
+    task.post();
+    deliverAll();
+    task.post();
+    QCoreApplication::removePostedEvents(deliveries.manager());
+    QVERIFY(task.isPosted());
+    QVERIFY(task.post());
+    QVERIFY(!task.post());
+    deliverAll();
+    QCOMPARE(task.runs(), 2);
+}
+
+void PostEventTaskTest::exceptionInRun_othersRunWithTheNextEvent()
+{
+    std::vector<std::unique_ptr<Task>> tasks(20);
+    int runs = 0;
+    const auto throwOnce = [&runs] {
+        if (++runs == 7)
+            throw std::runtime_error("no mesh");
+    };
+    for (auto& task : tasks)
+        task = std::make_unique<Task>(throwOnce, Priority::FirstQueue, true);
+    QVERIFY_EXCEPTION_THROWN(deliverOnce(), std::runtime_error);
+    QCOMPARE(runs, 7);
+    deliverOnce();
+    QCOMPARE(runs, 20);
+    for (const auto& task : tasks) {
+        QCOMPARE(task->runs(), 1);
+        QVERIFY(task->post());
+    }
+    deliverOnce();
+    QCOMPARE(runs, 40);
+}
+
+void PostEventTaskTest::exceptionInNestedRun_othersRunWithTheNextEvent()
+{
+    std::vector<std::unique_ptr<Task>> waiting(20);
+    int runs = 0;
+    Task inner([] { throw std::runtime_error("no mesh"); });
+    const auto runInnerOnce = [&] {
+        if (++runs == 1) {
+            inner.post();
+            QVERIFY_EXCEPTION_THROWN(deliverOnce(), std::runtime_error);
+        }
+    };
+    for (auto& task : waiting)
+        task = std::make_unique<Task>(runInnerOnce, Priority::FirstQueue, true);
+    deliverAll();
+    QCOMPARE(runs, 20);
+    QCOMPARE(inner.runs(), 1);
+}
+
+void PostEventTaskTest::exceptionInRun_tasksMayBeDestroyedAfterIt()
+{
+    std::vector<std::unique_ptr<Task>> tasks(20);
+    int runs = 0;
+    const auto fail = [&runs] {
+        ++runs;
+        throw std::runtime_error("no mesh");
+    };
+    for (auto& task : tasks)
+        task = std::make_unique<Task>(fail, Priority::FirstQueue, true);
+    QVERIFY_EXCEPTION_THROWN(deliverOnce(), std::runtime_error);
+    tasks.clear();
+    deliverAll();
+    QCOMPARE(runs, 1);
+}
+
+void PostEventTaskTest::otherThread_postIsRefused()
+{
+    Task task;
+    expectWarning(QStringLiteral("outside of the GUI thread"));
+    bool isPosted = true;
+    const std::unique_ptr<QThread> other(
+        QThread::create([&task, &isPosted] { isPosted = task.post(); }));
+    other->start();
+    QVERIFY(other->wait(Testing::patience));
+    QVERIFY(!isPosted);
+    QVERIFY(!task.isPosted());
+    QVERIFY(task.post());
+    deliverAll();
+    QCOMPARE(task.runs(), 1);
 }
 
 void PostEventTaskTest::storedAsOtherModulesExpect()
