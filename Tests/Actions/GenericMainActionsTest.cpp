@@ -465,10 +465,10 @@ void GenericMainActionsTest::deletedAction_leavesTheTable()
     auto window = std::make_unique<QWidget>();
     QAction* const kept = table.add(Trim);
     QAction* const deleted =
-        owner == 3 ? new QAction(&table)
-                   : table.createAction(QStringLiteral("Fold"), {}, {}, {},
-                                        owner == 1 ? window.get() : static_cast<QObject*>(&table),
-                                        {});
+        owner == 3
+            ? new QAction(&table)
+            : table.createAction(QStringLiteral("Fold"), {}, {}, {},
+                                 owner == 1 ? window.get() : static_cast<QObject*>(&table), {});
     table.enter(Fold, deleted);
     if (owner == 2)
         deleted->setParent(window.get());
