@@ -9,6 +9,7 @@
 #include <QtGui/QGuiApplication>
 
 #include <exception>
+#include <new>
 
 namespace Zorvane {
 
@@ -36,6 +37,9 @@ private:
 
     QPointer<ZVConverterDialog> m_window;
 };
+
+/** Leaves the window as before the conversion. */
+constexpr int s_noResult = -1;
 
 ZVConverterDialog::Status statusOf(int result)
 {
@@ -133,7 +137,7 @@ void FileConverterDialog::onConvert()
         resetLog();
         result = convert();
     }
-    // A conversion that shows windows of its own may have seen this one go.
+    // A conversion that shows windows of its own may delete this one meanwhile.
     if (self && m_window)
         m_window->setStatus(statusOf(result));
 }
@@ -142,20 +146,25 @@ void FileConverterDialog::onConvert()
 int FileConverterDialog::convert()
 {
     const QPointer<FileConverterDialog> self(this);
-    const auto tell = [&self](const QString& message) {
+    const auto report = [&self](const QString& message) {
         if (self)
             self->addMessage(message);
     };
     try {
         return m_configuration->convert(FileName(m_inputFileName.toStdString()),
                                         FileName(m_outputDirectory.toStdString()), *this);
+    } catch (const std::bad_alloc&) {
+        // Neither file is to blame.
+        report(Translator::translate("Zorvane::FileConverterDialog",
+                                     "There is not enough memory for the conversion."));
+        return s_noResult;
     } catch (const std::exception& error) {
-        tell(Translator::translate("Zorvane::FileConverterDialog",
-                                   "The conversion stopped with an error: %1")
-                 .arg(QString::fromLocal8Bit(error.what())));
+        report(Translator::translate("Zorvane::FileConverterDialog",
+                                     "The conversion stopped with an error: %1")
+                   .arg(QString::fromLocal8Bit(error.what())));
     } catch (...) {
-        tell(Translator::translate("Zorvane::FileConverterDialog",
-                                   "The conversion stopped with an unknown error."));
+        report(Translator::translate("Zorvane::FileConverterDialog",
+                                     "The conversion stopped with an unknown error."));
     }
     return FileConverterConfigurationInterface::ConversionInputFailed;
 }

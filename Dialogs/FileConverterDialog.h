@@ -25,8 +25,9 @@ class ZVConverterDialog;
  * and goes with this object at the latest.
  *
  * While a conversion runs, the cursor waits and the window takes no commands. A conversion that
- * throws is told of in the log, and counts as one whose input failed. It may see this object go,
- * and must not write to the log from then on.
+ * throws is reported in the log and counts as one whose input failed; one that runs out of memory
+ * is reported too, and leaves the status idle. A conversion may delete this object, and must not
+ * write to the log from then on.
  */
 class ZORVANE_UITOOLS_EXPORT FileConverterDialog : public QObject, public FileConverterLogInterface
 {

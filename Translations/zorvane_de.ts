@@ -457,6 +457,10 @@ Sollen sie nach %1 kopiert werden?</translation>
         <source>The conversion stopped with an unknown error.</source>
         <translation>Die Konvertierung endete mit einem unbekannten Fehler.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for the conversion.</source>
+        <translation>Für die Konvertierung reicht der Speicher nicht.</translation>
+    </message>
 </context>
 <context>
     <name>Zorvane::GenericMainActions</name>

@@ -13,20 +13,24 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QStyle>
 
-#include <utility>
-
 namespace Zorvane {
 
 namespace {
 
 constexpr int s_usualWidth = 680;
 constexpr int s_usualHeight = 420;
+/** In milliseconds. Painting every message would take longer than most conversions. */
+constexpr int s_repaintInterval = 50;
 
-QLineEdit* createPathField(const QString& name, QWidget* parent)
+QString converterText(const char* source)
+{
+    return Translator::translate("Zorvane::ZVConverterDialog", source);
+}
+
+QLineEdit* createPathField(QWidget* parent)
 {
     auto* field = new QLineEdit(parent);
     field->setReadOnly(true);
-    field->setAccessibleName(name);
     return field;
 }
 
@@ -48,20 +52,15 @@ QStyle::StandardPixmap iconOf(ZVConverterDialog::Status status)
 ZVConverterDialog::ZVConverterDialog(QWidget* parent)
     : QDialog(parent)
     , m_description(new QLabel(this))
-    , m_inputField(
-          createPathField(Translator::translate("Zorvane::ZVConverterDialog", "Input file"), this))
-    , m_outputField(createPathField(
-          Translator::translate("Zorvane::ZVConverterDialog", "Output folder"), this))
-    , m_inputButton(new QPushButton(
-          Translator::translate("Zorvane::ZVConverterDialog", "Choose &File..."), this))
-    , m_outputButton(new QPushButton(
-          Translator::translate("Zorvane::ZVConverterDialog", "Choose F&older..."), this))
-    , m_convertButton(
-          new QPushButton(Translator::translate("Zorvane::ZVConverterDialog", "&Convert"), this))
-    , m_copyButton(
-          new QPushButton(Translator::translate("Zorvane::ZVConverterDialog", "Copy &Log"), this))
-    , m_closeButton(
-          new QPushButton(Translator::translate("Zorvane::ZVConverterDialog", "Close"), this))
+    , m_inputField(createPathField(this))
+    , m_outputField(createPathField(this))
+    , m_inputLabel(new QLabel(this))
+    , m_outputLabel(new QLabel(this))
+    , m_inputButton(new QPushButton(this))
+    , m_outputButton(new QPushButton(this))
+    , m_convertButton(new QPushButton(this))
+    , m_copyButton(new QPushButton(this))
+    , m_closeButton(new QPushButton(this))
     , m_statusIcon(new QLabel(this))
     , m_statusLabel(new QLabel(this))
     , m_log(new QPlainTextEdit(this))
@@ -76,11 +75,12 @@ ZVConverterDialog::ZVConverterDialog(QWidget* parent)
     m_log->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_log->setTabChangesFocus(true);
     m_log->setMaximumBlockCount(longestLog);
-    m_log->setAccessibleName(Translator::translate("Zorvane::ZVConverterDialog", "Log"));
     m_convertButton->setDefault(true);
     layOut();
     connectParts();
-    showState();
+    retranslate();
+    // "Convert" is off at first; Enter in a path's field would do nothing.
+    m_inputButton->setFocus();
     resize(s_usualWidth, s_usualHeight);
 }
 
@@ -99,16 +99,14 @@ void ZVConverterDialog::layOut()
 QLayout* ZVConverterDialog::layOutPaths()
 {
     auto* paths = new QGridLayout;
-    int row = 0;
-    for (const auto& [field, button] :
-         {std::pair(m_inputField, m_inputButton), std::pair(m_outputField, m_outputButton)}) {
-        auto* label = new QLabel(field->accessibleName(), this);
-        label->setBuddy(field);
-        paths->addWidget(label, row, 0);
-        paths->addWidget(field, row, 1);
-        paths->addWidget(button, row, 2);
-        ++row;
-    }
+    paths->addWidget(m_inputLabel, 0, 0);
+    paths->addWidget(m_inputField, 0, 1);
+    paths->addWidget(m_inputButton, 0, 2);
+    paths->addWidget(m_outputLabel, 1, 0);
+    paths->addWidget(m_outputField, 1, 1);
+    paths->addWidget(m_outputButton, 1, 2);
+    m_inputLabel->setBuddy(m_inputField);
+    m_outputLabel->setBuddy(m_outputField);
     return paths;
 }
 
@@ -138,6 +136,21 @@ void ZVConverterDialog::connectParts()
     connect(m_convertButton, &QPushButton::clicked, this, &ZVConverterDialog::convertWasClicked);
     connect(m_copyButton, &QPushButton::clicked, this, &ZVConverterDialog::copyLog);
     connect(m_closeButton, &QPushButton::clicked, this, &ZVConverterDialog::close);
+}
+
+void ZVConverterDialog::retranslate()
+{
+    m_inputLabel->setText(converterText(QT_TR_NOOP("Input file")));
+    m_outputLabel->setText(converterText(QT_TR_NOOP("Output folder")));
+    m_inputField->setAccessibleName(m_inputLabel->text());
+    m_outputField->setAccessibleName(m_outputLabel->text());
+    m_inputButton->setText(converterText(QT_TR_NOOP("Choose &File...")));
+    m_outputButton->setText(converterText(QT_TR_NOOP("Choose F&older...")));
+    m_convertButton->setText(converterText(QT_TR_NOOP("&Convert")));
+    m_copyButton->setText(converterText(QT_TR_NOOP("Copy &Log")));
+    m_closeButton->setText(converterText(QT_TR_NOOP("Close")));
+    m_log->setAccessibleName(converterText(QT_TR_NOOP("Log")));
+    showState();
 }
 
 void ZVConverterDialog::setDescription(const QString& description)
@@ -174,34 +187,34 @@ void ZVConverterDialog::setStatus(Status status)
 QString ZVConverterDialog::statusText() const
 {
     if (m_isConverting)
-        return Translator::translate("Zorvane::ZVConverterDialog", "Converting...");
+        return converterText(QT_TR_NOOP("Converting..."));
     switch (m_status) {
     case StatusSucceeded:
-        return Translator::translate("Zorvane::ZVConverterDialog", "The file was converted.");
+        return converterText(QT_TR_NOOP("The file was converted."));
     case StatusInputFailed:
-        return Translator::translate("Zorvane::ZVConverterDialog",
-                                     "The input file could not be converted.");
+        return converterText(QT_TR_NOOP("The input file could not be converted."));
     case StatusOutputFailed:
-        return Translator::translate("Zorvane::ZVConverterDialog",
-                                     "The output could not be written.");
+        return converterText(QT_TR_NOOP("The output could not be written."));
     case StatusIdle:
         break;
     }
     if (m_inputFile.isEmpty())
-        return Translator::translate("Zorvane::ZVConverterDialog", "Choose the file to convert.");
+        return converterText(QT_TR_NOOP("Choose the file to convert."));
     if (m_outputDirectory.isEmpty())
-        return Translator::translate("Zorvane::ZVConverterDialog",
-                                     "Choose the folder for the output.");
-    return Translator::translate("Zorvane::ZVConverterDialog", "Ready to convert.");
+        return converterText(QT_TR_NOOP("Choose the folder for the output."));
+    return converterText(QT_TR_NOOP("Ready to convert."));
 }
 
 void ZVConverterDialog::addLogMessage(const QString& message)
 {
     m_log->appendPlainText(message);
     m_copyButton->setEnabled(true);
-    // A conversion in the GUI thread lets nothing else paint it.
-    if (m_isConverting)
+    // A conversion in the GUI thread lets nothing else paint the log.
+    if (m_isConverting &&
+        (!m_sinceRepaint.isValid() || m_sinceRepaint.hasExpired(s_repaintInterval))) {
         m_log->repaint();
+        m_sinceRepaint.start();
+    }
 }
 
 void ZVConverterDialog::clearLog()
@@ -226,13 +239,17 @@ void ZVConverterDialog::setConverting(bool isConverting)
         m_focusBefore = focusWidget();
     m_isConverting = isConverting;
     showState();
-    if (isConverting)
+    m_sinceRepaint.invalidate();
+    if (isConverting) {
         repaint();
-    else if (m_focusBefore)
+        return;
+    }
+    m_log->repaint();
+    if (m_focusBefore)
         m_focusBefore->setFocus();
 }
 
-/** What can be pressed, and the line that tells how it went. */
+/** What can be pressed, and the line that says how it went. */
 void ZVConverterDialog::showState()
 {
     m_inputButton->setEnabled(!m_isConverting);
@@ -254,6 +271,13 @@ void ZVConverterDialog::reject()
 {
     if (!m_isConverting)
         QDialog::reject();
+}
+
+void ZVConverterDialog::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
 }
 
 void ZVConverterDialog::closeEvent(QCloseEvent* event)

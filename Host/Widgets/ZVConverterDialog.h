@@ -2,6 +2,7 @@
 
 #include "Host/HostExport.h"
 
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QPointer>
 #include <QtWidgets/QDialog>
 
@@ -23,8 +24,8 @@ namespace Zorvane {
  * The paths are shown as the system writes them, with their ends in view, and can be copied. The
  * log can be selected, copied as a whole, and keeps to its end as messages come unless the user
  * has scrolled up; it drops its oldest lines beyond `longestLog`. "Convert" can be pressed when
- * both paths are there; Enter presses it, or the button that has the focus. Escape closes the
- * window.
+ * both paths are there; Enter presses it, or the button that has the focus. The button that
+ * chooses the input file has it at first. Escape closes the window.
  *
  * Not supported: more than one input file; typing a path; use outside of the GUI thread.
  */
@@ -66,7 +67,10 @@ public:
     /** The status in words, as the user reads it. */
     QString statusText() const;
 
-    /** Adds a line, or several, of plain text to the log and shows it at once. */
+    /**
+     * Adds a line, or several, of plain text to the log. While converting, the log is painted some
+     * twenty times a second at most, and once at the end.
+     */
     void addLogMessage(const QString& message);
     void clearLog();
     /** Everything in the log, a message a line. */
@@ -88,6 +92,7 @@ public Q_SLOTS:
     void reject() override;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -96,12 +101,15 @@ private:
     QLayout* layOutStatus();
     QLayout* layOutEnd();
     void connectParts();
+    void retranslate();
     void copyLog() const;
     void showState();
 
     QLabel* m_description;
     QLineEdit* m_inputField;
     QLineEdit* m_outputField;
+    QLabel* m_inputLabel;
+    QLabel* m_outputLabel;
     QPushButton* m_inputButton;
     QPushButton* m_outputButton;
     QPushButton* m_convertButton;
@@ -115,6 +123,8 @@ private:
     QString m_outputDirectory;
     Status m_status = StatusIdle;
     bool m_isConverting = false;
+    /** Invalid before the first message of a conversion. */
+    QElapsedTimer m_sinceRepaint;
     /** Disabling a button takes its focus, which comes back to it. */
     QPointer<QWidget> m_focusBefore;
 };

@@ -381,17 +381,23 @@ void FileConverterDialogTest::exceptionsAreToldAndTheCursorComesBack_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("message");
+    QTest::addColumn<int>("status");
     QTest::newRow("runtime error")
-        << 0 << QStringLiteral("The conversion stopped with an error: disk on fire");
-    QTest::newRow("no memory") << 1 << QStringLiteral("The conversion stopped with an error: ");
+        << 0 << QStringLiteral("The conversion stopped with an error: disk on fire")
+        << int(ZVConverterDialog::StatusInputFailed);
+    QTest::newRow("no memory is not a bad file")
+        << 1 << QStringLiteral("There is not enough memory for the conversion.")
+        << int(ZVConverterDialog::StatusIdle);
     QTest::newRow("anything else")
-        << 2 << QStringLiteral("The conversion stopped with an unknown error.");
+        << 2 << QStringLiteral("The conversion stopped with an unknown error.")
+        << int(ZVConverterDialog::StatusInputFailed);
 }
 
 void FileConverterDialogTest::exceptionsAreToldAndTheCursorComesBack()
 {
     QFETCH(int, kind);
     QFETCH(QString, message);
+    QFETCH(int, status);
     chooseBoth();
     m_conversion.operation = [kind](auto&, auto&, FileConverterLogInterface& log) -> int {
         log.addMessage(QStringLiteral("reading"));
@@ -404,7 +410,7 @@ void FileConverterDialogTest::exceptionsAreToldAndTheCursorComesBack()
     Q_EMIT m_window->convertWasClicked();
     QVERIFY(!QApplication::overrideCursor());
     QVERIFY(!m_window->isConverting());
-    QCOMPARE(m_window->status(), ZVConverterDialog::StatusInputFailed);
+    QCOMPARE(int(m_window->status()), status);
     QVERIFY(m_window->logText().startsWith(QStringLiteral("reading\n") + message));
 }
 

@@ -3,6 +3,8 @@
 #include "Tests/Support/TestCase.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QTranslator>
 #include <QtGui/QClipboard>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -33,6 +35,40 @@ void choosePaths(ZVConverterDialog& window)
     window.setOutputDirectory(QStringLiteral("out"));
 }
 
+/** A language of its own: every text in capitals. */
+class UpperCase : public QTranslator
+{
+public:
+    QString translate(const char*, const char* source, const char*, int) const override
+    {
+        return QString::fromUtf8(source).toUpper();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+/** Whether a label of the window shows the text of its status. */
+QString shownStatus(const ZVConverterDialog& window)
+{
+    for (const QLabel* label : window.findChildren<QLabel*>())
+        if (label->text() == window.statusText())
+            return label->text();
+    return {};
+}
+
+/** Counts how often a widget is painted. */
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget* watched) { watched->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
 } // namespace
 
 class ZVConverterDialogTest : public Testing::TestCase
@@ -59,6 +95,9 @@ private Q_SLOTS:
     void escapeAndCloseButtonClose();
     void whileConvertingNothingCanBeStartedOrClosed();
     void focusComesBackAfterConverting();
+    void firstEnter_choosesTheInput();
+    void manyMessages_arePaintedNowAndThenAndAtTheEnd();
+    void changedLanguage_changesTheTexts();
 };
 
 void ZVConverterDialogTest::newWindowIsIdle()
@@ -232,6 +271,7 @@ void ZVConverterDialogTest::enterConverts()
     ZVConverterDialog window;
     QSignalSpy converts(&window, &ZVConverterDialog::convertWasClicked);
     window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window, Testing::patience));
     log(window)->setFocus();
     QTest::keyClick(log(window), Qt::Key_Return);
     QVERIFY(converts.isEmpty());
@@ -292,6 +332,55 @@ void ZVConverterDialogTest::focusComesBackAfterConverting()
     window.setConverting(true);
     window.setConverting(false);
     QCOMPARE(window.focusWidget(), button(window, "&Convert"));
+}
+
+void ZVConverterDialogTest::firstEnter_choosesTheInput()
+{
+    ZVConverterDialog window;
+    const QSignalSpy input(&window, &ZVConverterDialog::inputWasClicked);
+    window.show();
+    QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, Qt::Key_Return);
+    QCOMPARE(input.size(), 1);
+}
+
+void ZVConverterDialogTest::manyMessages_arePaintedNowAndThenAndAtTheEnd()
+{
+    ZVConverterDialog window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window, Testing::patience));
+    PaintCounter paints(log(window)->viewport());
+    window.setConverting(true);
+    const int before = paints.count;
+    QElapsedTimer time;
+    time.start();
+    for (int line = 0; line < 8000; ++line)
+        window.addLogMessage(QStringLiteral("triangle %1").arg(line));
+    QVERIFY(paints.count > before);
+    QVERIFY(paints.count - before <= 1 + time.elapsed() / 50);
+
+    const int atTheEnd = paints.count;
+    window.setConverting(false);
+    QVERIFY(paints.count > atTheEnd);
+    QVERIFY(window.logText().endsWith(QStringLiteral("triangle 7999")));
+}
+
+void ZVConverterDialogTest::changedLanguage_changesTheTexts()
+{
+    ZVConverterDialog window;
+    choosePaths(window);
+    window.show();
+    {
+        UpperCase language;
+        QVERIFY(QCoreApplication::installTranslator(&language));
+        QCoreApplication::processEvents();
+        QVERIFY(button(window, "&CONVERT"));
+        QCOMPARE(window.findChildren<QLineEdit*>()[0]->accessibleName(),
+                 QStringLiteral("INPUT FILE"));
+        QCOMPARE(shownStatus(window), QStringLiteral("READY TO CONVERT."));
+    }
+    QCoreApplication::processEvents();
+    QVERIFY(button(window, "&Convert"));
+    QCOMPARE(shownStatus(window), QStringLiteral("Ready to convert."));
 }
 
 ZORVANE_TEST(ZVConverterDialogTest)
