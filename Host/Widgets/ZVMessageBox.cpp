@@ -6,6 +6,7 @@
 #include <QtGui/QCloseEvent>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QPushButton>
@@ -15,7 +16,7 @@
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
-#include <utility>
+#include <vector>
 
 namespace Zorvane {
 
@@ -46,11 +47,12 @@ ZVMessageBox::ZVMessageBox(Icon icon, const QString& title, const QString& text,
 {
     // QMessageBox adds flags of its own, and QWidget takes the frame back into customized windows.
     overrideWindowFlags(flags | Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint);
+    findChild<QDialogButtonBox*>()->installEventFilter(this);
+    rememberTexts();
     if (!flags.testFlag(Qt::FramelessWindowHint))
         return;
     m_titleBar = new MessageBoxTitleBar(this);
-    setContentsMargins(s_frameWidth, s_frameWidth + m_titleBar->sizeHint().height(), s_frameWidth,
-                       s_frameWidth);
+    placeTitleBar();
     setTitleCloseButtonVisible(flags.testFlag(Qt::WindowCloseButtonHint));
 }
 
@@ -90,25 +92,83 @@ bool ZVMessageBox::hasPressableButton() const
 
 void ZVMessageBox::addWayOut()
 {
-    // Laying out the row of buttons shows all of them.
-    QList<QAbstractButton*> hidden = buttons();
-    hidden.erase(std::remove_if(hidden.begin(), hidden.end(),
-                                [](const QAbstractButton* button) { return !button->isHidden(); }),
-                 hidden.end());
-    QPushButton* okay = addButton(Ok);
-    for (QAbstractButton* button : std::as_const(hidden))
+    keepHidden([this] { m_wayOut = addButton(Ok); });
+    setDefaultButton(m_wayOut);
+    setEscapeButton(m_wayOut);
+}
+
+void ZVMessageBox::rememberTexts()
+{
+    m_usualTexts.clear();
+    for (QAbstractButton* button : buttons())
+        m_usualTexts.insert(button, button->text());
+}
+
+/** Qt shows all buttons whenever it lays out their row: for a new button or style. */
+void ZVMessageBox::keepHidden(const std::function<void()>& change)
+{
+    QList<QAbstractButton*> hidden;
+    for (QAbstractButton* button : buttons())
+        if (button->isHidden())
+            hidden.append(button);
+    change();
+    for (QAbstractButton* button : qAsConst(hidden))
         button->hide();
-    m_wayOut = okay;
-    setDefaultButton(okay);
-    setEscapeButton(okay);
+}
+
+/** A new language makes Qt give all its buttons its own texts. */
+void ZVMessageBox::keepTexts(const std::function<void()>& change)
+{
+    struct Label
+    {
+        QAbstractButton* button;
+        QString text;
+        QKeySequence shortcut;
+    };
+    std::vector<Label> given;
+    for (QAbstractButton* button : buttons())
+        if (m_usualTexts.value(button, button->text()) != button->text())
+            given.push_back({button, button->text(), button->shortcut()});
+    change();
+    rememberTexts();
+    for (const Label& label : given) {
+        label.button->setText(label.text);
+        label.button->setShortcut(label.shortcut);
+    }
 }
 
 bool ZVMessageBox::event(QEvent* event)
 {
-    const bool handled = QMessageBox::event(event);
+    bool isHandled = false;
+    if (event->type() == QEvent::StyleChange)
+        keepHidden([&] { isHandled = QMessageBox::event(event); });
+    else
+        isHandled = QMessageBox::event(event);
+
+    const bool isSizeChange =
+        event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
+    if (m_titleBar && isSizeChange)
+        placeTitleBar();
     if (event->type() == QEvent::LayoutRequest)
         fitToMaximumWidth();
-    return handled;
+    return isHandled;
+}
+
+bool ZVMessageBox::eventFilter(QObject* watched, QEvent* event)
+{
+    if (!qobject_cast<QDialogButtonBox*>(watched))
+        return QMessageBox::eventFilter(watched, event);
+    const auto change = [=] { watched->event(event); };
+    switch (event->type()) {
+    case QEvent::StyleChange:
+        keepHidden(change);
+        return true;
+    case QEvent::LanguageChange:
+        keepTexts(change);
+        return true;
+    default:
+        return QMessageBox::eventFilter(watched, event);
+    }
 }
 
 void ZVMessageBox::closeEvent(QCloseEvent* event)
@@ -136,7 +196,7 @@ void ZVMessageBox::paintEvent(QPaintEvent* event)
     if (!m_titleBar)
         return;
     QStylePainter painter(this);
-    painter.setPen(palette().color(QPalette::Dark));
+    painter.setPen(TitleColors(palette()).frame);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
@@ -144,8 +204,14 @@ void ZVMessageBox::resizeEvent(QResizeEvent* event)
 {
     QMessageBox::resizeEvent(event);
     if (m_titleBar)
-        m_titleBar->setGeometry(s_frameWidth, s_frameWidth, width() - 2 * s_frameWidth,
-                                m_titleBar->sizeHint().height());
+        placeTitleBar();
+}
+
+void ZVMessageBox::placeTitleBar()
+{
+    const int height = m_titleBar->sizeHint().height();
+    setContentsMargins(s_frameWidth, s_frameWidth + height, s_frameWidth, s_frameWidth);
+    m_titleBar->setGeometry(s_frameWidth, s_frameWidth, width() - 2 * s_frameWidth, height);
 }
 
 void ZVMessageBox::showEvent(QShowEvent* event)

@@ -2,21 +2,27 @@
 
 #include "Host/HostExport.h"
 
+#include <QtCore/QHash>
+#include <QtCore/QString>
 #include <QtWidgets/QMessageBox>
+
+#include <functional>
 
 namespace Zorvane {
 
 class MessageBoxTitleBar;
 
 /**
- * The suite's message box. Everything of `QMessageBox` holds, with four differences:
+ * The suite's message box. Everything of `QMessageBox` holds, with five differences:
  * - The window flags are taken as they are given. A box without a system frame
  *   (`Qt::FramelessWindowHint`) draws a title bar of its own, which moves the box.
  * - The close button of the title can be taken away. Then Escape and the window system's close
  *   request do nothing either, as long as one button can be pressed. While the close button is
  *   there, closing always works; without an escape button `exec` returns 0 (no button).
  * - A box that is shown without any button that can be pressed, since all are hidden or disabled,
- *   gets an OK button, so that nobody is caught in it. It can always be closed.
+ *   gets an OK button, so that the user is not caught in it. It can always be closed.
+ * - Buttons that were hidden stay hidden, and texts that buttons were given stay, when style or
+ *   language change while the box is shown. Translating such a text again is up to its owner.
  * - A maximum width is kept: the text wraps. Set it before the box is shown.
  */
 class ZORVANE_HOST_EXPORT ZVMessageBox : public QMessageBox
@@ -55,6 +61,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -65,12 +72,18 @@ private:
     bool mayBeClosed() const;
     bool hasPressableButton() const;
     void addWayOut();
+    void rememberTexts();
+    void keepHidden(const std::function<void()>& change);
+    void keepTexts(const std::function<void()>& change);
     void fitToMaximumWidth();
+    void placeTitleBar();
 
     // Only in boxes without a system frame; owned as a child widget.
     MessageBoxTitleBar* m_titleBar = nullptr;
     // The OK button of a box that would have none; owned as a child widget.
-    QAbstractButton* m_wayOut = nullptr;
+    QPushButton* m_wayOut = nullptr;
+    // What Qt called the buttons that it made.
+    QHash<QAbstractButton*, QString> m_usualTexts;
     int m_maximumWidth = QWIDGETSIZE_MAX;
 };
 

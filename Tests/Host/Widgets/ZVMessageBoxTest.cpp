@@ -4,10 +4,20 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
+#include <QtCore/QTranslator>
+#include <QtGui/QImage>
+#include <QtGui/QPalette>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QDesktopWidget>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleFactory>
 #include <QtWidgets/QToolButton>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
 
 using namespace Zorvane;
 
@@ -24,6 +34,95 @@ const QString s_longText = QStringLiteral(
 QToolButton* titleCloseButton(const QWidget& box)
 {
     return box.findChild<QToolButton*>(QStringLiteral("titleCloseButton"));
+}
+
+/** Writes every text in capitals. */
+class UpperCase : public QTranslator
+{
+public:
+    QString translate(const char*, const char* source, const char*, int) const override
+    {
+        return QString::fromUtf8(source).toUpper();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+QPalette standardPaletteOf(const char* style)
+{
+    return std::unique_ptr<QStyle>(QStyleFactory::create(QLatin1String(style)))->standardPalette();
+}
+
+struct Roles
+{
+    QRgb window;
+    QRgb windowText;
+    QRgb base;
+    QRgb button;
+    QRgb highlight;
+};
+
+/** Sets what a hand-made palette usually sets; the other roles stay those of a light palette. */
+QPalette paletteOf(const Roles& roles)
+{
+    QPalette palette = standardPaletteOf("Fusion");
+    palette.setColor(QPalette::Window, roles.window);
+    palette.setColor(QPalette::WindowText, roles.windowText);
+    palette.setColor(QPalette::Base, roles.base);
+    palette.setColor(QPalette::Text, roles.windowText);
+    palette.setColor(QPalette::Button, roles.button);
+    palette.setColor(QPalette::ButtonText, roles.windowText);
+    palette.setColor(QPalette::Highlight, roles.highlight);
+    return palette;
+}
+
+/** By the definition of WCAG 2. */
+double luminanceOf(const QColor& color)
+{
+    const auto linear = [](double c) {
+        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+/** The contrast between the background of a picture, its first pixel, and what differs most. */
+double contrastIn(const QImage& picture)
+{
+    const double background = luminanceOf(picture.pixelColor(0, 0));
+    double most = 1;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x) {
+            const double drawn = luminanceOf(picture.pixelColor(x, y));
+            most = std::max(most, (std::max(background, drawn) + 0.05) /
+                                      (std::min(background, drawn) + 0.05));
+        }
+    return most;
+}
+
+/** Bold and large, so that some pixels have the full colour of the text. */
+void showWithTitle(ZVMessageBox& box)
+{
+    QFont font = box.font();
+    font.setPointSize(24);
+    font.setBold(true);
+    box.setFont(font);
+    box.setMaximumWidth(500);
+    box.show();
+}
+
+/** The title bar's parts, each with the background around it. */
+QImage pictureOf(const QWidget& box, QWidget* part)
+{
+    const QRect place(part->mapTo(&box, QPoint(-1, -1)), part->size() + QSize(2, 2));
+    return const_cast<QWidget&>(box).grab(place).toImage();
+}
+
+QLabel* titleLabel(const QWidget& box)
+{
+    for (QLabel* label : box.findChildren<QLabel*>())
+        if (label->text() == box.windowTitle())
+            return label;
+    return nullptr;
 }
 
 } // namespace
@@ -51,6 +150,12 @@ private Q_SLOTS:
     void hiddenButtonStaysHidden();
     void maximumWidthWrapsTheText_data();
     void maximumWidthWrapsTheText();
+    void changedStyle_keepsButtonsHidden();
+    void changedLanguage_keepsGivenTexts();
+    void everyPalette_titleCanBeRead_data();
+    void everyPalette_titleCanBeRead();
+    void everyStyleSheet_titleCanBeRead_data();
+    void everyStyleSheet_titleCanBeRead();
 };
 
 void ZVMessageBoxTest::pressedButtonIsReturned()
@@ -289,6 +394,93 @@ void ZVMessageBoxTest::maximumWidthWrapsTheText()
         shown.button(QMessageBox::Cancel)->click();
     });
     box.exec();
+}
+
+void ZVMessageBoxTest::changedStyle_keepsButtonsHidden()
+{
+    ZVMessageBox box(QMessageBox::Question, QStringLiteral("title"), QStringLiteral("text"),
+                     QMessageBox::Save | QMessageBox::Cancel, nullptr, s_frameless);
+    box.button(QMessageBox::Save)->hide();
+    box.show();
+    const QString before = QApplication::style()->objectName();
+    QApplication::setStyle(before == QLatin1String("windows") ? QStringLiteral("fusion")
+                                                              : QStringLiteral("windows"));
+    QVERIFY(!box.button(QMessageBox::Save)->isVisible());
+    QVERIFY(box.button(QMessageBox::Cancel)->isVisible());
+    box.setStyleSheet(QStringLiteral("QPushButton { padding: 3px; }"));
+    QVERIFY(!box.button(QMessageBox::Save)->isVisible());
+    QVERIFY(box.button(QMessageBox::Cancel)->isVisible());
+    QApplication::setStyle(before);
+}
+
+void ZVMessageBoxTest::changedLanguage_keepsGivenTexts()
+{
+    ZVMessageBox box(QMessageBox::Question, QStringLiteral("title"), QStringLiteral("text"),
+                     QMessageBox::Save | QMessageBox::Cancel, nullptr, s_frameless);
+    box.button(QMessageBox::Save)->setText(QStringLiteral("Save As..."));
+    box.button(QMessageBox::Save)->setShortcut(QKeySequence(Qt::ALT | Qt::Key_A));
+    box.show();
+    box.setStyleSheet(QStringLiteral("QPushButton { padding: 3px; }"));
+    const QString cancel = box.button(QMessageBox::Cancel)->text();
+    {
+        UpperCase language;
+        QVERIFY(QCoreApplication::installTranslator(&language));
+        QCoreApplication::processEvents();
+        QCOMPARE(box.button(QMessageBox::Save)->text(), QStringLiteral("Save As..."));
+        QCOMPARE(box.button(QMessageBox::Save)->shortcut(), QKeySequence(Qt::ALT | Qt::Key_A));
+        QCOMPARE(box.button(QMessageBox::Cancel)->text(), cancel.toUpper());
+        QCOMPARE(titleCloseButton(box)->toolTip(), QStringLiteral("CLOSE"));
+    }
+    QCoreApplication::processEvents();
+    QCOMPARE(box.button(QMessageBox::Save)->text(), QStringLiteral("Save As..."));
+    QCOMPARE(box.button(QMessageBox::Cancel)->text(), cancel);
+}
+
+void ZVMessageBoxTest::everyPalette_titleCanBeRead_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::newRow("Fusion") << standardPaletteOf("Fusion");
+    QTest::newRow("Windows") << standardPaletteOf("Windows");
+    QTest::newRow("Fusion on a dark desktop")
+        << paletteOf({0xff323232, 0xffffffff, 0xff242424, 0xff323232, 0xff308cc6});
+    QTest::newRow("dark, made by hand")
+        << paletteOf({0xff353535, 0xffffffff, 0xff191919, 0xff353535, 0xff2a82da});
+    QTest::newRow("of one colour, derived by Qt") << QPalette(QColor(0x20, 0x30, 0x40));
+    QTest::newRow("little contrast")
+        << paletteOf({0xff808080, 0xff909090, 0xff808080, 0xff808080, 0xff2a82da});
+}
+
+void ZVMessageBoxTest::everyPalette_titleCanBeRead()
+{
+    QFETCH(QPalette, palette);
+    ZVMessageBox box(QMessageBox::Warning, QStringLiteral("Warning"), QStringLiteral("text"),
+                     QMessageBox::Ok, nullptr, s_frameless);
+    box.setPalette(palette);
+    showWithTitle(box);
+    QVERIFY(contrastIn(pictureOf(box, titleLabel(box))) >= 4.5);
+    QVERIFY(contrastIn(pictureOf(box, titleCloseButton(box))) >= 3); // what WCAG asks of icons
+}
+
+void ZVMessageBoxTest::everyStyleSheet_titleCanBeRead_data()
+{
+    QTest::addColumn<QString>("sheet");
+    QTest::newRow("dark widgets") << "QWidget { background-color: #2b2b2b; color: #dddddd; }";
+    QTest::newRow("dark box, light labels")
+        << "QMessageBox { background-color: #2b2b2b; } QLabel { color: #dddddd; }";
+    QTest::newRow("dark labels only") << "QLabel { color: #202020; }";
+    QTest::newRow("light text only") << "QWidget { color: #eeeeee; }";
+}
+
+void ZVMessageBoxTest::everyStyleSheet_titleCanBeRead()
+{
+    QFETCH(QString, sheet);
+    qApp->setStyleSheet(sheet);
+    ZVMessageBox box(QMessageBox::Warning, QStringLiteral("Warning"), QStringLiteral("text"),
+                     QMessageBox::Ok, nullptr, s_frameless);
+    showWithTitle(box);
+    QVERIFY(contrastIn(pictureOf(box, titleLabel(box))) >= 4.5);
+    QVERIFY(contrastIn(pictureOf(box, titleCloseButton(box))) >= 3);
+    qApp->setStyleSheet({});
 }
 
 ZORVANE_TEST(ZVMessageBoxTest)
