@@ -1,10 +1,10 @@
 #include "Host/Widgets/ZVConverterDialog.h"
 
+#include "Tests/Support/CapitalTexts.h"
 #include "Tests/Support/TestCase.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
-#include <QtCore/QTranslator>
 #include <QtGui/QClipboard>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -34,17 +34,6 @@ void choosePaths(ZVConverterDialog& window)
     window.setInputFile(QStringLiteral("meshes/die.stl"));
     window.setOutputDirectory(QStringLiteral("out"));
 }
-
-/** A language of its own: every text in capitals. */
-class UpperCase : public QTranslator
-{
-public:
-    QString translate(const char*, const char* source, const char*, int) const override
-    {
-        return QString::fromUtf8(source).toUpper();
-    }
-    bool isEmpty() const override { return false; }
-};
 
 /** Whether a label of the window shows the text of its status. */
 QString shownStatus(const ZVConverterDialog& window)
@@ -370,7 +359,7 @@ void ZVConverterDialogTest::changedLanguage_changesTheTexts()
     choosePaths(window);
     window.show();
     {
-        UpperCase language;
+        Testing::CapitalTexts language;
         QVERIFY(QCoreApplication::installTranslator(&language));
         QCoreApplication::processEvents();
         QVERIFY(button(window, "&CONVERT"));

@@ -1,10 +1,10 @@
 #include "Host/Widgets/ZVMessageBox.h"
+#include "Tests/Support/CapitalTexts.h"
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/TestCase.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
-#include <QtCore/QTranslator>
 #include <QtGui/QImage>
 #include <QtGui/QPalette>
 #include <QtWidgets/QAbstractButton>
@@ -35,17 +35,6 @@ QToolButton* titleCloseButton(const QWidget& box)
 {
     return box.findChild<QToolButton*>(QStringLiteral("titleCloseButton"));
 }
-
-/** Writes every text in capitals. */
-class UpperCase : public QTranslator
-{
-public:
-    QString translate(const char*, const char* source, const char*, int) const override
-    {
-        return QString::fromUtf8(source).toUpper();
-    }
-    bool isEmpty() const override { return false; }
-};
 
 QPalette standardPaletteOf(const char* style)
 {
@@ -423,7 +412,7 @@ void ZVMessageBoxTest::changedLanguage_keepsGivenTexts()
     box.setStyleSheet(QStringLiteral("QPushButton { padding: 3px; }"));
     const QString cancel = box.button(QMessageBox::Cancel)->text();
     {
-        UpperCase language;
+        Testing::CapitalTexts language;
         QVERIFY(QCoreApplication::installTranslator(&language));
         QCoreApplication::processEvents();
         QCOMPARE(box.button(QMessageBox::Save)->text(), QStringLiteral("Save As..."));
