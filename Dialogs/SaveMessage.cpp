@@ -6,12 +6,27 @@
 #include <QtWidgets/QApplication>
 
 #include <array>
+#include <cstddef>
 
 namespace Zorvane {
 
 namespace {
 
 constexpr int s_nameWidth = 300;
+
+/** The bits of the facts. */
+enum Fact : std::size_t
+{
+    NotSaved = 1,
+    HasResults = 2,
+    IsRunning = 4,
+    IsOldVersion = 8
+};
+
+QString messageText(const char* source)
+{
+    return Translator::translate("ZVSaveDialog", source);
+}
 
 // clang-format off
 /**
@@ -38,7 +53,7 @@ constexpr std::array<const char*, 16> s_factTexts = {
 };
 // clang-format on
 
-bool isTheUnsavedToldOf(const SaveState& state, ZVSaveDialog::Action action)
+bool mentionsUnsaved(const SaveState& state, ZVSaveDialog::Action action)
 {
     switch (action) {
     case ZVSaveDialog::ActionClose:
@@ -52,17 +67,17 @@ bool isTheUnsavedToldOf(const SaveState& state, ZVSaveDialog::Action action)
     return false;
 }
 
-int factsFor(const SaveState& state, ZVSaveDialog::Action action)
+std::size_t factsFor(const SaveState& state, ZVSaveDialog::Action action)
 {
-    int facts = 0;
-    if (isTheUnsavedToldOf(state, action))
-        facts |= SaveMessage::NotSaved;
+    std::size_t facts = 0;
+    if (mentionsUnsaved(state, action))
+        facts |= NotSaved;
     if (willDropResults(state, action))
-        facts |= SaveMessage::HasResults;
+        facts |= HasResults;
     if (state.isJobRunning && action != ZVSaveDialog::ActionClose)
-        facts |= SaveMessage::IsRunning;
+        facts |= IsRunning;
     if (!state.isCurrentVersion)
-        facts |= SaveMessage::IsOldVersion;
+        facts |= IsOldVersion;
     return facts;
 }
 
@@ -74,104 +89,92 @@ QString richName(const QString& name)
         .replace(QLatin1Char('\n'), QLatin1String("<br>"));
 }
 
+/** Empty where nothing is asked. */
 QString questionFor(const SaveState& state, const SaveSubject& subject)
 {
-    QString question;
+    const char* question =
+        QT_TRANSLATE_NOOP("ZVSaveDialog", "Do you want to save the changes to \"%1\" prior to "
+                                          "closing?");
     if (!state.isCurrentVersion && state.hasEvaluationDataChanged)
-        question = Translator::translate("ZVSaveDialog", "Evaluation Data has changed. Would you "
-                                                         "like to continue closing the document "
-                                                         "\"%1\"?");
+        question = QT_TRANSLATE_NOOP("ZVSaveDialog",
+                                     "Evaluation Data has changed. Would you like to continue "
+                                     "closing the document \"%1\"?");
     else if (state.isJobRunning)
         return {};
     else if (subject.isNew)
-        return Translator::translate(
-            "ZVSaveDialog", "Do you want to save the changes to a new file prior to closing?");
-    else
-        question = Translator::translate(
-            "ZVSaveDialog", "Do you want to save the changes to \"%1\" prior to closing?");
-    return question.arg(richName(subject.name), 0, QLatin1Char(' '));
+        return messageText(QT_TRANSLATE_NOOP("ZVSaveDialog",
+                                             "Do you want to save the changes to a new file prior "
+                                             "to closing?"));
+    return messageText(question).arg(richName(subject.name), 0, QLatin1Char(' '));
 }
 
-/** Empty where a running simulation has nothing to be said about it. */
+/** What a running simulation refuses; empty for nothing. */
 QString refusalFor(ZVSaveDialog::Action action)
 {
     switch (action) {
     case ZVSaveDialog::ActionSave:
-        return Translator::translate("ZVSaveDialog", "Saving is not allowed. Either kill "
-                                                     "simulation first or save to another file.");
+        return messageText(QT_TRANSLATE_NOOP("ZVSaveDialog",
+                                             "Saving is not allowed. Either kill simulation first "
+                                             "or save to another file."));
     case ZVSaveDialog::ActionStart:
-        return Translator::translate("ZVSaveDialog",
-                                     "Starting is not allowed. Kill simulation first.");
+        return messageText(
+            QT_TRANSLATE_NOOP("ZVSaveDialog", "Starting is not allowed. Kill simulation first."));
     case ZVSaveDialog::ActionClose:
-        return Translator::translate("ZVSaveDialog",
-                                     "Saving is not allowed, because the current design is still "
-                                     "running a simulation.");
+        return messageText(QT_TRANSLATE_NOOP("ZVSaveDialog",
+                                             "Saving is not allowed, because the current design "
+                                             "is still running a simulation."));
     case ZVSaveDialog::ActionProceed:
         break;
     }
     return {};
 }
 
-std::vector<SaveMessage::Entry> consequencesFor(const SaveState& state, ZVSaveDialog::Action action)
+QString listItem(const QString& label, const QString& text)
 {
-    std::vector<SaveMessage::Entry> entries;
+    return QStringLiteral("<li><b>") + label + QStringLiteral("</b> ") + text +
+           QStringLiteral("</li>");
+}
+
+/** A headline with a list, which may have no items; empty for neither. */
+QString consequencesFor(const SaveState& state, ZVSaveDialog::Action action)
+{
+    QString headline;
+    QString items;
     if (state.isJobRunning) {
-        const QString refusal = refusalFor(action);
-        if (!refusal.isEmpty())
-            entries.push_back({{}, refusal});
-        return entries;
+        headline = refusalFor(action);
+        if (headline.isEmpty())
+            return {};
+    } else {
+        headline = messageText(QT_TRANSLATE_NOOP(
+            "ZVSaveDialog", "If you confirm this action the consequences will be"));
+        if (willDropResults(state, action))
+            items +=
+                listItem(messageText(QT_TRANSLATE_NOOP("ZVSaveDialog", "Delete:")),
+                         messageText(QT_TRANSLATE_NOOP(
+                             "ZVSaveDialog", "The simulation results are deleted from the file.")));
+        if (!state.isCurrentVersion)
+            items += listItem(
+                messageText(QT_TRANSLATE_NOOP("ZVSaveDialog", "Convert:")),
+                messageText(QT_TRANSLATE_NOOP(
+                    "ZVSaveDialog", "The design will be converted to the current version.")));
     }
-    entries.push_back({{},
-                       Translator::translate(
-                           "ZVSaveDialog", "If you confirm this action the consequences will be")});
-    if (willDropResults(state, action))
-        entries.push_back(
-            {Translator::translate("ZVSaveDialog", "Delete:"),
-             Translator::translate("ZVSaveDialog",
-                                   "The simulation results are deleted from the file.")});
-    if (!state.isCurrentVersion)
-        entries.push_back(
-            {Translator::translate("ZVSaveDialog", "Convert:"),
-             Translator::translate("ZVSaveDialog",
-                                   "The design will be converted to the current version.")});
-    return entries;
+    return headline + QStringLiteral("<ul>") + items + QStringLiteral("</ul>");
 }
 
 } // namespace
 
-bool willDropResults(const SaveState& state, ZVSaveDialog::Action action)
+QString saveMessageFor(const SaveState& state, ZVSaveDialog::Action action,
+                       const SaveSubject& subject)
 {
-    return state.hasResults && (state.areResultsOutdated || state.areResultsLostByConversion ||
-                                action == ZVSaveDialog::ActionStart);
-}
+    const QString question =
+        action == ZVSaveDialog::ActionClose ? questionFor(state, subject) : QString();
+    const QString consequences = subject.isNew ? QString() : consequencesFor(state, action);
 
-SaveMessage saveMessageFor(const SaveState& state, ZVSaveDialog::Action action,
-                           const SaveSubject& subject)
-{
-    SaveMessage message;
-    message.facts = factsFor(state, action);
-    if (action == ZVSaveDialog::ActionClose)
-        message.question = questionFor(state, subject);
-    if (!subject.isNew)
-        message.consequences = consequencesFor(state, action);
-    message.showsConsequences = !message.consequences.empty();
-    return message;
-}
-
-QString SaveMessage::toHtml() const
-{
-    const char* factText = s_factTexts[std::size_t(facts)];
     QString html = QStringLiteral("<html><body><div>") +
-                   Translator::translate("ZVSaveDialog", factText) + QStringLiteral("</div>");
-    if (!question.isEmpty())
-        html += QStringLiteral("<br><div>") + question + QStringLiteral("</div>");
-    if (showsConsequences) {
-        html += QStringLiteral("<br><div>") + consequences.front().text + QStringLiteral("<ul>");
-        for (auto entry = consequences.begin() + 1; entry != consequences.end(); ++entry)
-            html += QStringLiteral("<li><b>") + entry->label + QStringLiteral("</b> ") +
-                    entry->text + QStringLiteral("</li>");
-        html += QStringLiteral("</ul></div>");
-    }
+                   messageText(s_factTexts[factsFor(state, action)]) + QStringLiteral("</div>");
+    for (const QString& part : {question, consequences})
+        if (!part.isEmpty())
+            html += QStringLiteral("<br><div>") + part + QStringLiteral("</div>");
     return html + QStringLiteral("</body></html>");
 }
 

@@ -21,4 +21,10 @@ SaveState saveStateOf(const DesignInterface& design)
     return state;
 }
 
+bool willDropResults(const SaveState& state, ZVSaveDialog::Action action)
+{
+    return state.hasResults && (state.areResultsOutdated || state.areResultsLostByConversion ||
+                                action == ZVSaveDialog::ActionStart);
+}
+
 } // namespace Zorvane

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "Dialogs/ZVSaveDialog.h"
 #include "UiToolsExport.h"
 
 namespace Zorvane {
 
-class DesignInterface;
-
-/** What matters of a design for the question whether to save it, taken once a question. */
+/**
+ * What matters of a design for the question whether to save it, taken once a question. A host that
+ * asks only when there is something to ask looks at it first.
+ */
 struct SaveState
 {
     bool isModified = false;
@@ -23,5 +25,8 @@ struct SaveState
 
 /** Looks for a running simulation of the design's file, too. */
 ZORVANE_UITOOLS_EXPORT SaveState saveStateOf(const DesignInterface& design);
+
+/** Whether the design has results that the action costs it. */
+ZORVANE_UITOOLS_EXPORT bool willDropResults(const SaveState& state, ZVSaveDialog::Action action);
 
 } // namespace Zorvane

@@ -47,7 +47,7 @@ QColor blended(const QColor& one, const QColor& other, double part)
                             component(one.blueF(), other.blueF()));
 }
 
-/** The title's text. A style sheet for labels would give it a colour meant for other backgrounds. */
+/** The title. A style sheet for labels would give it a colour meant for other backgrounds. */
 class TitleLabel : public QLabel
 {
 public:

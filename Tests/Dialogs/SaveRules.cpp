@@ -85,16 +85,6 @@ void forEveryDesign(const std::function<void(const SaveCase&)>& check)
     }
 }
 
-void forEveryCase(const std::function<void(const SaveCase&)>& check)
-{
-    forEveryDesign([&check](SaveCase given) {
-        for (int bits = 0; bits < switchStates; ++bits) {
-            setSwitches(given, bits);
-            check(given);
-        }
-    });
-}
-
 void forEverySwitch(const std::function<void(const SaveCase&)>& check)
 {
     for (int action = 0; action < 4; ++action) {
@@ -110,6 +100,9 @@ void forEverySwitch(const std::function<void(const SaveCase&)>& check)
 
 namespace SaveRules {
 
+namespace {
+
+/** The letters of the facts that are shown: u(nsaved), r(esults), j(ob running), o(ld version). */
 QString facts(const SaveCase& given)
 {
     QString letters;
@@ -192,6 +185,8 @@ QStringList consequences(const SaveCase& given)
     return all;
 }
 
+} // namespace
+
 QString html(const SaveCase& given, const QString& name)
 {
     QStringList blocks{text("<div>%1</div>").arg(factText(given))};
@@ -233,11 +228,6 @@ QStringList shownButtons(const SaveCase& given)
     return shown;
 }
 
-bool hasHiddenSave(const SaveCase& given)
-{
-    return given.isRunning && !given.isSaveDisabled;
-}
-
 QString enter(const SaveCase& given)
 {
     const QStringList shown = shownButtons(given);
@@ -249,7 +239,7 @@ QString enter(const SaveCase& given)
 
 bool canBeClosed(const SaveCase& given)
 {
-    // Nobody is caught in a box that has nothing to press.
+    // A box that has nothing to press can always be closed.
     return !given.suppressesCancel || shownButtons(given).isEmpty();
 }
 

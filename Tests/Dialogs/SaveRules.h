@@ -36,8 +36,6 @@ constexpr int switchStates = 16;
 
 /** Calls `check` with every state of a design and every step, all switches off. */
 void forEveryDesign(const std::function<void(const SaveCase&)>& check);
-/** Calls `check` with everything: every state of a design, every step and every switch. */
-void forEveryCase(const std::function<void(const SaveCase&)>& check);
 /** Calls `check` with every step and switch, for a design with and one without a running job. */
 void forEverySwitch(const std::function<void(const SaveCase&)>& check);
 
@@ -47,18 +45,11 @@ void forEverySwitch(const std::function<void(const SaveCase&)>& check);
  */
 namespace SaveRules {
 
-/** The letters of the facts that are told: u(nsaved), r(esults), j(ob running), o(ld version). */
-QString facts(const SaveCase& given);
-QString factText(const SaveCase& given);
-/** The name stands in it as it was given. */
-QString question(const SaveCase& given, const QString& name);
-/** The headline, then the points under it, as rich text; empty for no list. */
-QStringList consequences(const SaveCase& given);
+/** The text of the box. The name stands in it as it was given. */
 QString html(const SaveCase& given, const QString& name);
 
 /** The texts of the buttons that can be seen, in the order Cancel, Discard, Save, Save As. */
 QStringList shownButtons(const SaveCase& given);
-bool hasHiddenSave(const SaveCase& given);
 /** The text of the button that Enter presses; empty for none. */
 QString enter(const SaveCase& given);
 bool canBeClosed(const SaveCase& given);

@@ -11,6 +11,8 @@
 #include <QtCore/QSet>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTranslator>
+#include <QtGui/QFontMetrics>
+#include <QtGui/QTextDocument>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QToolButton>
 
@@ -103,6 +105,8 @@ private:
     }
     ZVSaveDialog::Result ask(const SaveCase& given, const Answer& answer) const;
     ZVSaveDialog::Result press(const SaveCase& given, const QString& text) const;
+    /** The text of the box that asks before the design of this file is closed. */
+    QString textFor(const QString& file) const;
 
     const QTemporaryDir m_folder;
 
@@ -130,6 +134,13 @@ private Q_SLOTS:
     void jobThatEndedMeanwhileDoesNotCount();
     void textsAreAskedForInTheirContexts();
     void asksInTheUsersLanguage();
+    void changedStyle_keepsSaveHidden();
+    void changedLanguage_changesAllTexts();
+    void switchesOfScripts_areTextsAndNumbersToo();
+    void designWithoutFileHasAnEmptyName();
+    void longNamesAreBroken();
+    void namesAreNoMarkUp_data();
+    void namesAreNoMarkUp();
 };
 
 ZVSaveDialog::Result ZVSaveDialogTest::ask(const SaveCase& given, const Answer& answer) const
@@ -500,6 +511,119 @@ void ZVSaveDialogTest::asksInTheUsersLanguage()
     });
     QCOMPARE(ZVSaveDialog::showDialog(nullptr, asked, given.action, false, false),
              ZVSaveDialog::ResultContinue);
+}
+
+void ZVSaveDialogTest::changedStyle_keepsSaveHidden()
+{
+    SaveCase given;
+    given.action = ZVSaveDialog::ActionClose;
+    given.isRunning = true;
+    given.addsSaveAs = true;
+    const auto result = ask(given, [&given](QMessageBox& box) {
+        const QStringList before = visibleTexts(box);
+        QCOMPARE(before, SaveRules::shownButtons(given));
+        box.setStyleSheet(QStringLiteral("QPushButton { padding: 3px; }"));
+        QCOMPARE(visibleTexts(box), before);
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    QCOMPARE(result, ZVSaveDialog::ResultCancel);
+}
+
+void ZVSaveDialogTest::changedLanguage_changesAllTexts()
+{
+    SaveCase given;
+    given.action = ZVSaveDialog::ActionClose;
+    given.addsSaveAs = true;
+    const auto result = ask(given, [&given](QMessageBox& box) {
+        {
+            const Testing::GermanTexts german;
+            QVERIFY(german.isInstalled());
+            QCoreApplication::processEvents();
+            QCOMPARE(box.windowTitle(), QStringLiteral("Warnung"));
+            QVERIFY(box.text().contains(QString::fromUtf8("in „door.dsg“ speichern?")));
+            QCOMPARE(box.button(QMessageBox::Save)->text(), QStringLiteral("&Speichern"));
+            QCOMPARE(box.button(QMessageBox::SaveAll)->text(),
+                     QStringLiteral("Speichern &unter..."));
+        }
+        QCoreApplication::processEvents();
+        QCOMPARE(box.windowTitle(), QStringLiteral("Warning"));
+        QCOMPARE(box.text(), SaveRules::html(given, s_leaf));
+        QCOMPARE(visibleTexts(box), SaveRules::shownButtons(given));
+        QVERIFY(QTest::qWaitForWindowActive(&box, Zorvane::Testing::patience));
+        QTest::keyClick(&box, Qt::Key_A, Qt::AltModifier);
+        QTRY_VERIFY(!box.isVisible());
+    });
+    QCOMPARE(result, ZVSaveDialog::ResultSaveAs);
+}
+
+/** Settings files and scripts know texts and numbers only. */
+void ZVSaveDialogTest::switchesOfScripts_areTextsAndNumbersToo()
+{
+    SaveCase given;
+    given.action = ZVSaveDialog::ActionClose;
+    Testing::ExpectedModals modals;
+    modals.expectMessageBox(s_warning, [](QMessageBox& box) {
+        QVERIFY(box.button(QMessageBox::SaveAll));
+        QVERIFY(box.button(QMessageBox::Cancel));
+        box.reject();
+    });
+    qApp->setProperty("AddSaveAsToSaveDialog", QStringLiteral("true"));
+    qApp->setProperty("SuppressCancelForSaveDialog", 0);
+    ZVSaveDialog::showDialog(nullptr, design(given), given.action, false, false);
+}
+
+QString ZVSaveDialogTest::textFor(const QString& file) const
+{
+    SaveCase given;
+    given.action = ZVSaveDialog::ActionClose;
+    QString text;
+    Testing::ExpectedModals modals;
+    modals.expectMessageBox(s_warning, [&text](QMessageBox& box) {
+        text = box.text();
+        box.reject();
+    });
+    ZVSaveDialog::showDialog(nullptr, std::make_shared<ScriptedDesign>(given, file), given.action,
+                             false, false);
+    return text;
+}
+
+void ZVSaveDialogTest::designWithoutFileHasAnEmptyName()
+{
+    QVERIFY(textFor({}).contains(
+        QStringLiteral("Do you want to save the changes to \"\" prior to closing?")));
+}
+
+void ZVSaveDialogTest::longNamesAreBroken()
+{
+    const QString name(200, QLatin1Char('m'));
+    const QString text = textFor(m_folder.filePath(name));
+    const QStringList lines =
+        text.mid(text.indexOf(QLatin1Char('"'))).split(QStringLiteral("<br>"));
+    QVERIFY(lines.size() > 3);
+    const QFontMetrics metrics(QApplication::font("QMessageBox"));
+    // The first and the last two are not of the name only.
+    for (const QString& line : lines.mid(1, lines.size() - 3))
+        QVERIFY(metrics.horizontalAdvance(line) <= 300);
+    QVERIFY(QString(text).remove(QStringLiteral("<br>")).contains(name));
+}
+
+void ZVSaveDialogTest::namesAreNoMarkUp_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("tags") << QStringLiteral("<b>door<b>.dsg");
+    QTest::newRow("entity") << QStringLiteral("R&amp;D.dsg");
+    QTest::newRow("quotes") << QStringLiteral("\"door\".dsg");
+    QTest::newRow("placeholder") << QStringLiteral("%1 %2.dsg");
+    QTest::newRow("umlauts") << QString::fromUtf8("Tür außen – 左.dsg");
+}
+
+void ZVSaveDialogTest::namesAreNoMarkUp()
+{
+    QFETCH(QString, name);
+    QTextDocument document;
+    document.setHtml(textFor(m_folder.filePath(name)));
+    const QString text = document.toPlainText();
+    QVERIFY2(text.contains(QLatin1Char('"') + name + QLatin1Char('"')), qPrintable(text));
 }
 
 ZORVANE_TEST(ZVSaveDialogTest)

@@ -1,6 +1,5 @@
 #include "Workbench/Saving/DesignSaving.h"
 
-#include "Dialogs/SaveMessage.h"
 #include "Dialogs/SaveState.h"
 #include "Host/Widgets/ZVMessageBox.h"
 #include "Workbench/Commands/FileCommands.h"
