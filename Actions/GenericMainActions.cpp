@@ -3,7 +3,6 @@
 #include "Host/Widgets/ZVMessageBox.h"
 
 #include <QtCore/QChildEvent>
-#include <QtCore/QStringBuilder>
 #include <QtCore/QVariant>
 #include <QtGui/QIcon>
 #include <QtWidgets/QAction>
@@ -16,12 +15,9 @@ namespace Zorvane {
 
 namespace {
 
-/** What SIGNAL(triggered()) makes; spelled out, since the macro checks the text at run time. */
-constexpr char s_triggered[] = "2triggered()";
-
 QString withShortcut(const QString& toolTip, const QKeySequence& shortcut)
 {
-    return toolTip % QLatin1String("    ") % shortcut.toString(QKeySequence::PortableText);
+    return toolTip + QLatin1String("    ") + shortcut.toString(QKeySequence::PortableText);
 }
 
 } // namespace
@@ -46,12 +42,12 @@ QAction* GenericMainActions::operator[](int id) const
 
 void GenericMainActions::connect(int id, const QObject* receiver, const char* member)
 {
-    QObject::connect(m_actions[id], s_triggered, receiver, member, Qt::AutoConnection);
+    QObject::connect(m_actions[id], SIGNAL(triggered()), receiver, member, Qt::AutoConnection);
 }
 
 void GenericMainActions::disconnect(int id, const QObject* receiver, const char* member)
 {
-    QObject::disconnect(m_actions[id], s_triggered, receiver, member);
+    QObject::disconnect(m_actions[id], SIGNAL(triggered()), receiver, member);
 }
 
 void GenericMainActions::changeToolTip(int id, const QString& toolTip)
@@ -67,9 +63,7 @@ QAction* GenericMainActions::createAction(const QString& text, const QIcon& icon
                                           const QString& toolTip, QKeySequence shortcut,
                                           QObject* parent, const QString& objectName) const
 {
-    // With the icon in the constructor, there is no change to announce.
-    auto* const created =
-        icon.isNull() ? new QAction(text, parent) : new QAction(icon, text, parent);
+    auto* const created = new QAction(icon, text, parent);
     const bool hasShortcut = !shortcut.isEmpty();
     if (hasShortcut)
         created->setShortcut(shortcut);
@@ -106,10 +100,14 @@ void GenericMainActions::registerApplicationActions(const QList<int>& ids, QWidg
 
 void GenericMainActions::childEvent(QChildEvent* event)
 {
-    // Children are followed here, since subclasses enter actions that they created themselves.
-    if (event->added())
-        QObject::connect(event->child(), &QObject::destroyed, this, &GenericMainActions::forget,
+    if (!event->removed())
+        return;
+    // A child that is being destroyed is no longer an action; any other has a new parent.
+    if (const auto* const moved = qobject_cast<QAction*>(event->child()))
+        QObject::connect(moved, &QObject::destroyed, this, &GenericMainActions::forget,
                          Qt::UniqueConnection);
+    else
+        forget(event->child());
 }
 
 void GenericMainActions::forget(const QObject* destroyed)

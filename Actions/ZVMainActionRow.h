@@ -1,36 +1,6 @@
 #pragma once
 
-#include "Actions/StaticText.h"
-
 namespace Zorvane {
-
-/** What is done to an action after it is created. */
-struct ZVMainActionSettings
-{
-    enum Flag : unsigned
-    {
-        WindowContext = 1U << 0,
-        Disabled = 1U << 1,
-        Enabled = 1U << 2,
-        Checkable = 1U << 3,
-        Checked = 1U << 4,
-        Unchecked = 1U << 5,
-        IconTextIsText = 1U << 6,
-        InWindowGroup = 1U << 7,
-        OfCoordinates = 1U << 8,
-        OfStations = 1U << 9,
-        MayNeedStandards = 1U << 10
-    };
-    unsigned flags = 0;
-    /** The value in an exclusive group. */
-    int value = 0;
-    /** The angle that stands for "%1". */
-    int degrees = 0;
-    /** Another text, for the product with pitched stations. */
-    const char* pitchedText = nullptr;
-
-    constexpr bool has(Flag flag) const { return (flags & flag) != 0; }
-};
 
 /** A row of the table of the main actions. Texts are source texts, translated when it is used. */
 struct ZVMainActionRow
@@ -45,9 +15,9 @@ struct ZVMainActionRow
             KeyCode
         };
         Kind kind = None;
-        /** A `QKeySequence::StandardKey`, or a key code; 0 where only Qt can tell what is meant. */
+        /** A `QKeySequence::StandardKey`, or a key code; with `keys`, what they mean untranslated. */
         int key = 0;
-        /** To be translated. While it isn't, `key` is what it means. */
+        /** The keys in words, to be translated. */
         const char* keys = nullptr;
     };
 
@@ -62,7 +32,82 @@ struct ZVMainActionRow
             ProductCoordinates
         };
         Kind kind = None;
-        StaticText path;
+        const char* path = nullptr;
+    };
+
+    enum class Group
+    {
+        None,
+        WindowLayouts,
+        CoordinateSystems,
+        StationVisibilities
+    };
+
+    /** What is done to an action after it is created: by name, in a row only what it needs. */
+    struct Settings
+    {
+        bool isCheckable = false;
+        bool isChecked = false;
+        bool isDisabled = false;
+        bool hasTextAsIconText = false;
+        bool mayNeedStandards = false;
+        Group group = Group::None;
+        /** In a group of values, the action's. */
+        int value = 0;
+        /** The angle that stands for "%1". */
+        int degrees = 0;
+        /** Another text, for the product with pitched stations. */
+        const char* pitchedText = nullptr;
+
+        constexpr Settings checkable() const
+        {
+            Settings changed = *this;
+            changed.isCheckable = true;
+            return changed;
+        }
+        constexpr Settings checked() const
+        {
+            Settings changed = checkable();
+            changed.isChecked = true;
+            return changed;
+        }
+        constexpr Settings disabled() const
+        {
+            Settings changed = *this;
+            changed.isDisabled = true;
+            return changed;
+        }
+        constexpr Settings textAsIconText() const
+        {
+            Settings changed = *this;
+            changed.hasTextAsIconText = true;
+            return changed;
+        }
+        constexpr Settings needingStandards() const
+        {
+            Settings changed = *this;
+            changed.mayNeedStandards = true;
+            return changed;
+        }
+        constexpr Settings in(Group itsGroup, int itsValue = 0) const
+        {
+            Settings changed = *this;
+            changed.group = itsGroup;
+            changed.value = itsValue;
+            return changed;
+        }
+        constexpr Settings turnedBy(int angle) const
+        {
+            Settings changed = *this;
+            changed.degrees = angle;
+            return changed;
+        }
+        constexpr Settings onPitchedStations(const char* text) const
+        {
+            Settings changed = *this;
+            changed.pitchedText = text;
+            return changed;
+        }
     };
 
     /** A tool tip that is the text once more. */
@@ -70,21 +115,13 @@ struct ZVMainActionRow
 
     /** An id of `Actions`, or less than 0 for an action that is reached through its group only. */
     int id;
-    StaticText objectName;
+    const char* objectName;
     const char* text;
     /** Empty for none. */
     const char* toolTip;
     Shortcut shortcut;
     Icon icon;
-    ZVMainActionSettings settings;
+    Settings settings;
 };
-
-/** Both together; each says something of its own. */
-constexpr ZVMainActionSettings operator|(const ZVMainActionSettings& one,
-                                         const ZVMainActionSettings& other)
-{
-    return {one.flags | other.flags, one.value + other.value, one.degrees + other.degrees,
-            one.pitchedText ? one.pitchedText : other.pitchedText};
-}
 
 } // namespace Zorvane

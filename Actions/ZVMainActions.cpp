@@ -16,15 +16,16 @@ namespace Zorvane {
 
 namespace {
 
-using Settings = ZVMainActionSettings;
+using Group = ZVMainActionRow::Group;
+using Settings = ZVMainActionRow::Settings;
 
 QIcon createIcon(const ZVMainActionRow::Icon& icon)
 {
     switch (icon.kind) {
     case ZVMainActionRow::Icon::Svg:
-        return createSvgIcon(icon.path.toString());
+        return createSvgIcon(QString::fromLatin1(icon.path));
     case ZVMainActionRow::Icon::TwoSizeSvg:
-        return createTwoSizeSvgIcon(icon.path.toString());
+        return createTwoSizeSvgIcon(QString::fromLatin1(icon.path));
     case ZVMainActionRow::Icon::Overview:
         return createSvgIcon(Resources::getIconPathProvider()->getOverviewIconPath());
     case ZVMainActionRow::Icon::ProductCoordinates:
@@ -39,9 +40,11 @@ QIcon createIcon(const ZVMainActionRow::Icon& icon)
 QKeySequence translatedKeys(const ZVMainActionRow::Shortcut& shortcut)
 {
     const QString text = ZVMainActions::tr(shortcut.keys);
-    if (shortcut.key != 0 && text == QLatin1String(shortcut.keys))
-        return QKeySequence(shortcut.key);
-    return QKeySequence(text, QKeySequence::NativeText);
+    if (text != QLatin1String(shortcut.keys))
+        return QKeySequence(text, QKeySequence::NativeText);
+    // Source texts are portable; Qt would look for native names in them for much longer.
+    return shortcut.key == 0 ? QKeySequence(text, QKeySequence::PortableText)
+                             : QKeySequence(shortcut.key);
 }
 
 QKeySequence shortcutOf(const ZVMainActionRow::Shortcut& shortcut)
@@ -93,22 +96,13 @@ bool isExportRestricted()
 
 void applySettings(const Settings& settings, QAction* action)
 {
-    if (settings.has(Settings::WindowContext))
-        action->setShortcutContext(Qt::WindowShortcut);
-    if (settings.has(Settings::IconTextIsText))
+    action->setCheckable(settings.isCheckable);
+    action->setChecked(settings.isChecked);
+    action->setDisabled(settings.isDisabled);
+    if (settings.hasTextAsIconText)
         action->setIconText(action->text());
-    if (settings.has(Settings::Checkable))
-        action->setCheckable(true);
-    if (settings.has(Settings::Checked))
-        action->setChecked(true);
-    if (settings.has(Settings::Unchecked))
-        action->setChecked(false);
-    if (settings.has(Settings::Disabled))
-        action->setEnabled(false);
-    if (settings.has(Settings::Enabled))
-        action->setEnabled(true);
-    // Set as it is: it has no shortcut to tell of.
-    if (settings.has(Settings::MayNeedStandards) && isExportRestricted())
+    // Set as it is: it has no shortcut to be shown with it.
+    if (settings.mayNeedStandards && isExportRestricted())
         action->setToolTip(
             ZVMainActions::tr("The export of the complete VanTrel Data is disabled. Select a "
                               "VanTrel Export Standards are required."));
@@ -183,47 +177,43 @@ ZVExclusiveActionGroup* ZVMainActions::getViewReferenceStationVisibilityGroup()
 void ZVMainActions::initActions()
 {
     mapReverse();
-    ActionsById created{};
     for (int i = 0; i < s_rowCount; ++i) {
         const ZVMainActionRow& row = s_rows[i];
         const QString text = textOf(row);
         QAction* const action =
             createAction(text, createIcon(row.icon), toolTipOf(row, text), shortcutOf(row.shortcut),
-                         this, row.objectName.toString());
+                         this, QString::fromLatin1(row.objectName));
         if (row.id >= 0)
-            created[std::size_t(row.id)] = action;
+            m_actions[row.id] = action;
         applySettings(row.settings, action);
-        addToGroup(row.settings, action);
+        addToGroup(row, action);
     }
-    enter(created);
 }
 
-void ZVMainActions::enter(const ActionsById& created)
+void ZVMainActions::addToGroup(const ZVMainActionRow& row, QAction* action)
 {
-    // From the last to the first, each is put in front of the others without a search.
-    for (std::size_t id = created.size(); id-- > 0;)
-        if (created[id])
-            m_actions.insert(m_actions.cbegin(), int(id), created[id]);
-}
-
-void ZVMainActions::addToGroup(const ZVMainActionSettings& settings, QAction* action)
-{
-    if (settings.has(Settings::InWindowGroup)) {
+    const auto addTo = [&](ZVExclusiveActionGroup*& group) {
+        if (!group)
+            group = new ZVExclusiveActionGroup(this);
+        group->addAction(action, row.settings.value);
+    };
+    switch (row.settings.group) {
+    case Group::WindowLayouts:
         if (!m_windowLayouts) {
             m_windowLayouts = new QActionGroup(this);
             m_windowLayouts->setObjectName(QStringLiteral("WindowGroup"));
         }
         m_windowLayouts->addAction(action);
-    }
-    const auto addTo = [&](ZVExclusiveActionGroup*& group) {
-        if (!group)
-            group = new ZVExclusiveActionGroup(this);
-        group->addAction(action, settings.value);
-    };
-    if (settings.has(Settings::OfCoordinates))
+        break;
+    case Group::CoordinateSystems:
         addTo(m_coordinateSystems);
-    if (settings.has(Settings::OfStations))
+        break;
+    case Group::StationVisibilities:
         addTo(m_stationVisibilities);
+        break;
+    case Group::None:
+        break;
+    }
 }
 
 } // namespace Zorvane

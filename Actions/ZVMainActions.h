@@ -4,7 +4,6 @@
 
 #include <QtCore/QString>
 
-#include <array>
 #include <vector>
 
 QT_BEGIN_NAMESPACE
@@ -15,7 +14,6 @@ namespace Zorvane {
 
 class ZVExclusiveActionGroup;
 struct ZVMainActionRow;
-struct ZVMainActionSettings;
 
 /**
  * The main application's commands, one table for the process: texts, tool tips, icons, shortcuts
@@ -180,15 +178,12 @@ public:
     ZVExclusiveActionGroup* getViewReferenceStationVisibilityGroup();
 
 private:
-    using ActionsById = std::array<QAction*, OpenFromVanTrelWithStandard + 1>;
-
     ZVMainActions();
     ~ZVMainActions() override;
 
     static ZVMainActions*& theInstancePtr();
     void initActions();
-    void enter(const ActionsById& created);
-    void addToGroup(const ZVMainActionSettings& settings, QAction* action);
+    void addToGroup(const ZVMainActionRow& row, QAction* action);
 
     static const ZVMainActionRow s_rows[];
     static const int s_rowCount;
