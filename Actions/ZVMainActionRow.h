@@ -15,7 +15,7 @@ struct ZVMainActionRow
             KeyCode
         };
         Kind kind = None;
-        /** A `QKeySequence::StandardKey`, or a key code; with `keys`, what they mean untranslated. */
+        /** A `QKeySequence::StandardKey` or a key code; with `keys`, their untranslated meaning. */
         int key = 0;
         /** The keys in words, to be translated. */
         const char* keys = nullptr;

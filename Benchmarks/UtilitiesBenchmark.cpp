@@ -176,6 +176,7 @@ int main(int argc, char** argv)
 {
     using namespace Zorvane;
     using namespace Benchmarks;
+    // At most 2.0, 1.5, and for the delegate 2.0: a view that paints shows nothing of less.
     addTimeRow("colours/100000-ids", benchmark::kNanosecond, lookUpShownIds<s_manyIds>,
                lookUpShownIds<s_fewIds>);
     addTimeRow("colours/10-ids", benchmark::kNanosecond, lookUpShownIds<s_fewIds>, scanForShownIds);

@@ -2,6 +2,7 @@
 
 #include <QtCore/QString>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -10,9 +11,9 @@ namespace Zorvane {
 namespace {
 
 constexpr int s_noColor = -1;
-constexpr int s_lastColor = int(FreeSlots::Colors) - 1;
+constexpr int s_lastColor = 7;
 
-using Palette = std::array<QColor, FreeSlots::Colors>;
+using Palette = std::array<QColor, s_lastColor + 1>;
 
 const Palette& palette()
 {
@@ -39,7 +40,7 @@ const QColor& IdentifierToColorMap::getColor(const std::string& id)
     // Views ask this for every row they paint: the way to a known identifier's colour is short.
     const auto known = m_slots.find(id);
     if (known != m_slots.end())
-        return palette()[known->second % FreeSlots::Colors];
+        return palette()[known->second % colorCount];
     return getColor(getColorIndex(id));
 }
 
@@ -60,8 +61,8 @@ int IdentifierToColorMap::assignColor(const std::string& id)
     const auto known = m_slots.find(id);
     if (known != m_slots.end())
         return int(known->second);
-    const std::size_t slot = m_freeSlots.lowest();
-    m_freeSlots.take(slot);
+    const std::size_t slot = *std::min_element(m_firstFree.begin(), m_firstFree.end());
+    take(slot);
     m_slots.emplace(id, slot);
     return int(slot);
 }
@@ -72,8 +73,8 @@ void IdentifierToColorMap::setColorIndex(const std::string& id, int index)
         return;
     unassignColor(id);
     const int first = index < 0 ? index & s_lastColor : index;
-    const std::size_t slot = m_freeSlots.lowestOfColor(std::size_t(first));
-    m_freeSlots.take(slot);
+    const std::size_t slot = freeSlotFrom(std::size_t(first));
+    take(slot);
     hold(id, slot);
 }
 
@@ -89,13 +90,33 @@ void IdentifierToColorMap::reassignColor(const std::string& oldId, const std::st
 
 void IdentifierToColorMap::unassignColor(const std::string& id)
 {
-    if (m_slots.count(id) != 0)
-        m_freeSlots.add(release(id));
+    if (m_slots.count(id) == 0)
+        return;
+    const std::size_t slot = release(id);
+    m_taken.erase(slot);
+    std::size_t& firstFree = m_firstFree[slot % colorCount];
+    firstFree = std::min(firstFree, slot);
 }
 
 void IdentifierToColorMap::clear()
 {
     *this = IdentifierToColorMap();
+}
+
+std::size_t IdentifierToColorMap::freeSlotFrom(std::size_t first) const
+{
+    std::size_t slot = std::max(first, m_firstFree[first % colorCount]);
+    while (m_taken.count(slot) != 0)
+        slot += colorCount;
+    return slot;
+}
+
+void IdentifierToColorMap::take(std::size_t slot)
+{
+    m_taken.insert(slot);
+    std::size_t& firstFree = m_firstFree[slot % colorCount];
+    if (slot == firstFree)
+        firstFree = freeSlotFrom(slot);
 }
 
 void IdentifierToColorMap::hold(const std::string& id, std::size_t slot)

@@ -1,15 +1,15 @@
 #pragma once
 
 #include "UiToolsExport.h"
-#include "Utilities/FreeSlots.h"
-#include "Utilities/IdentifierHash.h"
 
 #include <QtGui/QColor>
 
+#include <array>
 #include <cstddef>
 #include <set>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace Zorvane {
 
@@ -54,17 +54,24 @@ public:
     void clear();
 
 private:
+    static constexpr std::size_t colorCount = 8;
+
     int assignColor(const std::string& id);
     const QColor& getColor(int index) const;
 
+    /** The first free one of the slots first, first + 8, first + 16, ... */
+    std::size_t freeSlotFrom(std::size_t first) const;
+    void take(std::size_t slot);
     void hold(const std::string& id, std::size_t slot);
     /** Takes the identifier's lowest slot away from it, which leaves that slot not yet free. */
     std::size_t release(const std::string& id);
 
-    std::unordered_map<std::string, std::size_t, IdentifierHash> m_slots;
+    std::unordered_map<std::string, std::size_t> m_slots;
     /** What identifiers hold above their slot in `m_slots`; hardly any do. */
-    std::unordered_map<std::string, std::set<std::size_t>, IdentifierHash> m_higherSlots;
-    FreeSlots m_freeSlots;
+    std::unordered_map<std::string, std::set<std::size_t>> m_higherSlots;
+    std::unordered_set<std::size_t> m_taken;
+    /** The lowest free slot of each colour. */
+    std::array<std::size_t, colorCount> m_firstFree{0, 1, 2, 3, 4, 5, 6, 7};
 };
 
 } // namespace Zorvane

@@ -73,12 +73,7 @@ void drawKept(QPainter* painter, const QTransform& device, const QRect& pixels,
 {
     const qreal scale = std::min(device.m11(), device.m22());
     const QImage image = imageOf({patch, pixels.size(), scale});
-    const QRectF target = device.inverted().mapRect(QRectF(pixels));
-    // Most screens; Qt is faster where it need not ask whether the image is to be stretched.
-    if (device.type() <= QTransform::TxTranslate)
-        painter->drawImage(target.topLeft(), image);
-    else
-        painter->drawImage(target, image);
+    painter->drawImage(device.inverted().mapRect(QRectF(pixels)), image);
 }
 
 void drawPatch(QPainter* painter, const QRect& rect, ColorPatch patch)

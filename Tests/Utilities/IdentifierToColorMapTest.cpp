@@ -1,7 +1,6 @@
 #include "Utilities/IdentifierToColorMap.h"
 
 #include "Tests/Support/TestCase.h"
-#include "Utilities/IdentifierHash.h"
 
 #include <QtGui/QColor>
 
@@ -10,7 +9,6 @@
 #include <rapidcheck.h>
 #include <string>
 #include <tuple>
-#include <unordered_set>
 #include <vector>
 
 using namespace Zorvane;
@@ -112,8 +110,6 @@ private Q_SLOTS:
     void oneInstanceIsShared();
     void colorsStayWhereTheyAre();
     void followsThePlainRules();
-    void hashesOfLikeIdentifiersDiffer_data();
-    void hashesOfLikeIdentifiersDiffer();
 };
 
 void IdentifierToColorMapTest::givesPaletteColorsInOrder_data()
@@ -417,33 +413,6 @@ void IdentifierToColorMapTest::followsThePlainRules()
         for (int i = 0; i < 2 * ids; ++i)
             RC_ASSERT(map.getColorIndex(idOf(i)) == plain.colorIndex(idOf(i)));
     }));
-}
-
-void IdentifierToColorMapTest::hashesOfLikeIdentifiersDiffer_data()
-{
-    QTest::addColumn<QString>("pattern");
-    QTest::newRow("short numbers") << QStringLiteral("%1");
-    QTest::newRow("number at the end") << QStringLiteral("a part of the door, number %1");
-    QTest::newRow("number in front") << QStringLiteral("%1: a part of the door");
-    QTest::newRow("digits far apart") << QStringLiteral("%1 and once more %1 in the end");
-    QTest::newRow("UUID") << QStringLiteral("{6fa459ea-ee8a-3ca4-894e-db77e160%1}");
-}
-
-void IdentifierToColorMapTest::hashesOfLikeIdentifiersDiffer()
-{
-    QFETCH(QString, pattern);
-    constexpr std::size_t count = 60'000;
-    std::unordered_set<std::size_t> hashes;
-    std::unordered_set<std::size_t> lowBits;
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::size_t hash =
-            IdentifierHash()(pattern.arg(i, 5, 10, QLatin1Char('0')).toStdString());
-        hashes.insert(hash);
-        lowBits.insert(hash % 65'536);
-    }
-    QCOMPARE(hashes.size(), count);
-    // Chance leaves 60 % of so many places taken; tables of a power of two look at these bits.
-    QVERIFY2(lowBits.size() > 65'536 * 55 / 100, qPrintable(QString::number(lowBits.size())));
 }
 
 ZORVANE_TEST(IdentifierToColorMapTest)
