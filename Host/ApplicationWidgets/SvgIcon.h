@@ -4,11 +4,34 @@
 
 #include <QtGui/QIcon>
 
+#include <memory>
+
 namespace Zorvane {
 
 /**
- * Icons from SVG files, mostly of the resources. A file is read when the icon is first painted, so
- * that an action nobody looks at costs nothing. `currentColor` in a drawing becomes the text colour
+ * Makes icons from SVG files, mostly of the resources. A suite with icons of its own derives from
+ * it and registers that; icons that were made before stay as they are.
+ */
+class ZORVANE_HOST_EXPORT IconFactory
+{
+public:
+    IconFactory();
+    IconFactory(const IconFactory&);
+    IconFactory& operator=(const IconFactory&);
+    virtual ~IconFactory();
+
+    /** Returns the instance before, which it replaces. Null stands for our own. */
+    static std::shared_ptr<IconFactory> registerInstance(std::shared_ptr<IconFactory> instance);
+
+    /** What `createSvgIcon` returns. */
+    virtual QIcon createIcon(const QString& path) const;
+    /** What `createTwoSizeSvgIcon` returns. */
+    virtual QIcon createTwoSizeIcon(const QString& path) const;
+};
+
+/**
+ * An icon of the registered factory. Ours reads the file when the icon is first painted, so that
+ * an action that is never shown costs nothing. `currentColor` in a drawing becomes the text colour
  * of the application's palette, and follows it; a disabled icon fades towards the background.
  *
  * A file that cannot be read leaves the icon empty, with a warning in the log when it is painted.

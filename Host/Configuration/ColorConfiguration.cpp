@@ -34,9 +34,12 @@ std::shared_ptr<ColorConfiguration> ColorConfiguration::getRegisteredInstance()
     return registered();
 }
 
-void ColorConfiguration::registerInstance(std::shared_ptr<ColorConfiguration> instance)
+std::shared_ptr<ColorConfiguration>
+ColorConfiguration::registerInstance(std::shared_ptr<ColorConfiguration> instance)
 {
-    registered() = instance ? std::move(instance) : std::make_shared<ColorConfiguration>();
+    if (!instance)
+        instance = std::make_shared<ColorConfiguration>();
+    return std::exchange(registered(), std::move(instance));
 }
 
 ColorConfiguration::Color ColorConfiguration::getColor(int id) const

@@ -32,8 +32,9 @@ public:
 
     /** Never null: the application's own when it registered one, else one without colours. */
     static std::shared_ptr<ColorConfiguration> getRegisteredInstance();
-    /** Takes the place of the instance before; null takes the application's own out again. */
-    static void registerInstance(std::shared_ptr<ColorConfiguration> instance);
+    /** Returns the instance before, which it replaces. Null stands for one without colours. */
+    static std::shared_ptr<ColorConfiguration>
+    registerInstance(std::shared_ptr<ColorConfiguration> instance);
 
     /** The colour of this id; a medium grey for an id that has none. */
     virtual Color getColor(int id) const;

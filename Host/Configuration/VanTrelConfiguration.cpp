@@ -24,9 +24,10 @@ std::shared_ptr<VanTrelConfiguration> VanTrelConfiguration::getRegisteredInstanc
     return registeredProgramSettings();
 }
 
-void VanTrelConfiguration::registerInstance(std::shared_ptr<VanTrelConfiguration> instance)
+std::shared_ptr<VanTrelConfiguration>
+VanTrelConfiguration::registerInstance(std::shared_ptr<VanTrelConfiguration> instance)
 {
-    registeredProgramSettings() = std::move(instance);
+    return std::exchange(registeredProgramSettings(), std::move(instance));
 }
 
 bool VanTrelConfiguration::getDisableExportWithoutStandard() const

@@ -23,8 +23,9 @@ public:
 
     /** Null without data exchange. */
     static std::shared_ptr<VanTrelConfiguration> getRegisteredInstance();
-    /** Takes the place of the instance before; null for none. */
-    static void registerInstance(std::shared_ptr<VanTrelConfiguration> instance);
+    /** Returns the instance before, which it replaces. Null stands for none. */
+    static std::shared_ptr<VanTrelConfiguration>
+    registerInstance(std::shared_ptr<VanTrelConfiguration> instance);
 
     /** Whether data may leave only by way of export standards. False at first. */
     virtual bool getDisableExportWithoutStandard() const;

@@ -4,35 +4,50 @@
 #include <QtCore/QSettings>
 #include <QtCore/QStandardPaths>
 
+#include <cstddef>
+#include <utility>
+
 namespace Zorvane {
 
 namespace {
 
+using Folder = PathConfiguration::Folder;
+
 /** A folder's name in settings and on disk, and its environment variable. */
-struct Folder
+struct FolderName
 {
     QLatin1String name;
     const char* variable;
 };
 
+const FolderName s_dataRoot{QLatin1String("Data"), "ZORVANE_PATH_DATA"};
+
 // clang-format off
-const Folder s_data           {QLatin1String("Data"),            "ZORVANE_PATH_DATA"};
-const Folder s_myDocuments    {QLatin1String("MyDocuments"),     "ZORVANE_PATH_MY_DOCUMENTS"};
-const Folder s_presses        {QLatin1String("Presses"),         "ZORVANE_PATH_PRESSES"};
-const Folder s_materials      {QLatin1String("Materials"),       "ZORVANE_PATH_MATERIALS"};
-const Folder s_lubrication    {QLatin1String("Lubrication"),     "ZORVANE_PATH_LUBRICATION"};
-const Folder s_standards      {QLatin1String("Standards"),       "ZORVANE_PATH_STANDARDS"};
-const Folder s_designTemplates{QLatin1String("DesignTemplates"), "ZORVANE_PATH_DESIGN_TEMPLATES"};
-const Folder s_drawbeads      {QLatin1String("Drawbeads"),       "ZORVANE_PATH_DRAWBEADS"};
-const Folder s_formability    {QLatin1String("Formability"),     "ZORVANE_PATH_FORMABILITY"};
-const Folder s_addendum       {QLatin1String("Addendum"),        "ZORVANE_PATH_ADDENDUM"};
-const Folder s_hemmingTools   {QLatin1String("HemmingTools"),    "ZORVANE_PATH_HEMMING_TOOLS"};
-const Folder s_guidelines     {QLatin1String("Guidelines"),      "ZORVANE_PATH_GUIDELINES"};
-const Folder s_connectors     {QLatin1String("Connectors"),      "ZORVANE_PATH_CONNECTORS"};
+/** By the values of `Folder`. */
+const FolderName s_folderNames[]{
+    {QLatin1String("MyDocuments"),     "ZORVANE_PATH_MY_DOCUMENTS"},
+    {QLatin1String("Presses"),         "ZORVANE_PATH_PRESSES"},
+    {QLatin1String("Materials"),       "ZORVANE_PATH_MATERIALS"},
+    {QLatin1String("Lubrication"),     "ZORVANE_PATH_LUBRICATION"},
+    {QLatin1String("Standards"),       "ZORVANE_PATH_STANDARDS"},
+    {QLatin1String("DesignTemplates"), "ZORVANE_PATH_DESIGN_TEMPLATES"},
+    {QLatin1String("Drawbeads"),       "ZORVANE_PATH_DRAWBEADS"},
+    {QLatin1String("Formability"),     "ZORVANE_PATH_FORMABILITY"},
+    {QLatin1String("Addendum"),        "ZORVANE_PATH_ADDENDUM"},
+    {QLatin1String("HemmingTools"),    "ZORVANE_PATH_HEMMING_TOOLS"},
+    {QLatin1String("Guidelines"),      "ZORVANE_PATH_GUIDELINES"},
+    {QLatin1String("Connectors"),      "ZORVANE_PATH_CONNECTORS"},
+};
 // clang-format on
 
+std::shared_ptr<PathConfiguration>& registeredFolders()
+{
+    static auto s_instance = std::make_shared<PathConfiguration>();
+    return s_instance;
+}
+
 /** The path that the environment or the settings give the folder; empty if neither does. */
-QString overrideOf(const Folder& folder)
+QString overrideOf(const FolderName& folder)
 {
     const QString candidates[]{
         qEnvironmentVariable(folder.variable),
@@ -45,7 +60,7 @@ QString overrideOf(const Folder& folder)
     return {};
 }
 
-QString standardDataPath(const Folder& folder)
+QString standardDataPath(const FolderName& folder)
 {
     const QString below = QStringLiteral("zorvane/") + folder.name;
     const QString existing = QStandardPaths::locate(QStandardPaths::GenericDataLocation, below,
@@ -55,77 +70,102 @@ QString standardDataPath(const Folder& folder)
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u'/' + below;
 }
 
-FileName dataPath(const Folder& folder)
+QString dataPath(const FolderName& folder)
 {
-    const QString own = overrideOf(folder);
-    if (!own.isEmpty())
-        return FileName(own);
-    const QString root = overrideOf(s_data);
-    return FileName(root.isEmpty() ? standardDataPath(folder) : QDir(root).filePath(folder.name));
+    const QString root = overrideOf(s_dataRoot);
+    return root.isEmpty() ? standardDataPath(folder) : QDir(root).filePath(folder.name);
+}
+
+FileName registeredFolder(Folder folder)
+{
+    const std::shared_ptr<const PathConfiguration> folders = registeredFolders();
+    return folders->getFolder(folder);
 }
 
 } // namespace
 
+PathConfiguration::PathConfiguration() = default;
+PathConfiguration::PathConfiguration(const PathConfiguration&) = default;
+PathConfiguration& PathConfiguration::operator=(const PathConfiguration&) = default;
+PathConfiguration::~PathConfiguration() = default;
+
+std::shared_ptr<PathConfiguration>
+PathConfiguration::registerInstance(std::shared_ptr<PathConfiguration> instance)
+{
+    if (!instance)
+        instance = std::make_shared<PathConfiguration>();
+    return std::exchange(registeredFolders(), std::move(instance));
+}
+
+FileName PathConfiguration::getFolder(Folder folder) const
+{
+    const FolderName& name = s_folderNames[std::size_t(folder)];
+    const QString own = overrideOf(name);
+    if (!own.isEmpty())
+        return FileName(own);
+    return FileName(folder == Folder::MyDocuments
+                        ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                        : dataPath(name));
+}
+
 FileName PathConfiguration::getZvPathMyDocuments()
 {
-    const QString own = overrideOf(s_myDocuments);
-    return FileName(
-        own.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) : own);
+    return registeredFolder(Folder::MyDocuments);
 }
 
 FileName PathConfiguration::getZvPathPressesFiles()
 {
-    return dataPath(s_presses);
+    return registeredFolder(Folder::Presses);
 }
 
 FileName PathConfiguration::getZvPathMaterialFiles()
 {
-    return dataPath(s_materials);
+    return registeredFolder(Folder::Materials);
 }
 
 FileName PathConfiguration::getZvPathLubricationFiles()
 {
-    return dataPath(s_lubrication);
+    return registeredFolder(Folder::Lubrication);
 }
 
 FileName PathConfiguration::getZvPathStandardFiles()
 {
-    return dataPath(s_standards);
+    return registeredFolder(Folder::Standards);
 }
 
 FileName PathConfiguration::getZvPathTemplateDesignFiles()
 {
-    return dataPath(s_designTemplates);
+    return registeredFolder(Folder::DesignTemplates);
 }
 
 FileName PathConfiguration::getZvPathDrawbeadFiles()
 {
-    return dataPath(s_drawbeads);
+    return registeredFolder(Folder::Drawbeads);
 }
 
 FileName PathConfiguration::getZvPathFormabilityFiles()
 {
-    return dataPath(s_formability);
+    return registeredFolder(Folder::Formability);
 }
 
 FileName PathConfiguration::getZvPathAddendumFiles()
 {
-    return dataPath(s_addendum);
+    return registeredFolder(Folder::Addendum);
 }
 
 FileName PathConfiguration::getZvPathHemmingToolFiles()
 {
-    return dataPath(s_hemmingTools);
+    return registeredFolder(Folder::HemmingTools);
 }
 
 FileName PathConfiguration::getZvPathGuidelineFiles()
 {
-    return dataPath(s_guidelines);
+    return registeredFolder(Folder::Guidelines);
 }
 
 FileName PathConfiguration::getZvPathConnectorFiles()
 {
-    return dataPath(s_connectors);
+    return registeredFolder(Folder::Connectors);
 }
 
 } // namespace Zorvane

@@ -3,10 +3,12 @@
 #include "Host/FileHandling/FileName.h"
 #include "Host/HostExport.h"
 
+#include <memory>
+
 namespace Zorvane {
 
 /**
- * The folders that the suite is set up with. Each getter looks at every call, in this order:
+ * The folders that the suite is set up with. Ours looks at every call, in this order:
  * 1. the environment variable "ZORVANE_PATH_" + the folder's name in capitals and underscores;
  * 2. the application's setting "Paths/" + the folder's name;
  * 3. for the data folders, the sub-folder of that name in the data root, which
@@ -16,12 +18,42 @@ namespace Zorvane {
  *
  * An override must be an absolute path; a relative one would name another folder at every start
  * and is ignored. Nothing is created, and the folder need not exist.
+ *
+ * A suite that keeps its folders elsewhere derives from it and registers that.
  */
 class ZORVANE_HOST_EXPORT PathConfiguration
 {
 public:
-    PathConfiguration() = delete;
+    /** In settings, a folder has the name of its value. All but the documents are data folders. */
+    enum class Folder
+    {
+        MyDocuments,
+        Presses,
+        Materials,
+        Lubrication,
+        Standards,
+        DesignTemplates,
+        Drawbeads,
+        Formability,
+        Addendum,
+        HemmingTools,
+        Guidelines,
+        Connectors
+    };
 
+    PathConfiguration();
+    PathConfiguration(const PathConfiguration&);
+    PathConfiguration& operator=(const PathConfiguration&);
+    virtual ~PathConfiguration();
+
+    /** Returns the instance before, which it replaces. Null stands for our own. */
+    static std::shared_ptr<PathConfiguration>
+    registerInstance(std::shared_ptr<PathConfiguration> instance);
+
+    /** What the getters below return. */
+    virtual FileName getFolder(Folder folder) const;
+
+    // What the registered instance says.
     static FileName getZvPathMyDocuments();
     static FileName getZvPathPressesFiles();
     static FileName getZvPathMaterialFiles();

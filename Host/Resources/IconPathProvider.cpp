@@ -19,6 +19,14 @@ IconPathProvider::IconPathProvider(const IconPathProvider&) = default;
 IconPathProvider& IconPathProvider::operator=(const IconPathProvider&) = default;
 IconPathProvider::~IconPathProvider() = default;
 
+std::shared_ptr<IconPathProvider>
+IconPathProvider::registerInstance(std::shared_ptr<IconPathProvider> instance)
+{
+    if (!instance)
+        instance = std::make_shared<IconPathProvider>();
+    return std::exchange(registered(), std::move(instance));
+}
+
 QString IconPathProvider::getOverviewIconPath() const
 {
     return QStringLiteral(":/Icons/Ribbon/view_overview.svg");
@@ -36,7 +44,7 @@ std::shared_ptr<IconPathProvider> getIconPathProvider()
 
 void registerIconPathProvider(std::shared_ptr<IconPathProvider> provider)
 {
-    registered() = provider ? std::move(provider) : std::make_shared<IconPathProvider>();
+    IconPathProvider::registerInstance(std::move(provider));
 }
 
 } // namespace Zorvane::Resources

@@ -20,6 +20,10 @@ public:
     IconPathProvider& operator=(const IconPathProvider&);
     virtual ~IconPathProvider();
 
+    /** Returns the instance before, which it replaces. Null stands for the suite's. */
+    static std::shared_ptr<IconPathProvider>
+    registerInstance(std::shared_ptr<IconPathProvider> instance);
+
     /** The overview of what is selected; an SVG file, for `createSvgIcon`. */
     virtual QString getOverviewIconPath() const;
     /** Product coordinates; without size and ending, for `createTwoSizeSvgIcon`. */
@@ -28,7 +32,7 @@ public:
 
 /** Never null: the application's own when it registered one, else the suite's. */
 ZORVANE_HOST_EXPORT std::shared_ptr<IconPathProvider> getIconPathProvider();
-/** Takes the place of the provider before; null takes the application's own out again. */
+/** The same as `IconPathProvider::registerInstance`. */
 ZORVANE_HOST_EXPORT void registerIconPathProvider(std::shared_ptr<IconPathProvider> provider);
 
 } // namespace Zorvane::Resources

@@ -16,6 +16,7 @@
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace Zorvane {
@@ -23,6 +24,12 @@ namespace Zorvane {
 namespace {
 
 constexpr int s_frameWidth = 1;
+
+std::shared_ptr<MessageBoxPresenter>& registeredPresenter()
+{
+    static auto s_instance = std::make_shared<MessageBoxPresenter>();
+    return s_instance;
+}
 
 QMessageBox::StandardButton ask(QMessageBox::Icon icon, QWidget* parent, const QString& title,
                                 const QString& text, QMessageBox::StandardButtons buttons,
@@ -40,6 +47,24 @@ QMessageBox::StandardButton ask(QMessageBox::Icon icon, QWidget* parent, const Q
 }
 
 } // namespace
+
+MessageBoxPresenter::MessageBoxPresenter() = default;
+MessageBoxPresenter::MessageBoxPresenter(const MessageBoxPresenter&) = default;
+MessageBoxPresenter& MessageBoxPresenter::operator=(const MessageBoxPresenter&) = default;
+MessageBoxPresenter::~MessageBoxPresenter() = default;
+
+std::shared_ptr<MessageBoxPresenter>
+MessageBoxPresenter::registerInstance(std::shared_ptr<MessageBoxPresenter> instance)
+{
+    if (!instance)
+        instance = std::make_shared<MessageBoxPresenter>();
+    return std::exchange(registeredPresenter(), std::move(instance));
+}
+
+void MessageBoxPresenter::present(ZVMessageBox& box)
+{
+    box.QMessageBox::exec();
+}
 
 ZVMessageBox::ZVMessageBox(Icon icon, const QString& title, const QString& text,
                            StandardButtons buttons, QWidget* parent, Qt::WindowFlags flags)
@@ -68,6 +93,15 @@ void ZVMessageBox::setTitleCloseButtonVisible(bool visible)
         m_titleBar->closeButton()->setVisible(visible);
     else
         setWindowFlag(Qt::WindowCloseButtonHint, visible);
+}
+
+int ZVMessageBox::exec()
+{
+    const QPointer<ZVMessageBox> self(this);
+    const std::shared_ptr<MessageBoxPresenter> presenter = registeredPresenter();
+    setResult(0);
+    presenter->present(*this);
+    return self ? result() : 0;
 }
 
 void ZVMessageBox::setMaximumWidth(int width)

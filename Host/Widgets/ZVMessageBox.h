@@ -7,10 +7,36 @@
 #include <QtWidgets/QMessageBox>
 
 #include <functional>
+#include <memory>
 
 namespace Zorvane {
 
 class MessageBoxTitleBar;
+class ZVMessageBox;
+
+/**
+ * Shows all message boxes that wait for an answer. An application that asks its user in another
+ * way, or runs without one, derives from it and registers that.
+ */
+class ZORVANE_HOST_EXPORT MessageBoxPresenter
+{
+public:
+    MessageBoxPresenter();
+    MessageBoxPresenter(const MessageBoxPresenter&);
+    MessageBoxPresenter& operator=(const MessageBoxPresenter&);
+    virtual ~MessageBoxPresenter();
+
+    /** Returns the instance before, which it replaces. Null stands for our own. */
+    static std::shared_ptr<MessageBoxPresenter>
+    registerInstance(std::shared_ptr<MessageBoxPresenter> instance);
+
+    /**
+     * Returns when the box is answered: when one of its buttons was clicked, by `click()` also
+     * without showing it. A box left without a click counts as closed. The box may be deleted
+     * meanwhile.
+     */
+    virtual void present(ZVMessageBox& box);
+};
 
 /**
  * The suite's message box. Everything of `QMessageBox` holds, with five differences:
@@ -38,6 +64,9 @@ public:
 
     bool isTitleCloseButtonVisible() const;
     void setTitleCloseButtonVisible(bool visible);
+
+    /** Has the registered presenter show the box. Returns the standard button, 0 for none. */
+    int exec() override;
 
     /** In pixels. Buttons and single words that need more get it. */
     void setMaximumWidth(int width);

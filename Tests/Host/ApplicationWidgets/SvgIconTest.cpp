@@ -1,5 +1,6 @@
 #include "Host/ApplicationWidgets/SvgIcon.h"
 
+#include "Host/ScopedReplacement.h"
 #include "Tests/Support/TestCase.h"
 
 #include <QtCore/QDirIterator>
@@ -9,6 +10,8 @@
 #include <QtGui/QPainter>
 #include <QtGui/QPalette>
 #include <QtGui/QPixmapCache>
+
+#include <memory>
 
 using namespace Zorvane;
 
@@ -95,6 +98,7 @@ private:
 
     QTemporaryDir m_folder;
     QPalette m_before;
+    void replacedFactory_makesTheIcons();
 };
 
 void SvgIconTest::init()
@@ -272,6 +276,26 @@ void SvgIconTest::everyDrawingOfTheSuiteCanBeSeen()
             QVERIFY2(seen < 250, qPrintable(QString::number(seen)));
         }
     }
+}
+
+void SvgIconTest::replacedFactory_makesTheIcons()
+{
+    struct Dots : IconFactory
+    {
+        QIcon createIcon(const QString&) const override
+        {
+            QPixmap dot(1, 1);
+            dot.fill(Qt::red);
+            return dot;
+        }
+    };
+    const QString path = QStringLiteral(":/Icons/Shared/add_16.svg");
+    {
+        const ScopedReplacement<IconFactory> icons(std::make_shared<Dots>());
+        QCOMPARE(createSvgIcon(path).availableSizes(), {QSize(1, 1)});
+        QVERIFY(createTwoSizeSvgIcon(path).availableSizes().isEmpty());
+    }
+    QVERIFY(createSvgIcon(path).availableSizes().isEmpty());
 }
 
 ZORVANE_TEST(SvgIconTest)

@@ -1,5 +1,6 @@
 #include "Host/Configuration/ColorConfiguration.h"
 
+#include "Host/ScopedReplacement.h"
 #include "Tests/Support/TestCase.h"
 
 #include <cmath>
@@ -40,6 +41,7 @@ private Q_SLOTS:
     void componentsStayWithinBounds();
     void copiesAreIndependent();
     void colorsMayBeWorkedOut();
+    void replacedColors_endWithTheirScope();
 };
 
 void ColorConfigurationTest::cleanup()
@@ -111,6 +113,18 @@ void ColorConfigurationTest::colorsMayBeWorkedOut()
 {
     ColorConfiguration::registerInstance(std::make_shared<ComputedColors>());
     compare(ColorConfiguration::getRegisteredInstance()->getColor(1), 0.1F, 0.0F, 0.0F);
+}
+
+void ColorConfigurationTest::replacedColors_endWithTheirScope()
+{
+    const auto before = ColorConfiguration::getRegisteredInstance();
+    const auto own = std::make_shared<ComputedColors>();
+    {
+        const ScopedReplacement<ColorConfiguration> colors(own);
+        QCOMPARE(ColorConfiguration::getRegisteredInstance(),
+                 std::shared_ptr<ColorConfiguration>(own));
+    }
+    QCOMPARE(ColorConfiguration::getRegisteredInstance(), before);
 }
 
 ZORVANE_TEST(ColorConfigurationTest)

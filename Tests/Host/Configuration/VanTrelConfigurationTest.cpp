@@ -1,5 +1,6 @@
 #include "Host/Configuration/VanTrelConfiguration.h"
 
+#include "Host/ScopedReplacement.h"
 #include "Tests/Support/TestCase.h"
 
 #include <memory>
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void exportIsNotRestrictedAtFirst();
     void copiesAreIndependent();
     void aSettingMayBeWorkedOut();
+    void replacedConfiguration_endsWithItsScope();
 };
 
 void VanTrelConfigurationTest::cleanup()
@@ -66,6 +68,15 @@ void VanTrelConfigurationTest::aSettingMayBeWorkedOut()
 {
     VanTrelConfiguration::registerInstance(std::make_shared<AlwaysRestricted>());
     QVERIFY(VanTrelConfiguration::getRegisteredInstance()->getDisableExportWithoutStandard());
+}
+
+void VanTrelConfigurationTest::replacedConfiguration_endsWithItsScope()
+{
+    {
+        const ScopedReplacement<VanTrelConfiguration> own(std::make_shared<VanTrelConfiguration>());
+        QVERIFY(VanTrelConfiguration::getRegisteredInstance());
+    }
+    QVERIFY(!VanTrelConfiguration::getRegisteredInstance());
 }
 
 ZORVANE_TEST(VanTrelConfigurationTest)

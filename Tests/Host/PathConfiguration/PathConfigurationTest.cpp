@@ -1,10 +1,13 @@
 #include "Host/PathConfiguration/PathConfiguration.h"
+#include "Host/ScopedReplacement.h"
 #include "Tests/Support/TestCase.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QSettings>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryDir>
+
+#include <memory>
 
 using namespace Zorvane;
 
@@ -70,6 +73,7 @@ private Q_SLOTS:
     void relativeOverridesAreIgnored();
     void nothingIsCreated_data() { addRows(); }
     void nothingIsCreated();
+    void replacedFolders_answerEveryGetter();
 };
 
 void PathConfigurationTest::addRows()
@@ -170,6 +174,32 @@ void PathConfigurationTest::nothingIsCreated()
     qputenv(row->variable, missing.toLocal8Bit());
     QCOMPARE(pathOf(*row), missing);
     QVERIFY(!QFileInfo::exists(missing));
+}
+
+void PathConfigurationTest::replacedFolders_answerEveryGetter()
+{
+    struct Drives : PathConfiguration
+    {
+        FileName getFolder(Folder folder) const override
+        {
+            if (folder == Folder::MyDocuments)
+                return PathConfiguration::getFolder(folder);
+            return FileName(QStringLiteral("/suite/%1").arg(int(folder)));
+        }
+    };
+    const FileName documents = PathConfiguration::getZvPathMyDocuments();
+    {
+        const ScopedReplacement<PathConfiguration> folders(std::make_shared<Drives>());
+        QCOMPARE(PathConfiguration::getZvPathMyDocuments().toQString(), documents.toQString());
+        int number = 0;
+        for (const Row& row : s_rows) {
+            if (number != 0)
+                QCOMPARE(row.getter().toQString(), QStringLiteral("/suite/%1").arg(number));
+            ++number;
+        }
+    }
+    QVERIFY(!PathConfiguration::getZvPathConnectorFiles().toQString().startsWith(
+        QStringLiteral("/suite")));
 }
 
 ZORVANE_TEST(PathConfigurationTest)

@@ -1,5 +1,6 @@
 #include "Host/Resources/IconPathProvider.h"
 
+#include "Host/ScopedReplacement.h"
 #include "Tests/Support/TestCase.h"
 
 #include <QtCore/QFile>
@@ -27,6 +28,7 @@ private Q_SLOTS:
 
     void theSuitesIconsExist();
     void theApplicationRegistersItsOwn();
+    void replacedProvider_endsWithItsScope();
 };
 
 void IconPathProviderTest::cleanup()
@@ -53,6 +55,17 @@ void IconPathProviderTest::theApplicationRegistersItsOwn()
              suites->getProductCoordinatesIconPath());
     Resources::registerIconPathProvider(nullptr);
     QVERIFY(Resources::getIconPathProvider()->getOverviewIconPath() != QStringLiteral("mine.svg"));
+}
+
+void IconPathProviderTest::replacedProvider_endsWithItsScope()
+{
+    const auto suites = Resources::getIconPathProvider();
+    {
+        const ScopedReplacement<Resources::IconPathProvider> own(std::make_shared<OwnPaths>());
+        QCOMPARE(Resources::getIconPathProvider()->getOverviewIconPath(),
+                 QStringLiteral("mine.svg"));
+    }
+    QCOMPARE(Resources::getIconPathProvider(), suites);
 }
 
 ZORVANE_TEST(IconPathProviderTest)

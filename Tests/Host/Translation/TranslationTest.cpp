@@ -1,8 +1,11 @@
+#include "Host/ScopedReplacement.h"
 #include "Host/Translation/ArgString.h"
 #include "Host/Translation/Translator.h"
 #include "Tests/Support/TestCase.h"
 
 #include <QtCore/QTranslator>
+
+#include <memory>
 
 using namespace Zorvane;
 
@@ -38,6 +41,7 @@ private Q_SLOTS:
     void argumentsFillTheirPlaceholders_data();
     void argumentsFillTheirPlaceholders();
     void argStringTakesStandardStringsInUtf8();
+    void replacedTranslator_givesTheTexts();
 };
 
 void TranslationTest::textWithoutTranslationStaysItself()
@@ -123,6 +127,36 @@ void TranslationTest::argStringTakesStandardStringsInUtf8()
                                    .arg(12);
     QCOMPARE(filled, std::string("Gr\xC3\xB6\xC3\x9F"
                                  "e: 12"));
+}
+
+void TranslationTest::replacedTranslator_givesTheTexts()
+{
+    struct OwnTexts : Translator
+    {
+        QString getText(const char* context, const char* sourceText, const char* disambiguation,
+                        int count) const override
+        {
+            return QStringLiteral("%1/%2/%3/%4")
+                .arg(QString::fromUtf8(context), QString::fromUtf8(sourceText),
+                     QString::fromUtf8(disambiguation))
+                .arg(count);
+        }
+    };
+    struct Silence : Translator
+    {
+        QString getText(const char*, const char*, const char*, int) const override { return {}; }
+    };
+    {
+        const ScopedReplacement<Translator> texts(std::make_shared<OwnTexts>());
+        QCOMPARE(Translator::translate("Context", "Text", "menu", 3),
+                 QStringLiteral("Context/Text/menu/3"));
+        {
+            const ScopedReplacement<Translator> none(std::make_shared<Silence>());
+            QVERIFY(Translator::translate("Context", "Text").isEmpty());
+        }
+        QCOMPARE(Translator::translate("Context", "Text"), QStringLiteral("Context/Text//-1"));
+    }
+    QCOMPARE(Translator::translate("Context", "Text"), QStringLiteral("Text"));
 }
 
 ZORVANE_TEST(TranslationTest)

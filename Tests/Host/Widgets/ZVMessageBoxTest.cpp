@@ -1,4 +1,5 @@
 #include "Host/Widgets/ZVMessageBox.h"
+#include "Host/ScopedReplacement.h"
 #include "Tests/Support/CapitalTexts.h"
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/TestCase.h"
@@ -145,6 +146,8 @@ private Q_SLOTS:
     void everyPalette_titleCanBeRead();
     void everyStyleSheet_titleCanBeRead_data();
     void everyStyleSheet_titleCanBeRead();
+    void replacedPresenter_answersAllBoxes();
+    void unansweredBox_countsAsClosed();
 };
 
 void ZVMessageBoxTest::pressedButtonIsReturned()
@@ -470,6 +473,53 @@ void ZVMessageBoxTest::everyStyleSheet_titleCanBeRead()
     QVERIFY(contrastIn(pictureOf(box, titleLabel(box))) >= 4.5);
     QVERIFY(contrastIn(pictureOf(box, titleCloseButton(box))) >= 3);
     qApp->setStyleSheet({});
+}
+
+void ZVMessageBoxTest::replacedPresenter_answersAllBoxes()
+{
+    struct Script : MessageBoxPresenter
+    {
+        void present(ZVMessageBox& box) override
+        {
+            asked.append(box.windowTitle() + QLatin1Char('/') + box.text());
+            box.button(QMessageBox::No)->click();
+        }
+        QStringList asked;
+    };
+    const auto script = std::make_shared<Script>();
+    const Testing::ExpectedModals none;
+    {
+        const ScopedReplacement<MessageBoxPresenter> answers(script);
+        QCOMPARE(ZVMessageBox::question(nullptr, QStringLiteral("Save"), QStringLiteral("Really?")),
+                 QMessageBox::No);
+        ZVMessageBox box(QMessageBox::Warning, QStringLiteral("Copy"), QStringLiteral("Again?"),
+                         QMessageBox::Yes | QMessageBox::No, nullptr, s_frameless);
+        QCOMPARE(box.exec(), int(QMessageBox::No));
+    }
+    QCOMPARE(script->asked,
+             (QStringList{QStringLiteral("Save/Really?"), QStringLiteral("Copy/Again?")}));
+    QVERIFY(none.allMet());
+}
+
+void ZVMessageBoxTest::unansweredBox_countsAsClosed()
+{
+    struct Silent : MessageBoxPresenter
+    {
+        void present(ZVMessageBox& box) override
+        {
+            if (deletesParent)
+                delete box.parentWidget();
+        }
+        bool deletesParent = false;
+    };
+    const auto silent = std::make_shared<Silent>();
+    const ScopedReplacement<MessageBoxPresenter> answers(silent);
+    const QPointer<QWidget> parent = new QWidget;
+    const QString text = QStringLiteral("text");
+    QCOMPARE(ZVMessageBox::question(parent, text, text), QMessageBox::NoButton);
+    silent->deletesParent = true;
+    QCOMPARE(ZVMessageBox::question(parent, text, text), QMessageBox::NoButton);
+    QVERIFY(!parent);
 }
 
 ZORVANE_TEST(ZVMessageBoxTest)
