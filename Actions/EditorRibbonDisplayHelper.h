@@ -7,9 +7,9 @@ namespace Zorvane {
 class ZVMainActions;
 
 /**
- * Keeps seven display toggles of the main actions for a while: records which are on when it is
- * made, and puts them back when it goes. A toggle that has to change is triggered, as by a click,
- * so that everything connected to it follows; the others are left alone.
+ * Keeps seven display toggles of the main actions: records which are on when it is created, and
+ * restores them when it is destroyed. A toggle that has to change is triggered, as by a click, so
+ * that everything connected to it follows; the others are left alone.
  *
  * The table must outlive it. Toggles that are disabled for the user are triggered all the same.
  * Not supported: the display toggles besides these seven.

@@ -21,8 +21,8 @@ class ZVConverterDialog;
  * files and folders are chosen with `FileDialog`; each choice, a cancelled one too, takes the
  * place of the earlier one and clears status and log.
  *
- * The configuration is not owned and must outlive this object. The window belongs to its parent
- * and goes with this object at the latest.
+ * The configuration is not owned and must outlive this object. The window belongs to its parent,
+ * and is deleted with this object at the latest.
  *
  * While a conversion runs, the cursor waits and the window takes no commands. A conversion that
  * throws is reported in the log and counts as one whose input failed; one that runs out of memory

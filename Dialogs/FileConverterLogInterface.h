@@ -6,7 +6,7 @@
 
 namespace Zorvane {
 
-/** Where a conversion tells what it does. */
+/** Takes the messages of a conversion. */
 class ZORVANE_UITOOLS_EXPORT FileConverterLogInterface
 {
 public:

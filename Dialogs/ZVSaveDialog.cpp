@@ -179,7 +179,7 @@ ZVSaveDialog::Result ZVSaveDialog::showDialog(QWidget* parent,
                                 saveStateOf(*design),
                                 subjectOf(*design)};
 
-    // The parent may go away while the box is open, and takes it along.
+    // The parent may be deleted while the box is open, and the box with it.
     const QPointer<ZVMessageBox> box = new SaveBox(question, parent);
     const auto owner = qScopeGuard([&box] { delete box; });
     if (silent)

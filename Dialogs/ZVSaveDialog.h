@@ -14,9 +14,9 @@ QT_END_NAMESPACE
 namespace Zorvane {
 
 /**
- * Asks before a design is saved, closed or computed, and tells what the step costs: results that
- * go, a conversion to the current version, or that a running simulation stands in the way. It
- * saves nothing itself.
+ * Asks before a design is saved, closed or computed, and says what the step costs: results that
+ * are deleted, a conversion to the current version, or that a running simulation forbids the step.
+ * It saves nothing itself.
  *
  * Three properties of the application object change it, for programs that run scripts or are part
  * of another one; one that is missing is false:
@@ -61,9 +61,9 @@ public:
     /**
      * Asks, and returns the answer. Looks for a running simulation of the design's file first.
      *
-     * `silent` goes through the motions without showing the box, and returns `ResultContinue`.
+     * `silent` prepares the box without showing it, and returns `ResultContinue`.
      * `saveDisabled` says that the design cannot be saved under its own name. The design must not
-     * be null. Nothing fails; a parent that goes away meanwhile is Cancel. Blocks in the box's
+     * be null. Nothing fails; a parent that is deleted meanwhile means Cancel. Blocks in the box's
      * event loop; GUI thread only.
      */
     static Result showDialog(QWidget* parent, std::shared_ptr<DesignInterface> design,

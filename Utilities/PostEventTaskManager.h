@@ -12,8 +12,8 @@
 namespace Zorvane {
 
 /**
- * Receives the events that posted tasks run from. Made when the first task is posted, gone when
- * the process ends. Internal: tasks are posted and taken back through `PostEventTask`.
+ * Receives the events that posted tasks run from. Created when the first task is posted, destroyed
+ * when the process ends. Internal: tasks are posted and taken back through `PostEventTask`.
  */
 class PostEventTaskManager : public QObject
 {

@@ -8,17 +8,17 @@
 namespace Zorvane {
 
 /**
- * Draws a colour patch over a cell of a tree or list that tells how many references its item has,
+ * Draws a colour patch over a cell of a tree or list that shows how many references its item has,
  * and in which colours: one colour, two or three parted by slanted edges, or two with points for
  * four or more. A count without all of its colours draws nothing.
  *
  * The model gives the count and the colours, as ids of the host's `ColorConfiguration`, under
- * `Role`. Whoever cannot see the patch reads the model's `Qt::AccessibleTextRole`, which such a
- * model answers with `textForReferences`; the delegate shows the same text as a tool tip where the
+ * `Role`. Screen readers read the model's `Qt::AccessibleTextRole`, which such a model answers
+ * with `textForReferences`; the delegate shows the same text as a tool tip where the
  * model has none of its own. The application's setting `ZVGuiTools::isFlatStyle` decides whether
  * patches are shaded. Cells are never edited and show no focus frame.
  *
- * Not supported: telling more than three colours apart, a size of its own (the patch fills the
+ * Not supported: more than three colours, a size of its own (the patch fills the
  * cell), noticing a changed setting or colour table (update the view after it).
  */
 class ZORVANE_UITOOLS_EXPORT ReferenceIndicatorDelegate : public ZVItemDelegate

@@ -8,8 +8,8 @@
 namespace Zorvane {
 
 /**
- * The application's table of colours, which models name by an id. Whoever changes a colour tells
- * the views to paint again.
+ * The application's table of colours, which models name by an id. Code that changes a colour
+ * updates the views.
  *
  * Not supported: keeping colours from one start to the next, which is the application's business,
  * and use outside of the GUI thread.

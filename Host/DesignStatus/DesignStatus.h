@@ -12,7 +12,7 @@ namespace Zorvane {
  *
  * A simulation marks its run by holding a `QLockFile` of the name that `getJobFile` gives, with a
  * stale lock time of 0. The mark of a job that crashed on this computer counts for nothing and is
- * cleared away; that of a job on another computer counts until somebody removes it.
+ * cleared away; that of a job on another computer counts until it is removed.
  */
 class ZORVANE_HOST_EXPORT DesignStatus
 {
@@ -29,9 +29,8 @@ public:
     static FileName getJobFile(const FileName& design);
 
     /**
-     * Looks whether a simulation of the design is running; `isJobRunning` then tells. A job that
-     * is given is filled with what is known of it, and emptied if none runs. An empty file name
-     * has no job.
+     * Looks whether a simulation of the design is running, for `isJobRunning`. A job that is given
+     * is filled with what is known of it, and emptied if none runs. An empty file name has no job.
      */
     void reloadJobStatus(const FileName& design, Job* job);
     /** What the last `reloadJobStatus` found; false before the first. */

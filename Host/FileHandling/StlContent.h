@@ -6,7 +6,7 @@
 namespace Zorvane {
 
 /**
- * Whether the file holds binary STL, told by the number of triangles in its head, which fits its
+ * Whether the file holds binary STL: the number of triangles in its head fits its
  * size to the byte; some programs start binary files with "solid" too. False for a file that
  * cannot be read.
  */

@@ -41,7 +41,7 @@ bool CommandLineParser::optionWasSpecified(const QString& name)
 {
     if (!m_isParsed)
         parse(QCoreApplication::arguments());
-    // Asking the parser for an option that nobody declared makes it print a warning.
+    // Asking the parser for an option that was not declared makes it print a warning.
     return m_parser.optionNames().contains(name);
 }
 

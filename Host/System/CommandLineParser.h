@@ -36,7 +36,7 @@ public:
      * them counts all the same. */
     bool parse(const QStringList& arguments);
 
-    /** Whether the option was given; false for one that nobody declared. */
+    /** Whether the option was given; false for one that was not declared. */
     bool optionWasSpecified(const QString& name);
 
 private:

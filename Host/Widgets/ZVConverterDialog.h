@@ -18,8 +18,8 @@ namespace Zorvane {
 
 /**
  * A window that turns one file into others: the input file, the folder for the output, a button
- * that starts the conversion, how it went, and a log of it. It only shows and asks: whoever
- * listens to its signals chooses the paths, converts, and tells the window what to show.
+ * that starts the conversion, how it went, and a log of it. It only shows and asks: code
+ * that is connected to its signals chooses the paths, converts, and sets what the window shows.
  *
  * The paths are shown as the system writes them, with their ends in view, and can be copied. The
  * log can be selected, copied as a whole, and keeps to its end as messages come unless the user
@@ -125,7 +125,7 @@ private:
     bool m_isConverting = false;
     /** Invalid before the first message of a conversion. */
     QElapsedTimer m_sinceRepaint;
-    /** Disabling a button takes its focus, which comes back to it. */
+    /** Disabling a button takes its focus, which is restored afterwards. */
     QPointer<QWidget> m_focusBefore;
 };
 

@@ -6,7 +6,7 @@ namespace Zorvane {
 
 namespace {
 
-/** Kept at the action, so that it goes with it. */
+/** Kept at the action, and deleted with it. */
 constexpr char s_valueProperty[] = "zorvaneExclusiveValue";
 
 } // namespace
@@ -18,7 +18,7 @@ ZVExclusiveActionGroup::ZVExclusiveActionGroup(QObject* parent)
 QAction* ZVExclusiveActionGroup::addAction(QAction* action, const QVariant& value)
 {
     action->setProperty(s_valueProperty, value);
-    connect(action, &QAction::toggled, this, &ZVExclusiveActionGroup::tellWhenChecked,
+    connect(action, &QAction::toggled, this, &ZVExclusiveActionGroup::announceWhenChecked,
             Qt::UniqueConnection);
     return QActionGroup::addAction(action);
 }
@@ -47,7 +47,7 @@ void ZVExclusiveActionGroup::setValue(const QVariant& value)
         action->setChecked(true);
 }
 
-void ZVExclusiveActionGroup::tellWhenChecked(bool checked)
+void ZVExclusiveActionGroup::announceWhenChecked(bool checked)
 {
     const QVariant chosen = value(qobject_cast<QAction*>(sender()));
     if (checked && chosen.isValid())

@@ -40,7 +40,7 @@ Q_SIGNALS:
     void valueChanged(const QVariant& value);
 
 private:
-    void tellWhenChecked(bool checked);
+    void announceWhenChecked(bool checked);
 };
 
 } // namespace Zorvane

@@ -6,7 +6,7 @@ namespace Zorvane {
 
 namespace {
 
-// Pale enough to read as disabled, apart enough from each other to be told apart, and half-way
+// Pale enough to read as disabled, different enough from each other, and half-way
 // between what light and dark backgrounds have.
 constexpr qreal s_saturationKept = 0.45;
 constexpr qreal s_lightnessKept = 0.35;

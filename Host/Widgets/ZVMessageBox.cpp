@@ -35,7 +35,7 @@ QMessageBox::StandardButton ask(QMessageBox::Icon icon, QWidget* parent, const Q
                                 const QString& text, QMessageBox::StandardButtons buttons,
                                 QMessageBox::StandardButton defaultButton)
 {
-    // The parent may go away while the box is open, and takes it along.
+    // The parent may be deleted while the box is open, and the box with it.
     const QPointer<ZVMessageBox> box = new ZVMessageBox(icon, title, text, buttons, parent);
     if (defaultButton != QMessageBox::NoButton)
         box->setDefaultButton(defaultButton);

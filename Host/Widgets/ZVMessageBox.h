@@ -73,7 +73,7 @@ public:
 
     /**
      * Show a box of the kind and return the button pressed, as `QMessageBox`'s do; no button if the
-     * parent goes away meanwhile.
+     * parent is deleted meanwhile.
      */
     static StandardButton critical(QWidget* parent, const QString& title, const QString& text,
                                    StandardButtons buttons = Ok,
