@@ -192,7 +192,7 @@ void ZVMainActions::initActions()
 
 void ZVMainActions::addToGroup(const ZVMainActionRow& row, QAction* action)
 {
-    const auto addTo = [&](ZVExclusiveActionGroup*& group) {
+    const auto addTo = [&](QPointer<ZVExclusiveActionGroup>& group) {
         if (!group)
             group = new ZVExclusiveActionGroup(this);
         group->addAction(action, row.settings.value);

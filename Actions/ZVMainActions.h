@@ -2,6 +2,7 @@
 
 #include "Actions/GenericMainActions.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QString>
 
 #include <vector>
@@ -172,7 +173,10 @@ public:
     /** Disables the actions of these ids; ids without an action are passed over. */
     void disableActions(const std::vector<Actions>& ids);
 
-    /** Product coordinates (0), those of the operation or station (1), of the press line (2). */
+    /**
+     * Product coordinates (0), those of the operation or station (1), of the press line (2). Null
+     * after the group was deleted, as the other one.
+     */
     ZVExclusiveActionGroup* getViewReferenceCoordSysGroup();
     /** The current station or feature (0), its neighbours too (1), all (2). */
     ZVExclusiveActionGroup* getViewReferenceStationVisibilityGroup();
@@ -190,8 +194,8 @@ private:
 
     /** Values by name, for applications; this library puts none in. */
     QMap<QString, int> m_valuesByName;
-    ZVExclusiveActionGroup* m_coordinateSystems = nullptr;
-    ZVExclusiveActionGroup* m_stationVisibilities = nullptr;
+    QPointer<ZVExclusiveActionGroup> m_coordinateSystems;
+    QPointer<ZVExclusiveActionGroup> m_stationVisibilities;
     QActionGroup* m_windowLayouts = nullptr;
 };
 

@@ -182,6 +182,7 @@ private Q_SLOTS:
     void exportMayBeRestricted();
     void iconsOfTheProviderAreUsed();
     void textsAndShortcutsAreTranslated();
+    void deletedGroup_isNull();
     void noActionCarriesItsId();
 };
 
@@ -505,6 +506,13 @@ void ZVMainActionsTest::textsAndShortcutsAreTranslated()
     for (const char* const text :
          {"Pressline View", "Show All Stations/Features", "shortcut to be defined", "A", "*"})
         QVERIFY2(translator.m_asked.count(QString::fromLatin1(text)) == 1, text);
+}
+
+void ZVMainActionsTest::deletedGroup_isNull()
+{
+    delete ZVMainActions::getInstance()->getViewReferenceCoordSysGroup();
+    QVERIFY(!ZVMainActions::getInstance()->getViewReferenceCoordSysGroup());
+    QVERIFY(ZVMainActions::getInstance()->getViewReferenceStationVisibilityGroup());
 }
 
 void ZVMainActionsTest::noActionCarriesItsId()
