@@ -102,10 +102,10 @@ struct ZVMainActionRow
             changed.degrees = angle;
             return changed;
         }
-        constexpr Settings onPitchedStations(const char* text) const
+        constexpr Settings onPitchedStations(const char* itsText) const
         {
             Settings changed = *this;
-            changed.pitchedText = text;
+            changed.pitchedText = itsText;
             return changed;
         }
     };

@@ -100,7 +100,7 @@ void label(QAbstractButton* button, const QString& text, Qt::Key key)
         return;
     button->setText(text);
     if (button->shortcut().isEmpty())
-        button->setShortcut(QKeySequence(Qt::ALT | key));
+        button->setShortcut(QKeySequence(int(Qt::ALT) | key));
 }
 
 class SaveBox : public ZVMessageBox

@@ -57,7 +57,7 @@ void ZVGlobalActionsTest::twoCommandsAreReachedByKeyboardOnly()
         QCOMPARE(table[id]->parent(), &table);
     }
     QCOMPARE(table[ZVGlobalActions::HelpContentsDebug]->shortcut(),
-             QKeySequence(Qt::SHIFT + Qt::Key_F1));
+             QKeySequence(int(Qt::SHIFT) + Qt::Key_F1));
     QCOMPARE(table[ZVGlobalActions::CustomerTicketSystem]->shortcut(), QKeySequence(Qt::Key_F8));
 }
 

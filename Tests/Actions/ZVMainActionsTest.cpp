@@ -499,7 +499,7 @@ void ZVMainActionsTest::textsAndShortcutsAreTranslated()
     const QAction* const action = ZVMainActions::getInstance()->action(ZVMainActions::OpenTemplate);
     QCOMPARE(action->text(), QStringLiteral("<Open &Template..."));
     QCOMPARE(action->toolTip(), QStringLiteral("<Open Template    Alt+9"));
-    QCOMPARE(action->shortcut(), QKeySequence(Qt::ALT + Qt::Key_9));
+    QCOMPARE(action->shortcut(), QKeySequence(int(Qt::ALT) + Qt::Key_9));
     QCOMPARE(action->objectName(), QStringLiteral("OpenTemplateAction"));
     QCOMPARE(actionNamed("RotatedIsometricViewAction")->text(),
              QStringLiteral("<Isometric View (-90\u00b0 Around Z)"));

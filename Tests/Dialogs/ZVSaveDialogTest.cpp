@@ -506,7 +506,8 @@ void ZVSaveDialogTest::asksInTheUsersLanguage()
     modals.expectMessageBox(QStringLiteral("^Warnung$"), [](QMessageBox& box) {
         QVERIFY(box.text().contains(QString::fromUtf8("in „door.dsg“ speichern?")));
         QCOMPARE(box.button(QMessageBox::Save)->text(), QStringLiteral("&Speichern"));
-        QCOMPARE(box.button(QMessageBox::Discard)->shortcut(), QKeySequence(Qt::ALT | Qt::Key_N));
+        QCOMPARE(box.button(QMessageBox::Discard)->shortcut(),
+                 QKeySequence(int(Qt::ALT) | Qt::Key_N));
         box.button(QMessageBox::Discard)->click();
     });
     QCOMPARE(ZVSaveDialog::showDialog(nullptr, asked, given.action, false, false),

@@ -39,9 +39,9 @@ public:
         for (int i = 0; i < colors.size(); ++i)
             item->setData(colors.at(i), ReferenceIndicatorDelegate::FirstColorRole + i);
     }
-    QModelIndex index() const { return QStandardItemModel::index(0, 0); }
+    QModelIndex cell() const { return index(0, 0); }
 
-    /** As models with references do: the text is looked up whenever somebody asks. */
+    /** As models with references do: the text is looked up whenever it is asked for. */
     QVariant data(const QModelIndex& index, int role) const override
     {
         if (role == Qt::AccessibleTextRole)

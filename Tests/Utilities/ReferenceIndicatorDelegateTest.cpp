@@ -64,7 +64,7 @@ QString toolTipOf(References& model)
     view.show();
     QHelpEvent event(QEvent::ToolTip, {5, 5}, view.viewport()->mapToGlobal({5, 5}));
     const bool isShown =
-        delegate.helpEvent(&event, &view, optionFor({}, lightPalette()), model.index());
+        delegate.helpEvent(&event, &view, optionFor({}, lightPalette()), model.cell());
     return isShown ? QToolTip::text() : QString();
 }
 
@@ -140,7 +140,7 @@ void ReferenceIndicatorDelegateTest::drawsNothingWithoutReferences()
 {
     QFETCH(QVariant, count);
     const References model(count, {Steel, Brass, Green});
-    QCOMPARE(cellOf(model.index()), plainCell());
+    QCOMPARE(cellOf(model.cell()), plainCell());
 }
 
 void ReferenceIndicatorDelegateTest::drawsNothingWithoutAllColors_data()
@@ -163,13 +163,13 @@ void ReferenceIndicatorDelegateTest::drawsNothingWithoutAllColors()
     QFETCH(int, count);
     QFETCH(QVector<QVariant>, colors);
     const References model(count, colors);
-    QCOMPARE(cellOf(model.index()), plainCell());
+    QCOMPARE(cellOf(model.cell()), plainCell());
 }
 
 void ReferenceIndicatorDelegateTest::drawsOneColor()
 {
     const References model(1, {Steel});
-    QCOMPARE(cellOf(model.index()), cellImage([](auto* painter, const auto& option) {
+    QCOMPARE(cellOf(model.cell()), cellImage([](auto* painter, const auto& option) {
                  ZVGuiTools::drawBeautifiedColorPatch(painter, patchOf(option), colorOf(Steel),
                                                       false, 255);
              }));
@@ -178,7 +178,7 @@ void ReferenceIndicatorDelegateTest::drawsOneColor()
 void ReferenceIndicatorDelegateTest::drawsTwoColors()
 {
     const References model(2, {Steel, Brass});
-    QCOMPARE(cellOf(model.index()), cellImage([](auto* painter, const auto& option) {
+    QCOMPARE(cellOf(model.cell()), cellImage([](auto* painter, const auto& option) {
                  ZVGuiTools::drawBeautifiedTwoColorPatchDiagonal(
                      painter, patchOf(option), colorOf(Steel), colorOf(Brass), 0, false);
              }));
@@ -187,7 +187,7 @@ void ReferenceIndicatorDelegateTest::drawsTwoColors()
 void ReferenceIndicatorDelegateTest::drawsThreeColors()
 {
     const References model(3, {Steel, Brass, Green});
-    QCOMPARE(cellOf(model.index()), cellImage([](auto* painter, const auto& option) {
+    QCOMPARE(cellOf(model.cell()), cellImage([](auto* painter, const auto& option) {
                  ZVGuiTools::drawBeautifiedThreeColorPatchDiagonal(painter, patchOf(option),
                                                                    colorOf(Steel), colorOf(Brass),
                                                                    colorOf(Green), false);
@@ -209,7 +209,7 @@ void ReferenceIndicatorDelegateTest::drawsPointsForMore()
     QFETCH(int, count);
     QFETCH(QVector<QVariant>, colors);
     const References model(count, colors);
-    QCOMPARE(cellOf(model.index()), cellImage([](auto* painter, const auto& option) {
+    QCOMPARE(cellOf(model.cell()), cellImage([](auto* painter, const auto& option) {
                  ZVGuiTools::drawBeautifiedColorPatchDiagonalWithPoints(
                      painter, patchOf(option), colorOf(Steel), colorOf(Brass), false);
              }));
@@ -218,8 +218,8 @@ void ReferenceIndicatorDelegateTest::drawsPointsForMore()
 void ReferenceIndicatorDelegateTest::drawsOverTheBaseCell()
 {
     References model(1, {Steel});
-    model.setData(model.index(), QBrush(Qt::red), Qt::BackgroundRole);
-    const QImage cell = cellOf(model.index());
+    model.setData(model.cell(), QBrush(Qt::red), Qt::BackgroundRole);
+    const QImage cell = cellOf(model.cell());
     QCOMPARE(cell.pixelColor(0, 0), QColor(Qt::red));
     QVERIFY(cell.pixelColor(20, 10) != QColor(Qt::red));
 }
@@ -237,13 +237,13 @@ void ReferenceIndicatorDelegateTest::greysADisabledItem()
 {
     QFETCH(int, count);
     References model(count, {Steel, Brass, Green});
-    const QImage enabled = cellOf(model.index());
-    const QImage inDisabledView = cellOf(model.index(), QStyle::State_Enabled);
+    const QImage enabled = cellOf(model.cell());
+    const QImage inDisabledView = cellOf(model.cell(), QStyle::State_Enabled);
     model.item(0)->setEnabled(false);
-    const QImage disabled = cellOf(model.index());
+    const QImage disabled = cellOf(model.cell());
     QVERIFY(enabled != disabled);
     QCOMPARE(inDisabledView, disabled);
-    QCOMPARE(cellOf(model.index(), QStyle::State_Enabled), disabled);
+    QCOMPARE(cellOf(model.cell(), QStyle::State_Enabled), disabled);
     // Paler in every place, and no colour that had a hue has lost all of it.
     for (const int x : {5, 20, 33}) {
         const QColor before = enabled.pixelColor(x, 13);
@@ -265,9 +265,9 @@ void ReferenceIndicatorDelegateTest::followsTheApplicationsStyle()
 {
     QFETCH(int, count);
     const References model(count, {Steel, Brass, Green});
-    const QImage shaded = cellOf(model.index());
+    const QImage shaded = cellOf(model.cell());
     ZVGuiTools::setFlatStyle(true);
-    const QImage flat = cellOf(model.index());
+    const QImage flat = cellOf(model.cell());
     QVERIFY(shaded != flat);
     // Unshaded, the first colour is the same at any height.
     QCOMPARE(flat.pixelColor(5, 10), colorOf(Steel));
@@ -294,7 +294,7 @@ void ReferenceIndicatorDelegateTest::leavesThePainterAsItWas()
         painter->setLayoutDirection(Qt::LeftToRight);
         const QTransform transform = painter->transform();
         const QPainter::RenderHints hints = painter->renderHints();
-        Delegate(nullptr).paint(painter, option, model.index());
+        Delegate(nullptr).paint(painter, option, model.cell());
         QCOMPARE(painter->pen().color(), QColor(Qt::magenta));
         QCOMPARE(painter->opacity(), 0.75);
         QCOMPARE(painter->layoutDirection(), Qt::LeftToRight);
@@ -308,7 +308,7 @@ void ReferenceIndicatorDelegateTest::showsNoFocus()
     const References model(1, {Steel});
     QStyleOptionViewItem option = optionFor({}, lightPalette());
     option.state |= QStyle::State_HasFocus | QStyle::State_Selected;
-    OpenDelegate(nullptr).initStyleOption(&option, model.index());
+    OpenDelegate(nullptr).initStyleOption(&option, model.cell());
     QVERIFY(!option.state.testFlag(QStyle::State_HasFocus));
     QVERIFY(option.state.testFlag(QStyle::State_Selected));
     QVERIFY(option.state.testFlag(QStyle::State_Enabled));
@@ -323,11 +323,10 @@ void ReferenceIndicatorDelegateTest::opensNoEditor()
     view.setItemDelegate(new ReferenceIndicatorDelegate(&view));
     view.show();
     const auto widgetsBefore = view.viewport()->findChildren<QWidget*>().size();
-    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {},
-                       view.visualRect(model.index()).center());
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(model.cell()).center());
     QCOMPARE(view.viewport()->findChildren<QWidget*>().size(), widgetsBefore);
-    QVERIFY(!view.isPersistentEditorOpen(model.index()));
-    QVERIFY(!view.itemDelegate()->createEditor(view.viewport(), {}, model.index()));
+    QVERIFY(!view.isPersistentEditorOpen(model.cell()));
+    QVERIFY(!view.itemDelegate()->createEditor(view.viewport(), {}, model.cell()));
 }
 
 void ReferenceIndicatorDelegateTest::namesTheReferences_data()

@@ -38,7 +38,7 @@ QImage sheetOf(const QPalette& palette, qreal scale)
             QStyleOptionViewItem option = optionFor(position, palette);
             option.state = states.at(column % states.size());
             option.direction = column < states.size() ? Qt::LeftToRight : Qt::RightToLeft;
-            delegate.paint(&painter, option, model.index());
+            delegate.paint(&painter, option, model.cell());
         }
     }
     return sheet;

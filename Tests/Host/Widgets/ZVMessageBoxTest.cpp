@@ -410,7 +410,7 @@ void ZVMessageBoxTest::changedLanguage_keepsGivenTexts()
     ZVMessageBox box(QMessageBox::Question, QStringLiteral("title"), QStringLiteral("text"),
                      QMessageBox::Save | QMessageBox::Cancel, nullptr, s_frameless);
     box.button(QMessageBox::Save)->setText(QStringLiteral("Save As..."));
-    box.button(QMessageBox::Save)->setShortcut(QKeySequence(Qt::ALT | Qt::Key_A));
+    box.button(QMessageBox::Save)->setShortcut(QKeySequence(int(Qt::ALT) | Qt::Key_A));
     box.show();
     box.setStyleSheet(QStringLiteral("QPushButton { padding: 3px; }"));
     const QString cancel = box.button(QMessageBox::Cancel)->text();
@@ -419,7 +419,7 @@ void ZVMessageBoxTest::changedLanguage_keepsGivenTexts()
         QVERIFY(QCoreApplication::installTranslator(&language));
         QCoreApplication::processEvents();
         QCOMPARE(box.button(QMessageBox::Save)->text(), QStringLiteral("Save As..."));
-        QCOMPARE(box.button(QMessageBox::Save)->shortcut(), QKeySequence(Qt::ALT | Qt::Key_A));
+        QCOMPARE(box.button(QMessageBox::Save)->shortcut(), QKeySequence(int(Qt::ALT) | Qt::Key_A));
         QCOMPARE(box.button(QMessageBox::Cancel)->text(), cancel.toUpper());
         QCOMPARE(titleCloseButton(box)->toolTip(), QStringLiteral("CLOSE"));
     }
