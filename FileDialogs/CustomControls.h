@@ -8,6 +8,7 @@
 
 #include <initializer_list>
 
+class QDialogButtonBox;
 class QGridLayout;
 class QWidget;
 
@@ -25,9 +26,12 @@ class CustomControls : public QObject
 public:
     explicit CustomControls(QWidget* dialog);
 
-    /** Adds a row a control to one of the grids, with labels in the first column. At most once. */
-    void add(const FileDialogConfiguration& configuration, QGridLayout& below,
-             QGridLayout& besideButtons);
+    /**
+     * Adds the controls below the rows of the dialog, labels in the first column. Where some are
+     * prominent, the buttons move to the end of the last row, beside these. At most once.
+     */
+    void add(const FileDialogConfiguration& configuration, QGridLayout& rows,
+             QDialogButtonBox& buttons);
     /**
      * Sets `FileDialogConfiguration::ControlState` flags of a control, or of a group by its
      * number. A label goes with its control. An unknown identifier changes nothing.
@@ -43,6 +47,9 @@ Q_SIGNALS:
 private:
     using Item = FileDialogConfiguration::CustomItem;
 
+    void collectMnemonics(const FileDialogConfiguration& configuration);
+    void addItem(const Item& item, int groupId, QGridLayout& rows, int row);
+    QString withMnemonic(const QString& text);
     QWidget* makeControl(const Item& item);
     QWidget* makeCheckBox(const Item& item);
     QWidget* makeComboBox(const Item& item);
@@ -52,6 +59,8 @@ private:
     QWidget* const m_dialog;
     QHash<int, QList<QWidget*>> m_widgets;
     QList<QWidget*> m_controls;
+    /** The letters by which something in the dialog is reached, in lower case. */
+    QString m_mnemonics;
 };
 
 } // namespace Zorvane

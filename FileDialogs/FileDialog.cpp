@@ -1,8 +1,8 @@
 #include "FileDialogs/FileDialog.h"
 
-#include "FileDialogs/DialogPaths.h"
-#include "FileDialogs/FileDialogRun.h"
-#include "FileDialogs/SideBar.h"
+#include "FileDialogs/DialogTexts.h"
+#include "FileDialogs/FileDialogDriver.h"
+#include "Files/ApplicationMainWindow.h"
 #include "Files/PathProvider.h"
 #include "Host/Translation/ArgString.h"
 #include "Host/Translation/Translator.h"
@@ -11,6 +11,8 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QHash>
+#include <QtCore/QPointer>
+#include <QtWidgets/QPushButton>
 
 namespace Zorvane {
 
@@ -34,11 +36,6 @@ private:
     int& m_count;
 };
 
-QString firstOf(const QStringList& paths)
-{
-    return paths.isEmpty() ? QString() : paths.first();
-}
-
 /** The filter that was used last for saving in each scope. */
 QHash<QString, QString>& lastSaveFilters()
 {
@@ -46,10 +43,21 @@ QHash<QString, QString>& lastSaveFilters()
     return filters;
 }
 
-QString defaultSuffix(const QString& selectedFilter, const QString& filter)
+FileDialogRequest makeRequest(FileDialogPurpose purpose, const QString& caption,
+                              const QString& filter, QWidget* parent = nullptr)
 {
-    return suffixOfFilter(selectedFilter.isEmpty() ? filter.section(QLatin1Char(';'), 0, 0)
-                                                   : selectedFilter);
+    FileDialogRequest request;
+    request.purpose = purpose;
+    request.caption = caption;
+    request.filter = filter;
+    request.owner = parent;
+    return request;
+}
+
+/** The type that the user selected or, where that is not known, the one that was preselected. */
+QString usedFilter(const FileDialogRequest& request, const FileDialogResult& result)
+{
+    return result.selectedFilter.isNull() ? request.selectedFilter : result.selectedFilter;
 }
 
 bool folderExists(const QString& path)
@@ -68,7 +76,7 @@ QString proposedFolder(const QString& startDir, PathProvider* provider, const QS
     return isPathWanted ? path : proposed;
 }
 
-void tellWrongFolder(const QString& title, const QString& message, const QString& folder)
+void refuseFolder(const QString& title, const QString& message, const QString& folder)
 {
     ZVMessageBox box(QMessageBox::Critical, title, message);
     if (message.isEmpty()) {
@@ -92,13 +100,18 @@ QString FileDialog::getOpenFileName(const QString& caption, const QString& start
                                     QFileDialog::Options options,
                                     FileDialogConfiguration* configuration, QWidget* parent)
 {
-    const QString start =
-        startDirectory.isEmpty() ? provider->getPathFromScope(scope) : startDirectory;
-    const std::vector<QString> places = provider->getPlacesFromScope(scope);
-    const QString result = getOpenFileNameWrapper(caption, start, filter, selectedFilter, options,
-                                                  places, configuration, parent);
-    provider->setPathToScope(result, scope);
-    return result;
+    FileDialogRequest request = makeRequest(FileDialogPurpose::OpenFile, caption, filter, parent);
+    request.start = startDirectory.isEmpty() ? provider->getPathFromScope(scope) : startDirectory;
+    request.places = provider->getPlacesFromScope(scope);
+    request.selectedFilter = selectedFilter ? *selectedFilter : QString();
+    request.options = options;
+    request.configuration = configuration;
+    const FileDialogResult result = ask(request);
+    if (selectedFilter)
+        *selectedFilter = usedFilter(request, result);
+    const QString file = QDir::toNativeSeparators(result.path());
+    provider->setPathToScope(file, scope);
+    return file;
 }
 
 QString FileDialog::getOpenFileName(const QString& caption, const QString& filter,
@@ -113,31 +126,32 @@ QStringList FileDialog::getOpenFileNames(const QString& caption, const QString& 
                                          PathProvider* provider, const QString& scope,
                                          FileDialogConfiguration* configuration, QWidget* parent)
 {
-    const QString start = provider->getPathFromScope(scope);
-    const std::vector<QString> places = provider->getPlacesFromScope(scope);
-    const QStringList results = getOpenFileNamesWrapper(
-        caption, start, filter, nullptr, QFileDialog::Options(), places, configuration, parent);
-    if (!results.isEmpty())
-        provider->setPathToScope(QDir::toNativeSeparators(results.first()), scope);
-    return results;
+    FileDialogRequest request = makeRequest(FileDialogPurpose::OpenFiles, caption, filter, parent);
+    request.start = provider->getPathFromScope(scope);
+    request.places = provider->getPlacesFromScope(scope);
+    request.configuration = configuration;
+    const QStringList files = ask(request).paths;
+    if (!files.isEmpty())
+        provider->setPathToScope(QDir::toNativeSeparators(files.first()), scope);
+    return files;
 }
 
 QString FileDialog::getSaveFileName(const QString& caption, const QString& filter,
                                     const QString& selectedFilter, PathProvider* provider,
                                     const QString& scope, const QString& fileName, QWidget* parent)
 {
-    const std::vector<QString> places = provider->getPlacesFromScope(scope);
-    const QString start = getLastDirectoryOpened(provider, scope, fileName);
-    QString selected = selectedFilter.isEmpty() ? lastSaveFilters().value(scope) : selectedFilter;
-    QString result = getSaveFileNameWrapper(caption, start, filter, &selected, places, parent);
-    const QString suffix = result.isEmpty() || findFileEnding(result) >= 0
-                               ? QString()
-                               : defaultSuffix(selected, filter);
-    result += suffix;
-    s_wasEndingAdded = !suffix.isEmpty();
-    provider->setPathToScope(result, scope);
-    lastSaveFilters().insert(scope, selected);
-    return result;
+    FileDialogRequest request = makeRequest(FileDialogPurpose::SaveFile, caption, filter, parent);
+    request.places = provider->getPlacesFromScope(scope);
+    request.start = getLastDirectoryOpened(provider, scope, fileName);
+    request.selectedFilter =
+        selectedFilter.isEmpty() ? lastSaveFilters().value(scope) : selectedFilter;
+    request.addsEnding = true;
+    const FileDialogResult result = ask(request);
+    provider->setPathToScope(result.path(), scope);
+    lastSaveFilters().insert(scope, usedFilter(request, result));
+    // Last, since the provider may save something by a dialog as well.
+    s_wasEndingAdded = result.isEndingAdded;
+    return result.path();
 }
 
 QString FileDialog::getSaveFileName(const QString& caption, const QString& filter,
@@ -152,51 +166,88 @@ bool FileDialog::wasEndingAdded()
     return s_wasEndingAdded;
 }
 
+bool FileDialog::confirmReplacing(const QString& caption, const QString& file, QWidget* parent)
+{
+    if (!QFileInfo::exists(file))
+        return true;
+    const QString text =
+        ArgString(Translator::translate("FileDialog", "%1 already exists. Is it to be replaced?"))
+            .arg(QDir::toNativeSeparators(file))
+            .toQString();
+    QWidget* const owner = parent ? parent : applicationMainWindow();
+    // The owner may be destroyed while the box is open, and takes it along.
+    const QPointer<ZVMessageBox> box =
+        new ZVMessageBox(QMessageBox::Warning, caption, text, QMessageBox::Cancel, owner);
+    box->setTextFormat(Qt::PlainText);
+    const QPushButton* replace = box->addButton(Translator::translate("FileDialog", "&Replace"),
+                                                QMessageBox::DestructiveRole);
+    box->setDefaultButton(QMessageBox::Cancel);
+    const ShownDialog shown(s_openDialogsCount);
+    box->exec();
+    const bool isReplaced = box && box->clickedButton() == replace;
+    delete box;
+    return isReplaced;
+}
+
+QString FileDialog::withEnding(const QString& file, const QString& type)
+{
+    return file.isEmpty() || findFileEnding(file) >= 0 ? file : file + suffixOfFilter(type);
+}
+
 QString FileDialog::getSaveFileNameInDir(const QString& caption, const QString& filter,
                                          const QString& filePath, PathProvider* provider,
                                          const QString& scope, const QString& selectedFilter,
                                          const QString& message)
 {
-    const std::vector<QString> places = provider->getPlacesFromScope(scope);
+    FileDialogRequest request = makeRequest(FileDialogPurpose::SaveFile, caption, filter);
+    request.places = provider->getPlacesFromScope(scope);
     const QFileInfo wanted(filePath);
     const QString folder = filePath.isEmpty() ? QDir::currentPath() : wanted.absolutePath();
-    const QString start =
+    request.start =
         QDir::toNativeSeparators(filePath.isEmpty() ? folder : wanted.absoluteFilePath());
-    QString selected = selectedFilter;
-    const auto ask = [&] {
-        return getSaveFileNameWrapper(caption, start, filter,
-                                      selectedFilter.isEmpty() ? nullptr : &selected, places,
-                                      nullptr);
-    };
+    request.selectedFilter = selectedFilter;
 
-    QString result = ask();
-    while (!result.isEmpty() && QFileInfo(result).absolutePath() != folder) {
+    FileDialogResult result = ask(request);
+    while (!result.path().isEmpty() && QFileInfo(result.path()).absolutePath() != folder) {
         {
             const ShownDialog box(s_openDialogsCount);
-            tellWrongFolder(caption, message, folder);
+            refuseFolder(caption, message, folder);
         }
-        result = ask();
+        request.selectedFilter = usedFilter(request, result);
+        result = ask(request);
     }
-    if (!result.isEmpty())
-        result = QFileInfo(result).absoluteFilePath();
-    provider->setPathToScope(result, scope);
-    return result;
+    const QString file =
+        result.path().isEmpty() ? QString() : QFileInfo(result.path()).absoluteFilePath();
+    provider->setPathToScope(file, scope);
+    return file;
 }
 
 QString FileDialog::getExistingDirectoryName(const QString& caption, PathProvider* provider,
                                              const QString& scope, const QString& startDir)
 {
-    const QString proposed = proposedFolder(startDir, provider, scope);
-    QString result;
-    {
-        const ShownDialog dialog(s_openDialogsCount);
-        const SideBarWidening widening;
-        result = QFileDialog::getExistingDirectory(nullptr, caption, proposed,
-                                                   QFileDialog::ShowDirsOnly |
-                                                       QFileDialog::DontResolveSymlinks);
-    }
-    if (provider && !result.isEmpty() && folderExists(result))
-        provider->setPathToScope(result, scope);
+    FileDialogRequest request = makeRequest(FileDialogPurpose::Folder, caption, QString());
+    request.start = proposedFolder(startDir, provider, scope);
+    request.options = QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks;
+    if (provider)
+        request.places = provider->getPlacesFromScope(scope);
+    const QString folder = ask(request).path();
+    if (provider && !folder.isEmpty() && folderExists(folder))
+        provider->setPathToScope(folder, scope);
+    return folder;
+}
+
+FileDialogResult FileDialog::ask(const FileDialogRequest& request)
+{
+    const ShownDialog dialog(s_openDialogsCount);
+    FileDialogResult result = runFileDialog(request);
+    if (!request.addsEnding || result.paths.isEmpty())
+        return result;
+    const QString selected = usedFilter(request, result);
+    const QString whole =
+        withEnding(result.path(),
+                   selected.isEmpty() ? request.filter.section(QLatin1Char(';'), 0, 0) : selected);
+    result.isEndingAdded = whole != result.path();
+    result.paths.first() = whole;
     return result;
 }
 
@@ -210,40 +261,6 @@ QString FileDialog::getLastDirectoryOpened(PathProvider* provider, const QString
 int FileDialog::getOpenDialogsCount()
 {
     return s_openDialogsCount;
-}
-
-QString FileDialog::getOpenFileNameWrapper(const QString& caption, const QString& startPath,
-                                           const QString& filter, QString* selectedFilter,
-                                           QFileDialog::Options options,
-                                           const std::vector<QString>& places,
-                                           FileDialogConfiguration* configuration, QWidget* parent)
-{
-    const ShownDialog dialog(s_openDialogsCount);
-    return QDir::toNativeSeparators(
-        firstOf(runFileDialog({FileDialogPurpose::OpenFile, caption, startPath, filter,
-                               selectedFilter, options, places, configuration, parent})));
-}
-
-QStringList FileDialog::getOpenFileNamesWrapper(const QString& caption, const QString& startPath,
-                                                const QString& filter, QString* selectedFilter,
-                                                QFileDialog::Options options,
-                                                const std::vector<QString>& places,
-                                                FileDialogConfiguration* configuration,
-                                                QWidget* parent)
-{
-    const ShownDialog dialog(s_openDialogsCount);
-    return runFileDialog({FileDialogPurpose::OpenFiles, caption, startPath, filter, selectedFilter,
-                          options, places, configuration, parent});
-}
-
-QString FileDialog::getSaveFileNameWrapper(const QString& caption, const QString& startPath,
-                                           const QString& filter, QString* selectedFilter,
-                                           const std::vector<QString>& places, QWidget* parent)
-{
-    const ShownDialog dialog(s_openDialogsCount);
-    return firstOf(
-        runFileDialog({FileDialogPurpose::SaveFile, caption, startPath, filter, selectedFilter,
-                       QFileDialog::Options(), places, nullptr, parent}));
 }
 
 int FileDialog::findFileEnding(const QString& path)

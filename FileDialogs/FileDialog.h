@@ -1,40 +1,38 @@
 #pragma once
 
+#include "FileDialogs/FileDialogRequest.h"
 #include "UiToolsExport.h"
 
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtWidgets/QFileDialog>
 
-#include <vector>
-
 class QWidget;
 
 namespace Zorvane {
 
-class FileDialogConfiguration;
 class PathProvider;
 
 /**
  * The one place where the application asks the user for files and folders.
  *
- * A path provider tells, by scope, where a dialog opens and which places it offers, and is told
- * what the user chose. The system's own dialog is shown where there is one; else Qt's, as also
- * with the command-line option "alternativeFileDialog" and after any failure of the system's
- * dialog but cancel. Where Qt's dialog stands in for a system that has none, a configuration given
- * is kept: its controls, events and geometry work alike.
+ * A path provider gives, by scope, where a dialog opens and which places it offers, and is given
+ * what the user chose. The system's own dialog is shown where there is one; else Qt's, as also for
+ * folders, with the command-line option "alternativeFileDialog", and after any failure of the
+ * system's dialog but cancel. Qt's dialog has the controls, events and geometry of a configuration
+ * as well, except with that option.
  *
  * Filters are written as for `QFileDialog`: "Designs (*.dsg);;Meshes (*.stl *.obj)". Every call
- * returns when the dialog is closed; cancel gives an empty result. A dialog of the system, or Qt's
- * under a configuration, belongs to the parent or else to the main window (the application's
- * property "MainWindow"): the widgets from there up to the main window are disabled meanwhile, and
- * an owner that is destroyed takes the dialog along, as a cancel. Qt's plain dialogs have no owner.
+ * returns when the dialog is closed; cancel gives an empty result. A dialog belongs to the parent
+ * or else to the main window (the application's property "MainWindow"), and closes as a cancel when
+ * that is destroyed. While the system's is open, or Qt's under a configuration, the widgets from
+ * there up to the main window are disabled; Qt's other dialogs block the application and have no
+ * parent widget.
  *
  * Nothing is owned: provider, configuration and parent must live until the call returns (the
- * parent may go earlier). The provider must not be null unless a function says so. GUI thread only.
- * Not supported: several files in a save dialog, remote (URL) files, a configuration on saving, and
- * double quotes in a name typed into Qt's dialog, which takes them for the ends of names: of
- * `12" blank.dsg` it gives ` blank.dsg`. Propose names without them.
+ * parent may be destroyed earlier). The provider must not be null unless a function says so. GUI
+ * thread only.
+ * Not supported: several files in a save dialog, and remote (URL) files.
  */
 class ZORVANE_UITOOLS_EXPORT FileDialog
 {
@@ -77,14 +75,23 @@ public:
                                    const QString& fileName, QWidget* parent = nullptr);
     /**
      * Whether the last `getSaveFileName` added an ending to what the user chose. The dialog knew
-     * the name without it, so nobody has agreed to replacing a file of the name that came out.
+     * the name without it, so the user has not agreed to replacing a file of the name returned:
+     * call `confirmReplacing` before writing it.
      */
     static bool wasEndingAdded();
     /**
+     * Whether `file` may be written: yes if it doesn't exist, else the user's answer to a box that
+     * names it, with `caption` as its title. No if the parent is destroyed meanwhile.
+     */
+    static bool confirmReplacing(const QString& caption, const QString& file,
+                                 QWidget* parent = nullptr);
+    /** `file` with the ending of the type, such as "Designs (*.dsg)", unless it has one. */
+    static QString withEnding(const QString& file, const QString& type);
+    /**
      * A file to write in the folder of `filePath`, or of the process when that is empty. A choice
      * elsewhere is answered by a box with `message` (empty: a text that names the folder), and the
-     * dialog comes again, until the user picks a file there or cancels. No ending is added; whoever
-     * adds one asks before a file of that name is replaced, as the dialog has not.
+     * dialog is shown again, until the user picks a file there or cancels. No ending is added;
+     * after `withEnding`, `confirmReplacing` asks what the dialog has not.
      */
     static QString getSaveFileNameInDir(const QString& caption, const QString& filter,
                                         const QString& filePath, PathProvider* provider,
@@ -100,6 +107,12 @@ public:
                                             const QString& scope,
                                             const QString& startDir = QString());
 
+    /**
+     * Any dialog, with all that a request can hold; also for saving under a configuration. The
+     * result is of this call alone, whatever other dialogs were open meanwhile.
+     */
+    static FileDialogResult ask(const FileDialogRequest& request);
+
     /** The scope's folder with `fileName` in it; without a name, the scope's path as it is. */
     static QString getLastDirectoryOpened(PathProvider* provider, const QString& scope,
                                           const QString& fileName);
@@ -111,20 +124,6 @@ private:
     FileDialog();
     ~FileDialog();
 
-    static QString getOpenFileNameWrapper(const QString& caption, const QString& startPath,
-                                          const QString& filter, QString* selectedFilter,
-                                          QFileDialog::Options options,
-                                          const std::vector<QString>& places,
-                                          FileDialogConfiguration* configuration, QWidget* parent);
-    static QStringList getOpenFileNamesWrapper(const QString& caption, const QString& startPath,
-                                               const QString& filter, QString* selectedFilter,
-                                               QFileDialog::Options options,
-                                               const std::vector<QString>& places,
-                                               FileDialogConfiguration* configuration,
-                                               QWidget* parent);
-    static QString getSaveFileNameWrapper(const QString& caption, const QString& startPath,
-                                          const QString& filter, QString* selectedFilter,
-                                          const std::vector<QString>& places, QWidget* parent);
     static int findFileEnding(const QString& path);
 
     static int s_openDialogsCount;

@@ -15,10 +15,10 @@ class FileDialogConfiguration;
 class ZORVANE_UITOOLS_EXPORT FileDialogCallbackInterface
 {
 public:
-    FileDialogCallbackInterface();
-    FileDialogCallbackInterface(const FileDialogCallbackInterface& other);
-    FileDialogCallbackInterface& operator=(const FileDialogCallbackInterface& other);
-    virtual ~FileDialogCallbackInterface();
+    FileDialogCallbackInterface() = default;
+    FileDialogCallbackInterface(const FileDialogCallbackInterface& other) = default;
+    FileDialogCallbackInterface& operator=(const FileDialogCallbackInterface& other) = default;
+    virtual ~FileDialogCallbackInterface() = default;
 
     /** Sets the flags (`FileDialogConfiguration::ControlState`) of a custom control; an unknown
      * identifier changes nothing. */

@@ -1,7 +1,7 @@
 #include "FileDialogs/FileDialogConfiguration.h"
 
-#include "FileDialogs/DialogPlacement.h"
 #include "FileDialogs/FileDialogEventHandler.h"
+#include "FileDialogs/ScreenGeometry.h"
 #include "Files/ApplicationMainWindow.h"
 
 #include <QtCore/QSettings>
@@ -24,6 +24,11 @@ QString topLeftKey(const QString& settingsKey)
 QString bottomRightKey(const QString& settingsKey)
 {
     return settingsKey + QStringLiteral("/bottomRight");
+}
+
+QString windowSizeKey(const QString& settingsKey)
+{
+    return settingsKey + QStringLiteral("/windowSize");
 }
 
 } // namespace
@@ -75,6 +80,18 @@ void FileDialogConfiguration::storeFileDialogGeometry(const QRect& rect)
     settings.setValue(bottomRightKey(m_settingsKey), rect.bottomRight());
 }
 
+void FileDialogConfiguration::storeWindowSize(const QSize& size)
+{
+    QSettings().setValue(windowSizeKey(m_settingsKey), size);
+}
+
+QSize FileDialogConfiguration::placedSize(const QSize& stored) const
+{
+    const QSize window = QSettings().value(windowSizeKey(m_settingsKey)).toSize();
+    return QSize(stored.width() == window.width() + 1 ? window.width() : stored.width(),
+                 stored.height() == window.height() + 1 ? window.height() : stored.height());
+}
+
 QPoint FileDialogConfiguration::getPositionForPreviewer()
 {
     return QPoint(-1, -1);
@@ -112,6 +129,16 @@ FileDialogConfiguration::findCustomControl(int controlId) const
     return found == m_customControls.end() ? nullptr : &*found;
 }
 
+void FileDialogConfiguration::setInitialValue(int controlId, const QVariant& value)
+{
+    for (CustomItem& item : m_customControls) {
+        if (item.controlId == controlId) {
+            item.initialValue = value;
+            return;
+        }
+    }
+}
+
 void FileDialogConfiguration::setDefaultDialogSize(const QSize& size)
 {
     m_defaultDialogSize = size;
@@ -128,6 +155,16 @@ QSize FileDialogConfiguration::getDefaultDialogSize() const
 void FileDialogConfiguration::setTopLeftOffset(const QSize& offset)
 {
     m_topLeftOffset = offset;
+}
+
+void FileDialogConfiguration::setMinimumDialogWidth(int width)
+{
+    m_minimumDialogWidth = width;
+}
+
+int FileDialogConfiguration::minimumDialogWidth() const
+{
+    return m_minimumDialogWidth;
 }
 
 } // namespace Zorvane

@@ -16,15 +16,17 @@ namespace Zorvane {
 class FileDialogEventHandler;
 
 /**
- * What an open dialog gets beyond the plain one: where its window goes and how big it is, kept in
- * the application's settings by a key; controls of the caller's own; and a handler that is told
- * what the user does. Give it to the open functions of `FileDialog`; it must live until they
- * return, and nothing in it changes meanwhile except through the geometry calls.
+ * What a dialog gets beyond the plain one: where its window goes and how big it is, kept in the
+ * application's settings by a key; controls of the caller's own; and a handler that is notified of
+ * what the user does. Give it to the open functions of `FileDialog`, or to `FileDialog::ask`; it
+ * must live until they return, and nothing in it changes meanwhile except through the geometry
+ * calls.
  *
  * Rectangles are outer ones (with the window's frame), in Qt's pixels (`QScreen::geometry`), also
  * where Qt scales screens and the system's dialogs count the screens' own pixels. One exception:
- * what the system's dialog stores when it was moved is one pixel wider and higher than the window.
- * Not supported: controls in save dialogs and in folder dialogs.
+ * what the system's dialog stores when it was moved is one pixel wider and higher than the window,
+ * which is taken off again when such a dialog is placed.
+ * Not supported: controls in folder dialogs, and in save dialogs of the system.
  */
 class ZORVANE_UITOOLS_EXPORT FileDialogConfiguration
 {
@@ -83,6 +85,13 @@ public:
     /** The stored rectangle; false, with `rect` as it was, unless both corners are stored. */
     virtual bool getFileDialogGeometry(QRect& rect);
     virtual void storeFileDialogGeometry(const QRect& rect);
+    /**
+     * Notes the size of the window whose rectangle was stored one pixel wider and higher, as the
+     * system's dialog does. A later `placedSize` of that rectangle's size is the window's again.
+     */
+    void storeWindowSize(const QSize& size);
+    /** The size to give a window whose rectangle, or one side of it, was stored. */
+    QSize placedSize(const QSize& stored) const;
     /** Where the corner of a window beside the dialog goes; (-1, -1) stands for nowhere. */
     virtual QPoint getPositionForPreviewer();
     /** Notes the rectangle for the life of one dialog; here it is forgotten at once. */
@@ -97,16 +106,22 @@ public:
     const CustomItem& getCustomControl(int index) const;
     /** The first control of the identifier; null if there is none. */
     const CustomItem* findCustomControl(int controlId) const;
+    /** Of the first control of the identifier; an unknown one changes nothing. */
+    void setInitialValue(int controlId, const QVariant& value);
 
     void setDefaultDialogSize(const QSize& size);
     /** As high as the handler's previewer, where that has a valid rectangle. */
     QSize getDefaultDialogSize() const;
     /** Width is the distance to the right, height that downwards. */
     void setTopLeftOffset(const QSize& offset);
+    /** What the dialog needs; set by a dialog that knows it, for layouts beside it. At first 0. */
+    void setMinimumDialogWidth(int width);
+    int minimumDialogWidth() const;
 
 private:
     QSize m_defaultDialogSize;
     QSize m_topLeftOffset;
+    int m_minimumDialogWidth = 0;
     QList<CustomItem> m_customControls;
     FileDialogEventHandler* m_eventHandler = nullptr;
     QString m_settingsKey;

@@ -20,10 +20,10 @@ namespace Zorvane {
 class ZORVANE_UITOOLS_EXPORT PreviewEditorInterface
 {
 public:
-    PreviewEditorInterface();
-    PreviewEditorInterface(const PreviewEditorInterface& other);
-    PreviewEditorInterface& operator=(const PreviewEditorInterface& other);
-    virtual ~PreviewEditorInterface();
+    PreviewEditorInterface() = default;
+    PreviewEditorInterface(const PreviewEditorInterface& other) = default;
+    PreviewEditorInterface& operator=(const PreviewEditorInterface& other) = default;
+    virtual ~PreviewEditorInterface() = default;
 
     /** Creates the window, hidden, on a screen of `QGuiApplication::screens()`; -1: the first. */
     virtual void initialize(int screen) = 0;

@@ -14,62 +14,73 @@
 
 namespace Zorvane {
 
-namespace {
-
-PathProvider* usedProvider(PathProvider* provider)
+/** What a call needs until it returns, though the dialog object may be destroyed before. */
+struct PreviewFileDialog::Session
 {
-    return provider ? provider : LastPathProvider::getInstance();
-}
+    ~Session()
+    {
+        // The configuration is shared and may stay; it must not keep a handler that is gone.
+        if (handler && configuration->getEventHandler() == handler.get())
+            configuration->setEventHandler(nullptr);
+    }
 
-} // namespace
+    std::shared_ptr<PreviewFileDialogConfiguration> configuration;
+    /** Null without a preview. */
+    std::unique_ptr<PreviewFileDialogEventHandler> handler;
+};
 
 PreviewFileDialog::PreviewFileDialog(std::shared_ptr<PreviewEditorInterface> editor,
                                      std::shared_ptr<PreviewFileDialogConfiguration> configuration,
                                      QWidget* parent)
-    : m_configuration(std::move(configuration))
+    : m_session(std::make_shared<Session>())
     , m_parent(parent)
 {
-    // Qt's static dialogs have no events to follow.
+    m_session->configuration = std::move(configuration);
+    // Qt's dialogs by that option have no events to follow.
     if (CommandLineParser::instance()->optionWasSpecified(QStringLiteral("alternativeFileDialog")))
         return;
-    m_handler = std::make_unique<PreviewFileDialogEventHandler>(std::move(editor));
-    m_configuration->setEventHandler(m_handler.get());
+    m_session->handler = std::make_unique<PreviewFileDialogEventHandler>(std::move(editor));
+    m_session->configuration->setEventHandler(m_session->handler.get());
 }
 
-PreviewFileDialog::~PreviewFileDialog()
-{
-    // The configuration is shared and may stay; it must not keep what goes now.
-    if (m_handler && m_configuration->getEventHandler() == m_handler.get())
-        m_configuration->setEventHandler(static_cast<PreviewFileDialogEventHandler*>(nullptr));
-}
+PreviewFileDialog::~PreviewFileDialog() = default;
 
-template <typename Ask>
-auto PreviewFileDialog::withPreview(Ask ask)
+QStringList PreviewFileDialog::withPreview(PathProvider* provider, Ask ask)
 {
-    if (m_handler)
-        m_handler->showPreview(m_handler->isPreviewWanted());
-    const auto hide = qScopeGuard([this] {
-        if (m_handler)
-            m_handler->showPreview(false);
+    const std::shared_ptr<Session> session = m_session;
+    PreviewFileDialogEventHandler* const handler = session->handler.get();
+    if (handler) {
+        handler->beginCall();
+        handler->showPreview(handler->isPreviewWanted());
+    }
+    const auto hide = qScopeGuard([handler] {
+        if (handler)
+            handler->showPreview(false);
     });
-    return ask();
+    return ask(*session, filter(), provider ? provider : LastPathProvider::getInstance(), m_parent);
 }
 
 QString PreviewFileDialog::getOpenFileName(PathProvider* provider)
 {
-    return withPreview([this, provider] {
-        return FileDialog::getOpenFileName(
-            m_configuration->getDialogCaptionForSingleFile(), filter(), usedProvider(provider),
-            m_configuration->getScopeName(), m_configuration.get(), m_parent);
-    });
+    return withPreview(provider,
+                       [](Session& session, const QString& filter, PathProvider* usedProvider,
+                          QWidget* parent) {
+                           PreviewFileDialogConfiguration& configuration = *session.configuration;
+                           return QStringList(FileDialog::getOpenFileName(
+                               configuration.getDialogCaptionForSingleFile(), filter, usedProvider,
+                               configuration.getScopeName(), &configuration, parent));
+                       })
+        .value(0);
 }
 
 QStringList PreviewFileDialog::getOpenFileNames(PathProvider* provider)
 {
-    return withPreview([this, provider] {
-        return FileDialog::getOpenFileNames(
-            m_configuration->getDialogCaptionForMultipleFiles(), filter(), usedProvider(provider),
-            m_configuration->getScopeName(), m_configuration.get(), m_parent);
+    return withPreview(provider, [](Session& session, const QString& filter,
+                                    PathProvider* usedProvider, QWidget* parent) {
+        PreviewFileDialogConfiguration& configuration = *session.configuration;
+        return FileDialog::getOpenFileNames(configuration.getDialogCaptionForMultipleFiles(),
+                                            filter, usedProvider, configuration.getScopeName(),
+                                            &configuration, parent);
     });
 }
 
@@ -82,8 +93,9 @@ QString PreviewFileDialog::filter() const
 {
     if (!m_filter.isEmpty())
         return m_filter;
+    const PreviewFileDialogConfiguration& configuration = *m_session->configuration;
     return QString::fromStdString(getFileFilterForTypes(
-        m_configuration->getFileTypes(), m_configuration->enableAllFilesEntry(), std::string()));
+        configuration.getFileTypes(), configuration.enableAllFilesEntry(), std::string()));
 }
 
 } // namespace Zorvane

@@ -14,7 +14,6 @@ namespace Zorvane {
 class PathProvider;
 class PreviewEditorInterface;
 class PreviewFileDialogConfiguration;
-class PreviewFileDialogEventHandler;
 
 /**
  * An open dialog with a window beside it that shows the file that is selected.
@@ -25,10 +24,9 @@ class PreviewFileDialogEventHandler;
  *     PreviewFileDialog dialog(editor, configuration, mainWindow);
  *     const QStringList files = dialog.getOpenFileNames(nullptr);
  *
- * The check box starts as the setting was when the configuration got its handler
- * (`setEventHandler`, in this object's constructor), and the preview as the setting is now. Asked a
- * second time after the user has switched the preview, one object shows the two apart: make a new
- * one, with a new configuration, for every dialog.
+ * Each call reads the settings anew, so that the check box and the two windows start as the user
+ * left them; only the first call also places the dialog where the system shows its own. The parent
+ * may be destroyed while the dialog is open, and this object with it: the call is cancelled then.
  *
  * With the command-line option "alternativeFileDialog" there is no preview. The configuration must
  * not be used for another dialog, neither during this object's life nor after it.
@@ -56,13 +54,15 @@ public:
     QStringList getOpenFileNames(PathProvider* provider);
 
 private:
+    struct Session;
+    using Ask = QStringList (*)(Session& session, const QString& filter, PathProvider* provider,
+                                QWidget* parent);
+
     QString filter() const;
     /** Runs `ask` with the preview shown as the user wants it, and hidden afterwards. */
-    template <typename Ask>
-    auto withPreview(Ask ask);
+    QStringList withPreview(PathProvider* provider, Ask ask);
 
-    std::shared_ptr<PreviewFileDialogConfiguration> m_configuration;
-    std::unique_ptr<PreviewFileDialogEventHandler> m_handler;
+    std::shared_ptr<Session> m_session;
     QPointer<QWidget> m_parent;
     QString m_filter;
 };

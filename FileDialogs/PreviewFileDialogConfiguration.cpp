@@ -1,9 +1,8 @@
 #include "FileDialogs/PreviewFileDialogConfiguration.h"
 
-#include "FileDialogs/DialogPlacement.h"
 #include "FileDialogs/PreviewEditorInterface.h"
 #include "FileDialogs/PreviewFileDialogEventHandler.h"
-#include "FileDialogs/PreviewGeometry.h"
+#include "FileDialogs/ScreenGeometry.h"
 #include "Host/Translation/Translator.h"
 
 #include <QtGui/QGuiApplication>
@@ -29,8 +28,7 @@ QPoint asPoint(const QSize& distance)
 
 } // namespace
 
-const int PreviewFileDialogConfiguration::s_distanceBetweenFileDlgAndPreviewer =
-    PreviewGeometry::distance;
+const int PreviewFileDialogConfiguration::s_distanceBetweenFileDlgAndPreviewer = distanceToPreview;
 
 PreviewFileDialogConfiguration::PreviewFileDialogConfiguration(
     const std::string& settingsKey, const std::string& showPreviewKey,
@@ -67,6 +65,31 @@ void PreviewFileDialogConfiguration::setEventHandler(PreviewFileDialogEventHandl
     addCustomControl(checkBox);
 }
 
+void PreviewFileDialogConfiguration::setEventHandler(std::nullptr_t)
+{
+    FileDialogConfiguration::setEventHandler(nullptr);
+}
+
+void PreviewFileDialogConfiguration::beginCall(bool isPreviewWanted)
+{
+    m_dialogWithPreviewGeometry = QRect();
+    m_temporaryDialogGeometry = QRect();
+    setInitialValue(PreviewFileDialogEventHandler::s_previewCheckBoxId, isPreviewWanted);
+}
+
+bool PreviewFileDialogConfiguration::prepareFitting(const QRect& preview)
+{
+    const bool isLaidOut = !m_dialogWithPreviewGeometry.isNull();
+    const QRect dialog = isLaidOut ? m_dialogWithPreviewGeometry
+                                   : QRect(asPoint(getTopLeftOffset()), getDefaultDialogSize());
+    const bool isPreviewOnScreen =
+        isLaidOut || getGeometryOfScreenWithFileDialog(dialog).contains(preview);
+    if (isPreviewOnScreen && dialog.width() >= minimumDialogWidth())
+        return false;
+    storeTemporaryFileDialogGeometry(dialog);
+    return true;
+}
+
 QSize PreviewFileDialogConfiguration::getTopLeftOffset()
 {
     PreviewFileDialogEventHandler* handler = previewHandler();
@@ -97,7 +120,7 @@ QPoint PreviewFileDialogConfiguration::getPositionForPreviewer()
     QRect dialog = takeDialogGeometry();
     PreviewFileDialogEventHandler* handler = previewHandler();
     if (dialog.isNull() || !handler) {
-        const int width = getDefaultDialogSize().width() + PreviewGeometry::distance;
+        const int width = getDefaultDialogSize().width() + distanceToPreview;
         return asPoint(getTopLeftOffset()) + QPoint(width, 0);
     }
     const std::shared_ptr<PreviewEditorInterface>& editor = handler->editor();
@@ -109,6 +132,7 @@ QPoint PreviewFileDialogConfiguration::getPositionForPreviewer()
     }
     QRect preview = editor->getGeometry();
     adjustGeometryOfFileDialogAndPreview(dialog, preview, screen);
+    keepMinimumWidth(dialog, preview, screen, minimumDialogWidth());
     m_dialogWithPreviewGeometry = dialog;
     return preview.topLeft();
 }
@@ -175,14 +199,14 @@ QRect PreviewFileDialogConfiguration::getTemporaryFileDialogGeometry() const
 
 QRect PreviewFileDialogConfiguration::getGeometryOfScreenWithFileDialog(const QRect& rect) const
 {
-    return PreviewGeometry::availableAreaWith(rect, PreviewGeometry::currentScreens());
+    return availableAreaWith(rect, currentScreens());
 }
 
 void PreviewFileDialogConfiguration::adjustGeometryOfFileDialogAndPreview(QRect& dialog,
                                                                           QRect& preview,
                                                                           const QRect& screen) const
 {
-    PreviewGeometry::placeSideBySide(dialog, preview, screen, m_screenMargin);
+    placeSideBySide(dialog, preview, screen, m_screenMargin);
 }
 
 } // namespace Zorvane

@@ -3,6 +3,7 @@
 #include "FileDialogs/FileDialogConfiguration.h"
 #include "Host/FileHandling/ZvFileType.h"
 
+#include <cstddef>
 #include <list>
 #include <string>
 
@@ -53,6 +54,16 @@ public:
     using FileDialogConfiguration::setEventHandler;
     /** Not owned. Adds the check box "Preview" to the dialog; null only takes the handler away. */
     virtual void setEventHandler(PreviewFileDialogEventHandler* eventHandler);
+    /** Takes the handler away. */
+    void setEventHandler(std::nullptr_t);
+
+    /** Before a dialog: forgets the layout of the one before, and sets the check box "Preview". */
+    void beginCall(bool isPreviewWanted);
+    /**
+     * Whether the two are to be laid out anew, the preview as it is now being off the screen or the
+     * dialog narrower than it can be: then the next `getPositionForPreviewer` does that.
+     */
+    bool prepareFitting(const QRect& preview);
 
     QString getShowPreviewKey() const;
     QString getDialogCaptionForSingleFile() const;

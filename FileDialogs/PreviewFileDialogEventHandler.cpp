@@ -29,8 +29,8 @@ QRect PreviewFileDialogEventHandler::getPreviewerSize()
 void PreviewFileDialogEventHandler::onSelectionChanged(const QStringList& selectedFiles,
                                                        const FileDialogCallbackInterface&)
 {
-    m_editor->showFile(selectedFiles.isEmpty() ? std::string()
-                                               : selectedFiles.first().toStdString());
+    m_selectedFile = selectedFiles.value(0).toStdString();
+    m_editor->showFile(m_selectedFile);
 }
 
 void PreviewFileDialogEventHandler::onCheckBoxToggled(bool checked, int controlId,
@@ -51,13 +51,14 @@ void PreviewFileDialogEventHandler::onTypeChanged(const FileDialogCallbackInterf
 {
     if (!m_isFirstTypeChangePending)
         return;
+    fitPreview();
     callbacks.placeDialog(m_configuration);
     m_isFirstTypeChangePending = false;
 }
 
-const PreviewFileDialogConfiguration* PreviewFileDialogEventHandler::previewConfiguration() const
+PreviewFileDialogConfiguration* PreviewFileDialogEventHandler::previewConfiguration() const
 {
-    return dynamic_cast<const PreviewFileDialogConfiguration*>(m_configuration);
+    return dynamic_cast<PreviewFileDialogConfiguration*>(m_configuration);
 }
 
 bool PreviewFileDialogEventHandler::isPreviewWanted() const
@@ -81,15 +82,35 @@ void PreviewFileDialogEventHandler::storePreviewWanted(bool wanted) const
 
 void PreviewFileDialogEventHandler::showPreview(bool visible)
 {
+    m_isPreviewShown = visible;
     if (!visible) {
         m_editor->setVisible(false);
         return;
     }
-    if (!m_editor->isInitialized())
+    const bool isNew = !m_editor->isInitialized();
+    if (isNew)
         m_editor->initialize(-1);
     m_editor->setVisible(true);
     if (m_configuration)
         m_editor->moveTo(m_configuration->getPositionForPreviewer());
+    // Selected before there was a window to show it.
+    if (isNew && !m_selectedFile.empty())
+        m_editor->showFile(m_selectedFile);
+}
+
+void PreviewFileDialogEventHandler::beginCall()
+{
+    m_selectedFile.clear();
+    if (PreviewFileDialogConfiguration* configuration = previewConfiguration())
+        configuration->beginCall(isPreviewWanted());
+}
+
+/** The preview was placed before the dialog was there, whose needs are known only now. */
+void PreviewFileDialogEventHandler::fitPreview()
+{
+    PreviewFileDialogConfiguration* configuration = previewConfiguration();
+    if (configuration && m_isPreviewShown && configuration->prepareFitting(m_editor->getGeometry()))
+        m_editor->moveTo(configuration->getPositionForPreviewer());
 }
 
 } // namespace Zorvane

@@ -3,6 +3,7 @@
 #include "FileDialogs/FileDialogEventHandler.h"
 
 #include <memory>
+#include <string>
 
 namespace Zorvane {
 
@@ -40,15 +41,21 @@ public:
     bool isPreviewWanted() const;
     /** Shows the window where the configuration puts it, or hides it. */
     void showPreview(bool visible);
+    /** Before a dialog is shown: forgets what the one before has left, and reads the settings. */
+    void beginCall();
     const std::shared_ptr<PreviewEditorInterface>& editor() const { return m_editor; }
 
 private:
     /** Null if the configuration is none or another. */
-    const PreviewFileDialogConfiguration* previewConfiguration() const;
+    PreviewFileDialogConfiguration* previewConfiguration() const;
     void storePreviewWanted(bool wanted) const;
+    void fitPreview();
 
     std::shared_ptr<PreviewEditorInterface> m_editor;
     bool m_isFirstTypeChangePending = true;
+    bool m_isPreviewShown = false;
+    /** In UTF-8; empty with nothing selected. */
+    std::string m_selectedFile;
 };
 
 } // namespace Zorvane

@@ -579,17 +579,6 @@
     </message>
 </context>
 <context>
-    <name>Zorvane::Workbench::DialogFileChooser</name>
-    <message>
-        <source>%1 already exists. Is it to be replaced?</source>
-        <translation>%1 gibt es schon. Soll die Datei ersetzt werden?</translation>
-    </message>
-    <message>
-        <source>&amp;Replace</source>
-        <translation>&amp;Ersetzen</translation>
-    </message>
-</context>
-<context>
     <name>Zorvane::Workbench::DialogOutcome</name>
     <message>
         <source>Shown by: %1</source>

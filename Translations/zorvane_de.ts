@@ -286,6 +286,14 @@
 <context>
     <name>FileDialog</name>
     <message>
+        <source>%1 already exists. Is it to be replaced?</source>
+        <translation>%1 gibt es schon. Soll die Datei ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
         <source>This file can only be saved at &apos;%1&apos;</source>
         <translation>Diese Datei kann nur in „%1“ gespeichert werden</translation>
     </message>
@@ -324,11 +332,15 @@ Sollen sie nach %1 kopiert werden?</translation>
     <name>PreviewFileDialogConfiguration</name>
     <message>
         <source>Preview</source>
-        <translation>Vorschau</translation>
+        <translation>&amp;Vorschau</translation>
     </message>
 </context>
 <context>
     <name>QFileDialog</name>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
     <message>
         <source>All Files (*.*)</source>
         <translation>Alle Dateien (*.*)</translation>

@@ -1,8 +1,8 @@
-#include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/FileDialogDriver.h"
 
 namespace Zorvane {
 
-std::unique_ptr<NativeFileDialogDriver> createPlatformFileDialogDriver()
+std::unique_ptr<FileDialogDriver> createPlatformFileDialogDriver()
 {
     return nullptr;
 }

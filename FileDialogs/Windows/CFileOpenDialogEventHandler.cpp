@@ -1,7 +1,7 @@
 #include "FileDialogs/Windows/CFileOpenDialogEventHandler.h"
 
+#include "FileDialogs/DialogTexts.h"
 #include "FileDialogs/FileDialogEventHandler.h"
-#include "FileDialogs/SelectedFiles.h"
 #include "FileDialogs/Windows/DialogGuard.h"
 #include "FileDialogs/Windows/DialogItems.h"
 #include "FileDialogs/Windows/WinFileDialogCallbacks.h"

@@ -1,103 +1,170 @@
 #include "FileDialogs/Windows/CommonItemDialog.h"
 
+#include "FileDialogs/DialogTexts.h"
 #include "FileDialogs/FileDialogConfiguration.h"
-#include "FileDialogs/Windows/AdvisedEvents.h"
 #include "FileDialogs/Windows/CFileInitializeSelectHandler.h"
 #include "FileDialogs/Windows/CFileOpenDialogEventHandler.h"
-#include "FileDialogs/Windows/CustomControls.h"
+#include "FileDialogs/Windows/DialogEvents.h"
 #include "FileDialogs/Windows/DialogGuard.h"
 #include "FileDialogs/Windows/DialogItems.h"
+#include "Files/Windows/ComPointer.h"
 #include "Files/Windows/ShellPath.h"
-
-#include <QtCore/QPointer>
-#include <QtWidgets/QWidget>
 
 #include <new>
 #include <vector>
 
 namespace Zorvane {
 
+namespace {
+
+using CustomItem = FileDialogConfiguration::CustomItem;
+
+HRESULT addCheckBox(IFileDialogCustomize* dialog, const CustomItem& item)
+{
+    return dialog->AddCheckButton(DWORD(item.controlId), wide(item.content.toString()),
+                                  item.initialValue.toBool());
+}
+
+HRESULT addComboBox(IFileDialogCustomize* dialog, const CustomItem& item)
+{
+    const DWORD id = DWORD(item.controlId);
+    HRESULT result = dialog->AddComboBox(id);
+    DWORD itemId = 0;
+    for (const QString& text : item.content.toStringList()) {
+        if (FAILED(result))
+            return result;
+        result = dialog->AddControlItem(id, itemId++, wide(text));
+    }
+    if (SUCCEEDED(result))
+        result = dialog->SetSelectedControlItem(id, DWORD(item.initialValue.toInt()));
+    return result;
+}
+
+HRESULT addControl(IFileDialogCustomize* dialog, const CustomItem& item)
+{
+    HRESULT result = S_OK;
+    if (item.controlType == FileDialogConfiguration::CheckBox)
+        result = addCheckBox(dialog, item);
+    else if (item.controlType == FileDialogConfiguration::ComboBox)
+        result = addComboBox(dialog, item);
+    if (SUCCEEDED(result))
+        result = dialog->SetControlState(DWORD(item.controlId), CDCONTROLSTATEF(item.controlState));
+    return result;
+}
+
+HRESULT addItem(IFileDialogCustomize* dialog, const CustomItem& item, DWORD groupId)
+{
+    const bool isGrouped = !item.groupLabel.isEmpty();
+    HRESULT result = S_OK;
+    if (isGrouped)
+        result = dialog->StartVisualGroup(groupId, wide(item.groupLabel));
+    if (SUCCEEDED(result))
+        result = addControl(dialog, item);
+    if (SUCCEEDED(result) && isGrouped)
+        result = dialog->EndVisualGroup();
+    if (SUCCEEDED(result) && item.prominent)
+        result = dialog->MakeProminent(isGrouped ? groupId : DWORD(item.controlId));
+    return result;
+}
+
+/**
+ * Adds the configuration's controls to a dialog, one after another. Ends with the first call that
+ * fails, with the controls before that in the dialog.
+ */
+HRESULT addCustomControls(IFileDialogCustomize* dialog,
+                          const FileDialogConfiguration& configuration)
+{
+    HRESULT result = S_OK;
+    for (int i = 0; i < configuration.numberOfcustomControls() && SUCCEEDED(result); ++i)
+        result = addItem(dialog, configuration.getCustomControl(i),
+                         FileDialogConfiguration::s_firstGroupId + DWORD(i));
+    return result;
+}
+
+HRESULT appendChosen(IFileOpenDialog* dialog, QStringList& paths)
+{
+    ComPointer<IShellItemArray> items;
+    const HRESULT result = dialog->GetResults(items.put());
+    return SUCCEEDED(result) ? appendPaths(items.get(), paths) : result;
+}
+
+HRESULT appendChosen(IFileSaveDialog* dialog, QStringList& paths)
+{
+    ComPointer<IShellItem> item;
+    const HRESULT result = dialog->GetResult(item.put());
+    return SUCCEEDED(result) ? appendPath(item.get(), paths) : result;
+}
+
+} // namespace
+
 CommonItemDialog::CommonItemDialog(const ShellFunctions& shell,
                                    const WindowEventFunctions& windowEvents,
-                                   const NativeFileDialogRequest& request)
+                                   const FileDialogRequest& request, HWND owner)
     : m_shell(shell)
     , m_windowEvents(windowEvents)
     , m_request(request)
+    , m_owner(owner)
 {}
 
-HRESULT CommonItemDialog::open(QStringList& paths) const
+HRESULT CommonItemDialog::run(QStringList& paths) const
 {
-    ComPointer<IFileOpenDialog> dialog;
-    HRESULT result = CoCreateInstance(CLSID_FileOpenDialog, nullptr, CLSCTX_INPROC_SERVER,
-                                      IID_PPV_ARGS(dialog.put()));
+    return m_request.purpose == FileDialogPurpose::SaveFile
+               ? runBy<IFileSaveDialog>(CLSID_FileSaveDialog, paths)
+               : runBy<IFileOpenDialog>(CLSID_FileOpenDialog, paths);
+}
+
+template <typename Dialog>
+HRESULT CommonItemDialog::runBy(const CLSID& dialogClass, QStringList& paths) const
+{
+    ComPointer<Dialog> dialog;
+    HRESULT result =
+        CoCreateInstance(dialogClass, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(dialog.put()));
     if (FAILED(result))
         return result;
     const auto guard = std::make_shared<DialogGuard>(dialog.get());
     AdvisedEvents presetEvents(dialog.get());
     AdvisedEvents events(dialog.get());
-    const DWORD moreOptions = m_request.multiSelection ? DWORD(FOS_ALLOWMULTISELECT) : 0;
-    result = prepare(dialog.get(), moreOptions, presetEvents, *guard);
+    result = prepare(dialog.get(), presetEvents, *guard);
     if (SUCCEEDED(result))
         result = attachConfiguration(dialog.get(), events, *guard);
-    FileDialogConfiguration standard;
     if (SUCCEEDED(result))
-        result = show(dialog.get(), m_request.configuration ? *m_request.configuration : standard,
-                      *guard);
+        result = show(dialog.get(), *guard);
     guard->rethrow();
-    ComPointer<IShellItemArray> items;
-    if (SUCCEEDED(result))
-        result = dialog->GetResults(items.put());
-    return SUCCEEDED(result) ? appendPaths(items.get(), paths) : result;
+    return SUCCEEDED(result) ? appendChosen(dialog.get(), paths) : result;
 }
 
-HRESULT CommonItemDialog::save(QStringList& paths) const
+HRESULT CommonItemDialog::prepare(IFileDialog* dialog, AdvisedEvents& presetEvents,
+                                  DialogGuard& guard) const
 {
-    ComPointer<IFileSaveDialog> dialog;
-    HRESULT result = CoCreateInstance(CLSID_FileSaveDialog, nullptr, CLSCTX_INPROC_SERVER,
-                                      IID_PPV_ARGS(dialog.put()));
-    if (FAILED(result))
-        return result;
-    const auto guard = std::make_shared<DialogGuard>(dialog.get());
-    AdvisedEvents presetEvents(dialog.get());
-    result = prepare(dialog.get(), 0, presetEvents, *guard);
-    FileDialogConfiguration standard;
-    if (SUCCEEDED(result))
-        result = show(dialog.get(), standard, *guard);
-    guard->rethrow();
-    ComPointer<IShellItem> item;
-    if (SUCCEEDED(result))
-        result = dialog->GetResult(item.put());
-    return SUCCEEDED(result) ? appendPath(item.get(), paths) : result;
-}
-
-HRESULT CommonItemDialog::prepare(IFileDialog* dialog, DWORD moreOptions,
-                                  AdvisedEvents& presetEvents, DialogGuard& guard) const
-{
+    const DialogStart start = dialogStart(m_request.start);
     HRESULT result = dialog->SetTitle(wide(m_request.caption));
     if (SUCCEEDED(result))
-        result = setOptions(dialog, moreOptions);
+        result = setOptions(dialog);
     if (SUCCEEDED(result))
         result = setFileTypes(dialog);
     if (FAILED(result))
         return result;
-    setFolder(dialog);
-    result = presetFile(dialog, presetEvents, guard);
+    setFolder(dialog, start.folder);
+    result = presetFile(dialog, start.fileName, presetEvents, guard);
     if (SUCCEEDED(result))
         addPlaces(dialog);
     return result;
 }
 
-HRESULT CommonItemDialog::setOptions(IFileDialog* dialog, DWORD moreOptions) const
+HRESULT CommonItemDialog::setOptions(IFileDialog* dialog) const
 {
     DWORD options = 0;
     const HRESULT result = dialog->GetOptions(&options);
-    return SUCCEEDED(result) ? dialog->SetOptions(options | moreOptions | FOS_FORCEFILESYSTEM)
-                             : result;
+    if (FAILED(result))
+        return result;
+    if (m_request.purpose == FileDialogPurpose::OpenFiles)
+        options |= FOS_ALLOWMULTISELECT;
+    return dialog->SetOptions(options | FOS_FORCEFILESYSTEM);
 }
 
 HRESULT CommonItemDialog::setFileTypes(IFileDialog* dialog) const
 {
-    const NativeFileFilters& filters = m_request.filters;
+    const NativeFileFilters filters = nativeFileFilters(m_request.filter, m_request.selectedFilter);
     std::vector<COMDLG_FILTERSPEC> types;
     for (int i = 0; i < filters.names.size(); ++i)
         types.push_back({wide(filters.names.at(i)), wide(filters.patterns.at(i))});
@@ -111,23 +178,22 @@ HRESULT CommonItemDialog::setFileTypes(IFileDialog* dialog) const
 }
 
 /** A folder that cannot be had leaves the dialog to its own choice. */
-void CommonItemDialog::setFolder(IFileDialog* dialog) const
+void CommonItemDialog::setFolder(IFileDialog* dialog, const QString& path) const
 {
     ComPointer<IShellItem> folder;
-    if (SUCCEEDED(createItem(m_request.folder, folder.put())))
+    if (SUCCEEDED(createItem(path, folder.put())))
         dialog->SetFolder(folder.get());
 }
 
-HRESULT CommonItemDialog::presetFile(IFileDialog* dialog, AdvisedEvents& presetEvents,
-                                     DialogGuard& guard) const
+HRESULT CommonItemDialog::presetFile(IFileDialog* dialog, const QString& name,
+                                     AdvisedEvents& presetEvents, DialogGuard& guard) const
 {
-    if (m_request.fileName.isEmpty())
+    if (name.isEmpty())
         return S_OK;
-    const HRESULT result = dialog->SetFileName(wide(m_request.fileName));
+    const HRESULT result = dialog->SetFileName(wide(name));
     if (FAILED(result))
         return result;
-    return presetEvents.advise(new (std::nothrow)
-                                   CFileInitializeSelectHandler(m_request.fileName, guard));
+    return presetEvents.advise(new (std::nothrow) CFileInitializeSelectHandler(name, guard));
 }
 
 /** Places that cannot be had are left out. */
@@ -140,7 +206,7 @@ void CommonItemDialog::addPlaces(IFileDialog* dialog) const
     }
 }
 
-/** Without somebody to tell of them there are no controls either. */
+/** Without a handler to notify there are no controls either. */
 HRESULT CommonItemDialog::attachConfiguration(IFileDialog* dialog, AdvisedEvents& events,
                                               DialogGuard& guard) const
 {
@@ -156,16 +222,14 @@ HRESULT CommonItemDialog::attachConfiguration(IFileDialog* dialog, AdvisedEvents
                              : result;
 }
 
-HRESULT CommonItemDialog::show(IFileDialog* dialog, FileDialogConfiguration& configuration,
-                               DialogGuard& guard) const
+HRESULT CommonItemDialog::show(IFileDialog* dialog, DialogGuard& guard) const
 {
-    const GeometryHook hook(configuration, guard, m_windowEvents);
-    if (!m_request.owner)
-        return dialog->Show(nullptr);
-    const QPointer<QWidget> owner(m_request.owner);
-    const HRESULT result = dialog->Show(reinterpret_cast<HWND>(owner->winId()));
-    // The system takes the dialog along with its owner, and tells that in no one way.
-    return owner ? result : HRESULT_FROM_WIN32(ERROR_CANCELLED);
+    FileDialogConfiguration standard;
+    const GeometryHook hook(m_request.configuration ? *m_request.configuration : standard, guard,
+                            m_windowEvents);
+    const HRESULT result = dialog->Show(m_owner);
+    // The system closes the dialog with its owner, and reports that in several ways.
+    return m_owner && !m_request.owner ? HRESULT_FROM_WIN32(ERROR_CANCELLED) : result;
 }
 
 HRESULT CommonItemDialog::createItem(const QString& path, IShellItem** item) const

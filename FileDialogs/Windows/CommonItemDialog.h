@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/FileDialogRequest.h"
 #include "FileDialogs/Windows/GeometryHook.h"
 #include "Files/Windows/ShellFunctions.h"
 
@@ -20,31 +20,35 @@ class DialogGuard;
 class CommonItemDialog
 {
 public:
-    /** All are used as long as this lives; the thread is in an apartment already. */
+    /**
+     * All are used as long as this lives; the thread is in an apartment already. `owner` is the
+     * window of the request's owner, or null.
+     */
     CommonItemDialog(const ShellFunctions& shell, const WindowEventFunctions& windowEvents,
-                     const NativeFileDialogRequest& request);
+                     const FileDialogRequest& request, HWND owner);
 
     /** Throws what the configuration or its handler has thrown, once the dialog is closed. */
-    HRESULT open(QStringList& paths) const;
-    HRESULT save(QStringList& paths) const;
+    HRESULT run(QStringList& paths) const;
 
 private:
-    HRESULT prepare(IFileDialog* dialog, DWORD moreOptions, AdvisedEvents& presetEvents,
-                    DialogGuard& guard) const;
-    HRESULT setOptions(IFileDialog* dialog, DWORD moreOptions) const;
+    template <typename Dialog>
+    HRESULT runBy(const CLSID& dialogClass, QStringList& paths) const;
+    HRESULT prepare(IFileDialog* dialog, AdvisedEvents& presetEvents, DialogGuard& guard) const;
+    HRESULT setOptions(IFileDialog* dialog) const;
     HRESULT setFileTypes(IFileDialog* dialog) const;
-    void setFolder(IFileDialog* dialog) const;
-    HRESULT presetFile(IFileDialog* dialog, AdvisedEvents& presetEvents, DialogGuard& guard) const;
+    void setFolder(IFileDialog* dialog, const QString& path) const;
+    HRESULT presetFile(IFileDialog* dialog, const QString& name, AdvisedEvents& presetEvents,
+                       DialogGuard& guard) const;
     void addPlaces(IFileDialog* dialog) const;
     HRESULT attachConfiguration(IFileDialog* dialog, AdvisedEvents& events,
                                 DialogGuard& guard) const;
-    HRESULT show(IFileDialog* dialog, FileDialogConfiguration& configuration,
-                 DialogGuard& guard) const;
+    HRESULT show(IFileDialog* dialog, DialogGuard& guard) const;
     HRESULT createItem(const QString& path, IShellItem** item) const;
 
     const ShellFunctions& m_shell;
     const WindowEventFunctions& m_windowEvents;
-    const NativeFileDialogRequest& m_request;
+    const FileDialogRequest& m_request;
+    const HWND m_owner;
 };
 
 } // namespace Zorvane

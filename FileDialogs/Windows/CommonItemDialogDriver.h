@@ -1,7 +1,6 @@
 #pragma once
 
-#include "FileDialogs/NativeFileDialog.h"
-#include "FileDialogs/Windows/DpiAwarenessScope.h"
+#include "FileDialogs/FileDialogDriver.h"
 #include "FileDialogs/Windows/GeometryHook.h"
 #include "UiToolsExport.h"
 
@@ -13,24 +12,26 @@ namespace Zorvane {
 
 /**
  * Shows the common item dialog, the system's own since Windows Vista. Fails, so that the caller
- * shows another dialog, also where the thread has been made a multi-threaded one of COM.
+ * shows another dialog, also where the thread has been made a multi-threaded one of COM, and for
+ * folders.
  */
-class ZORVANE_UITOOLS_EXPORT CommonItemDialogDriver final : public NativeFileDialogDriver
+class ZORVANE_UITOOLS_EXPORT CommonItemDialogDriver final : public FileDialogDriver
 {
 public:
+    using SetAwareness = DPI_AWARENESS_CONTEXT WINAPI(DPI_AWARENESS_CONTEXT);
+
     /** `shellLibrary` has the shell's functions. Without `setAwareness` the system's is taken. */
     explicit CommonItemDialogDriver(const wchar_t* shellLibrary = L"shell32.dll",
                                     const WindowEventFunctions& windowEvents = {},
-                                    DpiAwarenessScope::SetContext* setAwareness = nullptr);
+                                    SetAwareness* setAwareness = nullptr);
     ~CommonItemDialogDriver() override;
 
-    NativeFileDialogResult open(const NativeFileDialogRequest& request) override;
-    NativeFileDialogResult save(const NativeFileDialogRequest& request) override;
+    FileDialogResult run(const FileDialogRequest& request) override;
 
 private:
     const wchar_t* m_shellLibrary;
     WindowEventFunctions m_windowEvents;
-    DpiAwarenessScope::SetContext* m_setAwareness;
+    SetAwareness* m_setAwareness;
 };
 
 } // namespace Zorvane

@@ -1,7 +1,7 @@
 #include "FileDialogs/Windows/GeometryHook.h"
 
 #include "FileDialogs/FileDialogConfiguration.h"
-#include "FileDialogs/ScreenScale.h"
+#include "FileDialogs/ScreenGeometry.h"
 #include "FileDialogs/Windows/DialogGuard.h"
 
 #include <boost/thread/lock_types.hpp>
@@ -63,11 +63,14 @@ void CALLBACK record(HWINEVENTHOOK hook, DWORD event, HWND window, LONG object, 
     if (!recording.configuration || !isEnd || object != OBJID_WINDOW ||
         !GetWindowRect(window, &rect))
         return;
-    // Right and bottom as the system gives them, beyond the window, where QRect counts the last
-    // pixel: settings have held these since there are any, one more than `getDialogGeometry` tells.
+    const QRect frame =
+        inQtPixels(QRect(rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top),
+                   currentScreens());
+    // Stored with right and bottom as the system gives them, beyond the window, where QRect counts
+    // the last pixel: settings have held these since there are any.
     recording.guard->runBetweenMessages([&] {
-        recording.configuration->storeFileDialogGeometry(inQtPixels(
-            QRect(QPoint(rect.left, rect.top), QPoint(rect.right, rect.bottom)), scaledScreens()));
+        recording.configuration->storeFileDialogGeometry(frame.adjusted(0, 0, 1, 1));
+        recording.configuration->storeWindowSize(frame.size());
     });
 }
 

@@ -1,7 +1,7 @@
 #include "Dialogs/FileConverterDialog.h"
 
 #include "Dialogs/FileConverterConfigurationInterface.h"
-#include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/FileDialogDriver.h"
 #include "Files/LastPathProvider.h"
 #include "Host/Widgets/ZVConverterDialog.h"
 #include "Tests/Support/ExpectedModals.h"
@@ -72,30 +72,23 @@ public:
 };
 
 /** Stands in for the system's dialog and gives one answer. */
-class ScriptedChooser : public NativeFileDialogDriver
+class ScriptedChooser : public FileDialogDriver
 {
 public:
-    ScriptedChooser(NativeFileDialogRequest& seen, QStringList answer)
+    ScriptedChooser(FileDialogRequest& seen, QStringList answer)
         : m_seen(seen)
         , m_answer(std::move(answer))
     {}
 
-    NativeFileDialogResult open(const NativeFileDialogRequest& request) override
+    FileDialogResult run(const FileDialogRequest& request) override
     {
         m_seen = request;
-        NativeFileDialogResult result;
-        result.code =
-            m_answer.isEmpty() ? NativeFileDialogResult::s_cancelled : NativeFileDialogResult::s_ok;
-        result.paths = m_answer;
-        return result;
-    }
-    NativeFileDialogResult save(const NativeFileDialogRequest& request) override
-    {
-        return open(request);
+        return m_answer.isEmpty() ? FileDialogResult::cancelled()
+                                  : FileDialogResult::accepted(m_answer);
     }
 
 private:
-    NativeFileDialogRequest& m_seen;
+    FileDialogRequest& m_seen;
     QStringList m_answer;
 };
 
@@ -113,7 +106,7 @@ private:
     QString folder() const { return m_folder.filePath(QStringLiteral("out")); }
 
     const QTemporaryDir m_folder;
-    NativeFileDialogRequest m_request;
+    FileDialogRequest m_request;
     ScriptedConversion m_conversion;
     std::unique_ptr<QWidget> m_parent;
     std::unique_ptr<FileConverterDialog> m_dialog;
@@ -243,9 +236,9 @@ void FileConverterDialogTest::inputIsChosenAsConfigured()
     m_conversion.paths.setPath(m_folder.path());
     chooseInput(file());
     QCOMPARE(m_request.caption, QStringLiteral("Choose a Mesh"));
-    QCOMPARE(m_request.folder, QDir::toNativeSeparators(m_folder.path()));
-    QCOMPARE(m_request.owner, m_window);
-    QVERIFY(!m_request.multiSelection);
+    QCOMPARE(QDir::toNativeSeparators(m_request.start), QDir::toNativeSeparators(m_folder.path()));
+    QCOMPARE(m_request.owner.data(), m_window);
+    QVERIFY(m_request.purpose == FileDialogPurpose::OpenFile);
     QVERIFY(m_conversion.paths.scopes().contains(QStringLiteral("ConvertInput")));
     QCOMPARE(m_window->inputFile(), QDir::toNativeSeparators(file()));
     QVERIFY(m_window->outputDirectory().isEmpty());

@@ -67,11 +67,13 @@ inline QPushButton* cancelButton(QFileDialog& dialog)
     return part<QDialogButtonBox>(dialog, "buttonBox")->button(QDialogButtonBox::Cancel);
 }
 
+/** By its text; the dialog marks letters of its own in those without "&". */
 template <typename Widget>
 Widget* custom(QFileDialog& dialog, const char* text)
 {
     for (auto* widget : dialog.findChildren<Widget*>()) {
-        if (widget->text() == QLatin1String(text))
+        if (widget->text().remove(QLatin1Char('&')) ==
+            QString::fromLatin1(text).remove(QLatin1Char('&')))
             return widget;
     }
     return nullptr;

@@ -1,4 +1,4 @@
-#include "FileDialogs/ConfiguredFileDialog.h"
+#include "FileDialogs/QtFileDialog.h"
 
 #include "Tests/FileDialogs/ConfiguredDialogTestCase.h"
 #include "Tests/Support/PlatformFacts.h"

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void withoutHandlerThereAreNoControls();
     void keyboardReachesEverything();
     void mnemonicsReachControls();
+    void textWithoutAMnemonic_getsAFreeOne();
+    void wideAndManyControls_leaveTheNameItsWidth();
 };
 
 void CustomControlsTest::controlsLieBelowTheList()
@@ -61,7 +63,7 @@ void CustomControlsTest::prominentControlsLieBesideTheButtons()
                                 static_cast<QWidget*>(customCombo(dialog, QStringLiteral("mm")))}) {
             const QRect rect = rectIn(widget, dialog);
             QVERIFY(rect.right() < button.left());
-            QVERIFY(rect.left() > rectIn(nameEdit(dialog), dialog).right());
+            QVERIFY(rect.top() > rectIn(part<QComboBox>(dialog, "fileTypeCombo"), dialog).bottom());
         }
         dialog.reject();
     });
@@ -217,6 +219,57 @@ void CustomControlsTest::mnemonicsReachControls()
         QTRY_VERIFY(custom<QCheckBox>(dialog, "&Preview")->isChecked());
         QTest::keyClick(dialog.windowHandle(), Qt::Key_U, Qt::AltModifier);
         QTRY_COMPARE(dialog.focusWidget(), customCombo(dialog, QStringLiteral("mm")));
+        dialog.reject();
+    });
+}
+
+void CustomControlsTest::textWithoutAMnemonic_getsAFreeOne()
+{
+    m_configuration->addCustomControl(checkBox(1, "Preview"));
+    m_configuration->addCustomControl(checkBox(2, "Points only"));
+    m_configuration->addCustomControl(checkBox(3, "R&epair"));
+    m_configuration->addCustomControl(checkBox(4, "Fuse R&&D"));
+    CustomItem units = comboBox(5, {QStringLiteral("mm")}, 0);
+    units.groupLabel = QStringLiteral("Units:");
+    m_configuration->addCustomControl(units);
+    open([](QFileDialog& dialog) {
+        QTRY_VERIFY(dialog.isActiveWindow());
+        QStringList letters;
+        for (const auto* label : dialog.findChildren<QLabel*>())
+            letters << QKeySequence::mnemonic(label->text()).toString();
+        for (const auto* button : dialog.findChildren<QAbstractButton*>())
+            letters << QKeySequence::mnemonic(button->text()).toString();
+        letters.removeAll(QString());
+        QCOMPARE(letters.removeDuplicates(), 0);
+        QCOMPARE(custom<QCheckBox>(dialog, "Preview")->text(), QStringLiteral("&Preview"));
+        QCOMPARE(custom<QCheckBox>(dialog, "Repair")->text(), QStringLiteral("R&epair"));
+        QCOMPARE(custom<QCheckBox>(dialog, "Fuse RD")->text(), QStringLiteral("Fuse R&&D"));
+        QTest::keyClick(dialog.windowHandle(), Qt::Key_P, Qt::AltModifier);
+        QTRY_VERIFY(custom<QCheckBox>(dialog, "Preview")->isChecked());
+        dialog.reject();
+    });
+}
+
+void CustomControlsTest::wideAndManyControls_leaveTheNameItsWidth()
+{
+    int plainWidth = 0;
+    open([&plainWidth](QFileDialog& dialog) {
+        plainWidth = nameEdit(dialog)->width();
+        dialog.reject();
+    });
+    const QString wide = QStringLiteral("A text that is longer than any that is good to read. ");
+    for (int i = 0; i < 3; ++i) {
+        CustomItem item = comboBox(i, {wide + wide}, 0);
+        item.prominent = i == 0;
+        item.groupLabel = QStringLiteral("Label %1:").arg(i);
+        m_configuration->addCustomControl(item);
+    }
+    CustomItem box = checkBox(9, "Keep what there is in the file");
+    box.prominent = true;
+    m_configuration->addCustomControl(box);
+    open([&](QFileDialog& dialog) {
+        QVERIFY(nameEdit(dialog)->width() >= plainWidth);
+        QVERIFY(dialog.frameGeometry().width() <= 800);
         dialog.reject();
     });
 }

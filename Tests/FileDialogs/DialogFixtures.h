@@ -1,9 +1,10 @@
 #pragma once
 
+#include "FileDialogs/DialogTexts.h"
 #include "FileDialogs/FileDialogCallbackInterface.h"
 #include "FileDialogs/FileDialogConfiguration.h"
+#include "FileDialogs/FileDialogDriver.h"
 #include "FileDialogs/FileDialogEventHandler.h"
-#include "FileDialogs/NativeFileDialog.h"
 #include "Files/PathProvider.h"
 
 #include <QtCore/QFile>
@@ -46,54 +47,44 @@ public:
 /** What drivers were asked, and what they answer: the next result, or cancel. */
 struct DialogScript
 {
-    enum class Kind
-    {
-        Open,
-        Save
-    };
-    using Request = NativeFileDialogRequest;
-
-    std::vector<std::pair<Kind, Request>> requests;
-    std::deque<NativeFileDialogResult> results;
+    std::vector<FileDialogRequest> requests;
+    std::deque<FileDialogResult> results;
     /** Runs while the dialog counts as open; may be empty. */
-    std::function<void(const Request&)> whileOpen;
+    std::function<void(const FileDialogRequest&)> whileOpen;
 
-    void answer(const QStringList& paths) { results.push_back({0, paths}); }
-    void answer(std::int32_t code) { results.push_back({code, {}}); }
-    const Request& last() const { return requests.back().second; }
+    void answer(const QStringList& paths) { results.push_back(FileDialogResult::accepted(paths)); }
+    void fail() { results.push_back(FileDialogResult::failed(-1)); }
+    const FileDialogRequest& last() const { return requests.back(); }
 };
 
-class ScriptedDriver : public NativeFileDialogDriver
+class ScriptedDriver : public FileDialogDriver
 {
 public:
     explicit ScriptedDriver(DialogScript& script)
         : m_script(script)
     {}
-    NativeFileDialogResult open(const NativeFileDialogRequest& request) override
+    FileDialogResult run(const FileDialogRequest& request) override
     {
-        return run(DialogScript::Kind::Open, request);
-    }
-    NativeFileDialogResult save(const NativeFileDialogRequest& request) override
-    {
-        return run(DialogScript::Kind::Save, request);
-    }
-
-private:
-    NativeFileDialogResult run(DialogScript::Kind kind, const NativeFileDialogRequest& request)
-    {
-        m_script.requests.emplace_back(kind, request);
+        m_script.requests.push_back(request);
         // A copy, since it may give the script another one.
         if (const auto whileOpen = m_script.whileOpen)
             whileOpen(request);
         if (m_script.results.empty())
-            return {NativeFileDialogResult::s_cancelled, {}};
-        const NativeFileDialogResult result = m_script.results.front();
+            return FileDialogResult::cancelled();
+        const FileDialogResult result = m_script.results.front();
         m_script.results.pop_front();
         return result;
     }
 
+private:
     DialogScript& m_script;
 };
+
+/** The types of a request as the system's dialog takes them. */
+inline NativeFileFilters filtersOf(const FileDialogRequest& request)
+{
+    return nativeFileFilters(request.filter, request.selectedFilter);
+}
 
 /** The application's main window as long as it lives. */
 class MainWindowProperty

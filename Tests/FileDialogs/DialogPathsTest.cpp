@@ -1,4 +1,4 @@
-#include "FileDialogs/DialogPaths.h"
+#include "FileDialogs/DialogTexts.h"
 
 #include "Tests/FileDialogs/DialogFixtures.h"
 #include "Tests/Support/TestCase.h"

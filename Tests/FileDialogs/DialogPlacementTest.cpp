@@ -1,4 +1,4 @@
-#include "FileDialogs/DialogPlacement.h"
+#include "FileDialogs/ScreenGeometry.h"
 
 #include "FileDialogs/FileDialogConfiguration.h"
 #include "Tests/Support/TestCase.h"
@@ -31,6 +31,14 @@ std::vector<QRect> anyScreens()
     return screens;
 }
 
+std::vector<ScreenArea> areasOf(const std::vector<QRect>& geometries)
+{
+    std::vector<ScreenArea> areas;
+    for (const QRect& geometry : geometries)
+        areas.push_back({geometry, geometry});
+    return areas;
+}
+
 } // namespace
 
 class DialogPlacementTest : public Testing::TestCase
@@ -55,6 +63,8 @@ private Q_SLOTS:
     void withoutOneOffsetAndSizeAreTaken();
     void emptyStoredRectangleIsNone();
     void storedRectangleElsewhereIsFitted();
+    void recordedRectangle_givesTheWindowItsSize();
+    void rectangleThatFillsAScreen_isKnown();
 };
 
 void DialogPlacementTest::init()
@@ -65,7 +75,7 @@ void DialogPlacementTest::init()
 void DialogPlacementTest::theDesktopSpansAllScreens()
 {
     QCOMPARE(boundingGeometry({}), QRect());
-    QCOMPARE(boundingGeometry({QRect(0, 0, 1920, 1080), QRect(1920, -200, 1280, 1024)}),
+    QCOMPARE(boundingGeometry(areasOf({QRect(0, 0, 1920, 1080), QRect(1920, -200, 1280, 1024)})),
              QRect(QPoint(0, -200), QPoint(3199, 1079)));
 }
 
@@ -149,14 +159,14 @@ void DialogPlacementTest::rectanglesAreMovedOntoTheNearestScreen()
 {
     QFETCH(QRect, rect);
     QFETCH(std::vector<QRect>, screens);
-    QTEST(fittedOntoScreens(rect, screens), "fitted");
+    QTEST(fittedOntoScreens(rect, areasOf(screens)), "fitted");
 }
 
 void DialogPlacementTest::someOfItIsAlwaysShown()
 {
     const bool holds = rc::check("some screen shows some of it", [] {
         const std::vector<QRect> screens = anyScreens();
-        const QRect fitted = fittedOntoScreens(anyRect(1, 6000), screens);
+        const QRect fitted = fittedOntoScreens(anyRect(1, 6000), areasOf(screens));
         bool isShown = false;
         for (const QRect& screen : screens)
             isShown = isShown || screen.intersects(fitted);
@@ -221,6 +231,28 @@ void DialogPlacementTest::storedRectangleElsewhereIsFitted()
     const QRect placed = dialogPlacement(configuration);
     QCOMPARE(placed.size(), QSize(400, 300));
     QVERIFY(QGuiApplication::primaryScreen()->virtualGeometry().contains(placed));
+}
+
+void DialogPlacementTest::recordedRectangle_givesTheWindowItsSize()
+{
+    FileDialogConfiguration configuration(QStringLiteral("Key"));
+    configuration.storeFileDialogGeometry(QRect(20, 30, 401, 301));
+    QCOMPARE(dialogPlacement(configuration), QRect(20, 30, 401, 301));
+    configuration.storeWindowSize(QSize(400, 300));
+    QCOMPARE(dialogPlacement(configuration), QRect(20, 30, 400, 300));
+    configuration.storeFileDialogGeometry(QRect(20, 30, 500, 301));
+    QCOMPARE(dialogPlacement(configuration), QRect(20, 30, 500, 300));
+}
+
+void DialogPlacementTest::rectangleThatFillsAScreen_isKnown()
+{
+    const std::vector<ScreenArea> screens{{QRect(0, 0, 1920, 1080), QRect(0, 0, 1920, 1040)},
+                                          {QRect(1920, 0, 1280, 720), QRect(1920, 0, 1280, 720)}};
+    QVERIFY(fillsScreen(QRect(0, 0, 1920, 1040), screens));
+    QVERIFY(fillsScreen(QRect(1912, -8, 1296, 736), screens));
+    QVERIFY(!fillsScreen(QRect(0, 0, 1919, 1040), screens));
+    QVERIFY(!fillsScreen(QRect(100, 100, 1920, 1040), screens));
+    QVERIFY(!fillsScreen(QRect(0, 0, 800, 600), {}));
 }
 
 ZORVANE_TEST(DialogPlacementTest)

@@ -3,6 +3,7 @@
 #include "Tests/FileDialogs/FacadeTestCase.h"
 
 #include <QtCore/QSettings>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLineEdit>
 
 using namespace Zorvane;
@@ -52,9 +53,9 @@ private Q_SLOTS:
     void unwantedDriverIsNotAsked();
     void optionIsLookedAtEveryTime();
     void unwantedMeansPlainDialogs();
-    void failureOfAnyKindAsksQt_data();
-    void failureOfAnyKindAsksQt();
     void widgetsAreEnabledBeforeTheFallback();
+    void failureUnderAConfiguration_asksWithItsControls();
+    void failureWithTheOwner_isACancel();
     void cancelGivesNothingAndIsTold();
 
     void folderIsAlwaysAskedOfQt();
@@ -88,7 +89,7 @@ void FileDialogFallbackTest::setUp(Reason reason)
     if (reason == Reason::Unwanted)
         giveArguments(s_alternative);
     if (reason == Reason::Failure)
-        m_script.answer(std::int32_t(0x80004005));
+        m_script.fail();
 }
 
 void FileDialogFallbackTest::openAsksQt_data()
@@ -273,9 +274,11 @@ void FileDialogFallbackTest::unwantedMeansPlainDialogs()
     RecordingHandler handler;
     FileDialogConfiguration configuration(QStringLiteral("Plain"));
     configuration.setEventHandler(&handler);
+    configuration.addCustomControl({1, FileDialogConfiguration::CheckBox, false, 3, QString(),
+                                    QStringLiteral("Repair"), false});
     ExpectedModals modals;
     modals.expectDialog<QFileDialog>(s_caption, [](QFileDialog& dialog) {
-        QCOMPARE(dialog.metaObject()->className(), "QFileDialog");
+        QVERIFY(dialog.findChildren<QCheckBox*>().isEmpty());
         accept(dialog, QStringLiteral("a.prt"));
     });
     FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope, &configuration);
@@ -283,35 +286,44 @@ void FileDialogFallbackTest::unwantedMeansPlainDialogs()
     QVERIFY(!QSettings().contains(QStringLiteral("Plain/topLeft")));
 }
 
-void FileDialogFallbackTest::failureOfAnyKindAsksQt_data()
-{
-    QTest::addColumn<int>("code");
-    QTest::newRow("E_FAIL") << int(0x80004005U);
-    QTest::newRow("E_OUTOFMEMORY") << int(0x8007000EU);
-    QTest::newRow("E_NOTIMPL") << int(0x80004001U);
-    QTest::newRow("minus one") << -1;
-}
-
-void FileDialogFallbackTest::failureOfAnyKindAsksQt()
-{
-    QFETCH(int, code);
-    m_script.answer(code);
-    ExpectedModals modals;
-    modals.expectDialog<QFileDialog>(s_caption, [](QFileDialog& dialog) { dialog.reject(); });
-    FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope);
-    QCOMPARE(m_script.requests.size(), std::size_t(1));
-}
-
 void FileDialogFallbackTest::widgetsAreEnabledBeforeTheFallback()
 {
     QWidget parent;
-    m_script.answer(-1);
+    m_script.fail();
     ExpectedModals modals;
     modals.expectDialog<QFileDialog>(s_caption, [&parent](QFileDialog& dialog) {
         QVERIFY(parent.isEnabled());
         dialog.reject();
     });
     FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope, nullptr, &parent);
+}
+
+void FileDialogFallbackTest::failureUnderAConfiguration_asksWithItsControls()
+{
+    setUp(Reason::Failure);
+    RecordingHandler handler;
+    FileDialogConfiguration configuration(QStringLiteral("Failing"));
+    configuration.setEventHandler(&handler);
+    configuration.addCustomControl({1, FileDialogConfiguration::CheckBox, false, 3, QString(),
+                                    QStringLiteral("Repair"), false});
+    ExpectedModals modals;
+    modals.expectDialog<QFileDialog>(s_caption, [](QFileDialog& dialog) {
+        dialog.findChild<QCheckBox*>()->click();
+        accept(dialog, QStringLiteral("a.prt"));
+    });
+    QCOMPARE(FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope, &configuration),
+             path(QStringLiteral("a.prt")));
+    QVERIFY(handler.events.contains(QStringLiteral("toggled 1 1")));
+}
+
+void FileDialogFallbackTest::failureWithTheOwner_isACancel()
+{
+    setUp(Reason::Failure);
+    auto owner = std::make_unique<QWidget>();
+    m_script.whileOpen = [&owner](const FileDialogRequest&) { owner.reset(); };
+    QCOMPARE(FileDialog::getOpenFileName(s_caption, s_filter, &m_provider, s_scope, nullptr,
+                                         owner.get()),
+             QString());
 }
 
 void FileDialogFallbackTest::cancelGivesNothingAndIsTold()
@@ -406,7 +418,8 @@ void FileDialogFallbackTest::aFolderCancelledTellsTheProviderNothing()
     ExpectedModals modals;
     modals.expectDialog<QFileDialog>(s_caption, [](QFileDialog& dialog) { dialog.reject(); });
     QCOMPARE(FileDialog::getExistingDirectoryName(s_caption, &m_provider, s_scope), QString());
-    QCOMPARE(m_provider.calls, QStringList(QStringLiteral("path of Design")));
+    QCOMPARE(m_provider.calls,
+             QStringList({QStringLiteral("path of Design"), QStringLiteral("places of Design")}));
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
 }
 

@@ -7,7 +7,6 @@
 
 using namespace Zorvane;
 using namespace Zorvane::Testing;
-using Kind = DialogScript::Kind;
 
 class FileDialogSaveTest : public FacadeTestCase
 {
@@ -26,6 +25,13 @@ private Q_SLOTS:
     void suffixIsToldToTheProvider();
     void addedEndingsAreKnown_data();
     void addedEndingsAreKnown();
+
+    void nestedDialog_leavesTheOuterOnesEnding();
+    void askedResult_isOfThatCallAlone();
+    void replacing_isConfirmed_data();
+    void replacing_isConfirmed();
+    void newFile_needsNoConfirmation();
+    void destroyedParent_confirmsNothing();
 
     void filterIsRememberedByScope();
     void chosenFilterGoesBeforeTheRememberedOne();
@@ -66,15 +72,15 @@ void FileDialogSaveTest::saveAsksTheDriver()
     QCOMPARE(FileDialog::getSaveFileName(s_caption, s_filter, s_tables, &m_provider, s_scope,
                                          QStringLiteral("new.prt"), &parent),
              QStringLiteral("/b/new.prt"));
-    QVERIFY(m_script.requests.front().first == Kind::Save);
-    const NativeFileDialogRequest& request = m_script.last();
-    QCOMPARE(request.owner, &parent);
+    QVERIFY(m_script.requests.front().purpose == FileDialogPurpose::SaveFile);
+    const FileDialogRequest& request = m_script.last();
+    QCOMPARE(request.owner.data(), &parent);
     QCOMPARE(request.caption, s_caption);
-    QVERIFY(!request.multiSelection);
-    QCOMPARE(request.filters.names, QStringList({s_parts, s_tables}));
-    QCOMPARE(request.filters.preselectedPattern, QStringLiteral("*.csv"));
-    QCOMPARE(request.folder, QDir::toNativeSeparators(m_dir->path()));
-    QCOMPARE(request.fileName, QStringLiteral("new.prt"));
+    QVERIFY(!(request.purpose == FileDialogPurpose::OpenFiles));
+    QCOMPARE(filterTypes(request.filter), QStringList({s_parts, s_tables}));
+    QCOMPARE(Testing::filtersOf(request).preselectedPattern, QStringLiteral("*.csv"));
+    QCOMPARE(dialogStart(request.start).folder, QDir::toNativeSeparators(m_dir->path()));
+    QCOMPARE(dialogStart(request.start).fileName, QStringLiteral("new.prt"));
     QCOMPARE(request.places, m_provider.places);
     QVERIFY(!request.configuration);
 }
@@ -116,8 +122,9 @@ void FileDialogSaveTest::saveProposes()
     QFETCH(QString, folder);
     m_provider.path = m_dir->path() + scopePath;
     FileDialog::getSaveFileName(s_caption, s_filter, &m_provider, s_scope, fileName);
-    QCOMPARE(m_script.last().folder, QDir::toNativeSeparators(m_dir->path() + folder));
-    QTEST(m_script.last().fileName, "proposed");
+    QCOMPARE(dialogStart(m_script.last().start).folder,
+             QDir::toNativeSeparators(m_dir->path() + folder));
+    QTEST(dialogStart(m_script.last().start).fileName, "proposed");
 }
 
 void FileDialogSaveTest::cancelGivesNothingAndIsTold()
@@ -205,25 +212,115 @@ void FileDialogSaveTest::addedEndingsAreKnown()
     }
 }
 
+void FileDialogSaveTest::nestedDialog_leavesTheOuterOnesEnding()
+{
+    struct SavingProvider : ScriptedPathProvider
+    {
+        std::function<void()> atSet;
+
+        void setPathToScope(const QString& chosen, const QString& scope) override
+        {
+            ScriptedPathProvider::setPathToScope(chosen, scope);
+            if (const auto save = std::exchange(atSet, nullptr))
+                save();
+        }
+    };
+    SavingProvider provider;
+    const QString parts = QStringLiteral("Parts (*.prt)");
+    const QString scope = QStringLiteral("nested endings");
+    for (const bool isAdded : {true, false}) {
+        m_script.answer({isAdded ? QStringLiteral("/b/part") : QStringLiteral("/b/part.prt")});
+        provider.atSet = [&] {
+            m_script.answer({isAdded ? QStringLiteral("/b/x.prt") : QStringLiteral("/b/x")});
+            FileDialog::getSaveFileName(s_caption, parts, &provider, scope, QString());
+            QCOMPARE(FileDialog::wasEndingAdded(), !isAdded);
+        };
+        FileDialog::getSaveFileName(s_caption, parts, &provider, scope, QString());
+        QCOMPARE(FileDialog::wasEndingAdded(), isAdded);
+    }
+}
+
+void FileDialogSaveTest::askedResult_isOfThatCallAlone()
+{
+    FileDialogRequest request;
+    request.purpose = FileDialogPurpose::SaveFile;
+    request.filter = QStringLiteral("Parts (*.prt);;Tables (*.csv)");
+    request.selectedFilter = s_tables;
+    request.addsEnding = true;
+    m_script.answer({QStringLiteral("/b/part")});
+    m_script.whileOpen = [this](const FileDialogRequest&) {
+        m_script.whileOpen = nullptr;
+        m_script.results.push_front(FileDialogResult::accepted({QStringLiteral("/b/x.prt")}));
+        saveIn("inner", s_filter, QString());
+    };
+    const FileDialogResult result = FileDialog::ask(request);
+    QCOMPARE(result.paths, QStringList(QStringLiteral("/b/part.csv")));
+    QVERIFY(result.isEndingAdded);
+    request.addsEnding = false;
+    m_script.answer({QStringLiteral("/b/part")});
+    QCOMPARE(FileDialog::ask(request).path(), QStringLiteral("/b/part"));
+}
+
+void FileDialogSaveTest::replacing_isConfirmed_data()
+{
+    QTest::addColumn<bool>("isReplaced");
+    QTest::newRow("replaced") << true;
+    QTest::newRow("kept") << false;
+}
+
+void FileDialogSaveTest::replacing_isConfirmed()
+{
+    QFETCH(bool, isReplaced);
+    QWidget parent;
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("already exists"), [&](QMessageBox& box) {
+        QCOMPARE(FileDialog::getOpenDialogsCount(), 1);
+        QCOMPARE(box.parentWidget(), &parent);
+        QVERIFY(box.text().contains(path(QStringLiteral("a.prt"))));
+        QCOMPARE(box.defaultButton(), box.button(QMessageBox::Cancel));
+        for (QAbstractButton* button : box.buttons()) {
+            if ((box.buttonRole(button) == QMessageBox::DestructiveRole) == isReplaced)
+                button->click();
+        }
+    });
+    QCOMPARE(FileDialog::confirmReplacing(s_caption, path(QStringLiteral("a.prt")), &parent),
+             isReplaced);
+    QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
+}
+
+void FileDialogSaveTest::newFile_needsNoConfirmation()
+{
+    QVERIFY(FileDialog::confirmReplacing(s_caption, path(QStringLiteral("new.prt"))));
+}
+
+void FileDialogSaveTest::destroyedParent_confirmsNothing()
+{
+    auto parent = std::make_unique<QWidget>();
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("already exists"),
+                            [&parent](QMessageBox&) { parent.reset(); });
+    QVERIFY(!FileDialog::confirmReplacing(s_caption, path(QStringLiteral("a.prt")), parent.get()));
+}
+
 void FileDialogSaveTest::filterIsRememberedByScope()
 {
     saveIn("remembers", s_filter, s_tables);
     saveIn("remembers not", s_filter, QString());
-    QVERIFY(m_script.last().filters.preselectedPattern.isNull());
+    QVERIFY(Testing::filtersOf(m_script.last()).preselectedPattern.isNull());
     saveIn("remembers", s_filter, QString());
-    QCOMPARE(m_script.last().filters.preselectedPattern, QStringLiteral("*.csv"));
+    QCOMPARE(Testing::filtersOf(m_script.last()).preselectedPattern, QStringLiteral("*.csv"));
     FileDialog::getSaveFileName(s_caption, s_filter, &m_provider, QStringLiteral("remembers"),
                                 QString());
-    QCOMPARE(m_script.last().filters.preselectedPattern, QStringLiteral("*.csv"));
+    QCOMPARE(Testing::filtersOf(m_script.last()).preselectedPattern, QStringLiteral("*.csv"));
 }
 
 void FileDialogSaveTest::chosenFilterGoesBeforeTheRememberedOne()
 {
     saveIn("chosen", s_filter, s_tables);
     saveIn("chosen", s_filter, s_parts);
-    QCOMPARE(m_script.last().filters.preselectedPattern, QStringLiteral("*.prt;*.dsg"));
+    QCOMPARE(Testing::filtersOf(m_script.last()).preselectedPattern, QStringLiteral("*.prt;*.dsg"));
     saveIn("chosen", s_filter, QString());
-    QCOMPARE(m_script.last().filters.preselectedPattern, QStringLiteral("*.prt;*.dsg"));
+    QCOMPARE(Testing::filtersOf(m_script.last()).preselectedPattern, QStringLiteral("*.prt;*.dsg"));
 }
 
 void FileDialogSaveTest::cancelRemembersTheFilterToo()
@@ -238,7 +335,7 @@ void FileDialogSaveTest::filterNoLongerOfferedIsRemembered()
     saveIn("gone", s_filter, QStringLiteral("Old (*.old)"));
     m_script.answer({QStringLiteral("C:/parts/part")});
     QCOMPARE(saveIn("gone", s_filter, QString()), QStringLiteral("C:/parts/part.old"));
-    QVERIFY(m_script.last().filters.preselectedPattern.isNull());
+    QVERIFY(Testing::filtersOf(m_script.last()).preselectedPattern.isNull());
 }
 
 void FileDialogSaveTest::inDirAsksTheDriver()
@@ -250,14 +347,14 @@ void FileDialogSaveTest::inDirAsksTheDriver()
     QCOMPARE(FileDialog::getSaveFileNameInDir(s_caption, s_filter, path(QStringLiteral("a.prt")),
                                               &m_provider, s_scope, QString(), QString()),
              m_dir->filePath(QStringLiteral("new.prt")));
-    const NativeFileDialogRequest& request = m_script.last();
-    QVERIFY(m_script.requests.front().first == Kind::Save);
-    QCOMPARE(request.owner, &window);
+    const FileDialogRequest& request = m_script.last();
+    QVERIFY(m_script.requests.front().purpose == FileDialogPurpose::SaveFile);
+    QCOMPARE(request.owner.data(), &window);
     QCOMPARE(request.caption, s_caption);
-    QCOMPARE(request.folder, QDir::toNativeSeparators(m_dir->path()));
-    QCOMPARE(request.fileName, QStringLiteral("a.prt"));
+    QCOMPARE(dialogStart(request.start).folder, QDir::toNativeSeparators(m_dir->path()));
+    QCOMPARE(dialogStart(request.start).fileName, QStringLiteral("a.prt"));
     QCOMPARE(request.places, m_provider.places);
-    QVERIFY(request.filters.preselectedPattern.isNull());
+    QVERIFY(Testing::filtersOf(request).preselectedPattern.isNull());
     QCOMPARE(m_provider.calls, QStringList({QStringLiteral("places of Design"),
                                             QStringLiteral("set Design to '%1'")
                                                 .arg(m_dir->filePath(QStringLiteral("new.prt")))}));
@@ -269,15 +366,16 @@ void FileDialogSaveTest::inDirProposesTheCurrentFolder()
     QCOMPARE(FileDialog::getSaveFileNameInDir(s_caption, s_filter, QString(), &m_provider, s_scope,
                                               QString(), QString()),
              QDir::current().filePath(QStringLiteral("new.prt")));
-    QCOMPARE(m_script.last().folder, QDir::toNativeSeparators(QDir::currentPath()));
-    QCOMPARE(m_script.last().fileName, QString());
+    QCOMPARE(dialogStart(m_script.last().start).folder,
+             QDir::toNativeSeparators(QDir::currentPath()));
+    QCOMPARE(dialogStart(m_script.last().start).fileName, QString());
 }
 
 void FileDialogSaveTest::inDirPreselectsAFilter()
 {
     FileDialog::getSaveFileNameInDir(s_caption, s_filter, path(QStringLiteral("a.prt")),
                                      &m_provider, s_scope, s_tables, QString());
-    QCOMPARE(m_script.last().filters.preselectedPattern, QStringLiteral("*.csv"));
+    QCOMPARE(Testing::filtersOf(m_script.last()).preselectedPattern, QStringLiteral("*.csv"));
 }
 
 void FileDialogSaveTest::inDirRepeatsUntilTheFolderIsRight()
@@ -293,10 +391,10 @@ void FileDialogSaveTest::inDirRepeatsUntilTheFolderIsRight()
                                               QStringLiteral("Wrong")),
              m_dir->filePath(QStringLiteral("b.prt")));
     QCOMPARE(m_script.requests.size(), std::size_t(3));
-    for (const auto& [kind, request] : m_script.requests) {
-        QVERIFY(kind == Kind::Save);
-        QCOMPARE(request.fileName, QStringLiteral("a.prt"));
-        QCOMPARE(request.folder, QDir::toNativeSeparators(m_dir->path()));
+    for (const FileDialogRequest& request : m_script.requests) {
+        QVERIFY(request.purpose == FileDialogPurpose::SaveFile);
+        QCOMPARE(dialogStart(request.start).fileName, QStringLiteral("a.prt"));
+        QCOMPARE(dialogStart(request.start).folder, QDir::toNativeSeparators(m_dir->path()));
     }
     QCOMPARE(m_provider.calls.filter(QStringLiteral("set")).size(), 1);
 }
@@ -333,7 +431,7 @@ void FileDialogSaveTest::inDirShowsTheMessage()
 void FileDialogSaveTest::inDirCountsTheBox()
 {
     m_script.answer({QStringLiteral("/elsewhere/a.prt")});
-    m_script.whileOpen = [](const NativeFileDialogRequest&) {
+    m_script.whileOpen = [](const FileDialogRequest&) {
         QCOMPARE(FileDialog::getOpenDialogsCount(), 1);
     };
     ExpectedModals modals;

@@ -1,4 +1,4 @@
-#include "FileDialogs/NativeFileFilters.h"
+#include "FileDialogs/DialogTexts.h"
 
 #include "Tests/Support/TestCase.h"
 
@@ -69,7 +69,7 @@ void NativeFileFiltersTest::filtersAreSplitIntoNamesAndPatterns_data()
 void NativeFileFiltersTest::filtersAreSplitIntoNamesAndPatterns()
 {
     QFETCH(QString, filter);
-    const NativeFileFilters filters = nativeFileFilters(filter, nullptr);
+    const NativeFileFilters filters = nativeFileFilters(filter, QString());
     QTEST(filters.names, "names");
     QTEST(filters.patterns, "patterns");
     QVERIFY(filters.preselectedPattern.isNull());
@@ -91,7 +91,7 @@ void NativeFileFiltersTest::onlyAWholeTypeIsPreselected()
     QFETCH(QString, selected);
     QFETCH(QString, pattern);
     const NativeFileFilters filters =
-        nativeFileFilters(QStringLiteral("A (*.a);;B (*.b *.c);;A (*.a);;"), &selected);
+        nativeFileFilters(QStringLiteral("A (*.a);;B (*.b *.c);;A (*.a);;"), selected);
     QCOMPARE(filters.preselectedPattern, pattern);
     QCOMPARE(filters.preselectedPattern.isNull(), pattern.isNull());
 }

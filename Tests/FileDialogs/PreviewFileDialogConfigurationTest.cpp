@@ -1,6 +1,6 @@
 #include "FileDialogs/PreviewFileDialogConfiguration.h"
 
-#include "FileDialogs/PreviewGeometry.h"
+#include "FileDialogs/ScreenGeometry.h"
 #include "Tests/FileDialogs/PreviewFixtures.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Support/VirtualSlot.h"
@@ -40,7 +40,7 @@ private:
     static QRect sideBySide(QRect dialog, QRect& preview)
     {
         const QRect area = QGuiApplication::screens().first()->availableGeometry();
-        PreviewGeometry::placeSideBySide(dialog, preview, area, {30, 30});
+        placeSideBySide(dialog, preview, area, {30, 30});
         return dialog;
     }
 

@@ -1,7 +1,7 @@
 #include "FileDialogs/PreviewFileDialog.h"
 
 #include "FileDialogs/FileDialog.h"
-#include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/FileDialogDriver.h"
 #include "Files/DefaultPathProvider.h"
 #include "Files/FileTypeFilters.h"
 #include "Files/LastPathProvider.h"
@@ -13,6 +13,7 @@
 
 #include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
+#include <QtGui/QScreen>
 
 #include <functional>
 
@@ -24,7 +25,7 @@ namespace {
 class AnsweredDialog
 {
 public:
-    using Answer = std::function<NativeFileDialogResult(const NativeFileDialogRequest&)>;
+    using Answer = std::function<FileDialogResult(const FileDialogRequest&)>;
 
     explicit AnsweredDialog(Answer answer)
     {
@@ -95,6 +96,13 @@ private Q_SLOTS:
     void anyConfigurationMayHaveThePreviewsHandler();
     void alternativeDialogHasNoPreview();
     void configurationOutlivesTheDialog();
+    void dialogDestroyedWhileOpen_keepsWhatTheCallNeeds();
+    void parentWithTheDialogAsMember_mayBeDestroyed();
+    void reusedDialog_standsWhereItWasLeft();
+    void reusedDialog_hasItsCheckBoxAsItWasLeft();
+    void previewMadeLate_showsTheSelectedFile();
+    void previewOffTheScreen_isLaidOutAsTheDialogOpens_data();
+    void previewOffTheScreen_isLaidOutAsTheDialogOpens();
 };
 
 void PreviewFileDialogTest::init()
@@ -108,14 +116,14 @@ void PreviewFileDialogTest::init()
 void PreviewFileDialogTest::showsThePreviewAroundTheDialog()
 {
     Setup setup;
-    const AnsweredDialog replacement([&](const NativeFileDialogRequest&) {
+    const AnsweredDialog replacement([&](const FileDialogRequest&) {
         const QSize offset = setup.configuration->getTopLeftOffset();
         const QString moved =
             QStringLiteral("moveTo %1 %2").arg(offset.width() + 630).arg(offset.height());
         const QStringList wanted{QStringLiteral("initialize -1"), QStringLiteral("setVisible 1"),
                                  moved};
         [&] { QCOMPARE(setup.editor->takeCalls(), wanted); }();
-        return NativeFileDialogResult{0, {file()}};
+        return FileDialogResult::accepted({file()});
     });
     QCOMPARE(setup.dialog.getOpenFileName(DefaultPathProvider::getInstance()), file());
     QCOMPARE(setup.editor->takeCalls(), QStringList{QStringLiteral("setVisible 0")});
@@ -125,7 +133,7 @@ void PreviewFileDialogTest::initializesThePreviewOnce()
 {
     Setup setup;
     const AnsweredDialog replacement(
-        [](const NativeFileDialogRequest&) { return NativeFileDialogResult{}; });
+        [](const FileDialogRequest&) { return FileDialogResult::cancelled(); });
     setup.dialog.getOpenFileName(nullptr);
     setup.dialog.getOpenFileNames(nullptr);
     QCOMPARE(setup.editor->calls.count(QStringLiteral("initialize -1")), 1);
@@ -137,7 +145,7 @@ void PreviewFileDialogTest::keepsThePreviewHiddenIfTheUserWantsNone()
     storeShowPreview(false);
     Setup setup;
     const AnsweredDialog replacement(
-        [](const NativeFileDialogRequest&) { return NativeFileDialogResult{}; });
+        [](const FileDialogRequest&) { return FileDialogResult::cancelled(); });
     setup.dialog.getOpenFileName(nullptr);
     const QStringList wanted{QStringLiteral("setVisible 0"), QStringLiteral("setVisible 0")};
     QCOMPARE(setup.editor->takeCalls(), wanted);
@@ -148,14 +156,14 @@ void PreviewFileDialogTest::asksForOneFile()
     Setup setup;
     const QString wantedFilter = QString::fromStdString(
         getFileFilterForTypes({ZvFileType::StlAscii, ZvFileType::Csv}, true, {}));
-    const AnsweredDialog replacement([&](const NativeFileDialogRequest& request) {
+    const AnsweredDialog replacement([&](const FileDialogRequest& request) {
         [&] {
             QCOMPARE(request.caption, QStringLiteral("Open one"));
-            QVERIFY(!request.multiSelection);
+            QVERIFY(!(request.purpose == FileDialogPurpose::OpenFiles));
             QCOMPARE(request.configuration, setup.configuration.get());
-            QCOMPARE(request.filters.names, wantedFilter.split(QStringLiteral(";;")));
+            QCOMPARE(filterTypes(request.filter), wantedFilter.split(QStringLiteral(";;")));
         }();
-        return NativeFileDialogResult{0, {file()}};
+        return FileDialogResult::accepted({file()});
     });
     DefaultPathProvider provider;
     QCOMPARE(setup.dialog.getOpenFileName(&provider), file());
@@ -166,9 +174,9 @@ void PreviewFileDialogTest::asksForTypesOfTheCaller()
 {
     Setup setup;
     QList<QStringList> names;
-    const AnsweredDialog replacement([&](const NativeFileDialogRequest& request) {
-        names << request.filters.names;
-        return NativeFileDialogResult{};
+    const AnsweredDialog replacement([&](const FileDialogRequest& request) {
+        names << filterTypes(request.filter);
+        return FileDialogResult::cancelled();
     });
     setup.dialog.setFilter(QStringLiteral("A (*.a);;B (*.b)"));
     setup.dialog.getOpenFileName(nullptr);
@@ -182,13 +190,13 @@ void PreviewFileDialogTest::asksForSeveralFiles()
 {
     Setup setup;
     const QStringList chosen{file(), QStringLiteral("b")};
-    const AnsweredDialog replacement([&](const NativeFileDialogRequest& request) {
+    const AnsweredDialog replacement([&](const FileDialogRequest& request) {
         [&] {
             QCOMPARE(request.caption, QStringLiteral("Open several"));
-            QVERIFY(request.multiSelection);
+            QVERIFY((request.purpose == FileDialogPurpose::OpenFiles));
             QCOMPARE(request.configuration, setup.configuration.get());
         }();
-        return NativeFileDialogResult{0, chosen};
+        return FileDialogResult::accepted(chosen);
     });
     QCOMPARE(setup.dialog.getOpenFileNames(DefaultPathProvider::getInstance()), chosen);
     QCOMPARE(setup.editor->calls.last(), QStringLiteral("setVisible 0"));
@@ -199,9 +207,9 @@ void PreviewFileDialogTest::usesTheLastPathWithoutAProvider()
     LastPathProvider::getInstance()->setPathToScope(file(), QStringLiteral("Import"));
     Setup setup;
     QStringList folders;
-    const AnsweredDialog replacement([&](const NativeFileDialogRequest& request) {
-        folders << request.folder;
-        return NativeFileDialogResult{};
+    const AnsweredDialog replacement([&](const FileDialogRequest& request) {
+        folders << dialogStart(request.start).folder;
+        return FileDialogResult::cancelled();
     });
     setup.dialog.getOpenFileName(nullptr);
     setup.dialog.getOpenFileNames(nullptr);
@@ -212,9 +220,8 @@ void PreviewFileDialogTest::usesTheLastPathWithoutAProvider()
 void PreviewFileDialogTest::cancelHidesThePreview()
 {
     Setup setup;
-    const AnsweredDialog replacement([](const NativeFileDialogRequest&) {
-        return NativeFileDialogResult{NativeFileDialogResult::s_cancelled, {}};
-    });
+    const AnsweredDialog replacement(
+        [](const FileDialogRequest&) { return FileDialogResult::cancelled(); });
     QCOMPARE(setup.dialog.getOpenFileName(nullptr), QString());
     QCOMPARE(setup.editor->takeCalls().last(), QStringLiteral("setVisible 0"));
     QCOMPARE(setup.dialog.getOpenFileNames(nullptr), QStringList());
@@ -224,9 +231,8 @@ void PreviewFileDialogTest::cancelHidesThePreview()
 void PreviewFileDialogTest::exceptionHidesThePreview()
 {
     Setup setup;
-    const AnsweredDialog replacement([](const NativeFileDialogRequest&) -> NativeFileDialogResult {
-        throw std::length_error("too long");
-    });
+    const AnsweredDialog replacement(
+        [](const FileDialogRequest&) -> FileDialogResult { throw std::length_error("too long"); });
     QVERIFY_EXCEPTION_THROWN(setup.dialog.getOpenFileName(nullptr), std::length_error);
     QCOMPARE(setup.editor->calls.last(), QStringLiteral("setVisible 0"));
     QCOMPARE(FileDialog::getOpenDialogsCount(), 0);
@@ -267,10 +273,10 @@ void PreviewFileDialogTest::secondDialogIsNotPlacedByTypeChanges()
 {
     Setup setup;
     int placed = 0;
-    const AnsweredDialog replacement([&](const NativeFileDialogRequest& request) {
+    const AnsweredDialog replacement([&](const FileDialogRequest& request) {
         request.configuration->getEventHandler()->onTypeChanged(setup.callbacks);
         placed += setup.editor->takeCalls().count(QStringLiteral("placeDialog"));
-        return NativeFileDialogResult{};
+        return FileDialogResult::cancelled();
     });
     setup.dialog.getOpenFileName(nullptr);
     QCOMPARE(placed, 1);
@@ -392,6 +398,127 @@ void PreviewFileDialogTest::configurationOutlivesTheDialog()
     QVERIFY(!configuration->getEventHandler());
     QCOMPARE(configuration->getPositionForPreviewer(), QPoint(629, -1));
     QCOMPARE(editor.use_count(), 1L);
+}
+
+void PreviewFileDialogTest::dialogDestroyedWhileOpen_keepsWhatTheCallNeeds()
+{
+    auto editor = std::make_shared<Testing::RecordingEditor>();
+    auto dialog = std::make_unique<PreviewFileDialog>(
+        editor, std::make_shared<PreviewFileDialogConfiguration>(Testing::previewConfiguration()),
+        nullptr);
+    const AnsweredDialog replacement([&](const FileDialogRequest& request) {
+        dialog.reset();
+        request.configuration->storeFileDialogGeometry(QRect(10, 20, 400, 300));
+        request.configuration->getEventHandler()->onSelectionChanged(
+            {file()}, Testing::RecordingCallbacks(*editor));
+        return FileDialogResult::cancelled();
+    });
+    PreviewFileDialog& asked = *dialog;
+    QCOMPARE(asked.getOpenFileName(nullptr), QString());
+    QRect stored;
+    QVERIFY(FileDialogConfiguration(QStringLiteral("PreviewTest")).getFileDialogGeometry(stored));
+    QCOMPARE(stored, QRect(10, 20, 400, 300));
+    QCOMPARE(editor->calls.last(), QStringLiteral("setVisible 0"));
+    QCOMPARE(editor.use_count(), 1L);
+}
+
+void PreviewFileDialogTest::parentWithTheDialogAsMember_mayBeDestroyed()
+{
+    struct Window : QWidget
+    {
+        PreviewFileDialog dialog{
+            std::make_shared<Testing::RecordingEditor>(),
+            std::make_shared<PreviewFileDialogConfiguration>(Testing::previewConfiguration()),
+            this};
+    };
+    const NativeFileDialogReplacement qtsDialog([] { return nullptr; });
+    auto window = std::make_unique<Window>();
+    window->show();
+    Testing::ExpectedModals modals;
+    modals.expectDialog<QFileDialog>(QStringLiteral("Open one"),
+                                     [&window](QFileDialog&) { window.reset(); });
+    PreviewFileDialog& dialog = window->dialog;
+    QCOMPARE(dialog.getOpenFileName(nullptr), QString());
+    QVERIFY(QSettings().contains(QStringLiteral("PreviewTest/topLeft")));
+}
+
+void PreviewFileDialogTest::reusedDialog_standsWhereItWasLeft()
+{
+    Setup setup;
+    setup.configuration->storeFileDialogGeometry(QRect(40, 50, 300, 250));
+    QRect placed;
+    const AnsweredDialog replacement([&](const FileDialogRequest& request) {
+        request.configuration->getFileDialogGeometry(placed);
+        // As the user moves it.
+        request.configuration->storeFileDialogGeometry(QRect(100, 120, 310, 260));
+        return FileDialogResult::cancelled();
+    });
+    setup.dialog.getOpenFileName(nullptr);
+    QCOMPARE(placed.topLeft(), QPoint(40, 50));
+    setup.editor->calls.clear();
+    setup.dialog.getOpenFileName(nullptr);
+    QCOMPARE(placed, QRect(100, 120, 310, 260));
+    QCOMPARE(setup.editor->calls.at(1), QStringLiteral("moveTo 414 120"));
+}
+
+void PreviewFileDialogTest::reusedDialog_hasItsCheckBoxAsItWasLeft()
+{
+    Setup setup;
+    QVariantList checked;
+    const AnsweredDialog replacement([&](const FileDialogRequest& request) {
+        checked << request.configuration->getCustomControl(0).initialValue;
+        setup.handler().onCheckBoxToggled(false, 0, setup.callbacks);
+        return FileDialogResult::cancelled();
+    });
+    setup.dialog.getOpenFileName(nullptr);
+    setup.dialog.getOpenFileName(nullptr);
+    QCOMPARE(checked, (QVariantList{true, false}));
+}
+
+void PreviewFileDialogTest::previewMadeLate_showsTheSelectedFile()
+{
+    storeShowPreview(false);
+    Setup setup;
+    setup.handler().onSelectionChanged({file()}, setup.callbacks);
+    setup.editor->calls.clear();
+    setup.handler().onCheckBoxToggled(true, 0, setup.callbacks);
+    QCOMPARE(setup.editor->calls.first(), QStringLiteral("initialize -1"));
+    QCOMPARE(setup.editor->calls.count(QStringLiteral("showFile ") + file()), 1);
+}
+
+void PreviewFileDialogTest::previewOffTheScreen_isLaidOutAsTheDialogOpens_data()
+{
+    QTest::addColumn<int>("previewWidth");
+    QTest::addColumn<int>("minimumWidth");
+    QTest::addColumn<int>("previewLeft");
+    QTest::addColumn<QRect>("dialog");
+    QTest::newRow("it fits: both stay") << 100 << 0 << 660 << QRect();
+    QTest::newRow("the dialog is narrowed") << 300 << 0 << 469 << QRect(30, 30, 435, 250);
+    QTest::newRow("the dialog can be no narrower: the margin is")
+        << 300 << 450 << 484 << QRect(30, 30, 450, 250);
+    QTest::newRow("nor are there margins left") << 300 << 490 << 500 << QRect(6, 30, 490, 250);
+}
+
+void PreviewFileDialogTest::previewOffTheScreen_isLaidOutAsTheDialogOpens()
+{
+    QFETCH(int, previewWidth);
+    QFETCH(int, minimumWidth);
+    QFETCH(int, previewLeft);
+    QFETCH(QRect, dialog);
+    if (QGuiApplication::primaryScreen()->availableGeometry() != QRect(0, 0, 800, 600))
+        QSKIP("the numbers are those of a screen of 800 x 600");
+    Setup setup;
+    setup.editor->geometry = QRect(0, 0, previewWidth, 250);
+    const AnsweredDialog replacement([&](const FileDialogRequest& request) {
+        request.configuration->setMinimumDialogWidth(minimumWidth);
+        setup.handler().onTypeChanged(setup.callbacks);
+        [&] { QCOMPARE(setup.editor->geometry.topLeft(), QPoint(previewLeft, 30)); }();
+        QRect placed;
+        request.configuration->getFileDialogGeometry(placed);
+        [&] { QCOMPARE(placed, dialog); }();
+        return FileDialogResult::cancelled();
+    });
+    setup.dialog.getOpenFileName(nullptr);
 }
 
 ZORVANE_TEST(PreviewFileDialogTest)

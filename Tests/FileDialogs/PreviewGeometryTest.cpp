@@ -1,4 +1,4 @@
-#include "FileDialogs/PreviewGeometry.h"
+#include "FileDialogs/ScreenGeometry.h"
 
 #include "Tests/Support/TestCase.h"
 
@@ -7,7 +7,6 @@
 #include <rapidcheck.h>
 
 using namespace Zorvane;
-using PreviewGeometry::ScreenArea;
 
 namespace {
 
@@ -39,10 +38,10 @@ struct Pair
     QRect preview = anyRectangle(area);
 
     Pair() { place(); }
-    void place() { PreviewGeometry::placeSideBySide(dialog, preview, area, margin); }
+    void place() { placeSideBySide(dialog, preview, area, margin); }
     int roomForDialog() const
     {
-        return area.width() - 1 - preview.width() - 2 * margin.width() - PreviewGeometry::distance;
+        return area.width() - 1 - preview.width() - 2 * margin.width() - distanceToPreview;
     }
 };
 
@@ -60,6 +59,8 @@ private Q_SLOTS:
     void bothStayInsideWhereTheyFit();
     void tallPreviewsMoveUp();
     void repeatingChangesNothing();
+    void narrowedDialog_getsItsMinimumFromTheMargins_data();
+    void narrowedDialog_getsItsMinimumFromTheMargins();
     void theScreenWithTheDialogsMiddleCounts_data();
     void theScreenWithTheDialogsMiddleCounts();
     void screensOfTheApplication();
@@ -129,7 +130,7 @@ void PreviewGeometryTest::dialogAndPreviewStandSideBySide()
     QFETCH(QRect, dialogAfter);
     QFETCH(QPoint, previewAfter);
     QRect placed(QPoint(7, 11), preview);
-    PreviewGeometry::placeSideBySide(dialog, placed, area, s_margin);
+    placeSideBySide(dialog, placed, area, s_margin);
     QCOMPARE(dialog, dialogAfter);
     QCOMPARE(placed, QRect(previewAfter, preview));
 }
@@ -138,7 +139,7 @@ void PreviewGeometryTest::nothingOverlaps()
 {
     QVERIFY(rc::check("the preview begins behind the dialog's end", [] {
         const Pair pair;
-        RC_ASSERT(pair.preview.left() - pair.dialog.right() >= PreviewGeometry::distance);
+        RC_ASSERT(pair.preview.left() - pair.dialog.right() >= distanceToPreview);
         RC_ASSERT(!pair.preview.intersects(pair.dialog) || !pair.dialog.isValid());
     }));
 }
@@ -158,7 +159,7 @@ void PreviewGeometryTest::sizesStayWhereTheyFit()
         QRect dialog = anyRectangle(s_area);
         QRect preview = anyRectangle(s_area);
         const QSize size = preview.size();
-        PreviewGeometry::placeSideBySide(dialog, preview, anyArea(), s_margin);
+        placeSideBySide(dialog, preview, anyArea(), s_margin);
         RC_ASSERT(preview.size() == size);
     }));
 }
@@ -177,12 +178,12 @@ void PreviewGeometryTest::bothStayInsideWhereTheyFit()
     QVERIFY(rc::check("a preview beside a dialog inside the area is inside it", [] {
         Pair pair;
         pair.area.moveTop(*rc::gen::inRange(0, 3000));
-        const int room = pair.area.height() - 1 - PreviewGeometry::distance;
+        const int room = pair.area.height() - 1 - distanceToPreview;
         pair.preview.setHeight(*rc::gen::inRange(1, room - pair.margin.height() + 1));
         pair.dialog.moveTop(*rc::gen::inRange(pair.area.top(), pair.area.bottom()));
         pair.place();
         RC_ASSERT(pair.preview.top() >= pair.area.top());
-        RC_ASSERT(pair.preview.bottom() < pair.area.bottom() - PreviewGeometry::distance);
+        RC_ASSERT(pair.preview.bottom() < pair.area.bottom() - distanceToPreview);
     }));
 }
 
@@ -191,8 +192,8 @@ void PreviewGeometryTest::tallPreviewsMoveUp()
     QVERIFY(rc::check("the preview's top is the dialog's, or above it", [] {
         const Pair pair;
         RC_ASSERT(pair.preview.top() <= pair.dialog.top());
-        const bool fits = pair.dialog.top() + pair.preview.height() + PreviewGeometry::distance <=
-                          pair.area.bottom();
+        const bool fits =
+            pair.dialog.top() + pair.preview.height() + distanceToPreview <= pair.area.bottom();
         if (fits || pair.dialog.top() <= pair.margin.height())
             RC_ASSERT(pair.preview.top() == pair.dialog.top());
     }));
@@ -208,13 +209,38 @@ void PreviewGeometryTest::repeatingChangesNothing()
         pair.place();
         RC_ASSERT(pair.dialog == dialog);
         // A dialog that had to move ends six pixels before the preview instead of five.
-        RC_ASSERT(gap == PreviewGeometry::distance || gap == PreviewGeometry::distance + 1);
-        RC_ASSERT(pair.preview == preview.translated(PreviewGeometry::distance - gap, 0));
+        RC_ASSERT(gap == distanceToPreview || gap == distanceToPreview + 1);
+        RC_ASSERT(pair.preview == preview.translated(distanceToPreview - gap, 0));
         const QRect closed = pair.preview;
         pair.place();
         RC_ASSERT(pair.dialog == dialog);
         RC_ASSERT(pair.preview == closed);
     }));
+}
+
+void PreviewGeometryTest::narrowedDialog_getsItsMinimumFromTheMargins_data()
+{
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<QRect>("dialog");
+    QTest::addColumn<QRect>("preview");
+    // In an area of 800 x 600, at first 30..364 and 369..768.
+    QTest::newRow("wide enough") << 335 << QRect(30, 50, 335, 400) << QRect(369, 50, 400, 400);
+    QTest::newRow("the right margin does")
+        << 360 << QRect(30, 50, 360, 400) << QRect(394, 50, 400, 400);
+    QTest::newRow("the left one as well")
+        << 386 << QRect(10, 50, 386, 400) << QRect(400, 50, 400, 400);
+    QTest::newRow("no room for both") << 420 << QRect(0, 50, 420, 400) << QRect(400, 50, 400, 400);
+}
+
+void PreviewGeometryTest::narrowedDialog_getsItsMinimumFromTheMargins()
+{
+    QFETCH(int, minimum);
+    const QRect area(0, 0, 800, 600);
+    QRect dialog(30, 50, 335, 400);
+    QRect preview(369, 50, 400, 400);
+    keepMinimumWidth(dialog, preview, area, minimum);
+    QTEST(dialog, "dialog");
+    QTEST(preview, "preview");
 }
 
 void PreviewGeometryTest::theScreenWithTheDialogsMiddleCounts_data()
@@ -245,13 +271,13 @@ void PreviewGeometryTest::theScreenWithTheDialogsMiddleCounts()
         {{0, 1080, 1920, 1080}, {0, 1120, 1920, 1040}},
     };
     const QRect wanted = screen < 0 ? QRect() : screens[std::size_t(screen)].available;
-    QCOMPARE(PreviewGeometry::availableAreaWith(dialog, screens), wanted);
-    QCOMPARE(PreviewGeometry::availableAreaWith(dialog, {}), QRect());
+    QCOMPARE(availableAreaWith(dialog, screens), wanted);
+    QCOMPARE(availableAreaWith(dialog, {}), QRect());
 }
 
 void PreviewGeometryTest::screensOfTheApplication()
 {
-    const std::vector<ScreenArea> screens = PreviewGeometry::currentScreens();
+    const std::vector<ScreenArea> screens = currentScreens();
     QCOMPARE(int(screens.size()), QGuiApplication::screens().size());
     QCOMPARE(screens.front().full, QGuiApplication::screens().front()->geometry());
     QCOMPARE(screens.front().available, QGuiApplication::screens().front()->availableGeometry());

@@ -1,4 +1,4 @@
-#include "FileDialogs/ScreenScale.h"
+#include "FileDialogs/ScreenGeometry.h"
 
 #include "Tests/Support/TestCase.h"
 
@@ -9,7 +9,7 @@
 
 using namespace Zorvane;
 
-Q_DECLARE_METATYPE(std::vector<Zorvane::ScaledScreen>)
+Q_DECLARE_METATYPE(std::vector<Zorvane::ScreenArea>)
 
 class ScreenScaleTest : public Testing::TestCase
 {
@@ -24,16 +24,19 @@ private Q_SLOTS:
 
 void ScreenScaleTest::rectanglesAreConvertedBothWays_data()
 {
-    using Screens = std::vector<ScaledScreen>;
+    using Screens = std::vector<ScreenArea>;
     QTest::addColumn<Screens>("screens");
     QTest::addColumn<QRect>("inQts");
     QTest::addColumn<QRect>("inScreens");
     // All but the smallest have 1920 x 1080 pixels of their own.
-    const Screens plain{{QRect(0, 0, 1920, 1080), 1.0}};
-    const Screens scaled{{QRect(0, 0, 1280, 720), 1.5}};
-    const Screens scaledRight{{QRect(0, 0, 1920, 1080), 1.0}, {QRect(1920, 0, 1280, 720), 1.5}};
-    const Screens plainRight{{QRect(0, 0, 1280, 720), 1.5}, {QRect(1920, 0, 1920, 1080), 1.0}};
-    const Screens scaledLeft{{QRect(0, 0, 1920, 1080), 1.0}, {QRect(-1920, 90, 1280, 720), 1.5}};
+    const Screens plain{{QRect(0, 0, 1920, 1080), {}, 1.0}};
+    const Screens scaled{{QRect(0, 0, 1280, 720), {}, 1.5}};
+    const Screens scaledRight{{QRect(0, 0, 1920, 1080), {}, 1.0},
+                              {QRect(1920, 0, 1280, 720), {}, 1.5}};
+    const Screens plainRight{{QRect(0, 0, 1280, 720), {}, 1.5},
+                             {QRect(1920, 0, 1920, 1080), {}, 1.0}};
+    const Screens scaledLeft{{QRect(0, 0, 1920, 1080), {}, 1.0},
+                             {QRect(-1920, 90, 1280, 720), {}, 1.5}};
     // clang-format off
     const auto row = [](const char* name, const Screens& screens, const QRect& inQts,
                         const QRect& inScreens) {
@@ -56,7 +59,7 @@ void ScreenScaleTest::rectanglesAreConvertedBothWays_data()
 
 void ScreenScaleTest::rectanglesAreConvertedBothWays()
 {
-    QFETCH(std::vector<ScaledScreen>, screens);
+    QFETCH(std::vector<ScreenArea>, screens);
     QFETCH(QRect, inQts);
     QFETCH(QRect, inScreens);
     QCOMPARE(inScreenPixels(inQts, screens), inScreens);
@@ -66,8 +69,9 @@ void ScreenScaleTest::rectanglesAreConvertedBothWays()
 void ScreenScaleTest::thereAndBackChangesNothing()
 {
     const bool holds = rc::check("a dialog stays where it is however often it is opened", [] {
-        const std::vector<ScaledScreen> screens{
+        const std::vector<ScreenArea> screens{
             {QRect(*rc::gen::inRange(-4000, 4000), *rc::gen::inRange(-4000, 4000), 1280, 720),
+             {},
              *rc::gen::inRange(4, 16) / 4.0}};
         const QRect rect(*rc::gen::inRange(-4000, 4000), *rc::gen::inRange(-4000, 4000),
                          *rc::gen::inRange(1, 4000), *rc::gen::inRange(1, 4000));
@@ -78,9 +82,9 @@ void ScreenScaleTest::thereAndBackChangesNothing()
 
 void ScreenScaleTest::screensOfTheApplication()
 {
-    const std::vector<ScaledScreen> screens = scaledScreens();
+    const std::vector<ScreenArea> screens = currentScreens();
     QCOMPARE(int(screens.size()), QGuiApplication::screens().size());
-    QCOMPARE(screens.front().geometry, QGuiApplication::primaryScreen()->geometry());
+    QCOMPARE(screens.front().full, QGuiApplication::primaryScreen()->geometry());
     QCOMPARE(screens.front().pixelRatio, QGuiApplication::primaryScreen()->devicePixelRatio());
 }
 

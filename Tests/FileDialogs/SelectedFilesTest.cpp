@@ -1,4 +1,4 @@
-#include "FileDialogs/SelectedFiles.h"
+#include "FileDialogs/DialogTexts.h"
 
 #include "Tests/Support/TestCase.h"
 

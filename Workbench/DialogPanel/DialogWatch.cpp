@@ -13,60 +13,53 @@ namespace Zorvane::Workbench {
 
 namespace {
 
-/** What Windows calls E_FAIL. */
-constexpr std::int32_t s_failure = -2147467259;
-
-QString codeText(std::int32_t code)
+QString purposeText(FileDialogPurpose purpose)
 {
-    return QStringLiteral("0x") + QString::number(static_cast<std::uint32_t>(code), 16)
-                                      .rightJustified(8, QLatin1Char('0'));
+    return purpose == FileDialogPurpose::SaveFile ? QStringLiteral("save") : QStringLiteral("open");
+}
+
+/** "accepted", or how else it ended, and the system's code. */
+QString resultText(const FileDialogResult& result)
+{
+    const QString code = QString::number(static_cast<std::uint32_t>(result.nativeCode), 16);
+    QString text = QStringLiteral("failed");
+    if (!result.isFailure())
+        text = result.paths.isEmpty() ? QStringLiteral("cancelled") : QStringLiteral("accepted");
+    return QStringLiteral("%1 0x%2").arg(text, code.rightJustified(8, QLatin1Char('0')));
 }
 
 /** Notes what a driver is asked for and what it answers. */
-class WatchedDriver : public NativeFileDialogDriver
+class WatchedDriver : public FileDialogDriver
 {
 public:
-    WatchedDriver(std::shared_ptr<NativeFileDialogDriver> driver, DialogRecord& record)
+    WatchedDriver(std::shared_ptr<FileDialogDriver> driver, DialogRecord& record)
         : m_driver(std::move(driver))
         , m_record(record)
     {}
 
-    NativeFileDialogResult open(const NativeFileDialogRequest& request) override
+    FileDialogResult run(const FileDialogRequest& request) override
     {
-        return run(QStringLiteral("open"), request, &NativeFileDialogDriver::open);
-    }
-    NativeFileDialogResult save(const NativeFileDialogRequest& request) override
-    {
-        return run(QStringLiteral("save"), request, &NativeFileDialogDriver::save);
-    }
-
-private:
-    using Run = NativeFileDialogResult (NativeFileDialogDriver::*)(const NativeFileDialogRequest&);
-
-    NativeFileDialogResult run(const QString& name, const NativeFileDialogRequest& request,
-                               Run operation)
-    {
-        const NativeFileFilters& filters = request.filters;
+        const QString name = purposeText(request.purpose);
         m_record.note(QStringLiteral("%1(%2)").arg(
-            name, quoted({request.caption, request.folder, request.fileName,
-                          filters.patterns.join(QLatin1Char('|')), filters.preselectedPattern})));
-        const NativeFileDialogResult result = ((*m_driver).*operation)(request);
-        m_record.note(QStringLiteral("%1 -> %2").arg(name, codeText(result.code)));
+            name,
+            quoted({request.caption, request.start, request.filter, request.selectedFilter})));
+        const FileDialogResult result = m_driver->run(request);
+        m_record.note(QStringLiteral("%1 -> %2").arg(name, resultText(result)));
         return result;
     }
 
-    const std::shared_ptr<NativeFileDialogDriver> m_driver;
+private:
+    const std::shared_ptr<FileDialogDriver> m_driver;
     DialogRecord& m_record;
 };
 
-class FailingDriver : public NativeFileDialogDriver
+class FailingDriver : public FileDialogDriver
 {
 public:
-    NativeFileDialogResult open(const NativeFileDialogRequest&) override { return {s_failure, {}}; }
-    NativeFileDialogResult save(const NativeFileDialogRequest&) override { return {s_failure, {}}; }
+    FileDialogResult run(const FileDialogRequest&) override { return FileDialogResult::failed(-1); }
 };
 
-std::shared_ptr<NativeFileDialogDriver> driverOf(DialogShower shower)
+std::shared_ptr<FileDialogDriver> driverOf(DialogShower shower)
 {
     switch (shower) {
     case DialogShower::Failing:
@@ -92,8 +85,8 @@ DialogWatch::DialogWatch(DialogShower shower, DialogRecord& record)
     , m_givesOption(shower == DialogShower::Option)
 {
     // One driver for all dialogs of the call: a new one would be asked of the watch itself.
-    const std::shared_ptr<NativeFileDialogDriver> driver = driverOf(shower);
-    m_replacement.emplace([driver, &record]() -> std::unique_ptr<NativeFileDialogDriver> {
+    const std::shared_ptr<FileDialogDriver> driver = driverOf(shower);
+    m_replacement.emplace([driver, &record]() -> std::unique_ptr<FileDialogDriver> {
         return driver ? std::make_unique<WatchedDriver>(driver, record) : nullptr;
     });
     if (m_givesOption)

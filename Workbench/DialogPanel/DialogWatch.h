@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/FileDialogDriver.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QString>

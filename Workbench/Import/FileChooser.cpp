@@ -1,18 +1,14 @@
 #include "Workbench/Import/FileChooser.h"
 
-#include "FileDialogs/DialogPaths.h"
 #include "FileDialogs/FileDialog.h"
 #include "FileDialogs/PreviewFileDialog.h"
 #include "FileDialogs/PreviewFileDialogConfiguration.h"
 #include "Files/PathProvider.h"
-#include "Host/Widgets/ZVMessageBox.h"
 #include "Workbench/Import/DialogOwner.h"
 #include "Workbench/Preview/FilePreviewEditor.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
-#include <QtWidgets/QPushButton>
 
 #include <memory>
 
@@ -22,27 +18,6 @@ namespace {
 
 const std::string chooserGeometryKey = "Workbench/FileDialog";
 const std::string s_showPreviewKey = "Workbench/FileDialog/ShowPreview";
-
-/** The dialog has asked about the name without the ending, which is another file. */
-bool mayReplace(const QPointer<QWidget>& parent, const QString& caption, const QString& file)
-{
-    if (!QFileInfo::exists(file))
-        return true;
-    // The parent may go away while the box is open, and takes it along.
-    const QPointer<ZVMessageBox> box =
-        new ZVMessageBox(QMessageBox::Warning, caption,
-                         DialogFileChooser::tr("%1 already exists. Is it to be replaced?")
-                             .arg(QDir::toNativeSeparators(file)),
-                         QMessageBox::Cancel, parent);
-    box->setTextFormat(Qt::PlainText);
-    const QPushButton* replace =
-        box->addButton(DialogFileChooser::tr("&Replace"), QMessageBox::DestructiveRole);
-    box->setDefaultButton(QMessageBox::Cancel);
-    box->exec();
-    const bool isReplaced = box && box->clickedButton() == replace;
-    delete box;
-    return isReplaced;
-}
 
 } // namespace
 
@@ -77,7 +52,7 @@ QString DialogFileChooser::fileToSave(QWidget* parent, const FileChoice& choice,
     const DialogOwner owner(parent);
     const QString file = QDir::fromNativeSeparators(FileDialog::getSaveFileName(
         choice.caption, choice.filters, choice.paths, choice.scope, fileName, parent));
-    if (FileDialog::wasEndingAdded() && !mayReplace(window, choice.caption, file))
+    if (FileDialog::wasEndingAdded() && !FileDialog::confirmReplacing(choice.caption, file, window))
         return {};
     return file;
 }
@@ -89,10 +64,11 @@ QString DialogFileChooser::fileToSaveBeside(QWidget* parent, const FileChoice& c
     const DialogOwner owner(parent);
     const QString file = QDir::fromNativeSeparators(FileDialog::getSaveFileNameInDir(
         choice.caption, choice.filters, path, choice.paths, choice.scope, {}, {}));
-    if (file.isEmpty() || fileEndingIndex(file) >= 0)
+    const QString whole =
+        FileDialog::withEnding(file, choice.filters.section(QLatin1Char(';'), 0, 0));
+    if (whole == file)
         return file;
-    const QString whole = file + suffixOfFilter(choice.filters.section(QLatin1Char(';'), 0, 0));
-    if (!mayReplace(window, choice.caption, whole))
+    if (!FileDialog::confirmReplacing(choice.caption, whole, window))
         return {};
     choice.paths->setPathToScope(QDir::toNativeSeparators(whole), choice.scope);
     return whole;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -54,8 +53,6 @@ public:
 /** Asks by the library's dialogs; files are shown beside the dialog while the user selects. */
 class DialogFileChooser : public FileChooser
 {
-    Q_DECLARE_TR_FUNCTIONS(Zorvane::Workbench::DialogFileChooser)
-
 public:
     QStringList files(QWidget* parent, const FileChoice& choice) override;
     QString folder(QWidget* parent, const FileChoice& choice) override;

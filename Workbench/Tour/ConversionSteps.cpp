@@ -1,6 +1,6 @@
 #include "Workbench/Tour/ConversionSteps.h"
 
-#include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/FileDialogDriver.h"
 #include "Host/Widgets/ZVConverterDialog.h"
 #include "Workbench/Convert/BackgroundWork.h"
 #include "Workbench/Tour/DialogAnswers.h"
@@ -22,22 +22,16 @@ namespace Zorvane::Workbench {
 namespace {
 
 /** Chooses one file, as a person would in the system's dialog. */
-class TourFileDialog : public NativeFileDialogDriver
+class TourFileDialog : public FileDialogDriver
 {
 public:
     explicit TourFileDialog(QString file)
         : m_file(std::move(file))
     {}
 
-    NativeFileDialogResult open(const NativeFileDialogRequest&) override
+    FileDialogResult run(const FileDialogRequest&) override
     {
-        NativeFileDialogResult result;
-        result.paths = QStringList(m_file);
-        return result;
-    }
-    NativeFileDialogResult save(const NativeFileDialogRequest& request) override
-    {
-        return open(request);
+        return FileDialogResult::accepted({m_file});
     }
 
 private:

@@ -1,6 +1,6 @@
 #include "Workbench/Tour/OpenSteps.h"
 
-#include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/FileDialogDriver.h"
 #include "Files/LastPathProvider.h"
 #include "Workbench/Commands/FileCommands.h"
 #include "Workbench/Preview/PreviewWindow.h"

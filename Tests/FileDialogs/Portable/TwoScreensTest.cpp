@@ -1,6 +1,5 @@
-#include "FileDialogs/DialogPlacement.h"
 #include "FileDialogs/PreviewFileDialogConfiguration.h"
-#include "FileDialogs/PreviewGeometry.h"
+#include "FileDialogs/ScreenGeometry.h"
 #include "Tests/FileDialogs/DialogFixtures.h"
 #include "Tests/FileDialogs/Portable/SecondScreen.h"
 #include "Tests/FileDialogs/PreviewFixtures.h"
@@ -54,7 +53,7 @@ void TwoScreensTest::thereAreTwo()
     const SecondScreen second;
     QCOMPARE(QGuiApplication::screens().size(), 2);
     QVERIFY(!first.intersects(SecondScreen::full()));
-    const std::vector<PreviewGeometry::ScreenArea> areas = PreviewGeometry::currentScreens();
+    const std::vector<ScreenArea> areas = currentScreens();
     QCOMPARE(areas.size(), std::size_t(2));
     QCOMPARE(areas[0].full, first);
     QCOMPARE(areas[1].full, SecondScreen::full());
@@ -112,7 +111,7 @@ void TwoScreensTest::previewGoesBesideTheDialogOnItsScreen()
         QRect dialog(2000, 150, 350, 300);
         preview.configuration.storeFileDialogGeometry(dialog);
         QRect wanted = preview.editor->geometry;
-        PreviewGeometry::placeSideBySide(dialog, wanted, SecondScreen::available(), {30, 30});
+        placeSideBySide(dialog, wanted, SecondScreen::available(), {30, 30});
         QCOMPARE(preview.configuration.getPositionForPreviewer(), wanted.topLeft());
         QCOMPARE(wanted.topLeft(), QPoint(2000 + 350 + 4, 150));
     }

@@ -1,8 +1,10 @@
 #include "FileDialogs/Windows/CommonItemDialogDriver.h"
 
-#include "FileDialogs/Windows/DpiAwarenessScope.h"
 #include "Tests/FileDialogs/Windows/CommonItemDialogTestCase.h"
 #include "Tests/Support/TestCase.h"
+
+#include <QtCore/QScopeGuard>
+#include <QtWidgets/QWidget>
 
 #include <stdexcept>
 #include <thread>
@@ -77,8 +79,13 @@ void addEndings()
 qintptr s_previousContext = 0;
 QVector<qintptr> s_contexts;
 
+const QWidget* s_owner = nullptr;
+bool s_hadOwnersWindow = false;
+
 DPI_AWARENESS_CONTEXT WINAPI setContext(DPI_AWARENESS_CONTEXT context)
 {
+    if (s_owner && s_contexts.isEmpty())
+        s_hadOwnersWindow = s_owner->internalWinId() != 0;
     s_contexts.append(qintptr(context));
     return reinterpret_cast<DPI_AWARENESS_CONTEXT>(s_previousContext);
 }
@@ -91,8 +98,8 @@ class CommonItemDialogRunTest : public Testing::CommonItemDialogTestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void dpiAwarenessIsTakenBack_data();
-    void dpiAwarenessIsTakenBack();
+    void refusedDpiAwareness_isNotTakenBack();
+    void ownersWindow_isMadeForTheApplicationsAwareness();
     void awarenessOfEachScreensScalingIsTakenBack_data();
     void awarenessOfEachScreensScalingIsTakenBack();
     void windowEventsAreLeft_data();
@@ -125,36 +132,34 @@ bool CommonItemDialogRunTest::runTo(CommonItemDialogDriver& driver, bool isSave,
             listeners[1]->OnTypeChange(dialog);
     };
     try {
-        isSave ? driver.save(m_request) : driver.open(m_request);
+        isSave ? driver.run(Testing::forSaving(m_request)) : driver.run(m_request);
     } catch (const std::length_error&) {
         return true;
     }
     return false;
 }
 
-void CommonItemDialogRunTest::dpiAwarenessIsTakenBack_data()
+void CommonItemDialogRunTest::refusedDpiAwareness_isNotTakenBack()
 {
-    const auto v2 = qintptr(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
-    QTest::addColumn<bool>("exists");
-    QTest::addColumn<qintptr>("previous");
-    QTest::addColumn<QVector<qintptr>>("contexts");
-    QTest::newRow("changed") << true << qintptr(-2) << QVector<qintptr>{v2, -2};
-    QTest::newRow("refused") << true << qintptr(0) << QVector<qintptr>{v2};
-    QTest::newRow("unknown to the system") << false << qintptr(0) << QVector<qintptr>();
+    s_previousContext = 0;
+    s_contexts.clear();
+    CommonItemDialogDriver driver(L"shell32.dll", {}, setContext);
+    QCOMPARE(runTo(driver, false, Chosen), false);
+    QCOMPARE(s_contexts, QVector<qintptr>{qintptr(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2)});
 }
 
-void CommonItemDialogRunTest::dpiAwarenessIsTakenBack()
+void CommonItemDialogRunTest::ownersWindow_isMadeForTheApplicationsAwareness()
 {
-    QFETCH(bool, exists);
-    QFETCH(qintptr, previous);
-    QFETCH(QVector<qintptr>, contexts);
-    s_previousContext = previous;
+    QWidget owner;
+    m_request.owner = &owner;
+    s_previousContext = -2;
+    s_owner = &owner;
+    const auto noOwner = qScopeGuard([] { s_owner = nullptr; });
+    s_hadOwnersWindow = false;
     s_contexts.clear();
-    {
-        const DpiAwarenessScope scope(exists ? setContext : nullptr);
-        QCOMPARE(s_contexts, contexts.mid(0, 1));
-    }
-    QCOMPARE(s_contexts, contexts);
+    CommonItemDialogDriver driver(L"shell32.dll", {}, setContext);
+    QCOMPARE(runTo(driver, false, Chosen), false);
+    QVERIFY(s_hadOwnersWindow);
 }
 
 void CommonItemDialogRunTest::awarenessOfEachScreensScalingIsTakenBack_data()
@@ -198,7 +203,7 @@ void CommonItemDialogRunTest::noWindowEventsToBeHad()
 {
     s_hooks = {};
     CommonItemDialogDriver driver(L"shell32.dll", {hookEvents, unhookEvents});
-    QCOMPARE(driver.open(m_request).code, 0);
+    QCOMPARE(driver.run(m_request).nativeCode, 0);
     QCOMPARE(s_hooks.arguments.size(), 5);
     QVERIFY(s_hooks.takenBack.isEmpty());
 }
@@ -236,15 +241,15 @@ void CommonItemDialogRunTest::aMultithreadedApartmentIsRefused()
 {
     // A dialog could be had on that thread, and would hang.
     m_dialogs.reset();
-    NativeFileDialogResult opened;
+    FileDialogResult opened;
     std::thread([&] {
         CoInitializeEx(nullptr, COINIT_MULTITHREADED);
         m_dialogs = std::make_unique<FakeItemDialogs>(m_script);
-        opened = m_driver.open(m_request);
+        opened = m_driver.run(m_request);
         m_dialogs.reset();
         CoUninitialize();
     }).join();
-    QCOMPARE(opened.code, std::int32_t(RPC_E_CHANGED_MODE));
+    QCOMPARE(opened.nativeCode, std::int32_t(RPC_E_CHANGED_MODE));
     QCOMPARE(m_script.dialogs, 0);
 }
 
@@ -280,7 +285,7 @@ void CommonItemDialogRunTest::placingStartsAgainUntilVisible()
                     rect.right - rect.left == last.width());
         placed = QRect(rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top);
     };
-    QCOMPARE(m_driver.open(m_request).code, 0);
+    QCOMPARE(m_driver.run(m_request).nativeCode, 0);
     QCOMPARE(placed, last);
 }
 

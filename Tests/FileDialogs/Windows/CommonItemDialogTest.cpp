@@ -1,7 +1,7 @@
 #include "FileDialogs/Windows/CommonItemDialogDriver.h"
 
 #include "FileDialogs/FileDialog.h"
-#include "FileDialogs/Windows/AdvisedEvents.h"
+#include "FileDialogs/Windows/DialogEvents.h"
 #include "FileDialogs/Windows/WinFileDialogCallbacks.h"
 #include "Tests/FileDialogs/DialogFixtures.h"
 #include "Tests/FileDialogs/Windows/CommonItemDialogTestCase.h"
@@ -68,7 +68,9 @@ private Q_SLOTS:
     void callbacksOfADialogWithoutControls();
     void foldersOfEveryKind_data();
     void foldersOfEveryKind();
-    void saveHasNoControls();
+    void saveUnderAConfiguration_hasItsControlsAndEvents();
+    void cancelInAnyForm_isACancel_data();
+    void cancelInAnyForm_isACancel();
     void emptyPlaceIsNone();
     void aListenerThatCannotBeMadeIsNotAdvised();
     void facadeTakesTheNativeDialog();
@@ -77,7 +79,7 @@ private Q_SLOTS:
     void facadeFallsBackForSave();
 
 private:
-    void expectFailure(const NativeFileDialogResult& result, int place, const QStringList& calls);
+    void expectFailure(const FileDialogResult& result, int place, const QStringList& calls);
 };
 
 void CommonItemDialogTest::openInThisOrder()
@@ -113,7 +115,7 @@ void CommonItemDialogTest::openInThisOrder()
 
 void CommonItemDialogTest::saveInThisOrder()
 {
-    addControls();
+    m_request.configuration = nullptr;
     const QString folder = m_folder->folder();
     const QStringList expected{
         QStringLiteral("Create"),
@@ -144,7 +146,7 @@ void CommonItemDialogTest::plainOpenAsksForNoMore()
                                QStringLiteral("SetTitle()"),
                                QStringLiteral("GetOptions"),
                                QStringLiteral("SetOptions(%1)").arg(0x800 + 0x40),
-                               QStringLiteral("SetFileTypes()"),
+                               QStringLiteral("SetFileTypes(All Files (*.*)=*.*)"),
                                QStringLiteral("SetFileTypeIndex(0)"),
                                QStringLiteral("SetDefaultExtension(null)"),
                                QStringLiteral("Show"),
@@ -203,27 +205,27 @@ void CommonItemDialogTest::optionsAreAdded()
     QFETCH(bool, isMulti);
     QFETCH(int, before);
     QFETCH(int, after);
-    m_request.multiSelection = isMulti;
+    m_request.purpose = isMulti ? FileDialogPurpose::OpenFiles : FileDialogPurpose::OpenFile;
     m_script.options = DWORD(before);
     QVERIFY(openCalls().contains(QStringLiteral("SetOptions(%1)").arg(after)));
 }
 
 void CommonItemDialogTest::resultsInTheirOrder()
 {
-    const NativeFileDialogResult opened = m_driver.open(m_request);
-    QCOMPARE(opened.code, 0);
+    const FileDialogResult opened = m_driver.run(m_request);
+    QCOMPARE(opened.nativeCode, 0);
     QCOMPARE(opened.paths, m_script.results);
-    const NativeFileDialogResult saved = m_driver.save(m_request);
-    QCOMPARE(saved.code, 0);
+    const FileDialogResult saved = m_driver.run(Testing::forSaving(m_request));
+    QCOMPARE(saved.nativeCode, 0);
     QCOMPARE(saved.paths, QStringList{m_script.results.front()});
 }
 
 void CommonItemDialogTest::cancelIsTold()
 {
     m_script.showResult = HRESULT_FROM_WIN32(ERROR_CANCELLED);
-    QVERIFY(m_driver.open(m_request).isCancelled());
+    QVERIFY(m_driver.run(m_request).isCancelled());
     QVERIFY(!m_script.calls.names().contains(QStringLiteral("GetResults")));
-    QVERIFY(m_driver.save(m_request).isCancelled());
+    QVERIFY(m_driver.run(Testing::forSaving(m_request)).isCancelled());
     QVERIFY(!m_script.calls.names().contains(QStringLiteral("GetResult")));
 }
 
@@ -241,7 +243,7 @@ void CommonItemDialogTest::oneFailureOfOpen()
     QFETCH(QStringList, calls);
     addControls();
     m_script.calls.failCallAt(place, s_failure);
-    const NativeFileDialogResult result = m_driver.open(m_request);
+    const FileDialogResult result = m_driver.run(m_request);
     expectFailure(result, place, calls);
 }
 
@@ -257,22 +259,22 @@ void CommonItemDialogTest::oneFailureOfSave()
     QFETCH(int, place);
     QFETCH(QStringList, calls);
     m_script.calls.failCallAt(place, s_failure);
-    const NativeFileDialogResult result = m_driver.save(m_request);
+    const FileDialogResult result = m_driver.run(Testing::forSaving(m_request));
     expectFailure(result, place, calls);
 }
 
-void CommonItemDialogTest::expectFailure(const NativeFileDialogResult& result, int place,
+void CommonItemDialogTest::expectFailure(const FileDialogResult& result, int place,
                                          const QStringList& calls)
 {
     const QStringList made = m_script.calls.names();
     const QString failing = made.at(place);
     if (isSkippedOnFailure(failing)) {
-        QCOMPARE(result.code, 0);
+        QCOMPARE(result.nativeCode, 0);
         QCOMPARE(made, calls);
         QVERIFY(!result.paths.isEmpty());
         return;
     }
-    QCOMPARE(result.code, std::int32_t(s_failure));
+    QCOMPARE(result.nativeCode, std::int32_t(s_failure));
     QVERIFY(result.isFailure());
     QVERIFY(result.paths.isEmpty());
     // Nothing comes behind the failure but what takes back: each listener goes as it came.
@@ -308,7 +310,7 @@ void CommonItemDialogTest::listenersGetEventsByTheirInterfaces()
         controls->QueryInterface(IID_PPV_ARGS(other.put()));
         QCOMPARE(one.get(), other.get());
     };
-    QCOMPARE(m_driver.open(m_request).code, 0);
+    QCOMPARE(m_driver.run(m_request).nativeCode, 0);
     QCOMPARE(m_handler.events,
              QStringList({QStringLiteral("type"), QStringLiteral("type"),
                           QStringLiteral("check box 5 on"), QStringLiteral("check box 5 on"),
@@ -329,7 +331,7 @@ void CommonItemDialogTest::listenersLeaveQuestionsToTheDialog()
             QCOMPARE(events->OnOverwrite(dialog, nullptr, &overwrite), E_NOTIMPL);
         }
     };
-    QCOMPARE(m_driver.open(m_request).code, 0);
+    QCOMPARE(m_driver.run(m_request).nativeCode, 0);
     QVERIFY(m_handler.events.isEmpty());
 }
 
@@ -370,7 +372,7 @@ void CommonItemDialogTest::aFailureInAnEventStillTellsTheHandler()
         QCOMPARE(listeners[0]->OnSelectionChange(dialog), S_OK);
         m_script.calls.failCalls(QString(), S_OK);
     };
-    QCOMPARE(m_driver.open(m_request).code, 0);
+    QCOMPARE(m_driver.run(m_request).nativeCode, 0);
     QCOMPARE(m_handler.events, QStringList{event});
     QCOMPARE(m_script.calls.hasCall(QStringLiteral("SetControlState(5,3)")),
              call != QLatin1String("QueryCustomize"));
@@ -385,7 +387,7 @@ void CommonItemDialogTest::selectionFollowsTheFileNameBox()
                              const std::vector<IFileDialogEvents*>& listeners) {
         listeners[1]->OnSelectionChange(dialog);
     };
-    m_driver.open(m_request);
+    m_driver.run(m_request);
     QCOMPARE(
         m_handler.selections.at(0),
         QStringList({m_folder->path("c d.obj"), m_folder->path("b.stl"), m_folder->path("a.stl")}));
@@ -406,24 +408,34 @@ void CommonItemDialogTest::callbacksOfADialogWithoutControls()
     QVERIFY(m_script.calls.calls().isEmpty());
 }
 
-void CommonItemDialogTest::saveHasNoControls()
+void CommonItemDialogTest::saveUnderAConfiguration_hasItsControlsAndEvents()
 {
     addControls();
-    m_handler.reaction = [](const FileDialogCallbackInterface&) {
-        throw std::length_error("nobody asked");
-    };
     m_script.whileShown = [](IFileDialog* dialog,
                              const std::vector<IFileDialogEvents*>& listeners) {
-        for (IFileDialogEvents* events : listeners) {
-            events->OnTypeChange(dialog);
-            events->OnSelectionChange(dialog);
-        }
+        QCOMPARE(listeners.size(), 2U);
+        listeners[1]->OnTypeChange(dialog);
     };
-    QCOMPARE(m_driver.save(m_request).code, 0);
-    QVERIFY(m_handler.events.isEmpty());
-    QCOMPARE(m_script.calls.callsOf(QStringLiteral("Advise")).size(), 1);
-    for (const char* name : {"AddCheckButton", "AddComboBox", "QueryCustomize"})
-        QVERIFY(!m_script.calls.names().contains(QLatin1String(name)));
+    QCOMPARE(m_driver.run(Testing::forSaving(m_request)).nativeCode, 0);
+    QVERIFY(m_script.calls.hasCall(QStringLiteral("AddCheckButton(5,Preview,1)")));
+    QCOMPARE(m_handler.events, QStringList{QStringLiteral("type")});
+}
+
+void CommonItemDialogTest::cancelInAnyForm_isACancel_data()
+{
+    QTest::addColumn<int>("code");
+    QTest::newRow("the system's") << int(HRESULT_FROM_WIN32(ERROR_CANCELLED));
+    QTest::newRow("with other high bits") << int(0x8AAA0000U | 1223U);
+}
+
+void CommonItemDialogTest::cancelInAnyForm_isACancel()
+{
+    QFETCH(int, code);
+    m_script.showResult = code;
+    const FileDialogResult result = m_driver.run(m_request);
+    QVERIFY(result.isCancelled());
+    QCOMPARE(result.nativeCode, code);
+    QVERIFY(result.paths.isEmpty());
 }
 
 void CommonItemDialogTest::foldersOfEveryKind_data()
@@ -450,7 +462,8 @@ void CommonItemDialogTest::foldersOfEveryKind()
 {
     QFETCH(QString, folder);
     QFETCH(QString, set);
-    m_request.folder = folder;
+    const bool isOpenedAtFile = !folder.isEmpty() && !QFileInfo(folder).isDir();
+    m_request.start = isOpenedAtFile ? folder + QStringLiteral("\\x.stl") : folder;
     const QStringList calls = openCalls().filter(QStringLiteral("SetFolder"));
     const QStringList expected{QStringLiteral("SetFolder(%1)").arg(set)};
     QCOMPARE(calls, set.isEmpty() ? QStringList() : expected);
@@ -460,7 +473,7 @@ void CommonItemDialogTest::emptyPlaceIsNone()
 {
     // To the shell, no path at all is the desktop.
     m_request.places = {QString(), m_folder->folder(), QLatin1String("")};
-    m_request.folder = QString();
+    m_request.start = QString();
     const QStringList calls = openCalls();
     QCOMPARE(calls.filter(QStringLiteral("AddPlace")),
              QStringList{QStringLiteral("AddPlace(%1,0)").arg(m_folder->folder())});

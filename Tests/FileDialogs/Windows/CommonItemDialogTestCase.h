@@ -48,19 +48,19 @@ protected:
 
     QStringList openCalls()
     {
-        m_driver.open(m_request);
+        m_driver.run(m_request);
         return std::exchange(m_script.calls, {}).calls();
     }
 
     QStringList saveCalls()
     {
-        m_driver.save(m_request);
+        m_driver.run(forSaving(m_request));
         return std::exchange(m_script.calls, {}).calls();
     }
 
     int m_taskMemory = 0;
     std::optional<DialogFolder> m_folder;
-    NativeFileDialogRequest m_request;
+    FileDialogRequest m_request;
     EventRecorder m_handler;
     std::optional<FileDialogConfiguration> m_configuration;
     std::optional<ComApartment> m_apartment;
@@ -88,9 +88,9 @@ protected Q_SLOTS:
         m_configuration.emplace(QStringLiteral("Calls"));
         m_configuration->setEventHandler(&m_handler);
         m_request = m_folder->request();
-        m_request.multiSelection = true;
-        m_request.filters.preselectedPattern = QStringLiteral("*.*");
-        m_request.fileName = QStringLiteral("a.stl");
+        m_request.purpose = FileDialogPurpose::OpenFiles;
+        m_request.selectedFilter = QStringLiteral("All Files (*.*)");
+        m_request.start = m_folder->path("a.stl");
         m_request.places = {m_folder->folder(), m_folder->path("missing"), m_folder->folder()};
         m_request.configuration = &*m_configuration;
         m_apartment.emplace();

@@ -1,5 +1,5 @@
-#include "FileDialogs/DialogPlacement.h"
-#include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/FileDialogDriver.h"
+#include "FileDialogs/ScreenGeometry.h"
 #include "FileDialogs/Windows/CFileOpenDialogEventHandler.h"
 #include "FileDialogs/Windows/DialogGuard.h"
 #include "Files/Windows/ComApartment.h"
@@ -106,6 +106,7 @@ private Q_SLOTS:
     void maximizedDialogIsPlaced();
     void placingADialogThatIsGone();
     void geometryIsRecorded();
+    void recordedDialog_isPlacedAsItWas();
     void otherEventsAreNotRecorded();
     void nothingIsRecordedAfterwards();
     void withoutAConfigurationGeometryGoesToTheStandardKey_data();
@@ -114,7 +115,7 @@ private Q_SLOTS:
 
 private:
     void renewConfiguration();
-    NativeFileDialogResult open() { return createNativeFileDialogDriver()->open(m_request); }
+    FileDialogResult open() { return createNativeFileDialogDriver()->run(m_request); }
     /** Opens a dialog and cancels it after the steps. */
     void runToTheEnd(DialogPilot& pilot)
     {
@@ -124,7 +125,7 @@ private:
     }
 
     std::optional<Testing::DialogFolder> m_folder;
-    NativeFileDialogRequest m_request;
+    FileDialogRequest m_request;
     std::optional<EventRecorder> m_handler;
     std::optional<GeometryRecorder> m_configuration;
 };
@@ -212,7 +213,7 @@ void NativeDialogEventsTest::eventsComeInOrder()
     pilot.then([](const DialogWindow& dialog) { dialog.chooseItem(dialog.comboBoxes()[0], 0); });
     pilot.then([](const DialogWindow& dialog) { dialog.chooseFileType(1); });
     pilot.then([](const DialogWindow& dialog) { dialog.accept(); });
-    const NativeFileDialogResult result = open();
+    const FileDialogResult result = open();
     QVERIFY(pilot.isDone());
     QCOMPARE(result.paths, QStringList{m_folder->path("b.stl")});
     // The first is the type that the dialog opens with. The new type shows other files.
@@ -228,7 +229,7 @@ void NativeDialogEventsTest::eventsComeInOrder()
 
 void NativeDialogEventsTest::selectionIsInOrderOfTheFileNameBox()
 {
-    m_request.multiSelection = true;
+    m_request.purpose = FileDialogPurpose::OpenFiles;
     DialogPilot pilot;
     pilot.waitUntil("files in the list",
                     [](const DialogWindow& dialog) { return !dialog.files().isEmpty(); });
@@ -508,6 +509,41 @@ void NativeDialogEventsTest::geometryIsRecorded()
     QCOMPARE(stored, moved);
 }
 
+void NativeDialogEventsTest::recordedDialog_isPlacedAsItWas()
+{
+    addControls(*m_configuration);
+    const RECT left{33, 44, 33 + 755, 44 + 544};
+    const auto isAsLeft = [&left](const DialogWindow& dialog) {
+        const RECT rect = dialog.rectangle();
+        return EqualRect(&rect, &left) != FALSE;
+    };
+    DialogPilot pilot;
+    pilot.then([&](const DialogWindow& dialog) {
+        MoveWindow(dialog.handle(), 33, 44, 755, 544, TRUE);
+        raise(EVENT_SYSTEM_MOVESIZEEND, dialog.handle());
+    });
+    pilot.waitUntil("a record",
+                    [&](const DialogWindow&) { return m_configuration->stored.size() == 1; });
+    runToTheEnd(pilot);
+
+    // Placed twice, in a dialog that opens elsewhere, and recorded again.
+    for (int i = 0; i < 2; ++i) {
+        m_configuration->stored.clear();
+        m_handler->reaction = [this](const FileDialogCallbackInterface& callbacks) {
+            m_handler->reaction = nullptr;
+            callbacks.placeDialog(&*m_configuration);
+        };
+        DialogPilot again;
+        again.waitUntil("the dialog as it was left", isAsLeft);
+        again.then(
+            [](const DialogWindow& dialog) { raise(EVENT_SYSTEM_MOVESIZEEND, dialog.handle()); });
+        again.waitUntil("another record",
+                        [&](const DialogWindow&) { return m_configuration->stored.size() == 1; });
+        runToTheEnd(again);
+        QCOMPARE(m_configuration->stored.back(), QRect(QPoint(33, 44), QPoint(788, 588)));
+    }
+}
+
 void NativeDialogEventsTest::otherEventsAreNotRecorded()
 {
     DialogPilot pilot;
@@ -554,14 +590,13 @@ void NativeDialogEventsTest::withoutAConfigurationGeometryGoesToTheStandardKey_d
 {
     QTest::addColumn<bool>("isSave");
     QTest::newRow("open") << false;
-    QTest::newRow("save, whatever configuration is given") << true;
+    QTest::newRow("save") << true;
 }
 
 void NativeDialogEventsTest::withoutAConfigurationGeometryGoesToTheStandardKey()
 {
     QFETCH(bool, isSave);
-    if (!isSave)
-        m_request.configuration = nullptr;
+    m_request.configuration = nullptr;
     QRect stored;
     FileDialogConfiguration standard;
     DialogPilot pilot;
@@ -573,7 +608,8 @@ void NativeDialogEventsTest::withoutAConfigurationGeometryGoesToTheStandardKey()
                     [&](const DialogWindow&) { return standard.getFileDialogGeometry(stored); });
     pilot.then([](const DialogWindow& dialog) { dialog.cancel(); });
     const auto driver = createNativeFileDialogDriver();
-    QVERIFY((isSave ? driver->save(m_request) : driver->open(m_request)).isCancelled());
+    QVERIFY((isSave ? driver->run(Testing::forSaving(m_request)) : driver->run(m_request))
+                .isCancelled());
     QVERIFY(pilot.isDone());
     QCOMPARE(stored, QRect(QPoint(33, 44), QPoint(33 + 755, 44 + 544)));
     QCOMPARE(QSettings().value(QStringLiteral("StandardFileDialog/topLeft")).toPoint(),
@@ -586,7 +622,7 @@ void NativeDialogEventsTest::nestedDialogsRecordEachItsOwn()
 {
     addControls(*m_configuration);
     GeometryRecorder inner(QStringLiteral("Inner"));
-    NativeFileDialogRequest innerRequest = m_folder->request();
+    FileDialogRequest innerRequest = m_folder->request();
     innerRequest.configuration = &inner;
     DialogPilot pilot;
     bool isInnerDone = false;
@@ -601,7 +637,7 @@ void NativeDialogEventsTest::nestedDialogsRecordEachItsOwn()
                 return inner.stored.size() == 1 && m_configuration->stored.size() == 1;
             });
             innerPilot.then([](const DialogWindow& box) { box.cancel(); });
-            QVERIFY(createNativeFileDialogDriver()->open(innerRequest).isCancelled());
+            QVERIFY(createNativeFileDialogDriver()->run(innerRequest).isCancelled());
             QVERIFY(innerPilot.isDone());
             isInnerDone = true;
         };

@@ -2,8 +2,8 @@
 
 #include "FileDialogs/FileDialogCallbackInterface.h"
 #include "FileDialogs/FileDialogConfiguration.h"
+#include "FileDialogs/FileDialogDriver.h"
 #include "FileDialogs/FileDialogEventHandler.h"
-#include "FileDialogs/NativeFileDialog.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -14,6 +14,12 @@
 #include <vector>
 
 namespace Zorvane::Testing {
+
+inline FileDialogRequest forSaving(FileDialogRequest request)
+{
+    request.purpose = FileDialogPurpose::SaveFile;
+    return request;
+}
 
 /** A folder with some files, and a request for a dialog that shows it. */
 class DialogFolder
@@ -38,15 +44,12 @@ public:
         return path(name);
     }
 
-    NativeFileDialogRequest request() const
+    FileDialogRequest request() const
     {
-        NativeFileDialogRequest request;
+        FileDialogRequest request;
         request.caption = QStringLiteral("Choose a Part");
-        request.filters.names =
-            QStringList{QStringLiteral("Meshes (*.stl *.obj)"), QStringLiteral("All Files (*.*)")};
-        request.filters.patterns =
-            QStringList{QStringLiteral("*.stl;*.obj"), QStringLiteral("*.*")};
-        request.folder = folder();
+        request.filter = QStringLiteral("Meshes (*.stl *.obj);;All Files (*.*)");
+        request.start = folder();
         return request;
     }
 

@@ -1,5 +1,6 @@
+#include "FileDialogs/DialogTexts.h"
 #include "FileDialogs/FileDialog.h"
-#include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/FileDialogDriver.h"
 #include "FileDialogs/Windows/CommonItemDialogDriver.h"
 #include "Tests/FileDialogs/DialogFixtures.h"
 #include "Tests/FileDialogs/Windows/NativeDialogFixture.h"
@@ -47,11 +48,14 @@ private Q_SLOTS:
 
 private:
     QString path(const char* below) const { return m_folder->path(below); }
-    NativeFileDialogResult open() { return createNativeFileDialogDriver()->open(m_request); }
-    NativeFileDialogResult save() { return createNativeFileDialogDriver()->save(m_request); }
+    FileDialogResult open() { return createNativeFileDialogDriver()->run(m_request); }
+    FileDialogResult save()
+    {
+        return createNativeFileDialogDriver()->run(Testing::forSaving(m_request));
+    }
 
     std::optional<Testing::DialogFolder> m_folder;
-    NativeFileDialogRequest m_request;
+    FileDialogRequest m_request;
 };
 
 void NativeDialogTest::init()
@@ -72,23 +76,23 @@ void NativeDialogTest::opensOneFile()
     DialogPilot pilot;
     pilot.then([](const DialogWindow& dialog) { dialog.typeFileName(QStringLiteral("b.stl")); });
     pilot.then([](const DialogWindow& dialog) { dialog.accept(); });
-    const NativeFileDialogResult result = open();
+    const FileDialogResult result = open();
     QVERIFY(pilot.isDone());
-    QCOMPARE(result.code, 0);
+    QCOMPARE(result.nativeCode, 0);
     QCOMPARE(result.paths, QStringList{path("b.stl")});
 }
 
 void NativeDialogTest::opensSeveralFiles()
 {
-    m_request.multiSelection = true;
+    m_request.purpose = FileDialogPurpose::OpenFiles;
     DialogPilot pilot;
     pilot.then([](const DialogWindow& dialog) {
         dialog.typeFileName(QStringLiteral("\"c d.obj\" \"a.stl\""));
     });
     pilot.then([](const DialogWindow& dialog) { dialog.accept(); });
-    const NativeFileDialogResult result = open();
+    const FileDialogResult result = open();
     QVERIFY(pilot.isDone());
-    QCOMPARE(result.code, 0);
+    QCOMPARE(result.nativeCode, 0);
     QCOMPARE(result.paths, QStringList({path("c d.obj"), path("a.stl")}));
 }
 
@@ -97,9 +101,9 @@ void NativeDialogTest::saves()
     DialogPilot pilot;
     pilot.then([](const DialogWindow& dialog) { dialog.typeFileName(QStringLiteral("new.stl")); });
     pilot.then([](const DialogWindow& dialog) { dialog.accept(); });
-    const NativeFileDialogResult result = save();
+    const FileDialogResult result = save();
     QVERIFY(pilot.isDone());
-    QCOMPARE(result.code, 0);
+    QCOMPARE(result.nativeCode, 0);
     QCOMPARE(result.paths.size(), 1);
     QVERIFY2(result.paths[0].startsWith(path("new.stl")), qPrintable(result.paths[0]));
 }
@@ -130,9 +134,9 @@ void NativeDialogTest::cancelInAnyWayGivesNothing()
         else
             dialog.close();
     });
-    const NativeFileDialogResult result = isSave ? save() : open();
+    const FileDialogResult result = isSave ? save() : open();
     QVERIFY(pilot.isDone());
-    QCOMPARE(result.code, std::int32_t(0x800704C7));
+    QCOMPARE(result.nativeCode, std::int32_t(0x800704C7));
     QVERIFY(result.isCancelled());
     QVERIFY(result.paths.isEmpty());
 }
@@ -142,7 +146,7 @@ void NativeDialogTest::showsWhatWasAskedFor()
     QWidget owner;
     owner.show();
     m_request.owner = &owner;
-    m_request.filters.preselectedPattern = QStringLiteral("*.*");
+    m_request.selectedFilter = QStringLiteral("All Files (*.*)");
     m_request.places = {path("missing"), m_folder->folder()};
     DialogPilot pilot;
     pilot.waitUntil("files in the list",
@@ -150,7 +154,7 @@ void NativeDialogTest::showsWhatWasAskedFor()
     pilot.then([&](const DialogWindow& dialog) {
         QCOMPARE(dialog.title(), m_request.caption);
         QCOMPARE(dialog.owner(), reinterpret_cast<HWND>(owner.winId()));
-        QCOMPARE(dialog.fileTypes(), m_request.filters.names);
+        QCOMPARE(dialog.fileTypes(), filterTypes(m_request.filter));
         QCOMPARE(dialog.selectedFileType(), 0);
         QCOMPARE(dialog.files(), QStringList({QStringLiteral("a.stl"), QStringLiteral("b.stl"),
                                               QStringLiteral("c d.obj")}));
@@ -166,12 +170,12 @@ void NativeDialogTest::saveShowsWhatWasAskedFor()
     QWidget owner;
     owner.show();
     m_request.owner = &owner;
-    m_request.fileName = QStringLiteral("part.stl");
+    m_request.start = path("part.stl");
     DialogPilot pilot;
     pilot.then([&](const DialogWindow& dialog) {
         QCOMPARE(dialog.title(), m_request.caption);
         QCOMPARE(dialog.owner(), reinterpret_cast<HWND>(owner.winId()));
-        QCOMPARE(dialog.fileTypes(), m_request.filters.names);
+        QCOMPARE(dialog.fileTypes(), filterTypes(m_request.filter));
         QCOMPARE(dialog.fileName(), QStringLiteral("part.stl"));
     });
     pilot.then([](const DialogWindow& dialog) { dialog.cancel(); });
@@ -181,7 +185,7 @@ void NativeDialogTest::saveShowsWhatWasAskedFor()
 
 void NativeDialogTest::presetFileIsShownSelected()
 {
-    m_request.fileName = QStringLiteral("c d.obj");
+    m_request.start = path("c d.obj");
     DialogPilot pilot;
     pilot.waitUntil("files in the list",
                     [](const DialogWindow& dialog) { return !dialog.files().isEmpty(); });
@@ -194,14 +198,14 @@ void NativeDialogTest::presetFileIsShownSelected()
         QCOMPARE(dialog.selectedFiles(), QStringList{QStringLiteral("c d.obj")});
         dialog.accept();
     });
-    const NativeFileDialogResult result = open();
+    const FileDialogResult result = open();
     QVERIFY(pilot.isDone());
     QCOMPARE(result.paths, QStringList{path("c d.obj")});
 }
 
 void NativeDialogTest::laterSelectionsAreTheUsers()
 {
-    m_request.fileName = QStringLiteral("c d.obj");
+    m_request.start = path("c d.obj");
     DialogPilot pilot;
     pilot.waitUntil("files in the list",
                     [](const DialogWindow& dialog) { return !dialog.files().isEmpty(); });
@@ -237,10 +241,10 @@ void NativeDialogTest::pathsOfEveryKind()
 {
     QFETCH(QString, folder);
     QFETCH(QString, fileName);
-    m_request.folder = folder;
-    m_request.fileName = fileName;
+    const QString name = fileName.isEmpty() ? QStringLiteral("part.stl") : fileName;
+    m_request.start = (folder.isEmpty() ? m_folder->folder() : folder) + QLatin1Char('\\') + name;
     DialogPilot pilot;
-    pilot.then([&](const DialogWindow& dialog) { QCOMPARE(dialog.fileName(), fileName); });
+    pilot.then([&](const DialogWindow& dialog) { QCOMPARE(dialog.fileName(), name); });
     pilot.then([](const DialogWindow& dialog) { dialog.cancel(); });
     QVERIFY(open().isCancelled());
     QVERIFY(pilot.isDone());
@@ -248,9 +252,8 @@ void NativeDialogTest::pathsOfEveryKind()
 
 void NativeDialogTest::rootOfADriveIsShown()
 {
-    m_request.filters.names = QStringList{QStringLiteral("All Files (*.*)")};
-    m_request.filters.patterns = QStringList{QStringLiteral("*.*")};
-    m_request.folder = QStringLiteral("C:\\");
+    m_request.filter = QStringLiteral("All Files (*.*)");
+    m_request.start = QStringLiteral("C:\\");
     DialogPilot pilot;
     pilot.waitUntil("what lies in the root", [](const DialogWindow& dialog) {
         QStringList shown = dialog.files();
@@ -267,7 +270,7 @@ void NativeDialogTest::rootOfADriveIsShown()
 
 void NativeDialogTest::forwardSlashesAreFine()
 {
-    m_request.folder = QDir::fromNativeSeparators(m_folder->folder());
+    m_request.start = QDir::fromNativeSeparators(m_folder->folder());
     DialogPilot pilot;
     pilot.waitUntil("files of the folder", [](const DialogWindow& dialog) {
         return dialog.files().contains(QStringLiteral("a.stl"));
@@ -289,7 +292,7 @@ void NativeDialogTest::unicodeNamesComeThrough()
         dialog.typeFileName(QString::fromUtf8(name));
     });
     pilot.then([](const DialogWindow& dialog) { dialog.accept(); });
-    const NativeFileDialogResult result = open();
+    const FileDialogResult result = open();
     QVERIFY(pilot.isDone());
     QCOMPARE(result.paths, QStringList{path(name.constData())});
 }
@@ -297,8 +300,7 @@ void NativeDialogTest::unicodeNamesComeThrough()
 void NativeDialogTest::defaultSaveConfirmsOverwriting()
 {
     // The question is a window of its own over the dialog; "No" goes back to the dialog.
-    m_request.filters.names = QStringList{QStringLiteral("All Files (*.*)")};
-    m_request.filters.patterns = QStringList{QStringLiteral("*.*")};
+    m_request.filter = QStringLiteral("All Files (*.*)");
     DialogPilot pilot;
     std::optional<DialogPilot> question;
     pilot.then([](const DialogWindow& dialog) { dialog.typeFileName(QStringLiteral("a.stl")); });
@@ -316,24 +318,24 @@ void NativeDialogTest::defaultSaveConfirmsOverwriting()
 void NativeDialogTest::aMissingEntryPointIsAFailure()
 {
     CommonItemDialogDriver driver(L"user32.dll");
-    QCOMPARE(driver.open(m_request).code, std::int32_t(E_FAIL));
-    QCOMPARE(driver.save(m_request).code, std::int32_t(E_FAIL));
-    QVERIFY(driver.open(m_request).isFailure());
+    QCOMPARE(driver.run(m_request).nativeCode, std::int32_t(E_FAIL));
+    QCOMPARE(driver.run(Testing::forSaving(m_request)).nativeCode, std::int32_t(E_FAIL));
+    QVERIFY(driver.run(m_request).isFailure());
 }
 
 void NativeDialogTest::aMultithreadedApartmentIsRefused()
 {
-    NativeFileDialogResult opened;
-    NativeFileDialogResult saved;
+    FileDialogResult opened;
+    FileDialogResult saved;
     std::thread([&] {
         CoInitializeEx(nullptr, COINIT_MULTITHREADED);
         opened = open();
         saved = save();
         CoUninitialize();
     }).join();
-    QCOMPARE(opened.code, std::int32_t(RPC_E_CHANGED_MODE));
+    QCOMPARE(opened.nativeCode, std::int32_t(RPC_E_CHANGED_MODE));
     QVERIFY(opened.isFailure());
-    QCOMPARE(saved.code, std::int32_t(RPC_E_CHANGED_MODE));
+    QCOMPARE(saved.nativeCode, std::int32_t(RPC_E_CHANGED_MODE));
 }
 
 void NativeDialogTest::dialogsOpenOneAfterAnother()
@@ -357,9 +359,9 @@ void NativeDialogTest::ownerThatGoesTakesTheDialogAlong()
     m_request.owner = owner.get();
     DialogPilot pilot;
     pilot.then([&](const DialogWindow&) { owner.reset(); });
-    const NativeFileDialogResult result = isSave ? save() : open();
+    const FileDialogResult result = isSave ? save() : open();
     QVERIFY(pilot.isDone());
-    QCOMPARE(result.code, NativeFileDialogResult::s_cancelled);
+    QVERIFY(result.isCancelled());
     QVERIFY(result.paths.isEmpty());
 }
 

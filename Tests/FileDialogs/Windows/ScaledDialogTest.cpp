@@ -30,7 +30,7 @@ void ScaledDialogTest::geometryIsInQtsPixels()
     box.content = QStringLiteral("Box");
     configuration.addCustomControl(box);
     configuration.setEventHandler(&handler);
-    NativeFileDialogRequest request = folder.request();
+    FileDialogRequest request = folder.request();
     request.configuration = &configuration;
 
     const auto clickBox = [](const DialogWindow& dialog) {
@@ -60,7 +60,7 @@ void ScaledDialogTest::geometryIsInQtsPixels()
     pilot.waitUntil("a recorded move",
                     [&](const DialogWindow&) { return configuration.stored.size() == 2; });
     pilot.then([](const DialogWindow& dialog) { dialog.cancel(); });
-    QVERIFY(createNativeFileDialogDriver()->open(request).isCancelled());
+    QVERIFY(createNativeFileDialogDriver()->run(request).isCancelled());
     QVERIFY(pilot.isDone());
     QCOMPARE(told, QRect(20, 20, 480, 340));
     // The system's right and bottom are one more.

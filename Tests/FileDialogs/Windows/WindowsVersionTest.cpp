@@ -1,4 +1,4 @@
-#include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/FileDialogDriver.h"
 #include "Tests/Support/TestCase.h"
 
 #include <QtCore/QCoreApplication>

@@ -1,4 +1,4 @@
-#include "FileDialogs/NativeFileDialog.h"
+#include "FileDialogs/FileDialogDriver.h"
 #include "Tests/Support/ExpectedModals.h"
 #include "Tests/Support/TestCase.h"
 #include "Tests/Workbench/Commands/Keyboard.h"

@@ -111,7 +111,7 @@ void DialogPanelTest::enterOpensWhatIsChosen()
     QTest::keyClick(m_panel->findChild<QListWidget*>(), Qt::Key_Return);
     QCOMPARE(int(m_script.requests.size()), 1);
     QCOMPARE(m_panel->outcome().files, QStringList(native("forces.csv")));
-    QCOMPARE(m_script.last().owner, static_cast<QWidget*>(m_panel));
+    QCOMPARE(m_script.last().owner.data(), static_cast<QWidget*>(m_panel));
     QVERIFY(m_panel->isEnabled());
 }
 
@@ -123,14 +123,14 @@ void DialogPanelTest::aDoubleClickOpens()
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
     QCOMPARE(int(m_script.requests.size()), 1);
-    QVERIFY(m_script.last().multiSelection);
+    QVERIFY((m_script.last().purpose == FileDialogPurpose::OpenFiles));
 }
 
 void DialogPanelTest::tellsWhileTheDialogIsOpen()
 {
     QString text;
     QString name;
-    m_script.whileOpen = [&](const NativeFileDialogRequest& request) {
+    m_script.whileOpen = [&](const FileDialogRequest& request) {
         text = m_panel->resultText();
         QVERIFY(!m_panel->isEnabled());
         request.configuration->getEventHandler()->onItemSelected(3, 0);
@@ -180,7 +180,7 @@ void DialogPanelTest::resultsAreCleared()
 
 void DialogPanelTest::onlyOneOpensAtATime()
 {
-    m_script.whileOpen = [this](const NativeFileDialogRequest&) { m_panel->openChosen(); };
+    m_script.whileOpen = [this](const FileDialogRequest&) { m_panel->openChosen(); };
     m_panel->openChosen();
     QCOMPARE(int(m_script.requests.size()), 1);
     m_panel->openChosen();
@@ -199,7 +199,7 @@ void DialogPanelTest::escapeClosesAndDeletes()
 void DialogPanelTest::escapeWaitsForTheDialog()
 {
     m_panel->show();
-    m_script.whileOpen = [this](const NativeFileDialogRequest&) { m_panel->reject(); };
+    m_script.whileOpen = [this](const FileDialogRequest&) { m_panel->reject(); };
     m_panel->openChosen();
     QVERIFY(m_panel && m_panel->isVisible());
     QVERIFY(m_panel->outcome().isFinished);
@@ -209,7 +209,7 @@ void DialogPanelTest::mayGoWhileADialogIsOpen()
 {
     const QString folder = m_panel->files().folder();
     bool areFilesThere = false;
-    m_script.whileOpen = [&](const NativeFileDialogRequest&) {
+    m_script.whileOpen = [&](const FileDialogRequest&) {
         delete m_panel;
         areFilesThere = QFileInfo::exists(folder);
     };

@@ -25,7 +25,7 @@ namespace Zorvane::Workbench {
 
 using Testing::DialogScript;
 using Testing::ExpectedModals;
-using Kind = DialogScript::Kind;
+using Kind = FileDialogPurpose;
 using Variant = DialogVariant;
 
 namespace {
@@ -34,7 +34,6 @@ namespace {
 struct Asked
 {
     Kind kind;
-    bool isMultiple;
     const char* fileName;
     const char* preselected;
     /** -1: no configuration. */
@@ -45,23 +44,23 @@ const std::map<Variant, Asked>& askedTable()
 {
     // clang-format off
     static const std::map<Variant, Asked> s_table{
-        {Variant::OpenOne,             {Kind::Open, false, "",          "",      -1}},
-        {Variant::OpenPreselectedType, {Kind::Open, false, "",          "*.csv", -1}},
-        {Variant::OpenPresetFile,      {Kind::Open, false, "notes.txt", "*.*",   -1}},
-        {Variant::OpenSeveral,         {Kind::Open, true,  "",          "",      -1}},
-        {Variant::OpenPlaces,          {Kind::Open, false, "",          "",       0}},
-        {Variant::OpenControls,        {Kind::Open, false, "",          "",       7}},
-        {Variant::OpenSeveralControls, {Kind::Open, true,  "",          "",       7}},
-        {Variant::OpenPlaced,          {Kind::Open, false, "",          "",       1}},
-        {Variant::PreviewOne,          {Kind::Open, false, "",          "",       1}},
-        {Variant::PreviewSeveral,      {Kind::Open, true,  "",          "",       1}},
-        {Variant::Save,                {Kind::Save, false, "part.stl",  "*.csv", -1}},
-        {Variant::SaveWithoutEnding,   {Kind::Save, false, "part",      "*.stl", -1}},
-        {Variant::SavePreselectedType, {Kind::Save, false, "forces",    "*.csv", -1}},
-        {Variant::SaveExisting,        {Kind::Save, false, "block.stl", "*.stl", -1}},
-        {Variant::SaveInFolder,        {Kind::Save, false, "part.stl",  "",      -1}},
-        {Variant::Nested,              {Kind::Open, false, "",          "",       1}},
-        {Variant::Throwing,            {Kind::Open, false, "",          "",       1}},
+        {Variant::OpenOne,             {Kind::OpenFile,  "",          "",      -1}},
+        {Variant::OpenPreselectedType, {Kind::OpenFile,  "",          "*.csv", -1}},
+        {Variant::OpenPresetFile,      {Kind::OpenFile,  "notes.txt", "*.*",   -1}},
+        {Variant::OpenSeveral,         {Kind::OpenFiles, "",          "",      -1}},
+        {Variant::OpenPlaces,          {Kind::OpenFile,  "",          "",       0}},
+        {Variant::OpenControls,        {Kind::OpenFile,  "",          "",       7}},
+        {Variant::OpenSeveralControls, {Kind::OpenFiles, "",          "",       7}},
+        {Variant::OpenPlaced,          {Kind::OpenFile,  "",          "",       1}},
+        {Variant::PreviewOne,          {Kind::OpenFile,  "",          "",       1}},
+        {Variant::PreviewSeveral,      {Kind::OpenFiles, "",          "",       1}},
+        {Variant::Save,                {Kind::SaveFile,  "part.stl",  "*.csv", -1}},
+        {Variant::SaveWithoutEnding,   {Kind::SaveFile,  "part",      "*.stl", -1}},
+        {Variant::SavePreselectedType, {Kind::SaveFile,  "forces",    "*.csv", -1}},
+        {Variant::SaveExisting,        {Kind::SaveFile,  "block.stl", "*.stl", -1}},
+        {Variant::SaveInFolder,        {Kind::SaveFile,  "part.stl",  "",      -1}},
+        {Variant::Nested,              {Kind::OpenFile,  "",          "",       1}},
+        {Variant::Throwing,            {Kind::OpenFile,  "",          "",       1}},
     };
     // clang-format on
     return s_table;
@@ -238,25 +237,24 @@ void DialogRunTest::systemIsAskedForWhatTheVariantSays()
     m_script.requests.clear();
     int controls = -1;
     int open = 0;
-    m_script.whileOpen = [&](const NativeFileDialogRequest& request) {
+    m_script.whileOpen = [&](const FileDialogRequest& request) {
         open = FileDialog::getOpenDialogsCount();
         if (request.configuration)
             controls = request.configuration->numberOfcustomControls();
     };
     const DialogOutcome outcome = run(variant);
     QCOMPARE(int(m_script.requests.size()), 1);
-    const auto& [kind, request] = m_script.requests.front();
-    QCOMPARE(int(kind), int(wanted.kind));
-    QCOMPARE(request.multiSelection, wanted.isMultiple);
+    const FileDialogRequest& request = m_script.requests.front();
+    QCOMPARE(int(request.purpose), int(wanted.kind));
     QCOMPARE(request.caption, outcome.title);
-    QCOMPARE(request.fileName, QLatin1String(wanted.fileName));
-    QCOMPARE(request.filters.preselectedPattern, QLatin1String(wanted.preselected));
+    QCOMPARE(dialogStart(request.start).fileName, QLatin1String(wanted.fileName));
+    QCOMPARE(Testing::filtersOf(request).preselectedPattern, QLatin1String(wanted.preselected));
     QCOMPARE(controls, wanted.controls);
     QCOMPARE(open, 1);
     QVERIFY(outcome.files.isEmpty());
     QCOMPARE(outcome.mostOpen, 1);
     QCOMPARE(outcome.openAfterwards, 0);
-    QVERIFY(outcome.text().contains(QStringLiteral("0x800704c7")));
+    QVERIFY(outcome.text().contains(QStringLiteral("-> cancelled")));
 }
 
 void DialogRunTest::whatTheSystemGivesComesOut_data()
@@ -593,8 +591,8 @@ void DialogRunTest::afterAFailureQtAsks()
     QCOMPARE(outcome.files, QStringList(native("block.stl")));
     const QStringList events = bare(outcome.events);
     QVERIFY(events.at(0).startsWith(QStringLiteral("open(\"Open with controls\"")));
-    QCOMPARE(events.at(1), QStringLiteral("open -> 0x80004005"));
-    QVERIFY(events.at(2).startsWith(QStringLiteral("QFileDialog(")));
+    QCOMPARE(events.at(1), QStringLiteral("open -> failed 0xffffffff"));
+    QVERIFY(events.at(2).startsWith(QStringLiteral("Zorvane::QtFileDialog(")));
 }
 
 void DialogRunTest::theOptionIsGoneAfterwards()
@@ -615,7 +613,7 @@ void DialogRunTest::theOptionIsGoneAfterwards()
 void DialogRunTest::theCurrentFolderStays()
 {
     const QString before = QDir::currentPath();
-    m_script.whileOpen = [this](const NativeFileDialogRequest&) {
+    m_script.whileOpen = [this](const FileDialogRequest&) {
         QVERIFY(QDir::setCurrent(m_files->file(QStringLiteral("more"))));
     };
     run(Variant::OpenOne);
@@ -624,7 +622,7 @@ void DialogRunTest::theCurrentFolderStays()
 
 void DialogRunTest::theParentMayGoMeanwhile()
 {
-    m_script.whileOpen = [this](const NativeFileDialogRequest&) { delete m_parent; };
+    m_script.whileOpen = [this](const FileDialogRequest&) { delete m_parent; };
     QVERIFY(run(Variant::PreviewOne).files.isEmpty());
     QVERIFY(!m_parent);
 }
