@@ -4,6 +4,12 @@
 
 namespace Zorvane::GenericTreeViewModelHandling {
 
+bool isUpdateDue(const ZVTreeItemDataProviderInterface& provider)
+{
+    const auto* state = dynamic_cast<const ZVTreeItemUpdateStateInterface*>(&provider);
+    return !state || state->isUpdateDue();
+}
+
 void DataProviderBaseWithUpdateFunction::updateDataOf(const RowList& rows)
 {
     if (!m_updatePending)

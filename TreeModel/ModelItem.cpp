@@ -10,6 +10,11 @@ namespace {
 
 using Items = std::vector<std::shared_ptr<ModelItem>>;
 
+/** Of the serials that were given. */
+std::atomic<std::uint64_t> s_lastSerial{0};
+/** All below it are void: one of their items has been changed, and those above it don't know. */
+std::atomic<std::uint64_t> s_firstValidSerial{1};
+
 bool isLastOwner(const std::shared_ptr<ModelItem>& item)
 {
     if (item.use_count() != 1)
@@ -34,6 +39,12 @@ ModelItem::ModelItem(const IDCombiner& id, const std::string& name)
 ModelItem::ModelItem(const Identifier& id, const std::string& name)
     : m_id(id)
     , m_name(name)
+{}
+
+ModelItem::ModelItem(const ModelItem& other)
+    : m_id(other.m_id)
+    , m_name(other.m_name)
+    , m_children(other.m_children)
 {}
 
 // Left to the pointers, a deep tree would be deleted by as deep a recursion. Here an item that dies
@@ -63,6 +74,19 @@ ModelItem::~ModelItem()
     }
 }
 
+std::uint64_t ModelItem::getSerial() const
+{
+    if (m_serial < s_firstValidSerial.load(std::memory_order_relaxed))
+        m_serial = ++s_lastSerial;
+    return m_serial;
+}
+
+void ModelItem::noteChange()
+{
+    if (m_serial != 0)
+        s_firstValidSerial = s_lastSerial + 1;
+}
+
 void ModelItem::addChildren(const Items& children)
 {
     // A copy first: the argument may be this item's own list, which grows meanwhile.
@@ -71,6 +95,7 @@ void ModelItem::addChildren(const Items& children)
 
 void ModelItem::addChildren(Items&& children)
 {
+    noteChange();
     m_children.insert(m_children.end(), std::make_move_iterator(children.begin()),
                       std::make_move_iterator(children.end()));
     children.clear();
@@ -80,6 +105,7 @@ void ModelItem::setChildren(const Items& children)
 {
     // A copy first: the argument may be the list of a child that goes away here.
     Items copy(children);
+    noteChange();
     m_children.swap(copy);
 }
 

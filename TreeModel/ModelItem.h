@@ -3,6 +3,7 @@
 #include "Host/Identifiers/IDCombiner.h"
 #include "UiToolsExport.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -13,8 +14,9 @@ namespace Zorvane::GenericTreeViewModelHandling {
  * One node of a view-independent tree: an identity, a text and children in display order.
  *
  * Items are held by shared pointer, and one item may stand in several trees at once; nothing here
- * copies an item deeply. Whoever has handed a tree on must not change it any more. Trees may be of
- * any depth, also when they go away.
+ * copies an item deeply. An item that has been handed on must not be changed any more; handing the
+ * same item on again is the way to say that it and all below it are unchanged. Trees may be of any
+ * depth, also when they go away.
  *
  * Not supported: cycles (nothing looks for them), null children, changing id or name.
  */
@@ -25,7 +27,7 @@ public:
     ModelItem(const IDCombiner& id, const std::string& name);
     ModelItem(const Identifier& id, const std::string& name);
     /** Another item with the same children, the way to vary one that was handed on. */
-    ModelItem(const ModelItem& other) = default;
+    ModelItem(const ModelItem& other);
     ModelItem& operator=(const ModelItem&) = delete;
     ~ModelItem();
 
@@ -42,9 +44,19 @@ public:
     /** The display text, in UTF-8. */
     const std::string& getName() const { return m_name; }
 
+    /**
+     * A number that no other item has, given when it is first asked for: as long as an item answers
+     * the same, neither it nor any item below that was asked, too, has been changed. For consumers
+     * that remember what they have seen; on the consumer's thread.
+     */
+    std::uint64_t getSerial() const;
+
 private:
+    void noteChange();
+
     IDCombiner m_id;
     std::string m_name;
+    mutable std::uint64_t m_serial = 0;
     std::vector<std::shared_ptr<ModelItem>> m_children;
 };
 

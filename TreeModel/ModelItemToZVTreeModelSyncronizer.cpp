@@ -2,44 +2,26 @@
 
 #include "Host/Widgets/ZVTreeViewItem.h"
 #include "Host/Widgets/ZVTreeViewModel.h"
-#include "Host/Widgets/ZVTreeViewModelBatch.h"
-#include "TreeModel/RowFinder.h"
+#include "Host/Widgets/ZVTreeViewRefresh.h"
+#include "TreeModel/PlainRefresh.h"
+#include "TreeModel/RefreshPlan.h"
+#include "TreeModel/RowBuilder.h"
 #include "TreeModel/RowListSorting.h"
 
-#include <QtCore/QString>
-#include <QtCore/QVariant>
-#include <QtCore/QVector>
+#include <QtCore/QScopedValueRollback>
 
-#include <algorithm>
-#include <typeinfo>
 #include <utility>
 
 namespace Zorvane::GenericTreeViewModelHandling {
 
-namespace {
-
-std::size_t countBelow(const ZVTreeViewItem* row)
-{
-    const int children = row->childCount();
-    auto count = static_cast<std::size_t>(children);
-    for (int i = 0; i < children; ++i)
-        count += countBelow(row->child(i));
-    return count;
-}
-
-} // namespace
-
-struct ModelItemToZVTreeModelSyncronizer::SearchMemory
-{
-    RowFinder::SpareIndexes spareIndexes;
-};
-
 ModelItemToZVTreeModelSyncronizer::ModelItemToZVTreeModelSyncronizer(int idRole)
     : m_idRole(idRole)
-    , m_searchMemory(std::make_unique<SearchMemory>())
 {}
 
-ModelItemToZVTreeModelSyncronizer::~ModelItemToZVTreeModelSyncronizer() = default;
+ModelItemToZVTreeModelSyncronizer::~ModelItemToZVTreeModelSyncronizer()
+{
+    Q_ASSERT_X(!m_isRunning, "ModelItemToZVTreeModelSyncronizer", "deleted during a refresh");
+}
 
 void ModelItemToZVTreeModelSyncronizer::setDataProvider(
     std::shared_ptr<ZVTreeItemDataProviderInterface> dataProvider)
@@ -50,141 +32,100 @@ void ModelItemToZVTreeModelSyncronizer::setDataProvider(
 void ModelItemToZVTreeModelSyncronizer::syncronizeViewModel(ZVTreeViewModel* viewModel,
                                                             std::shared_ptr<ModelRoot> root)
 {
-    RowList created = align(viewModel, *root);
-    sortById(created);
-    m_dataProvider->addDataTo(created);
+    refresh(viewModel, {std::move(root), false});
 }
 
 void ModelItemToZVTreeModelSyncronizer::syncronizeAndUpdateViewModel(
     ZVTreeViewModel* viewModel, std::shared_ptr<ModelRoot> root)
 {
-    align(viewModel, *root);
-    m_dataProvider->addDataTo(identifiedRows(viewModel));
+    refresh(viewModel, {std::move(root), true});
 }
 
 void ModelItemToZVTreeModelSyncronizer::updateViewModelItems(ZVTreeViewModel* viewModel)
 {
-    m_dataProvider->updateDataOf(identifiedRows(viewModel));
+    Q_ASSERT_X(viewModel && m_dataProvider, "updateViewModelItems", "no model or data provider");
+    const auto dataProvider = m_dataProvider;
+    if (!isUpdateDue(*dataProvider))
+        return;
+    const QScopedValueRollback<bool> running(m_isRunning, true);
+    const ZVTreeViewRefresh refresh(viewModel);
+    dataProvider->updateDataOf(identifiedRows(viewModel));
+}
+
+void ModelItemToZVTreeModelSyncronizer::refresh(ZVTreeViewModel* viewModel, const Request& request)
+{
+    Q_ASSERT_X(viewModel && request.root && m_dataProvider, "syncronizeViewModel",
+               "no model, root or data provider");
+    if (ZVTreeViewRefresh::isRunning(viewModel)) {
+        putOff(viewModel, request);
+        return;
+    }
+    const QScopedValueRollback<bool> running(m_isRunning, true);
+    // A slot may set another one.
+    const auto dataProvider = m_dataProvider;
+    ZVTreeViewRefresh refresh(viewModel);
+    RowList rows = align(viewModel, *request.root, refresh);
+    if (request.updatesAll)
+        rows = identifiedRows(viewModel);
+    else
+        sortById(rows);
+    dataProvider->addDataTo(rows);
+}
+
+void ModelItemToZVTreeModelSyncronizer::putOff(ZVTreeViewModel* viewModel, const Request& request)
+{
+    std::weak_ptr<Request>& known = m_putOff[viewModel];
+    if (const std::shared_ptr<Request> waiting = known.lock()) {
+        *waiting = {request.root, request.updatesAll || waiting->updatesAll};
+        return;
+    }
+    const auto waiting = std::make_shared<Request>(request);
+    known = waiting;
+    ZVTreeViewRefresh::whenDone(viewModel, m_life.guarded([this, viewModel, waiting] {
+        m_putOff.erase(viewModel);
+        refresh(viewModel, *waiting);
+    }));
 }
 
 /** Returns the rows that were made, in no order. */
 ModelItemToZVTreeModelSyncronizer::RowList
-ModelItemToZVTreeModelSyncronizer::align(ZVTreeViewModel* viewModel, const ModelRoot& root)
+ModelItemToZVTreeModelSyncronizer::align(ZVTreeViewModel* viewModel, const ModelRoot& root,
+                                         ZVTreeViewRefresh& refresh)
 {
-    m_itemList.clear();
-    m_itemList.reserve(root.totalItemCount());
-    m_viewModel = viewModel;
-    m_newItemFlags = m_dataProvider->getItemFlags();
-    const ZVTreeViewModelBatch batch(viewModel);
-    synchronize(viewModel->rootItem(), root.getTopLevelItems());
-    // Out of the way before views are told: a slot of theirs may come back to this synchronizer.
-    return std::exchange(m_itemList, {});
+    RowBuilder builder(m_idRole, m_dataProvider->getItemFlags());
+    const IdPlace place{m_idColumn, m_idRole};
+    if (!ZVTreeViewRefresh::appliesPlans) {
+        builder.expect(root.totalItemCount());
+        PlainRefresh(place, builder).align(viewModel->rootItem(), root.getTopLevelItems());
+        return builder.takeList();
+    }
+    RefreshPlan plan(viewModel->rootItem(), root.getTopLevelItems(), place);
+    plan.createRows(builder);
+    plan.remember();
+    refresh.apply(plan.takeSteps());
+    plan.complete();
+    return builder.takeList();
 }
 
+/** Sorted by id. */
 ModelItemToZVTreeModelSyncronizer::RowList
-ModelItemToZVTreeModelSyncronizer::identifiedRows(ZVTreeViewModel* viewModel)
+ModelItemToZVTreeModelSyncronizer::identifiedRows(const ZVTreeViewModel* viewModel) const
 {
-    m_itemList.clear();
-    m_itemList.reserve(countBelow(viewModel->rootItem()));
-    gatherItemsRecursively(viewModel->rootItem());
-    sortById(m_itemList);
-    return std::exchange(m_itemList, {});
-}
-
-void ModelItemToZVTreeModelSyncronizer::synchronize(ZVTreeViewItem* parent, const Items& items)
-{
-    const int wanted = static_cast<int>(items.size());
-    const int placed = placeRows(parent, items);
-    if (placed < wanted)
-        appendNewRows(parent, items, placed);
-    for (int row = parent->childCount() - 1; row >= wanted; --row)
-        parent->deleteChild(row);
-}
-
-/** Returns how many items have their row: all, or as many as there were rows. */
-int ModelItemToZVTreeModelSyncronizer::placeRows(ZVTreeViewItem* parent, const Items& items)
-{
-    const int wanted = static_cast<int>(items.size());
-    int count = parent->childCount();
-    RowFinder finder(parent, items, {m_idColumn, m_idRole}, m_searchMemory->spareIndexes);
-    int front = 0;
-    for (; front < count && front < wanted; ++front) {
-        const ModelItem& item = *items[static_cast<std::size_t>(front)];
-        ZVTreeViewItem* row = parent->child(front);
-        if (finder.hasId(row, item.getId())) {
-            writeText(row, item);
-            synchronizeChildren(row, item);
-            finder.stays();
-            continue;
-        }
-        row = finder.find(front);
-        if (!row) {
-            parent->insertChild(front, createListedRow(item));
-            ++count;
-            continue;
-        }
-        parent->takeChild(row);
-        synchronizeChildren(row, item);
-        parent->insertChild(front, row);
-        finder.moves();
+    std::vector<ZVTreeViewItem*> all{viewModel->rootItem()};
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const ZVTreeViewItem* parent = all[i];
+        for (int child = 0, count = parent->childCount(); child < count; ++child)
+            all.push_back(parent->child(child));
     }
-    return front;
-}
-
-void ModelItemToZVTreeModelSyncronizer::synchronizeChildren(ZVTreeViewItem* row,
-                                                            const ModelItem& item)
-{
-    if (item.hasChildren() || row->childCount() > 0)
-        synchronize(row, item.getChildren());
-}
-
-void ModelItemToZVTreeModelSyncronizer::appendNewRows(ZVTreeViewItem* parent, const Items& items,
-                                                      int first)
-{
-    QVector<ZVTreeViewItem*> rows;
-    rows.reserve(static_cast<int>(items.size()) - first);
-    for (auto item = items.begin() + first; item != items.end(); ++item)
-        rows.append(createListedRow(**item));
-    parent->appendChildren(rows);
-}
-
-ZVTreeViewItem* ModelItemToZVTreeModelSyncronizer::createListedRow(const ModelItem& item)
-{
-    ZVTreeViewItem* row = createViewItemTree(item);
-    m_itemList.emplace_back(item.getId(), row);
-    return row;
-}
-
-ZVTreeViewItem* ModelItemToZVTreeModelSyncronizer::createViewItemTree(const ModelItem& item)
-{
-    auto row = std::make_unique<ZVTreeViewItem>();
-    row->setText(item.getName());
-    row->setId(m_idRole, item.getId());
-    row->setFlags(m_newItemFlags | row->flags() | Qt::ItemIsEditable);
-    if (item.hasChildren())
-        appendNewRows(row.get(), item.getChildren(), 0);
-    return row.release();
-}
-
-void ModelItemToZVTreeModelSyncronizer::writeText(ZVTreeViewItem* row, const ModelItem& item) const
-{
-    // A class of its own may want to see the value; our rows compare it without making one.
-    if (typeid(*row) == typeid(ZVTreeViewItem))
-        row->setText(item.getName());
-    else
-        row->setData(m_textColumn, Qt::DisplayRole, QString::fromStdString(item.getName()));
-}
-
-void ModelItemToZVTreeModelSyncronizer::gatherItemsRecursively(ZVTreeViewItem* parent)
-{
-    for (int i = 0, count = parent->childCount(); i < count; ++i) {
-        ZVTreeViewItem* row = parent->child(i);
-        if (row->childCount() > 0)
-            gatherItemsRecursively(row);
+    RowList rows;
+    rows.reserve(all.size() - 1);
+    for (auto row = all.begin() + 1; row != all.end(); ++row) {
         IDCombiner id;
-        if (RowFinder::readId(row, {m_idColumn, m_idRole}, id))
-            m_itemList.emplace_back(id, row);
+        if (readId(*row, {m_idColumn, m_idRole}, id))
+            rows.emplace_back(id, *row);
     }
+    sortById(rows);
+    return rows;
 }
 
 } // namespace Zorvane::GenericTreeViewModelHandling

@@ -1,19 +1,16 @@
 #pragma once
 
-#include "Host/Identifiers/IDCombiner.h"
-#include "TreeModel/ModelItem.h"
+#include "TreeModel/LifeToken.h"
 #include "TreeModel/ModelRoot.h"
 #include "TreeModel/ZVTreeItemDataProviderInterface.h"
 #include "UiToolsExport.h"
 
-#include <QtCore/Qt>
-
+#include <map>
 #include <memory>
-#include <vector>
 
 namespace Zorvane {
-class ZVTreeViewItem;
 class ZVTreeViewModel;
+class ZVTreeViewRefresh;
 } // namespace Zorvane
 
 namespace Zorvane::GenericTreeViewModelHandling {
@@ -23,20 +20,23 @@ namespace Zorvane::GenericTreeViewModelHandling {
  *
  * The model's order is authoritative: for each position only the rows there and behind are
  * candidates, the first with an equal id wins and is moved into place, a new row is made where
- * there is none, and rows that nobody claimed end up behind and are deleted. So a row lives on as
- * long as its id does, and with it its place in every view. Rows found in place get the item's
- * name as text; rows moved keep the text they have.
+ * there is none, and rows that no item claims are deleted. So a row lives on as long as its id
+ * does, and with it its place in every view. Rows found in place get the item's name as text; rows
+ * moved keep the text they have.
  *
- * Everything else a row shows is written by one data provider, which has to be set before any of
- * the three operations. Views learn of all row changes of one call together, before the provider
- * writes. Several views may be served in turn.
+ * An item that is handed on again, the very object, is not looked into: a refresh costs what has
+ * changed. Everything else a row shows is written by one data provider. Views hear of all row
+ * changes of one call together, before the provider writes. Several views may be served in turn.
  *
- * Rows of derived classes are asked for their id by `data()` and should keep it meanwhile: a row is
- * taken for an item only if it carries the item's id when it is looked for, and one that comes by
- * that id only during the call may be replaced by a new row. Other rows are not affected.
+ * A synchronization that is asked for while the model is being refreshed, as a slot or a data
+ * provider may do, is put off until that is done; of several, the latest is done. Model, root and
+ * data provider have to be there, which is asserted.
  *
- * Not supported: trees deeper than the stack allows (some ten thousand levels), rows whose `data()`
- * or `setData()` insert, take or delete rows, use from a thread other than the view's.
+ * Rows of derived classes are asked for their id by `data()`, before anything is changed. Trees may
+ * be of any depth. If a row or a provider throws, rows stay as they were or are in line already.
+ *
+ * Not supported: rows whose `data()` inserts, takes or deletes rows; deleting the synchronizer, the
+ * model or a row in a slot of a refresh (asserted); use from a thread other than the view's.
  */
 class ZORVANE_UITOOLS_EXPORT ModelItemToZVTreeModelSyncronizer
 {
@@ -45,6 +45,8 @@ public:
     static constexpr int DefaultIdRole = 3394;
 
     explicit ModelItemToZVTreeModelSyncronizer(int idRole = DefaultIdRole);
+    ModelItemToZVTreeModelSyncronizer(const ModelItemToZVTreeModelSyncronizer&) = delete;
+    ModelItemToZVTreeModelSyncronizer& operator=(const ModelItemToZVTreeModelSyncronizer&) = delete;
     ~ModelItemToZVTreeModelSyncronizer();
 
     /**
@@ -61,31 +63,24 @@ public:
     void updateViewModelItems(ZVTreeViewModel* viewModel);
 
 private:
-    using Items = std::vector<std::shared_ptr<ModelItem>>;
-    struct SearchMemory;
     using RowList = ZVTreeItemDataProviderInterface::RowList;
+    struct Request
+    {
+        std::shared_ptr<ModelRoot> root;
+        bool updatesAll;
+    };
 
-    RowList align(ZVTreeViewModel* viewModel, const ModelRoot& root);
-    RowList identifiedRows(ZVTreeViewModel* viewModel);
-    void synchronize(ZVTreeViewItem* parent, const Items& items);
-    void synchronizeChildren(ZVTreeViewItem* row, const ModelItem& item);
-    int placeRows(ZVTreeViewItem* parent, const Items& items);
-    void appendNewRows(ZVTreeViewItem* parent, const Items& items, int first);
-    ZVTreeViewItem* createListedRow(const ModelItem& item);
-    ZVTreeViewItem* createViewItemTree(const ModelItem& item);
-    void writeText(ZVTreeViewItem* row, const ModelItem& item) const;
-    void gatherItemsRecursively(ZVTreeViewItem* parent);
+    void refresh(ZVTreeViewModel* viewModel, const Request& request);
+    void putOff(ZVTreeViewModel* viewModel, const Request& request);
+    RowList align(ZVTreeViewModel* viewModel, const ModelRoot& root, ZVTreeViewRefresh& refresh);
+    RowList identifiedRows(const ZVTreeViewModel* viewModel) const;
 
     const int m_idColumn = 0;
     const int m_idRole;
-    const int m_textColumn = 0;
-    ZVTreeViewModel* m_viewModel = nullptr;
     std::shared_ptr<ZVTreeItemDataProviderInterface> m_dataProvider;
-    /** Rows for the data provider while they are gathered; empty between calls. */
-    RowList m_itemList;
-    Qt::ItemFlags m_newItemFlags;
-    /** Memory of earlier searches, as much as the longest list needed. */
-    std::unique_ptr<SearchMemory> m_searchMemory;
+    bool m_isRunning = false;
+    std::map<ZVTreeViewModel*, std::weak_ptr<Request>> m_putOff;
+    LifeToken m_life;
 };
 
 } // namespace Zorvane::GenericTreeViewModelHandling

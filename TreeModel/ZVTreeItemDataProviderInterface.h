@@ -43,9 +43,28 @@ public:
     virtual void updateDataOf(const RowList& rows) = 0;
     /**
      * What to call, synchronously, each time this provider's data has changed. Replaces the
-     * callback registered before; an empty one ends the telling.
+     * callback registered before; an empty one ends it.
      */
     virtual void registerUpdateCallback(std::function<void()> callback) = 0;
 };
+
+/**
+ * What a data provider may implement besides, so that no rows are gathered for an `updateDataOf`
+ * that would do nothing. A provider that does not is asked to update every time.
+ */
+class ZORVANE_UITOOLS_EXPORT ZVTreeItemUpdateStateInterface
+{
+public:
+    ZVTreeItemUpdateStateInterface() = default;
+    ZVTreeItemUpdateStateInterface(const ZVTreeItemUpdateStateInterface&) = default;
+    ZVTreeItemUpdateStateInterface& operator=(const ZVTreeItemUpdateStateInterface&) = default;
+    virtual ~ZVTreeItemUpdateStateInterface() = default;
+
+    /** Whether `updateDataOf` would do anything. */
+    virtual bool isUpdateDue() const = 0;
+};
+
+/** False only if the provider says so. */
+ZORVANE_UITOOLS_EXPORT bool isUpdateDue(const ZVTreeItemDataProviderInterface& provider);
 
 } // namespace Zorvane::GenericTreeViewModelHandling

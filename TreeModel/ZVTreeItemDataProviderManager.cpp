@@ -1,5 +1,6 @@
 #include "TreeModel/ZVTreeItemDataProviderManager.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace Zorvane::GenericTreeViewModelHandling {
@@ -29,6 +30,13 @@ void ZVTreeItemDataProviderManager::updateDataOf(const RowList& rows)
 {
     for (const auto& provider : m_providers)
         provider->updateDataOf(rows);
+}
+
+bool ZVTreeItemDataProviderManager::isUpdateDue() const
+{
+    return std::any_of(m_providers.begin(), m_providers.end(), [](const auto& provider) {
+        return GenericTreeViewModelHandling::isUpdateDue(*provider);
+    });
 }
 
 void ZVTreeItemDataProviderManager::registerUpdateCallback(std::function<void()> callback)

@@ -20,7 +20,8 @@ namespace Zorvane::GenericTreeViewModelHandling {
  *
  * Not supported: null providers, removing a provider, gathering announcements.
  */
-class ZORVANE_UITOOLS_EXPORT ZVTreeItemDataProviderManager : public ZVTreeItemDataProviderInterface
+class ZORVANE_UITOOLS_EXPORT ZVTreeItemDataProviderManager : public ZVTreeItemDataProviderInterface,
+                                                             public ZVTreeItemUpdateStateInterface
 {
 public:
     /** Appends the provider and takes over its update callback. */
@@ -31,6 +32,7 @@ public:
     void addDataTo(const RowList& rows) override;
     /** Asks every provider; each decides by itself whether there is something to write. */
     void updateDataOf(const RowList& rows) override;
+    bool isUpdateDue() const override;
 
 private:
     void registerUpdateCallback(std::function<void()> callback) override;

@@ -1,21 +1,13 @@
 #include "Host/Widgets/ZVTreeViewItem.h"
 
-#include "Host/Widgets/ZVTreeViewItemChildren.h"
+#include "Host/Widgets/ValueIdentity.h"
 #include "Host/Widgets/ZVTreeViewModelPrivate.h"
-
-#include <QtGui/QIcon>
 
 #include <algorithm>
 
 namespace Zorvane {
 
 namespace {
-
-const QVector<int>& textRoles()
-{
-    static const QVector<int> roles{Qt::DisplayRole, Qt::EditRole};
-    return roles;
-}
 
 int storedRole(int role)
 {
@@ -25,31 +17,6 @@ int storedRole(int role)
 bool isId(const QVariant& value)
 {
     return value.userType() == qMetaTypeId<IDCombiner>();
-}
-
-bool isSameValue(const QVariant& left, const QVariant& right);
-
-bool isSameList(const QVariantList& left, const QVariantList& right)
-{
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(), isSameValue);
-}
-
-/** Stricter than QVariant, which finds 1 and "1" or close numbers equal; knows icons and ids. */
-bool isSameValue(const QVariant& left, const QVariant& right)
-{
-    if (left.userType() != right.userType() || left.isNull() != right.isNull())
-        return false;
-    if (left.userType() == QMetaType::Double)
-        return left.toDouble() == right.toDouble();
-    if (left.userType() == QMetaType::Float)
-        return left.toFloat() == right.toFloat();
-    if (left.userType() == QMetaType::QVariantList)
-        return isSameList(left.toList(), right.toList());
-    if (left.userType() == QMetaType::QIcon)
-        return left.value<QIcon>().cacheKey() == right.value<QIcon>().cacheKey();
-    if (isId(left))
-        return left.value<IDCombiner>() == right.value<IDCombiner>();
-    return left == right;
 }
 
 /**
@@ -78,10 +45,10 @@ ZVTreeViewItem::ZVTreeViewItem(ZVTreeViewItem* parent)
 
 ZVTreeViewItem::~ZVTreeViewItem()
 {
-    if (ZVTreeViewItem* parentRow = parent())
-        parentRow->takeChild(row());
-    if (hasState(Taken))
-        ZVTreeViewModelPrivate::owning(this)->publish();
+    if (m_parent && !m_parent->takeChild(this)) {
+        Q_ASSERT_X(false, "ZVTreeViewItem", "a row is deleted while its model is refreshed");
+        m_parent->m_children->erase(row(), 1);
+    }
     deleteSubtree();
 }
 
@@ -92,11 +59,11 @@ void ZVTreeViewItem::deleteSubtree()
     const auto takeChildrenOf = [&pending](ZVTreeViewItem* row) {
         if (!row->m_children)
             return;
-        for (ZVTreeViewItem* child : row->m_children->release()) {
+        for (ZVTreeViewItem* child : row->m_children->rows) {
             child->m_parent = nullptr;
-            child->m_state = 0;
             pending.push_back(child);
         }
+        row->m_children.reset();
     };
     takeChildrenOf(this);
     while (!pending.empty()) {
@@ -132,7 +99,7 @@ bool ZVTreeViewItem::setData(int column, int role, const QVariant& value)
     else
         changed = storeExtra(column, wanted, value);
     if (changed)
-        announceChange(column, wanted == Qt::DisplayRole ? textRoles() : QVector<int>{wanted});
+        announceChange(column, wanted);
     return true;
 }
 
@@ -143,18 +110,28 @@ bool ZVTreeViewItem::storeText(const QVariant& value)
     if (typed && text.isNull())
         text = QLatin1String("");
     const bool extraChanged = storeExtra(0, Qt::DisplayRole, typed ? QVariant() : value);
-    if (m_text == text && m_text.isNull() == text.isNull())
-        return extraChanged;
+    const bool isSame = m_text == text && m_text.isNull() == text.isNull();
     m_text = text;
-    return true;
+    if (!isSame || extraChanged)
+        forgetShownSerial();
+    return !isSame || extraChanged;
+}
+
+void ZVTreeViewItem::storeText(const std::string& text)
+{
+    if (m_extra)
+        storeExtra(0, Qt::DisplayRole, QVariant());
+    m_text = QString::fromStdString(text);
 }
 
 bool ZVTreeViewItem::storeId(int role, const QVariant& value)
 {
     if (!isId(value)) {
         const bool had = m_idRole == role;
-        if (had)
+        if (had) {
             m_idRole = NoRole;
+            forgetShownSerial();
+        }
         return storeExtra(0, role, value) || had;
     }
     const auto newId = value.value<IDCombiner>();
@@ -162,8 +139,9 @@ bool ZVTreeViewItem::storeId(int role, const QVariant& value)
         return false;
     // A second id, stored untyped while the first was there, may be the same.
     const QVariant* untyped = findExtra(0, role);
-    const bool changed = !untyped || !isSameValue(*untyped, value);
+    const bool changed = !untyped || !isCertainlySame(*untyped, value);
     storeExtra(0, role, QVariant());
+    forgetShownSerial();
     m_id = newId;
     m_idRole = role;
     return changed;
@@ -184,13 +162,12 @@ bool ZVTreeViewItem::storeExtra(int column, int role, const QVariant& value)
             m_extra->push_back({column, role, value});
         return value.isValid();
     }
-    if (isSameValue(found->value, value))
-        return false;
+    const bool isChanged = !isCertainlySame(found->value, value);
     if (value.isValid())
         found->value = value;
     else
         m_extra->erase(found);
-    return true;
+    return isChanged;
 }
 
 const QVariant* ZVTreeViewItem::findExtra(int column, int role) const
@@ -210,18 +187,21 @@ void ZVTreeViewItem::setFlags(Qt::ItemFlags flags)
     if (m_flags == stored)
         return;
     m_flags = stored;
-    // Flags belong to no role: an empty list tells views to ask for everything.
-    announceChange(0, QVector<int>());
+    announceChange(0, ZVTreeViewModelPrivate::AnyRole);
+}
+
+bool ZVTreeViewItem::hasText(const std::string& text) const
+{
+    return !m_text.isNull() && equalsUtf8(m_text, text);
 }
 
 void ZVTreeViewItem::setText(const std::string& text)
 {
-    if (!m_text.isNull() && equalsUtf8(m_text, text))
+    if (hasText(text))
         return;
-    if (m_extra)
-        storeExtra(0, Qt::DisplayRole, QVariant());
-    m_text = QString::fromStdString(text);
-    announceChange(0, textRoles());
+    storeText(text);
+    forgetShownSerial();
+    announceChange(0, Qt::DisplayRole);
 }
 
 void ZVTreeViewItem::setId(int role, const IDCombiner& id)
@@ -235,178 +215,190 @@ void ZVTreeViewItem::setId(int role, const IDCombiner& id)
     m_idRole = role;
 }
 
-void ZVTreeViewItem::announceChange(int column, const QVector<int>& roles)
+void ZVTreeViewItem::announceChange(int column, int role)
 {
-    if (!m_parent)
-        return;
-    if (ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::showing(this))
-        model->valueChanged(this, column, roles);
+    if (m_parent && m_parent->m_children->owner)
+        m_parent->m_children->owner->valueChanged(this, column, role);
 }
 
-ZVTreeViewItemChildren& ZVTreeViewItem::children()
+/** The model whose tree the row is in, else null. */
+ZVTreeViewModelPrivate* ZVTreeViewItem::owner() const
 {
-    if (!m_children)
-        m_children = std::make_unique<ZVTreeViewItemChildren>();
-    return *m_children;
+    const ZVTreeViewItemChildren* list = m_parent ? m_parent->m_children.get() : m_children.get();
+    return list ? list->owner : nullptr;
 }
 
-ZVTreeViewItem* ZVTreeViewItem::parent() const
+bool ZVTreeViewItem::isRoot() const
 {
-    return hasState(Taken) ? nullptr : m_parent;
+    return !m_parent && owner();
 }
 
 ZVTreeViewModel* ZVTreeViewItem::model() const
 {
-    const ZVTreeViewItem* top = this;
-    while (const ZVTreeViewItem* above = top->parent())
-        top = above;
-    return top->hasState(IsRoot) ? ZVTreeViewModelPrivate::owning(top)->q : nullptr;
+    const ZVTreeViewModelPrivate* model = owner();
+    return model ? model->q : nullptr;
+}
+
+ZVTreeViewItemChildren& ZVTreeViewItem::children()
+{
+    if (!m_children) {
+        m_children = std::make_unique<ZVTreeViewItemChildren>();
+        m_children->owner = m_parent ? m_parent->m_children->owner : nullptr;
+    }
+    return *m_children;
 }
 
 int ZVTreeViewItem::row() const
 {
-    const ZVTreeViewItem* parentRow = parent();
-    return parentRow ? parentRow->m_children->rowOf(this) : -1;
+    return m_parent ? m_parent->m_children->rowOf(this) : -1;
 }
 
-int ZVTreeViewItem::countChildren() const
+int ZVTreeViewItem::childCount() const
 {
-    return m_children->count();
+    return m_children ? m_children->count() : 0;
 }
 
 ZVTreeViewItem* ZVTreeViewItem::child(int index) const
 {
-    return m_children ? m_children->find(index) : nullptr;
+    // A negative index is a very large one here.
+    const auto place = static_cast<std::size_t>(index);
+    return m_children && place < m_children->rows.size() ? m_children->rows[place] : nullptr;
 }
 
 bool ZVTreeViewItem::canAdopt(const ZVTreeViewItem* child) const
 {
-    if (!child || child == this || child->parent() || child->hasState(IsRoot))
+    if (!child || child == this || child->m_parent || child->isRoot())
         return false;
-    const ZVTreeViewItem* above = child->m_children ? parent() : nullptr;
+    const ZVTreeViewItem* above = child->m_children ? m_parent : nullptr;
     while (above && above != child)
-        above = above->parent();
+        above = above->m_parent;
     return above == nullptr;
 }
 
 bool ZVTreeViewItem::canAdoptAll(const QVector<ZVTreeViewItem*>& added) const
 {
+    // Rows without a parent have no number; one that is met twice has this one.
+    constexpr int met = -2;
     int fit = 0;
-    for (; fit < added.size(); ++fit) {
-        ZVTreeViewItem* child = added.at(fit);
-        if (!canAdopt(child) || child->hasState(Counted))
-            break;
-        child->addState(Counted);
-    }
+    while (fit < added.size() && canAdopt(added.at(fit)) && added.at(fit)->m_row != met)
+        added.at(fit++)->m_row = met;
     std::for_each(added.begin(), added.begin() + fit,
-                  [](ZVTreeViewItem* child) { child->dropState(Counted); });
+                  [](ZVTreeViewItem* child) { child->m_row = -1; });
     return fit == added.size();
 }
 
-void ZVTreeViewItem::adopt(ZVTreeViewItem* child, bool asShownRow)
+bool ZVTreeViewItem::insert(int index, ZVTreeViewItem* const* added, int count)
 {
-    const bool backInPlace = child->m_parent == this && asShownRow;
-    if (backInPlace && !child->hasState(Fresh | Relocated))
-        child->dropState(Taken);
-    else if (child->hasState(Taken))
-        ZVTreeViewModelPrivate::owning(child)->putBack(child, this, asShownRow);
-    else if (asShownRow)
-        child->addState(Fresh);
-    child->m_parent = this;
+    ZVTreeViewModelPrivate* model = owner();
+    if (model && !model->canChangeStructure())
+        return false;
+    ZVTreeViewItemChildren& list = children();
+    // Views are about to hear of rows, so nothing may fail from there on.
+    list.rows.reserve(list.rows.size() + static_cast<std::size_t>(count));
+    const auto change = [&] {
+        forgetShownSerial();
+        list.insert(index, added, count);
+        std::for_each(added, added + count, [this](ZVTreeViewItem* child) { adopt(child); });
+    };
+    if (model)
+        model->insertRows(this, index, count, change);
+    else
+        change();
+    return true;
 }
 
-void ZVTreeViewItem::orphan(ZVTreeViewItem* child, bool wasShownRow)
+void ZVTreeViewItem::adopt(ZVTreeViewItem* child)
 {
-    if (wasShownRow && !child->hasState(Fresh | Relocated)) {
-        child->addState(Taken);
-        return;
+    child->m_parent = this;
+    if (child->m_children && child->m_children->owner != m_children->owner)
+        child->setOwner(m_children->owner);
+}
+
+void ZVTreeViewItem::letGo()
+{
+    m_parent = nullptr;
+    m_row = -1;
+    setOwner(nullptr);
+}
+
+/** Of the whole subtree, which may be of any depth; allocates nothing. */
+void ZVTreeViewItem::setOwner(ZVTreeViewModelPrivate* owner)
+{
+    ZVTreeViewItem* row = this;
+    while (true) {
+        if (row->m_children)
+            row->m_children->owner = owner;
+        if (ZVTreeViewItem* first = row->child(0)) {
+            row = first;
+            continue;
+        }
+        while (row != this && row->row() + 1 == row->m_parent->childCount())
+            row = row->m_parent;
+        if (row == this)
+            return;
+        row = row->m_parent->child(row->row() + 1);
     }
-    ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::owning(this);
-    if (model && (child->hasState(Relocated) || model->hasRelocated() || model->isPublishing())) {
-        model->hold(child);
-        return;
-    }
-    child->dropState(Fresh);
-    child->m_parent = nullptr;
-    child->m_row = -1;
 }
 
 bool ZVTreeViewItem::insertChild(int index, ZVTreeViewItem* child)
 {
-    const auto fits = [=] { return index >= 0 && index <= childCount() && canAdopt(child); };
-    if (!fits())
-        return false;
-    // Slots of an announcement may have put the row elsewhere, or left fewer rows here.
-    if (ZVTreeViewModelPrivate::prepareMove(child, this) && !fits())
-        return false;
-    ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::announcing(this);
-    if (model)
-        model->beginInsert(this, index, 1);
-    ZVTreeViewItemChildren& list = children();
-    adopt(child, list.isStaged());
-    list.insert(index, child);
-    if (model)
-        model->endInsert();
-    return true;
+    return index >= 0 && index <= childCount() && canAdopt(child) && insert(index, &child, 1);
 }
 
 bool ZVTreeViewItem::appendChildren(const QVector<ZVTreeViewItem*>& added)
 {
-    const bool fit = canAdoptAll(added);
-    if (!fit || added.isEmpty())
-        return fit;
-    bool isAnnounced = false;
-    for (ZVTreeViewItem* child : added)
-        isAnnounced = ZVTreeViewModelPrivate::prepareMove(child, this) || isAnnounced;
-    if (isAnnounced && !canAdoptAll(added))
+    if (!canAdoptAll(added))
         return false;
-    ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::announcing(this);
-    if (model)
-        model->beginInsert(this, childCount(), added.size());
-    ZVTreeViewItemChildren& list = children();
-    for (ZVTreeViewItem* child : added)
-        adopt(child, list.isStaged());
-    list.append(added);
-    if (model)
-        model->endInsert();
-    return true;
+    return added.isEmpty() || insert(childCount(), added.constData(), added.size());
 }
 
 ZVTreeViewItem* ZVTreeViewItem::takeChild(int index)
 {
-    if (index < 0 || index >= childCount())
+    ZVTreeViewItem* taken = child(index);
+    ZVTreeViewModelPrivate* model = owner();
+    if (!taken || (model && !model->canChangeStructure()))
         return nullptr;
-    ZVTreeViewModelPrivate* model = ZVTreeViewModelPrivate::announcing(this);
+    const auto change = [&] {
+        forgetShownSerial();
+        m_children->erase(index, 1);
+        taken->letGo();
+    };
     if (model)
-        model->beginRemove(this, index);
-    ZVTreeViewItem* child = m_children->take(index);
-    orphan(child, m_children->isStaged());
-    if (model)
-        model->endRemove();
-    return child;
+        model->removeRow(this, index, change);
+    else
+        change();
+    return taken;
 }
 
 bool ZVTreeViewItem::takeChild(ZVTreeViewItem* child)
 {
-    if (!child || child->parent() != this)
-        return false;
-    if (ZVTreeViewModelPrivate::announcing(this))
-        return takeChild(m_children->rowOf(child)) != nullptr;
-    m_children->take(child);
-    orphan(child, m_children->isStaged());
-    return true;
+    return child && child->m_parent == this && takeChild(child->row());
 }
 
 bool ZVTreeViewItem::deleteChild(int index)
 {
-    ZVTreeViewItem* gone = takeChild(index);
-    if (!gone)
-        return false;
-    if (gone->hasState(Taken))
-        ZVTreeViewModelPrivate::owning(gone)->retire(gone);
-    else
-        delete gone;
-    return true;
+    const std::unique_ptr<ZVTreeViewItem> taken(takeChild(index));
+    return taken != nullptr;
+}
+
+std::uint64_t ZVTreeViewItem::shownSerial() const
+{
+    return m_children ? m_children->shownSerial : 0;
+}
+
+void ZVTreeViewItem::setShownSerial(std::uint64_t serial)
+{
+    if (m_children || serial != 0)
+        children().shownSerial = serial;
+}
+
+void ZVTreeViewItem::forgetShownSerial()
+{
+    setShownSerial(0);
+    // Where a row above has forgotten, those above it have, too.
+    for (ZVTreeViewItem* above = m_parent; above && above->m_children->shownSerial != 0;
+         above = above->m_parent)
+        above->m_children->shownSerial = 0;
 }
 
 } // namespace Zorvane

@@ -7,6 +7,7 @@
 #include <QtCore/QVariant>
 #include <QtCore/QVector>
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,20 +15,21 @@
 namespace Zorvane {
 
 class ZVTreeViewModel;
-class ZVTreeViewItemChildren;
+class ZVTreeViewModelPrivate;
+struct ZVTreeViewItemChildren;
 
 /**
  * One row of a `ZVTreeViewModel`, with values per column and role, flags and child rows.
  *
  * A row owns its children. A row in a model announces its own changes to the model's views, each
- * as narrowly as it is; a detached row announces nothing. While a `ZVTreeViewModelBatch` is open
- * the changes take place at once and are announced together when it closes.
+ * as narrowly as it is; a detached row announces nothing. While a `ZVTreeViewRefresh` runs, values
+ * are announced together at its end, and rows are neither inserted nor taken.
  *
  * `Qt::EditRole` and `Qt::DisplayRole` are one value, as in Qt's own item classes. The text of
  * column 0 and one `IDCombiner` of column 0 are stored typed, everything else in one list.
  *
- * Misuse (an index out of range, a row that has a parent already, a row put below itself) is
- * answered by doing nothing and telling so in the return value.
+ * Misuse (an index out of range, a row that has a parent already, a row put below itself, a change
+ * of children while views are about to hear of another) does nothing and returns that.
  *
  * Not supported: copying rows, use from several threads.
  */
@@ -44,8 +46,8 @@ public:
     /** The value stored, else an invalid one. */
     virtual QVariant data(int column, int role) const;
     /**
-     * Stores the value, an invalid one meaning none; announced with its role when it differs from
-     * the one before. False for a negative column.
+     * Stores the value, an invalid one meaning none; announced with its role unless it is certain
+     * to be the same as before. False for a negative column.
      */
     virtual bool setData(int column, int role, const QVariant& value);
 
@@ -55,8 +57,10 @@ public:
 
     /** The typed text of column 0; empty when none is stored. */
     const QString& text() const { return m_text; }
-    /** Like `setData(0, Qt::DisplayRole, ...)`, told in UTF-8; allocates only when it differs. */
+    /** Like `setData(0, Qt::DisplayRole, ...)`, in UTF-8; allocates only when it differs. */
     void setText(const std::string& text);
+    /** Whether the text of column 0 is this one, in UTF-8. */
+    bool hasText(const std::string& text) const;
     /** The typed id of column 0 when it is stored under this role, else null. */
     const IDCombiner* id(int role) const
     {
@@ -65,19 +69,16 @@ public:
     /** Like `setData(0, role, QVariant::fromValue(id))`. */
     void setId(int role, const IDCombiner& id);
 
-    ZVTreeViewItem* parent() const;
+    ZVTreeViewItem* parent() const { return m_parent; }
     /** The model whose tree this row is in, else null. */
     ZVTreeViewModel* model() const;
-    /**
-     * The position in the parent, found without looking at the siblings (inside a batch, below a
-     * row whose children have changed in it, they are looked at); -1 without a parent.
-     */
+    /** The position in the parent, found without looking at the siblings; -1 without a parent. */
     int row() const;
-    int childCount() const { return m_children ? countChildren() : 0; }
+    int childCount() const;
     /** Null when the index is out of range. */
     ZVTreeViewItem* child(int index) const;
 
-    /** Takes ownership on success; else the caller keeps it, or the parent a slot gave it to. */
+    /** Takes ownership on success; else the caller keeps it. */
     bool insertChild(int index, ZVTreeViewItem* child);
     /** One announcement for all; on failure (any of them unfit) none is appended. */
     bool appendChildren(const QVector<ZVTreeViewItem*>& children);
@@ -85,16 +86,23 @@ public:
     ZVTreeViewItem* takeChild(int index);
     /** The same for a known child, without looking for its index; false when it is no child. */
     bool takeChild(ZVTreeViewItem* child);
-    /**
-     * Takes the child out and deletes it: at once, or, inside a batch, once its going is
-     * announced, so that views never meet a deleted row. False when the index is out of range.
-     */
+    /** Takes the child out and deletes it. False when the index is out of range. */
     bool deleteChild(int index);
 
+    /**
+     * For synchronizers: a number for what this row and all rows below it show. The row forgets it,
+     * and so do the rows above, as soon as a text, id or list of children in there is changed
+     * other than by a `ZVTreeViewPlan`. 0 for none. A row that has a number has only rows with a
+     * number below, rows without children aside.
+     */
+    std::uint64_t shownSerial() const;
+    void setShownSerial(std::uint64_t serial);
+    void forgetShownSerial();
+
 private:
-    friend class ZVTreeViewItemChildren;
     friend class ZVTreeViewModel;
     friend class ZVTreeViewModelPrivate;
+    friend struct ZVTreeViewItemChildren;
 
     struct ExtraValue
     {
@@ -103,47 +111,32 @@ private:
         QVariant value;
     };
 
-    /**
-     * What a batch has to remember of a row; none of it is set outside of one. How the states
-     * follow one another is told in ZVTreeViewModelPrivate.h.
-     */
-    enum State : quint16
-    {
-        IsRoot = 1,    // the invisible row of a model
-        Fresh = 2,     // inserted, with its subtree, and not announced yet
-        Taken = 4,     // taken out, but views still see it under `m_parent`
-        Relocated = 8, // now under `m_parent`, but views still see it elsewhere
-        Leaving = 16,  // about to be announced gone
-        Counted = 32   // met already in a list of rows to be added
-    };
     static constexpr int NoRole = -1;
 
-    bool hasState(int states) const { return (m_state & states) != 0; }
-    void addState(State state) { m_state = static_cast<quint16>(m_state | state); }
-    void dropState(State state) { m_state = static_cast<quint16>(m_state & ~state); }
-
+    ZVTreeViewModelPrivate* owner() const;
     ZVTreeViewItemChildren& children();
-    int countChildren() const;
     bool storeText(const QVariant& value);
+    void storeText(const std::string& text);
     bool storeId(int role, const QVariant& value);
     bool storeExtra(int column, int role, const QVariant& value);
     const QVariant* findExtra(int column, int role) const;
-    void announceChange(int column, const QVector<int>& roles);
+    void announceChange(int column, int role);
+    bool isRoot() const;
     bool canAdopt(const ZVTreeViewItem* child) const;
     bool canAdoptAll(const QVector<ZVTreeViewItem*>& added) const;
-    void adopt(ZVTreeViewItem* child, bool asShownRow);
-    void orphan(ZVTreeViewItem* child, bool wasShownRow);
+    bool insert(int index, ZVTreeViewItem* const* added, int count);
+    void adopt(ZVTreeViewItem* child);
+    void letGo();
+    void setOwner(ZVTreeViewModelPrivate* owner);
     void deleteSubtree();
 
     // In the order of use: what a refresh looks at lies together.
     IDCombiner m_id;
-    /** The parent; of a `Taken` row the one it had. */
     ZVTreeViewItem* m_parent = nullptr;
     std::unique_ptr<ZVTreeViewItemChildren> m_children;
-    /** The number in the parent's shown list; a claim that the list checks. */
+    /** The number in the parent's list; a claim that the list checks. */
     int m_row = -1;
     int m_idRole = NoRole;
-    quint16 m_state = 0;
     quint16 m_flags = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     QString m_text;
     std::unique_ptr<std::vector<ExtraValue>> m_extra;

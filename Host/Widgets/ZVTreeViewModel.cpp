@@ -1,5 +1,6 @@
 #include "Host/Widgets/ZVTreeViewModel.h"
 
+#include "Host/Widgets/ValueIdentity.h"
 #include "Host/Widgets/ZVTreeViewModelPrivate.h"
 
 #include <algorithm>
@@ -41,16 +42,15 @@ bool ZVTreeViewModel::isOwn(const QModelIndex& index) const
 
 QModelIndex ZVTreeViewModel::indexFromItem(const ZVTreeViewItem* item, int column) const
 {
-    if (!item || column < 0 || column >= columnCount() ||
-        ZVTreeViewModelPrivate::showing(item) != d.get())
+    if (!item || column < 0 || column >= columnCount() || item->owner() != d.get())
         return {};
-    return d->shownIndex(item, column);
+    return d->indexOf(item, column);
 }
 
 void ZVTreeViewModel::setColumnCount(int count)
 {
     const int wanted = std::max(count, 1);
-    if (wanted == d->headers.size())
+    if (wanted == d->headers.size() || !d->canChangeStructure())
         return;
     // The reset: the columns of every row change at once, for which there is no announcement.
     beginResetModel();
@@ -68,17 +68,17 @@ void ZVTreeViewModel::setHorizontalHeaderLabels(const QStringList& labels)
 QModelIndex ZVTreeViewModel::index(int row, int column, const QModelIndex& parent) const
 {
     const ZVTreeViewItem* parentRow = itemFromIndex(parent);
-    if (row < 0 || column < 0 || column >= d->headers.size() || parent.column() > 0 || !parentRow ||
-        !parentRow->m_children || row >= parentRow->m_children->shownCount())
+    if (column < 0 || column >= d->headers.size() || parent.column() > 0 || !parentRow)
         return {};
-    return createIndex(row, column, parentRow->m_children->shownAt(row));
+    ZVTreeViewItem* child = parentRow->child(row);
+    return child ? createIndex(row, column, child) : QModelIndex();
 }
 
 QModelIndex ZVTreeViewModel::parent(const QModelIndex& index) const
 {
     if (!isOwn(index))
         return {};
-    return d->shownIndex(ZVTreeViewModelPrivate::shownParent(rowOf(index)));
+    return d->indexOf(rowOf(index)->parent());
 }
 
 QModelIndex ZVTreeViewModel::sibling(int row, int column, const QModelIndex& index) const
@@ -93,7 +93,7 @@ QModelIndex ZVTreeViewModel::sibling(int row, int column, const QModelIndex& ind
 int ZVTreeViewModel::rowCount(const QModelIndex& parent) const
 {
     const ZVTreeViewItem* row = itemFromIndex(parent);
-    return parent.column() > 0 || !row || !row->m_children ? 0 : row->m_children->shownCount();
+    return parent.column() > 0 || !row ? 0 : row->childCount();
 }
 
 int ZVTreeViewModel::columnCount(const QModelIndex& parent) const
@@ -115,7 +115,7 @@ bool ZVTreeViewModel::setData(const QModelIndex& index, const QVariant& value, i
 {
     if (!isOwn(index))
         return false;
-    // The row, or a slot that it tells, may take it out of the tree.
+    // The row, or a slot, may take it out of the tree.
     const QPersistentModelIndex lasting = index;
     if (!rowOf(index)->setData(index.column(), role, value))
         return false;
@@ -147,19 +147,28 @@ bool ZVTreeViewModel::setHeaderData(int section, Qt::Orientation orientation, co
         return false;
     const int stored = role == Qt::EditRole ? int(Qt::DisplayRole) : role;
     const QVariant before = d->headers.at(section).value(stored);
-    if (before.userType() == value.userType() && before == value)
-        return true;
     if (value.isValid())
         d->headers[section].insert(stored, value);
     else
         d->headers[section].remove(stored);
-    Q_EMIT headerDataChanged(orientation, section, section);
+    if (!isCertainlySame(before, value))
+        Q_EMIT headerDataChanged(orientation, section, section);
     return true;
+}
+
+void ZVTreeViewModel::setExact(bool exact)
+{
+    d->isExact = exact;
+}
+
+bool ZVTreeViewModel::isExact() const
+{
+    return d->isExact;
 }
 
 bool ZVTreeViewModel::isLeaving(const QModelIndex& index) const
 {
-    return isOwn(index) && !ZVTreeViewModelPrivate::isAttached(rowOf(index));
+    return isOwn(index) && d->isLeaving(rowOf(index));
 }
 
 } // namespace Zorvane

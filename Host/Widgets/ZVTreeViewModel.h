@@ -55,21 +55,32 @@ public:
     bool setHeaderData(int section, Qt::Orientation orientation, const QVariant& value,
                        int role = Qt::EditRole) override;
 
-    /** Inside a batch: this row is still shown, and will be gone once the batch is announced. */
+    /**
+     * How a `ZVTreeViewRefresh` announces a changed list: in a few ranges where rows keep their
+     * order; else new rows are appended, one layout change that all lists share puts them in
+     * order, and what leaves is removed. When very many short lists change their row counts at
+     * once, which costs views more than starting over, the layout change alone announces them,
+     * unless the model is exact. Qt's `QConcatenateTablesProxyModel` needs that; views and sorting
+     * or filtering proxies do not.
+     */
+    void setExact(bool exact);
+    bool isExact() const;
+
+    /** During `aboutToPublish`: the row will be gone once the refresh is announced. */
     bool isLeaving(const QModelIndex& index) const;
 
 Q_SIGNALS:
     /** A view or proxy has edited a value through `setData`; the row has it already. */
     void edited(const QModelIndex& index, const QVariant& value, int role);
-    /** A batch is about to be announced: views still see the rows as they were. */
+    /** A `ZVTreeViewRefresh` is about to announce changes: rows stand where they were. */
     void aboutToPublish();
-    /** A batch has been announced. */
+    /** It has ended, after everything was announced. */
     void published();
 
 private:
     friend class ZVTreeViewItem;
-    friend class ZVTreeViewModelBatch;
     friend class ZVTreeViewModelPrivate;
+    friend class ZVTreeViewRefresh;
 
     bool isOwn(const QModelIndex& index) const;
 

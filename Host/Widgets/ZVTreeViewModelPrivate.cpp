@@ -1,250 +1,192 @@
+// Rows and their numbers, and how values are announced; for lists see ZVTreeViewModelArranging.cpp.
+
 #include "Host/Widgets/ZVTreeViewModelPrivate.h"
 
+#include <QtCore/QPointer>
+
 #include <algorithm>
+#include <climits>
 #include <utility>
 
 namespace Zorvane {
 
-ZVTreeViewModelPrivate::Root::Root(ZVTreeViewModelPrivate* owner)
-    : model(owner)
+namespace {
+
+/** As views hear of them: an empty list means every role. */
+QVector<int> announcedRoles(const std::vector<int>& stored)
 {
-    addState(IsRoot);
+    QVector<int> roles;
+    for (const int role : stored) {
+        if (role == ZVTreeViewModelPrivate::AnyRole)
+            return {};
+        roles.append(role);
+        // One value under two roles.
+        if (role == Qt::DisplayRole)
+            roles.append(Qt::EditRole);
+    }
+    return roles;
+}
+
+/** Calls something of others; what it throws is a warning. */
+template <typename Task>
+void callGuarded(const Task& task, const char* what)
+{
+    try {
+        task();
+    } catch (const std::exception& error) {
+        qWarning("%s threw: %s", what, error.what());
+    } catch (...) {
+        qWarning("%s threw", what);
+    }
+}
+
+} // namespace
+
+int ZVTreeViewItemChildren::rowOf(const ZVTreeViewItem* child) const
+{
+    const auto claimed = static_cast<std::size_t>(child->m_row);
+    if (claimed < rows.size() && rows[claimed] == child)
+        return child->m_row;
+    for (; numbered < rows.size(); ++numbered)
+        rows[numbered]->m_row = static_cast<int>(numbered);
+    return child->m_row;
+}
+
+void ZVTreeViewItemChildren::insert(int index, ZVTreeViewItem* const* added, int count)
+{
+    const auto first = static_cast<std::size_t>(index);
+    // Rows behind the others get their numbers at once: they are at hand.
+    if (first == rows.size() && numbered == first)
+        numbered += static_cast<std::size_t>(count);
+    renumber(first + static_cast<std::size_t>(count));
+    rows.insert(rows.begin() + index, added, added + count);
+    for (int row = 0; row < count; ++row)
+        added[row]->m_row = index + row;
+}
+
+void ZVTreeViewItemChildren::erase(int index, int count)
+{
+    rows.erase(rows.begin() + index, rows.begin() + index + count);
+    renumber(static_cast<std::size_t>(index));
+}
+
+void ZVTreeViewItemChildren::renumber(std::size_t first)
+{
+    numbered = std::min(numbered, first);
 }
 
 ZVTreeViewModelPrivate::ZVTreeViewModelPrivate(ZVTreeViewModel* model)
     : q(model)
-    , root(this)
-{}
+{
+    root.children().owner = this;
+}
 
 ZVTreeViewModelPrivate::~ZVTreeViewModelPrivate()
 {
-    // Rows that callers have taken out are theirs, whether or not that has been announced.
-    settleAll();
+    Q_ASSERT_X(!isRefreshing(), "ZVTreeViewModel", "a model is deleted while it is refreshed");
     root.deleteSubtree();
-    while (!m_retired.empty())
-        deleteRetired();
 }
 
-ZVTreeViewModelPrivate* ZVTreeViewModelPrivate::owning(const ZVTreeViewItem* row)
+QModelIndex ZVTreeViewModelPrivate::indexOf(const ZVTreeViewItem* row, int column) const
 {
-    while (row->m_parent)
-        row = row->m_parent;
-    return row->hasState(ZVTreeViewItem::IsRoot) ? static_cast<const Root*>(row)->model : nullptr;
+    if (!row || !row->parent())
+        return {};
+    // The index carries the row itself; callers change rows, so it is not const there.
+    return q->createIndex(row->row(), column, const_cast<ZVTreeViewItem*>(row));
 }
 
-ZVTreeViewItem* ZVTreeViewModelPrivate::shownParent(const ZVTreeViewItem* row)
+bool ZVTreeViewModelPrivate::canChangeStructure() const
 {
-    if (!row->hasState(ZVTreeViewItem::Relocated))
-        return row->m_parent;
-    return owning(row)->m_relocated.at(row);
-}
-
-ZVTreeViewModelPrivate* ZVTreeViewModelPrivate::showing(const ZVTreeViewItem* row)
-{
-    for (; row; row = shownParent(row)) {
-        if (row->hasState(ZVTreeViewItem::Fresh))
-            return nullptr;
-        if (row->hasState(ZVTreeViewItem::IsRoot))
-            return static_cast<const Root*>(row)->model;
-    }
-    return nullptr;
-}
-
-ZVTreeViewModelPrivate* ZVTreeViewModelPrivate::announcing(ZVTreeViewItem* row)
-{
-    if (row->m_children && row->m_children->isStaged())
-        return nullptr;
-    ZVTreeViewModelPrivate* model = showing(row);
-    if (!model || !model->isGathering())
-        return model;
-    model->stage(row);
-    return nullptr;
-}
-
-bool ZVTreeViewModelPrivate::isAttached(const ZVTreeViewItem* row)
-{
-    while (row && !row->hasState(ZVTreeViewItem::IsRoot))
-        row = row->parent();
-    return row != nullptr;
-}
-
-bool ZVTreeViewModelPrivate::prepareMove(const ZVTreeViewItem* row, ZVTreeViewItem* newParent)
-{
-    if (!row->hasState(ZVTreeViewItem::Taken) || row->m_parent == newParent)
-        return false;
-    ZVTreeViewModelPrivate* model = owning(row);
-    if (model != owning(newParent)) {
-        model->publish();
+    if (!isRefreshing() && !m_isArranging)
         return true;
-    }
-    ZVTreeViewItem* top = newParent;
-    while (ZVTreeViewItem* above = top->parent())
-        top = above;
-    // Its former parent may now come to be below it: the way to the root must not go in circles.
-    if (top->hasState(ZVTreeViewItem::Taken) &&
-        !top->hasState(ZVTreeViewItem::Fresh | ZVTreeViewItem::Relocated))
-        model->hold(top);
+    qWarning("Rows cannot be inserted or taken while the tree model announces other changes");
     return false;
 }
 
-void ZVTreeViewModelPrivate::hold(ZVTreeViewItem* row)
+void ZVTreeViewModelPrivate::endRefresh()
 {
-    const bool known = row->hasState(ZVTreeViewItem::Taken | ZVTreeViewItem::Relocated);
-    if (known && !row->hasState(ZVTreeViewItem::Relocated))
-        relocate(row);
-    if (!known) {
-        row->addState(ZVTreeViewItem::Fresh);
-        m_held.insert(row);
+    if (m_refreshes == 1) {
+        announceValues();
+        if (std::exchange(m_isResetting, false))
+            callGuarded([this] { q->endResetModel(); }, "A slot of a tree model's reset");
     }
-    row->addState(ZVTreeViewItem::Taken);
-    row->m_parent = &root;
-}
-
-void ZVTreeViewModelPrivate::putBack(ZVTreeViewItem* row, ZVTreeViewItem* parent, bool asShownRow)
-{
-    row->dropState(ZVTreeViewItem::Taken);
-    if (row->hasState(ZVTreeViewItem::Fresh)) {
-        m_held.erase(row);
-        if (!asShownRow)
-            row->dropState(ZVTreeViewItem::Fresh);
-    } else if (!row->hasState(ZVTreeViewItem::Relocated)) {
-        if (row->m_parent != parent)
-            relocate(row);
-    } else if (m_relocated.at(row) == parent) {
-        m_relocated.erase(row);
-        row->dropState(ZVTreeViewItem::Relocated);
-        // Home again; below a new row it carried another number.
-        row->m_row = parent->m_children->shownRowOf(row);
-    }
-}
-
-void ZVTreeViewModelPrivate::leaveViews(ZVTreeViewItem* row)
-{
-    if (m_relocated.erase(row) > 0)
-        row->dropState(ZVTreeViewItem::Relocated);
-    if (row->hasState(ZVTreeViewItem::Taken)) {
-        row->addState(ZVTreeViewItem::Fresh);
-        row->m_parent = &root;
-        m_held.insert(row);
-    } else if (showing(row->m_parent)) {
-        row->addState(ZVTreeViewItem::Fresh);
-    }
-}
-
-QModelIndex ZVTreeViewModelPrivate::shownIndex(const ZVTreeViewItem* row, int column) const
-{
-    const ZVTreeViewItem* parent = shownParent(row);
-    if (!parent)
-        return {};
-    // The index carries the row itself; callers change rows, so it is not const there.
-    return q->createIndex(parent->m_children->shownRowOf(row), column,
-                          const_cast<ZVTreeViewItem*>(row));
-}
-
-void ZVTreeViewModelPrivate::beginInsert(const ZVTreeViewItem* parent, int first, int count)
-{
-    q->beginInsertRows(shownIndex(parent), first, first + count - 1);
-}
-
-void ZVTreeViewModelPrivate::beginRemove(const ZVTreeViewItem* parent, int row)
-{
-    q->beginRemoveRows(shownIndex(parent), row, row);
-}
-
-void ZVTreeViewModelPrivate::closeBatch()
-{
-    // The outermost batch still counts as open while it is announced: what slots do joins it,
-    // and so does what the end of deleted rows does.
-    while (m_openBatches == 1 && !m_publishing && (hasGathered() || !m_retired.empty()))
-        publish();
-    --m_openBatches;
-}
-
-void ZVTreeViewModelPrivate::stage(ZVTreeViewItem* parent)
-{
-    ++m_edits;
-    parent->children().stage(m_edits);
-    m_staged.push_back(parent);
-}
-
-void ZVTreeViewModelPrivate::relocate(ZVTreeViewItem* row)
-{
-    m_relocated.emplace(row, row->m_parent);
-    row->addState(ZVTreeViewItem::Relocated);
-}
-
-void ZVTreeViewModelPrivate::forgetRelocations()
-{
-    for (const auto& entry : std::exchange(m_relocated, {})) {
-        auto* row = const_cast<ZVTreeViewItem*>(entry.first);
-        row->dropState(ZVTreeViewItem::Relocated);
-        if (row->hasState(ZVTreeViewItem::Taken)) {
-            row->addState(ZVTreeViewItem::Fresh);
-            m_held.insert(row);
-        }
-    }
-}
-
-void ZVTreeViewModelPrivate::letGoOfHeld()
-{
-    for (ZVTreeViewItem* row : std::exchange(m_held, {}))
-        letGo(row);
-}
-
-void ZVTreeViewModelPrivate::letGo(ZVTreeViewItem* row)
-{
-    row->dropState(ZVTreeViewItem::Taken);
-    row->dropState(ZVTreeViewItem::Fresh);
-    row->m_parent = nullptr;
-    row->m_row = -1;
-}
-
-void ZVTreeViewModelPrivate::valueChanged(ZVTreeViewItem* row, int column,
-                                          const QVector<int>& roles)
-{
-    if (!isGathering()) {
-        const QModelIndex index = shownIndex(row, column);
-        if (column < headers.size())
-            Q_EMIT q->dataChanged(index, index, roles);
+    if (--m_refreshes > 0)
         return;
+    // From here on, rows that are deleted and slots may do anything, also to the model.
+    const QPointer<ZVTreeViewModel> model = q;
+    const auto tasks = std::exchange(m_tasks, {});
+    std::exchange(m_buried, {}).clear();
+    if (model && std::exchange(m_isPublished, false))
+        callGuarded([this] { Q_EMIT q->published(); }, "A slot of a refreshed tree model");
+    for (const auto& task : tasks) {
+        if (model)
+            callGuarded(task, "What was put off until a tree model was refreshed");
     }
+}
+
+void ZVTreeViewModelPrivate::startOver(const char* reason)
+{
+    qWarning("A slot threw while a tree model announced changes%s", reason);
+    m_isResetting = true;
+    // The reset: views have been told half of a change and there is no way to tell the rest.
+    callGuarded([this] { q->beginResetModel(); }, "A slot of a tree model's reset");
+}
+
+void ZVTreeViewModelPrivate::valueChanged(const ZVTreeViewItem* row, int column, int role)
+{
     if (column >= headers.size())
         return;
-    ZVTreeViewItem* parent = shownParent(row);
-    const int shownRow = parent->m_children->shownRowOf(row);
+    if (isRefreshing()) {
+        record(row, column, role);
+        return;
+    }
+    const QModelIndex index = indexOf(row, column);
+    Q_EMIT q->dataChanged(index, index, announcedRoles({role}));
+}
+
+void ZVTreeViewModelPrivate::record(const ZVTreeViewItem* row, int column, int role)
+{
+    ZVTreeViewItem* parent = row->parent();
     int& group = parent->m_children->changeGroup;
     if (group < 0) {
-        group = static_cast<int>(m_changes.size());
-        m_changes.push_back({parent, shownRow, shownRow, column, column, roles});
+        group = static_cast<int>(m_changed.size());
+        m_changed.push_back({parent, row->row(), row->row(), column, column, {role}});
     }
-    record(m_changes[static_cast<std::size_t>(group)], shownRow, column, roles);
+    ChangedValues& changed = m_changed[static_cast<std::size_t>(group)];
+    // While rows are on their way, any row of the list may be meant at the end.
+    changed.firstRow = m_isArranging ? 0 : std::min(changed.firstRow, row->row());
+    changed.lastRow = m_isArranging ? INT_MAX : std::max(changed.lastRow, row->row());
+    changed.firstColumn = std::min(changed.firstColumn, column);
+    changed.lastColumn = std::max(changed.lastColumn, column);
+    if (std::find(changed.roles.begin(), changed.roles.end(), role) == changed.roles.end())
+        changed.roles.push_back(role);
 }
 
-void ZVTreeViewModelPrivate::record(ChangeGroup& group, int row, int column,
-                                    const QVector<int>& roles)
+void ZVTreeViewModelPrivate::announceValues()
 {
-    group.firstRow = std::min(group.firstRow, row);
-    group.lastRow = std::max(group.lastRow, row);
-    group.firstColumn = std::min(group.firstColumn, column);
-    group.lastColumn = std::max(group.lastColumn, column);
-    if (group.roles == roles)
+    if (!m_changed.empty())
+        publish({});
+    // Slots may write further values.
+    while (!m_changed.empty()) {
+        const auto all = std::exchange(m_changed, {});
+        for (const ChangedValues& changed : all)
+            changed.parent->m_children->changeGroup = -1;
+        for (const ChangedValues& changed : all)
+            announce(changed);
+    }
+}
+
+void ZVTreeViewModelPrivate::announce(const ChangedValues& changed)
+{
+    const ZVTreeViewItemChildren& list = *changed.parent->m_children;
+    if (list.owner != this || list.rows.empty())
         return;
-    if (roles.isEmpty())
-        group.roles.clear();
-    for (int role : roles) {
-        if (!group.roles.isEmpty() && !group.roles.contains(role))
-            group.roles.append(role);
-    }
-}
-
-void ZVTreeViewModelPrivate::deleteRetired()
-{
-    // The end of a row may retire further ones, of which views have to be told first.
-    for (ZVTreeViewItem* row : std::exchange(m_retired, {})) {
-        row->m_parent = nullptr;
-        row->m_state = 0;
-        delete row;
-    }
+    const int last = std::min(changed.lastRow, list.count() - 1);
+    const int first = changed.firstRow;
+    const QModelIndex from =
+        q->createIndex(first, changed.firstColumn, changed.parent->child(first));
+    const QModelIndex to = q->createIndex(last, changed.lastColumn, changed.parent->child(last));
+    announce([&] { Q_EMIT q->dataChanged(from, to, announcedRoles(changed.roles)); });
 }
 
 } // namespace Zorvane

@@ -14,7 +14,7 @@ namespace Zorvane {
 class ZVTreeViewModel;
 
 /**
- * Keeps a user's place in a tree view while batches of its `ZVTreeViewModel` are announced: the
+ * Keeps a user's place in a tree view while its `ZVTreeViewModel` is refreshed: the
  * first visible row stays the first visible one at the same height, as long as it exists, else the
  * next one that does; and when the current row goes, its neighbour becomes current (the next row,
  * else the one before, else the parent) and selected if it was the only one selected. Expansion

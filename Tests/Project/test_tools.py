@@ -34,7 +34,7 @@ class ToolTest(unittest.TestCase):
 
 class LayersTest(ToolTest):
     FILES = ("UiToolsExport.h", "Host/HostExport.h", "Host/Identifiers/IDCombiner.h",
-             "Host/Widgets/WaitingSlots.h", "Host/Widgets/ZVTreeViewItem.h",
+             "Host/Widgets/ValueIdentity.h", "Host/Widgets/ZVTreeViewItem.h",
              "Host/Widgets/ZVMessageBox.h", "Files/PathProvider.h", "Files/Portable/Engine.h",
              "Files/Windows/Shell.h", "FileDialogs/FileDialog.h", "Dialogs/ZVSaveDialog.h",
              "Actions/ZVMainActions.h", "TreeModel/ModelItem.h", "Utilities/PostEventTask.h",
@@ -72,6 +72,7 @@ class LayersTest(ToolTest):
         ("Actions/A.cpp", '#include "Host/Widgets/ZVMessageBox.h"'),
         ("TreeModel/A.cpp", '#include "Host/Widgets/ZVTreeViewItem.h"'),
         ("TreeModel/A.cpp", '#include "Host/Identifiers/IDCombiner.h"'),
+        ("TreeModel/A.cpp", '#include "Utilities/PostEventTask.h"'),
         ("Host/Widgets/A.cpp", '#include "Host/Identifiers/IDCombiner.h"'),
         ("Host/Signals/A.h", "#include <boost/signals2.hpp>"),
         ("Host/A.cpp", '#include "moc_A.cpp"'),
@@ -96,7 +97,7 @@ class LayersTest(ToolTest):
         ("Dialogs/A.cpp", '#include "Workbench/Design/Design.h"'),
         ("Actions/A.cpp", '#include "Files/PathProvider.h"'),
         ("Utilities/A.cpp", '#include "TreeModel/ModelItem.h"'),
-        ("TreeModel/A.cpp", '#include "Utilities/PostEventTask.h"'),
+        ("TreeModel/A.cpp", '#include "Files/PathProvider.h"'),
         ("TreeModel/A.cpp", '#include "Host/Widgets/ZVMessageBox.h"'),
         ("TreeModel/A.cpp", '  #  include "Host/Widgets/ZVMessageBox.h"'),
         ("Workbench/A.cpp", '#include "Tests/Support/TestCase.h"'),
@@ -151,9 +152,9 @@ class LayersTest(ToolTest):
         self.assertIn("Layers: 2 to mend\n", self.check("check-layers").stdout)
 
     def test_internal_headers_stay_inside_their_library(self):
-        self.write("Host/Widgets/CMakeLists.txt", "zorvane_internal_headers(WaitingSlots.h)\n")
-        include = '#include "Host/Widgets/WaitingSlots.h"\n'
-        inside = ("Host/Widgets/A.cpp", "Tests/Host/A.cpp", "Host/Widgets/WaitingSlots.h")
+        self.write("Host/Widgets/CMakeLists.txt", "zorvane_internal_headers(ValueIdentity.h)\n")
+        include = '#include "Host/Widgets/ValueIdentity.h"\n'
+        inside = ("Host/Widgets/A.cpp", "Tests/Host/A.cpp", "Host/Widgets/ValueIdentity.h")
         for name in inside:
             self.write(name, include)
         self.assertEqual(self.check("check-layers").stdout, "Layers: in order\n")

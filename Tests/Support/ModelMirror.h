@@ -34,6 +34,7 @@ private:
     std::vector<QVariant> read(int row, const QModelIndex& parent) const;
     std::unique_ptr<Node> readTree(int row, const QModelIndex& parent) const;
     void readChildren(Node& node, const QModelIndex& index) const;
+    int shownRows(const QModelIndex& index) const;
     void readAll();
     Node& nodeOf(const QModelIndex& index);
     QString differenceBelow(const Node& node, const QModelIndex& index) const;

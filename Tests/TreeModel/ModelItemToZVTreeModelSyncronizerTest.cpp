@@ -1,6 +1,5 @@
 #include "TreeModel/ModelItemToZVTreeModelSyncronizer.h"
 #include "Host/Widgets/ZVTreeViewModel.h"
-#include "Host/Widgets/ZVTreeViewModelBatch.h"
 #include "Tests/Support/ModelMirror.h"
 #include "Tests/Support/ModelSignalRecorder.h"
 #include "Tests/Support/TestCase.h"
@@ -174,9 +173,6 @@ private Q_SLOTS:
     void viewsKnowAllRowsBeforeTheProviderWrites();
     void aProviderThatThrowsLeavesNothingBehind();
     void slotsMayUseTheSynchronizerAgain();
-    void slotsMayPutNewRowsInAnotherOrder_data();
-    void slotsMayPutNewRowsInAnotherOrder();
-    void refreshesInOneBatchAreAnnouncedTogether();
     void selectionExpansionAndCurrentRowSurvive();
 };
 
@@ -504,57 +500,6 @@ void ModelItemToZVTreeModelSyncronizerTest::slotsMayUseTheSynchronizerAgain()
     scene.show({item("K"), item("L"), item("M")});
     QCOMPARE(scene.provider->updated, QStringList{QStringLiteral("KLM")});
     QCOMPARE(scene.provider->added, QStringList{QStringLiteral("LM")});
-}
-
-void ModelItemToZVTreeModelSyncronizerTest::slotsMayPutNewRowsInAnotherOrder_data()
-{
-    QTest::addColumn<int>("before");
-    QTest::addColumn<int>("after");
-    QTest::newRow("first rows") << 0 << 500;
-    QTest::newRow("a few rows more") << 3 << 60;
-    QTest::newRow("many rows more") << 3 << 500;
-    QTest::newRow("long list") << 70 << 1500;
-}
-
-void ModelItemToZVTreeModelSyncronizerTest::slotsMayPutNewRowsInAnotherOrder()
-{
-    QFETCH(int, before);
-    QFETCH(int, after);
-    Items items = numbered(after);
-    Scene scene(Items(items.begin(), items.begin() + before));
-    const Items reversed(items.rbegin(), items.rend());
-    connect(&scene.model, &QAbstractItemModel::rowsInserted, this, [&, isDone = false]() mutable {
-        if (!std::exchange(isDone, true))
-            scene.syncronizer.syncronizeViewModel(&scene.model, rootOf(reversed));
-    });
-    scene.show(items);
-    scene.checkIds(reversed);
-    QCOMPARE(scene.signalLines.take(),
-             QStringList({QStringLiteral("rowsInserted / %1 %2").arg(before).arg(after - 1),
-                          QStringLiteral("layoutChanged")}));
-    scene.show(items);
-    scene.checkIds(items);
-}
-
-void ModelItemToZVTreeModelSyncronizerTest::refreshesInOneBatchAreAnnouncedTogether()
-{
-    Items items = numbered(200);
-    Scene scene(Items(items.begin(), items.begin() + 100));
-    const QPersistentModelIndex place = scene.model.index(40, 0);
-    Items reversed(items.rbegin(), items.rend());
-    {
-        const ZVTreeViewModelBatch batch(&scene.model);
-        scene.syncronizer.syncronizeViewModel(&scene.model, rootOf(items));
-        scene.syncronizer.syncronizeViewModel(&scene.model, rootOf(reversed));
-        std::rotate(reversed.begin(), reversed.begin() + 70, reversed.end());
-        reversed.resize(150);
-        scene.syncronizer.syncronizeViewModel(&scene.model, rootOf(reversed));
-        QVERIFY(scene.signalLines.lines().isEmpty());
-    }
-    scene.checkIds(reversed);
-    QCOMPARE(scene.mirror.difference(), QString());
-    QCOMPARE(scene.signalLines.take(), QStringList{QStringLiteral("layoutChanged")});
-    QCOMPARE(QModelIndex(place), scene.model.indexFromItem(scene.rowOf(*items[40])));
 }
 
 void ModelItemToZVTreeModelSyncronizerTest::selectionExpansionAndCurrentRowSurvive()

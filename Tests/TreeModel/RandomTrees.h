@@ -42,7 +42,11 @@ public:
         : m_random(seed)
     {}
 
-    std::vector<RowPlan> rows(int depth = 0)
+    /** From now on, rows and items have none below. */
+    void drawListsOnly() { m_top = deepest; }
+
+    std::vector<RowPlan> rows() { return rows(m_top); }
+    std::vector<RowPlan> rows(int depth)
     {
         std::vector<RowPlan> plans(size(depth));
         for (RowPlan& plan : plans) {
@@ -52,13 +56,13 @@ public:
                         : chance == 2 ? StoredId::Convertible
                                       : StoredId::Typed;
             plan.number = below(m_stock);
-            if (depth < 3 && below(3) == 0)
+            if (depth < deepest && below(3) == 0)
                 plan.children = rows(depth + 1);
         }
         return plans;
     }
 
-    std::vector<std::shared_ptr<GenericTreeViewModelHandling::ModelItem>> items(int depth = 0)
+    std::vector<std::shared_ptr<GenericTreeViewModelHandling::ModelItem>> items(int depth)
     {
         using GenericTreeViewModelHandling::ModelItem;
         std::vector<std::shared_ptr<ModelItem>> made;
@@ -66,7 +70,7 @@ public:
             const int number = below(m_stock);
             const std::string name = "n" + std::to_string(below(4));
             made.push_back(std::make_shared<ModelItem>(idOf(number), name));
-            if (depth < 3 && below(3) == 0)
+            if (depth < deepest && below(3) == 0)
                 made.back()->setChildren(items(depth + 1));
         }
         return made;
@@ -97,7 +101,44 @@ public:
     std::vector<std::shared_ptr<GenericTreeViewModelHandling::ModelItem>>
     refresh(const std::vector<RowPlan>& plans)
     {
-        return below(3) == 0 ? items() : variation(plans);
+        return below(3) == 0 ? items(m_top) : variation(plans);
+    }
+
+    /** Most items once more, others new with another name, gone, exchanged or changed in place. */
+    std::vector<std::shared_ptr<GenericTreeViewModelHandling::ModelItem>>
+    handedOn(const std::vector<std::shared_ptr<GenericTreeViewModelHandling::ModelItem>>& items)
+    {
+        return handedOn(items, m_top);
+    }
+    std::vector<std::shared_ptr<GenericTreeViewModelHandling::ModelItem>>
+    handedOn(const std::vector<std::shared_ptr<GenericTreeViewModelHandling::ModelItem>>& items,
+             int depth)
+    {
+        using GenericTreeViewModelHandling::ModelItem;
+        std::vector<std::shared_ptr<ModelItem>> made;
+        for (const auto& item : items) {
+            const int chance = below(10);
+            if (chance == 0)
+                continue;
+            if (chance > 3 || depth == deepest) {
+                made.push_back(item);
+                continue;
+            }
+            if (chance == 1) {
+                std::shared_ptr<ModelItem> changed = item;
+                for (int level = depth; changed->hasChildren() && level + 1 < deepest; ++level)
+                    changed = changed->getChildren().front();
+                changed->addChildren({std::make_shared<ModelItem>(idOf(below(m_stock)), "more")});
+                made.push_back(item);
+                continue;
+            }
+            const std::string name = "n" + std::to_string(below(4));
+            made.push_back(std::make_shared<ModelItem>(item->getId(), name));
+            made.back()->setChildren(handedOn(item->getChildren(), depth + 1));
+        }
+        if (below(3) == 0 && made.size() > 1)
+            std::swap(made[std::size_t(below(int(made.size())))], made.back());
+        return made;
     }
 
     int below(int bound) { return int(m_random() % unsigned(bound)); }
@@ -140,11 +181,15 @@ private:
     std::size_t size(int depth)
     {
         // Long lists now and then, for the sake of the index.
-        const bool isLong = depth == 0 && below(4) == 0;
+        const bool isLong = depth == m_top && below(4) == 0;
         return std::size_t(below(isLong ? 120 : 8));
     }
 
+    /** Rows and items at this depth have none below. */
+    static constexpr int deepest = 3;
+
     std::minstd_rand m_random;
+    int m_top = 0;
     /** With the largest, nearly all ids of a tree differ. */
     const int m_stock = std::vector<int>{6, 30, 400, 1000000}[m_random() % 4];
 };

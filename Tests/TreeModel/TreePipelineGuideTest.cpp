@@ -2,15 +2,13 @@
 // "[/name]" is shown there word for word; the last test sees to that.
 
 #include "Host/Widgets/ZVTreeViewModel.h"
-#include "Host/Widgets/ZVTreeViewModelBatch.h"
 #include "Tests/Support/TestCase.h"
 #include "TreeModel/AddStaticParentToModuleProvider.h"
 #include "TreeModel/IdsOfModelProviderExtractor.h"
-#include "TreeModel/LifeToken.h"
 #include "TreeModel/MergedModelProvider.h"
 #include "TreeModel/ModelItemFilterCombiner.h"
-#include "TreeModel/ModelItemToZVTreeModelSyncronizer.h"
 #include "TreeModel/StaticTreeItemByIdIconProvider.h"
+#include "TreeModel/TreeViewBinding.h"
 #include "TreeModel/WidgetStateDataProvider.h"
 #include "TreeModel/ZVTreeItemDataProviderManager.h"
 #include "TreeModel/ZVTreeItemTextProvider.h"
@@ -144,35 +142,6 @@ private:
 };
 // [/text source]
 
-// [view]
-class PartTree
-{
-public:
-    PartTree(std::shared_ptr<ModelProviderInterface> models,
-             std::shared_ptr<ZVTreeItemDataProviderInterface> rowData,
-             const QStringList& columnTitles)
-        : m_models(std::move(models))
-    {
-        m_view.setHorizontalHeaderLabels(columnTitles);
-        m_synchronizer.setDataProvider(rowData);
-        m_models->registerUpdateCallback(m_life.guarded([this] { showModel(); }));
-        rowData->registerUpdateCallback(m_life.guarded([this] { showRowData(); }));
-        showModel();
-    }
-
-    ZVTreeViewModel& view() { return m_view; }
-
-private:
-    void showModel() { m_synchronizer.syncronizeViewModel(&m_view, m_models->provideModel()); }
-    void showRowData() { m_synchronizer.updateViewModelItems(&m_view); }
-
-    ZVTreeViewModel m_view;
-    ModelItemToZVTreeModelSyncronizer m_synchronizer;
-    std::shared_ptr<ModelProviderInterface> m_models;
-    LifeToken m_life;
-};
-// [/view]
-
 QStringList textsBelow(const ZVTreeViewItem& row)
 {
     QStringList texts;
@@ -218,7 +187,6 @@ private Q_SLOTS:
     void idsAreExtracted();
     void rowDataFollowsItsSources();
     void treeFollowsTheParts();
-    void providersMayOutliveTheTree();
     void guideShowsThisCode();
 
 private:
@@ -310,37 +278,30 @@ void TreePipelineGuideTest::rowDataFollowsItsSources()
     rowData->addProvider(iconById);
     rowData->addProvider(states);
     // [/data providers]
-    PartTree tree(m_parts, rowData, {QStringLiteral("Part"), QStringLiteral("Material")});
-    const ZVTreeViewItem* cup = tree.view().rootItem()->child(0);
+    const auto models = m_parts;
+    // [binding]
+    ZVTreeViewModel model;
+    model.setHorizontalHeaderLabels({QStringLiteral("Part"), QStringLiteral("Material")});
+    TreeViewBinding binding(&model, models, rowData);
+    // [/binding]
+    const ZVTreeViewItem* cup = model.rootItem()->child(0);
     QCOMPARE(cup->data(1, Qt::DisplayRole).toString(), QString());
     materials->setMaterial(m_cup.id, m_cup.material);
+    binding.refresh();
     QCOMPARE(cup->data(1, Qt::DisplayRole).toString(), QStringLiteral("DC04"));
-    QCOMPARE(tree.view().rootItem()->child(1)->data(0, Qt::UserRole).toInt(),
+    QCOMPARE(model.rootItem()->child(1)->data(0, Qt::UserRole).toInt(),
              int(ZVWidgetStatus::Missing));
 }
 
 void TreePipelineGuideTest::treeFollowsTheParts()
 {
-    PartTree tree(m_parts, std::make_shared<ZVTreeItemDataProviderManager>(),
-                  {QStringLiteral("Part")});
-    const ZVTreeViewItem* panel = tree.view().rootItem()->child(1);
+    ZVTreeViewModel model;
+    const TreeViewBinding binding(&model, m_parts);
+    const ZVTreeViewItem* panel = model.rootItem()->child(1);
     m_parts->setParts({m_panel, {GUIdentifier::create(), "Hinge", "DC04"}});
-    QCOMPARE(textsBelow(*tree.view().rootItem()),
-             (QStringList{QStringLiteral("Panel"), QStringLiteral("Hinge")}));
-    QCOMPARE(tree.view().rootItem()->child(0), panel);
-}
-
-void TreePipelineGuideTest::providersMayOutliveTheTree()
-{
-    const auto models = std::make_shared<MergedModelProvider>();
-    const auto rowData = std::make_shared<StaticTreeItemByIdIconProvider>(0, Qt::DecorationRole);
-    models->addSubModelProvider({m_parts});
-    {
-        PartTree tree(models, rowData, {QStringLiteral("Part")});
-    }
-    m_parts->setParts({});
-    rowData->setIcons({});
-    QVERIFY(models->provideModel()->empty());
+    QTRY_COMPARE(textsBelow(*model.rootItem()),
+                 (QStringList{QStringLiteral("Panel"), QStringLiteral("Hinge")}));
+    QCOMPARE(model.rootItem()->child(0), panel);
 }
 
 void TreePipelineGuideTest::guideShowsThisCode()

@@ -1,6 +1,5 @@
 #include "Workbench/Tree/DesignTree.h"
 
-#include "Host/Widgets/ZVTreeViewModelBatch.h"
 #include "Host/Widgets/ZVTreeViewPlaceKeeper.h"
 #include "TreeModel/ModelItemFilterCombiner.h"
 #include "TreeModel/ZVTreeItemDataProviderManager.h"
@@ -221,14 +220,11 @@ void DesignTree::refreshNow()
     const bool isWhole = std::exchange(m_structureChanged, false);
     m_expansionDue = isWhole;
     const IDCombiner chosen = currentId();
-    {
-        const ZVTreeViewModelBatch batch(&m_model);
-        if (isWhole) {
-            m_decoration.objectsChanged();
-            m_synchronizer.syncronizeAndUpdateViewModel(&m_model, m_pipeline.provideModel());
-        } else {
-            m_synchronizer.updateViewModelItems(&m_model);
-        }
+    if (isWhole) {
+        m_decoration.objectsChanged();
+        m_synchronizer.syncronizeAndUpdateViewModel(&m_model, m_pipeline.provideModel());
+    } else {
+        m_synchronizer.updateViewModelItems(&m_model);
     }
     // There may have been nothing to announce, and yet another filter.
     expandNewRows();
@@ -241,7 +237,7 @@ void DesignTree::refreshNow()
 
 void DesignTree::expandNewRows()
 {
-    // Others' batches are none of a refresh that is yet to come.
+    // Another refresh, of values only, is none that brings rows.
     if (!m_busy || !m_expansionDue)
         return;
     applyExpansion({});

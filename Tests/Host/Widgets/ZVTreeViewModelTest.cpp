@@ -97,6 +97,7 @@ private Q_SLOTS:
     // With views and proxies
     void persistentIndexesFollow();
     void proxiesFollow();
+    void rowPutBelowAnotherParent_isRemovedAndInserted();
     void twoViewsKeepTheirPlaces();
     void viewEditsWithItsEditor();
     void modelMayGoBeforeItsViews();
@@ -480,6 +481,25 @@ void ZVTreeViewModelTest::proxiesFollow()
     root()->deleteChild(2);
     QCOMPARE(textsOf(sorted), QStringLiteral("b n z(d e x)"));
     QCOMPARE(textsOf(filtered), QStringLiteral("b z(d e)"));
+    QCOMPARE(mirror.difference(), QString());
+}
+
+void ZVTreeViewModelTest::rowPutBelowAnotherParent_isRemovedAndInserted()
+{
+    appendRows(root(), "a b z");
+    appendRows(root()->child(0), "c d");
+    QSortFilterProxyModel filtered;
+    filtered.setRecursiveFilteringEnabled(true);
+    filtered.setFilterRegularExpression(QStringLiteral("^[a-m]"));
+    filtered.setSourceModel(&*m_model);
+    const ModelMirror mirror(&filtered);
+    QCOMPARE(textsOf(filtered), QStringLiteral("a(c d) b"));
+    m_recorder->take();
+    ZVTreeViewItem* moved = root()->child(0)->takeChild(0);
+    QVERIFY(root()->child(2)->insertChild(0, moved));
+    QCOMPARE(m_recorder->take(), QStringList({QStringLiteral("rowsRemoved a 0 0"),
+                                              QStringLiteral("rowsInserted z 0 0")}));
+    QCOMPARE(textsOf(filtered), QStringLiteral("a(d) b z(c)"));
     QCOMPARE(mirror.difference(), QString());
 }
 

@@ -1,5 +1,5 @@
 #include "Host/Widgets/ZVTreeViewPlaceKeeper.h"
-#include "Host/Widgets/ZVTreeViewModelBatch.h"
+#include "Tests/Host/Widgets/TreeEdit.h"
 #include "Tests/Support/TestCase.h"
 
 #include <QtCore/QPersistentModelIndex>
@@ -104,13 +104,6 @@ public:
     QTreeView second;
 };
 
-/** Takes rows off the front and puts them behind. */
-void rotate(ZVTreeViewItem* parent, int count)
-{
-    for (; count > 0; --count)
-        parent->insertChild(parent->childCount() - 1, parent->takeChild(0));
-}
-
 int below(std::minstd_rand& random, int bound)
 {
     return int(random() % unsigned(bound));
@@ -118,23 +111,27 @@ int below(std::minstd_rand& random, int bound)
 
 void changeAnything(ZVTreeViewModel& model, std::minstd_rand& random)
 {
-    const ZVTreeViewModelBatch batch(&model);
+    Testing::TreeEdit edit;
     for (int change = below(random, 20); change > 0; --change) {
         ZVTreeViewItem* parent = model.rootItem();
         if (ZVTreeViewItem* row = parent->child(below(random, parent->childCount()));
             row->childCount() > 3 && below(random, 2) == 0)
             parent = row;
-        const int row = below(random, parent->childCount());
-        const int target = below(random, parent->childCount() - 1);
+        const int count = edit.count(parent);
+        if (count < 2)
+            continue;
+        const int row = below(random, count);
         if (below(random, 3) == 0)
-            parent->insertChild(row, Scene::newRow(-1000 - change));
+            edit.insert(parent, row, Scene::newRow(-1000 - change));
         else if (below(random, 4) == 0)
-            parent->deleteChild(row);
+            edit.remove(parent, row);
         else if (below(random, 4) == 0)
-            parent->child(row)->setText(Scene::textOf(below(random, 100)));
+            edit.setText(parent->child(below(random, parent->childCount())),
+                         Scene::textOf(below(random, 100)));
         else
-            parent->insertChild(target, parent->takeChild(row));
+            edit.move(parent, row, below(random, count - 1));
     }
+    edit.applyTo(&model);
 }
 
 /** A view's place, chosen at random: what is at its top, current, selected and expanded. */
@@ -271,14 +268,13 @@ void ZVTreeViewPlaceKeeperTest::firstVisibleRowStays()
     if (perPixel)
         scene.view.setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     scene.scrollToTop(rowText(41));
-    {
-        const ZVTreeViewModelBatch batch(&scene.model);
-        ZVTreeViewItem* root = scene.model.rootItem();
-        for (int i = 0; i < 30; ++i)
-            root->insertChild(2 * i, Scene::newRow(-500 + i));
-        if (reverse)
-            rotate(root, 70);
-    }
+    ZVTreeViewItem* root = scene.model.rootItem();
+    Testing::TreeEdit edit;
+    for (int i = 0; i < 30; ++i)
+        edit.insert(root, 2 * i, Scene::newRow(-500 + i));
+    if (reverse)
+        edit.rotate(root, 70);
+    edit.applyTo(&scene.model);
     QCOMPARE(scene.firstVisible(scene.view), rowText(41));
     QCoreApplication::processEvents();
     QCOMPARE(scene.firstVisible(scene.view), rowText(41));
@@ -289,12 +285,11 @@ void ZVTreeViewPlaceKeeperTest::whenItGoesTheNextVisibleRowKeepsItsHeight()
     Scene scene;
     scene.scrollToTop(rowText(41));
     const int height = scene.view.visualRect(scene.indexOf(rowText(42))).top();
-    {
-        const ZVTreeViewModelBatch batch(&scene.model);
-        QVERIFY(scene.model.rootItem()->deleteChild(41));
-        for (int i = 0; i < 10; ++i)
-            scene.model.rootItem()->insertChild(0, Scene::newRow(-500 + i));
-    }
+    Testing::TreeEdit edit;
+    edit.remove(scene.model.rootItem(), 41);
+    for (int i = 0; i < 10; ++i)
+        edit.insert(scene.model.rootItem(), 0, Scene::newRow(-500 + i));
+    edit.applyTo(&scene.model);
     QCoreApplication::processEvents();
     QCOMPARE(scene.view.visualRect(scene.indexOf(rowText(42))).top(), height);
 }
@@ -305,10 +300,7 @@ void ZVTreeViewPlaceKeeperTest::everyViewKeepsItsOwnPlace()
     scene.scrollToTop(rowText(41));
     const QString second = scene.firstVisible(scene.second);
     QVERIFY(second != rowText(41));
-    {
-        const ZVTreeViewModelBatch batch(&scene.model);
-        rotate(scene.model.rootItem(), 5);
-    }
+    Testing::TreeEdit().rotate(scene.model.rootItem(), 5).applyTo(&scene.model);
     QCoreApplication::processEvents();
     QCOMPARE(scene.firstVisible(scene.view), rowText(41));
     QCOMPARE(scene.firstVisible(scene.second), second);
@@ -334,13 +326,12 @@ void ZVTreeViewPlaceKeeperTest::neighbourBecomesCurrent()
     for (const bool scattered : {false, true}) {
         Scene scene;
         scene.view.setCurrentIndex(scene.indexOf(rowText(current)));
-        {
-            const ZVTreeViewModelBatch batch(&scene.model);
-            for (int row : going)
-                QVERIFY(scene.model.rootItem()->deleteChild(row));
-            if (scattered)
-                rotate(scene.model.rootItem(), 20);
-        }
+        Testing::TreeEdit edit;
+        for (int row : going)
+            edit.remove(scene.model.rootItem(), row);
+        if (scattered)
+            edit.rotate(scene.model.rootItem(), 20);
+        edit.applyTo(&scene.model);
         QCOMPARE(scene.view.currentIndex().data().toString(), rowText(expected));
         QCOMPARE(scene.view.selectionModel()->selectedRows().size(), 1);
         QVERIFY(scene.view.selectionModel()->isSelected(scene.view.currentIndex()));
@@ -352,11 +343,8 @@ void ZVTreeViewPlaceKeeperTest::otherSelectedRowsStaySelected()
     Scene scene;
     scene.view.setCurrentIndex(scene.indexOf(rowText(41)));
     scene.view.selectionModel()->select(scene.indexOf(rowText(60)), QItemSelectionModel::Select);
-    {
-        const ZVTreeViewModelBatch batch(&scene.model);
-        QVERIFY(scene.model.rootItem()->deleteChild(41));
-        rotate(scene.model.rootItem(), 20);
-    }
+    ZVTreeViewItem* root = scene.model.rootItem();
+    Testing::TreeEdit().remove(root, 41).rotate(root, 20).applyTo(&scene.model);
     QCOMPARE(scene.view.currentIndex().data().toString(), rowText(42));
     QCOMPARE(scene.view.selectionModel()->selectedRows().size(), 1);
     QVERIFY(scene.view.selectionModel()->isSelected(scene.indexOf(rowText(60))));
@@ -372,14 +360,10 @@ void ZVTreeViewPlaceKeeperTest::aViewMayGetAnotherModel()
     QVERIFY(QTest::qWaitForWindowExposed(&scene.view, Zorvane::Testing::patience));
     scene.view.viewport()->repaint();
     scene.scrollToTop(rowText(41));
-    {
-        const ZVTreeViewModelBatch batch(&other);
-        other.rootItem()->insertChild(0, Scene::newRow(-1));
-    }
+    Testing::TreeEdit().insert(other.rootItem(), 0, Scene::newRow(-1)).applyTo(&other);
     QCOMPARE(scene.firstVisible(scene.view), rowText(41));
     scene.view.setModel(nullptr);
-    const ZVTreeViewModelBatch batch(&other);
-    other.rootItem()->insertChild(0, Scene::newRow(-2));
+    Testing::TreeEdit().insert(other.rootItem(), 0, Scene::newRow(-2)).applyTo(&other);
 }
 
 void ZVTreeViewPlaceKeeperTest::anyRefreshKeepsThePlace()

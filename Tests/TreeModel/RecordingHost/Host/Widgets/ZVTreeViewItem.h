@@ -1,7 +1,7 @@
 #pragma once
 
-// A host of its own for one test: rows without views, without batches and without a fast path,
-// that write down every operation in the order in which it comes.
+// A host of its own for one test: rows without views, without plans and without a fast path, that
+// write down every operation in the order in which it comes.
 
 #include "Host/Identifiers/IDCombiner.h"
 
@@ -10,6 +10,7 @@
 #include <QtCore/QVector>
 
 #include <algorithm>
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
@@ -83,6 +84,10 @@ public:
     {
         setData(0, Qt::DisplayRole, QString::fromStdString(text));
     }
+    bool hasText(const std::string&) const { return false; }
+    std::uint64_t shownSerial() const { return 0; }
+    void setShownSerial(std::uint64_t) {}
+    void forgetShownSerial() {}
     void setId(int role, const IDCombiner& id) { setData(0, role, QVariant::fromValue(id)); }
 
     int childCount() const { return static_cast<int>(m_children.size()); }
