@@ -42,6 +42,12 @@ void refreshOnce(const std::string& change, int rows)
         scene.refresh(rootOf(after));
         return;
     }
+    if (change == "shared") {
+        const Items groups = makeTree({rows / 100, 100});
+        scene.show(groups);
+        scene.refresh(rootOf(handedOnTree(groups)));
+        return;
+    }
     const Items all = makeTree({rows});
     if (change == "inTurn") {
         // Rows are appended; then they and the others change places.
@@ -109,5 +115,8 @@ int main(int argc, char** argv)
     addValueRow(
         "tree/growth/duplicates", "exponent of instructions", [] { return growthOf("duplicates"); },
         [] { return 1.25; });
+    addValueRow(
+        "tree/growth/shared", "exponent of instructions", [] { return growthOf("shared"); },
+        [] { return 0.75; });
     return runRows(argc, argv);
 }

@@ -1,7 +1,7 @@
 #include "Benchmarks/Support/TreeScenes.h"
 
 #include "Host/Widgets/ZVTreeViewItem.h"
-#include "Host/Widgets/ZVTreeViewModelBatch.h"
+#include "TreeModel/TreeItemStaticDataProvider.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -147,6 +147,20 @@ std::pair<Items, Items> makeDuplicates(int count)
     return {before, after};
 }
 
+Items handedOnTree(const Items& before)
+{
+    Items after = before;
+    auto& changed = after[after.size() / 2];
+    Items children;
+    for (const auto& child : changed->getChildren())
+        children.push_back(std::make_shared<ModelItem>(child->getId(), child->getName()));
+    children.back() =
+        std::make_shared<ModelItem>(children.back()->getId(), children.back()->getName() + "b");
+    changed = std::make_shared<ModelItem>(changed->getId(), changed->getName());
+    changed->addChildren(std::move(children));
+    return after;
+}
+
 Items changedTree(const Items& before, const std::string& change)
 {
     return TreeChange(change).apply(before);
@@ -158,6 +172,22 @@ std::shared_ptr<ModelRoot> rootOf(const Items& items)
     root->addTopLevelItems(items);
     return root;
 }
+
+namespace {
+
+void expandGroups(QTreeView& view, const QModelIndex& parent = {})
+{
+    const QAbstractItemModel& model = *view.model();
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        if (!model.hasChildren(index))
+            return;
+        view.expand(index);
+        expandGroups(view, index);
+    }
+}
+
+} // namespace
 
 Attachment::Attachment(const std::string& kind, QAbstractItemModel* model)
     : m_kind(kind)
@@ -187,6 +217,8 @@ void Attachment::prepare()
     if (m_view) {
         const QAbstractItemModel& model = *m_view->model();
         if (m_kind == "deep")
+            expandGroups(*m_view);
+        if (m_kind == "deep-all")
             m_view->expandAll();
         const int rows = model.rowCount();
         m_view->setCurrentIndex(model.index(rows / 2, 0));
@@ -206,9 +238,10 @@ void Attachment::settle()
         QCoreApplication::processEvents();
 }
 
-SyncronizedScene::SyncronizedScene(const std::string& attached)
+SyncronizedScene::SyncronizedScene(const std::string& attached, int columns)
     : m_attachment(attached, &m_model)
 {
+    m_model.setColumnCount(columns);
     m_syncronizer.setDataProvider(std::make_shared<NoData>());
 }
 
@@ -226,22 +259,38 @@ void SyncronizedScene::refresh(const Root& root)
 
 void SyncronizedScene::refreshInTurn(const std::vector<Root>& roots)
 {
-    {
-        const ZVTreeViewModelBatch batch(&m_model);
-        for (const Root& root : roots)
-            m_syncronizer.syncronizeViewModel(&m_model, root);
-    }
+    for (const Root& root : roots)
+        m_syncronizer.syncronizeViewModel(&m_model, root);
     m_attachment.settle();
 }
 
-RebuiltScene::RebuiltScene(const std::string& attached)
+void SyncronizedScene::writeAll(const Root& root, const QVariant& value)
+{
+    m_syncronizer.setDataProvider(std::make_shared<TreeItemStaticDataProvider>(
+        std::vector<int>{1, 2, 3}, Qt::DisplayRole, value));
+    m_syncronizer.syncronizeAndUpdateViewModel(&m_model, root);
+    m_attachment.settle();
+}
+
+RebuiltScene::RebuiltScene(const std::string& attached, int columns)
     : m_attachment(attached, &m_model)
+    , m_columns(columns)
 {}
 
 void RebuiltScene::rebuild(const Items& items)
 {
     m_model.clear();
+    m_model.setColumnCount(m_columns);
     m_model.invisibleRootItem()->appendRows(standardRows(items));
+    m_attachment.settle();
+}
+
+void RebuiltScene::writeAll(const QVariant& value)
+{
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        for (int column = 1; column <= 3; ++column)
+            m_model.setData(m_model.index(row, column), value, Qt::DisplayRole);
+    }
     m_attachment.settle();
 }
 

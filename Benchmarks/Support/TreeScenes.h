@@ -22,6 +22,9 @@ Items makeTree(const std::vector<int>& fanOuts);
 /** Long lists of which every other item has one and the same id, before and after a refresh. */
 std::pair<Items, Items> makeDuplicates(int count);
 
+/** The very same items, but for one new top-level item, with one other name below. */
+Items handedOnTree(const Items& before);
+
 /** The tree as one of the cases "same", "label", ... "shuffle" leaves it. */
 Items changedTree(const Items& before, const std::string& change);
 
@@ -31,7 +34,10 @@ std::shared_ptr<GenericTreeViewModelHandling::ModelRoot> rootOf(const Items& ite
 class Attachment
 {
 public:
-    /** `kind`: "none", "view", "proxy", "sorted", or "deep" for a view with every row expanded. */
+    /**
+     * `kind`: "none", "view", "proxy", "sorted", "deep" for a view with all rows expanded that have
+     * children, or "deep-all" for one after `expandAll`, which takes leaves for expanded, too.
+     */
     Attachment(const std::string& kind, QAbstractItemModel* model);
     ~Attachment();
 
@@ -50,14 +56,16 @@ private:
 class SyncronizedScene
 {
 public:
-    explicit SyncronizedScene(const std::string& attached);
+    explicit SyncronizedScene(const std::string& attached, int columns = 1);
 
     void show(const Items& items);
     void prepare() { m_attachment.prepare(); }
     using Root = std::shared_ptr<GenericTreeViewModelHandling::ModelRoot>;
     void refresh(const Root& root);
-    /** One after the other in one batch. */
+    /** One after the other. */
     void refreshInTurn(const std::vector<Root>& roots);
+    /** All rows get the value in columns 1 to 3. */
+    void writeAll(const Root& root, const QVariant& value);
     ZVTreeViewModel& model() { return m_model; }
 
 private:
@@ -70,14 +78,16 @@ private:
 class RebuiltScene
 {
 public:
-    explicit RebuiltScene(const std::string& attached);
+    explicit RebuiltScene(const std::string& attached, int columns = 1);
 
     void rebuild(const Items& items);
+    void writeAll(const QVariant& value);
     void prepare() { m_attachment.prepare(); }
 
 private:
     QStandardItemModel m_model;
     Attachment m_attachment;
+    const int m_columns;
 };
 
 } // namespace Zorvane::Benchmarks
