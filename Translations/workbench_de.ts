@@ -1177,6 +1177,18 @@
         <source>is missing, so that nothing can be put beside it</source>
         <translation>fehlt, sodass nichts daneben abgelegt werden kann</translation>
     </message>
+    <message>
+        <source>cannot take the files, since one of them is missing now</source>
+        <translation>kann die Dateien nicht aufnehmen, weil eine davon inzwischen fehlt</translation>
+    </message>
+    <message>
+        <source>cannot take the files, since its folder is missing</source>
+        <translation>kann die Dateien nicht aufnehmen, weil sein Ordner fehlt</translation>
+    </message>
+    <message>
+        <source>cannot take the files, since one of them is a link into its folder</source>
+        <translation>kann die Dateien nicht aufnehmen, weil eine davon eine Verknüpfung in seinen Ordner ist</translation>
+    </message>
 </context>
 <context>
     <name>Zorvane::Workbench::FileNames</name>

@@ -32,6 +32,25 @@ Problems obstaclesOf(const QStringList& files)
     return problems;
 }
 
+/** Nothing where the user gave the import up, or has read about the copy already. */
+QString refusalText(DependingFileHelper::ImportRefusal refusal)
+{
+    using Refusal = DependingFileHelper::ImportRefusal;
+    switch (refusal) {
+    case Refusal::SourceMissing:
+        return FileImport::tr("cannot take the files, since one of them is missing now");
+    case Refusal::NoDesignFolder:
+        return FileImport::tr("cannot take the files, since its folder is missing");
+    case Refusal::LiesThere:
+        return FileImport::tr("cannot take the files, since one of them is a link into its folder");
+    case Refusal::None:
+    case Refusal::Declined:
+    case Refusal::NothingCopied:
+        break;
+    }
+    return {};
+}
+
 } // namespace
 
 FileImport::FileImport(DesignSession& session, BaseView* view)
@@ -62,8 +81,12 @@ ImportOutcome FileImport::run(GUIdentifier designId, const QStringList& files)
     // From here on events are handled, which may read the design again, or end the session.
     FileTypeDependingFilesHelper helper(
         m_view, std::make_shared<SessionDesign>(*m_session, designId), allTypes());
-    if (!elsewhere.empty() && !helper.handleExternalFilesForImport(elsewhere, elsewhere))
-        return {};
+    const QString designFile = design->file;
+    DependingFileHelper::ImportRefusal refusal{};
+    if (!elsewhere.empty() && !helper.handleExternalFilesForImport(elsewhere, elsewhere, refusal)) {
+        const QString text = refusalText(refusal);
+        return {{}, text.isEmpty() ? Problems() : Problems{{designFile, {}, text}}};
+    }
     if (!m_session)
         return {};
     for (const FileName& file : elsewhere)

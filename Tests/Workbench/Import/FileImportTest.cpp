@@ -32,6 +32,7 @@ private Q_SLOTS:
     void decliningChangesNothing();
     void aTakenNameIsAskedAbout_data();
     void aTakenNameIsAskedAbout();
+    void sourceRemovedWhileAsked_isReported();
     void whatIsReplacedIsReferredToOnce();
     void filesInTheDesignsFolderAreUsedWhereTheyLie();
     void aFileThatIsReferredToIsNotAddedTwice();
@@ -164,6 +165,21 @@ void FileImportTest::aTakenNameIsAskedAbout_data()
     QTest::newRow("keep both") << int(CopyDecision::KeepBoth) << true << QByteArray("old");
     QTest::newRow("skip") << int(CopyDecision::Skip) << false << QByteArray("old");
     QTest::newRow("cancel") << int(CopyDecision::Cancel) << false << QByteArray("old");
+}
+
+void FileImportTest::sourceRemovedWhileAsked_isReported()
+{
+    const QString source = m_files->outside(QStringLiteral("forces.csv"), "new");
+    ExpectedModals modals;
+    modals.expectMessageBox(QStringLiteral("Copy File"), [&](QMessageBox& box) {
+        QFile::remove(source);
+        box.button(QMessageBox::Yes)->click();
+    });
+    const ImportOutcome outcome = run({source});
+    QVERIFY(modals.allMet());
+    QCOMPARE(outcome.problems.size(), std::size_t(1));
+    QVERIFY(outcome.problems.front().text().contains(QStringLiteral("missing now")));
+    QVERIFY(isUnchanged());
 }
 
 void FileImportTest::aTakenNameIsAskedAbout()
