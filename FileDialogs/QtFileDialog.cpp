@@ -36,8 +36,6 @@ constexpr int placementDelay = 5;
 constexpr int movementEndDelay = 250;
 /** Milliseconds in which news of the files listed are collected. */
 constexpr int listingDelay = 50;
-/** What the column of names keeps at least, in characters. */
-constexpr int leastNameLength = 12;
 
 class Callbacks : public FileDialogCallbackInterface
 {
@@ -484,7 +482,7 @@ void QtFileDialog::followListing()
             [this] { m_areColumnsTheUsers |= QGuiApplication::mouseButtons() != Qt::NoButton; });
 }
 
-/** Sizes, types and dates get the width of their texts; names get the rest. */
+/** Each column gets the width of its texts, names also the rest; what is too wide is scrolled. */
 void QtFileDialog::fitColumns()
 {
     if (m_areColumnsTheUsers)
@@ -497,8 +495,8 @@ void QtFileDialog::fitColumns()
         header.resizeSection(column, width);
         others += width;
     }
-    const int least = leastNameLength * rows.fontMetrics().averageCharWidth();
-    header.resizeSection(0, std::max(least, rows.viewport()->width() - others));
+    const int all = rows.viewport()->width();
+    header.resizeSection(0, std::max(std::min(rows.sizeHintForColumn(0), all), all - others));
 }
 
 template <typename Event>

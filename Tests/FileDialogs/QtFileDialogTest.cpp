@@ -100,6 +100,7 @@ private Q_SLOTS:
     void wideSideBar_staysWide();
     void firstOpening_showsColumnsWhole_data() { addPurposes(); }
     void firstOpening_showsColumnsWhole();
+    void narrowDialog_showsNamesWhole();
     void placesOfTheProvider_areOfferedOnce_data() { addPurposes(); }
     void placesOfTheProvider_areOfferedOnce();
     void leftDialog_opensThereAgain_data() { addPurposes(); }
@@ -213,6 +214,21 @@ void QtFileDialogTest::firstOpening_showsColumnsWhole()
         for (int column = 1; column < details->header()->count(); ++column)
             QTRY_VERIFY(details->columnWidth(column) >= view.sizeHintForColumn(column));
         QVERIFY(details->columnWidth(0) > 0);
+        dialog.reject();
+    });
+}
+
+void QtFileDialogTest::narrowDialog_showsNamesWhole()
+{
+    askToOpen(meshFilter, [this](QFileDialog& dialog) {
+        const auto* details = part<QTreeView>(dialog, "treeView");
+        dialog.resize(dialog.minimumSizeHint());
+        const QString name = QStringLiteral("the-blank-holder-of-the-second-draw.stl");
+        QVERIFY(QFile(m_dir->filePath(name)).open(QFile::WriteOnly));
+        QTRY_VERIFY(shows(dialog, name));
+        const QAbstractItemView& view = *details;
+        QTRY_VERIFY(details->columnWidth(0) >=
+                    std::min(view.sizeHintForColumn(0), view.viewport()->width()));
         dialog.reject();
     });
 }
