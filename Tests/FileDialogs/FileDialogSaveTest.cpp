@@ -3,6 +3,7 @@
 #include "Tests/FileDialogs/FacadeTestCase.h"
 
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QWidget>
 
 using namespace Zorvane;
