@@ -124,7 +124,7 @@ void NativePanelTest::whatIsChosenComesOut()
         QVERIFY2(outcome.files.at(place).startsWith(
                      QDir::toNativeSeparators(m_panel->files().file(names.at(place)))),
                  qPrintable(outcome.files.at(place)));
-    QVERIFY(m_panel->resultText().contains(QStringLiteral("-> 0x00000000")));
+    QVERIFY(m_panel->resultText().contains(QStringLiteral("-> accepted 0x00000000")));
 }
 
 void NativePanelTest::controlsAreTold()
