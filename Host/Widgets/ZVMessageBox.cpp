@@ -173,11 +173,15 @@ void ZVMessageBox::keepTexts(const std::function<void()>& change)
 
 bool ZVMessageBox::event(QEvent* event)
 {
+    // The code that an event calls may destroy the box, as that of a timer or a deferred call does.
+    const QPointer<ZVMessageBox> self(this);
     bool isHandled = false;
     if (event->type() == QEvent::StyleChange)
         keepHidden([&] { isHandled = QMessageBox::event(event); });
     else
         isHandled = QMessageBox::event(event);
+    if (!self)
+        return isHandled;
 
     const bool isSizeChange =
         event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange;
