@@ -155,7 +155,7 @@ bool CopyDecisions::count(const std::vector<const CopyCandidate*>& candidates)
     return true;
 }
 
-/** Whoever wants the name from now on collides with this candidate, not with an existing file. */
+/** A later candidate for the name collides with this one, not with an existing file. */
 void CopyDecisions::claim(Wanted& wanted, const CopyCandidate& candidate)
 {
     wanted.claimedBy = &candidate;

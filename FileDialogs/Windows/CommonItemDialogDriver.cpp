@@ -8,11 +8,11 @@ namespace Zorvane {
 
 namespace {
 
-/** The common item dialog came with version 6; what can't tell its version hasn't got it. */
+/** The common item dialog came with version 6; a system without a known version counts as older. */
 bool hasCommonItemDialog()
 {
     using GetVersion = BOOL WINAPI(OSVERSIONINFOW*);
-    // By name, since headers call it outdated: it tells programs no version newer than they know.
+    // By name, since headers call it outdated: it returns no version newer than a program names.
     const SystemLibrary kernel(L"kernel32.dll");
     GetVersion* getVersion = kernel.find<GetVersion>("GetVersionExW");
     OSVERSIONINFOW version{};

@@ -5,7 +5,7 @@
 namespace Zorvane {
 
 /**
- * True only where nothing can tell the two values apart, so that views need not hear of the second
+ * True only where the two values cannot be distinguished, so that views need not hear of the second
  * one. Stricter than `QVariant`, which finds 1 and "1" or close numbers equal, in maps and points,
  * too: a type that is not known to compare exactly counts as different.
  */

@@ -128,7 +128,7 @@ void ZVTreeViewModelPrivate::startOver(const char* reason)
 {
     qWarning("A slot threw while a tree model announced changes%s", reason);
     m_isResetting = true;
-    // The reset: views have been told half of a change and there is no way to tell the rest.
+    // The reset: views have got half of a change, and the rest cannot be announced.
     callGuarded([this] { q->beginResetModel(); }, "A slot of a tree model's reset");
 }
 

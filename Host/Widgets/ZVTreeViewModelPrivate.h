@@ -142,7 +142,7 @@ private:
     int m_refreshes = 0;
     /** Rows stand somewhere between the old order and the new one, or are about to leave it. */
     bool m_isArranging = false;
-    /** A slot threw: views have been told of a reset that is complete when the refresh is. */
+    /** A slot threw: a reset was announced, which is complete when the refresh is. */
     bool m_isResetting = false;
     bool m_isPublished = false;
     std::vector<ChangedValues> m_changed;

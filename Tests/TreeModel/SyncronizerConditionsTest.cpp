@@ -294,7 +294,7 @@ void SyncronizerConditionsTest::rowsInPlace_areAskedForTheirIdOnce()
     scene.show(itemsOf(1, 3000));
     calls = 0;
     scene.show(itemsOf(1, 3000));
-    // And each is told its text.
+    // And each gets its text.
     QVERIFY(calls <= 2 * 3000);
 }
 

@@ -28,7 +28,7 @@ struct NamedProxy
     const char* name;
     ProxyMaker make;
     Source source = Source::AnyTree;
-    /** By text; which of equal ones comes first is not told. */
+    /** By text; the order of equal ones is not defined. */
     bool isSorted = false;
 };
 

@@ -191,7 +191,7 @@ void LanguageTest::shortcutsInToolTips_readAsInMenus()
     const QString native = save->shortcut().toString(QKeySequence::NativeText);
     QVERIFY2(save->toolTip().endsWith(QStringLiteral("    ") + native),
              qPrintable(save->toolTip()));
-    // Without Qt's own texts in German there is nothing to tell them apart by.
+    // Without Qt's own texts in German they cannot be distinguished.
     if (native != QStringLiteral("Ctrl+S"))
         QVERIFY(!save->toolTip().contains(QStringLiteral("Ctrl")));
     for (const QAction* action : window.actions())
